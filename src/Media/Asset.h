@@ -1,0 +1,101 @@
+#pragma once
+
+#include "Media/Geometry.h"
+#include "Media/Time.h"
+
+#include <filesystem>
+#include <memory>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace media {
+
+namespace ffmpeg {
+struct SourceInfo;
+class SourceFile;
+}  // namespace ffmpeg
+
+enum class MediaType { video, audio };
+
+/// Colour description by the names FFmpeg prints ("bt709", "smpte2084", "tv", "left" …); empty
+/// where the file does not say.
+struct ColorDescription {
+    std::string primaries;
+    std::string transfer;
+    std::string matrix;
+    std::string range;
+    std::string chromaLocation;
+};
+
+/// One video or audio track of an asset: plain facts, copied freely.
+struct AssetTrack {
+    MediaType type = MediaType::video;
+    /// Index of the stream in the container.
+    int streamIndex = 0;
+    /// Short codec name ("h264", "aac").
+    std::string codec;
+    /// ISO 639-2 language code; empty if the file names none.
+    std::string language;
+    /// Presentation time of the track's first frame or sample, on the asset's time line (>= 0).
+    Time startTime;
+
+    /// Video: coded size with the pixel aspect ratio applied to the width; pixels.
+    Size naturalSize;
+    /// Video: size of the coded picture in samples.
+    int codedWidth = 0;
+    int codedHeight = 0;
+    /// Video: turns the natural picture upright; from the container's display matrix, identity
+    /// without one. y grows downward.
+    AffineTransform preferredTransform;
+    /// Video: frames per second; 0 if unknown. Single precision, as in the file's own terms.
+    float nominalFrameRate = 0;
+    /// Video: name of the pixel format ("yuv420p10le").
+    std::string pixelFormat;
+    int bitsPerComponent = 8;
+    ColorDescription color;
+
+    /// Audio.
+    int channels = 0;
+    int sampleRate = 0;
+};
+
+/// An opened media file: facts about its tracks, and the source that readers share.
+///
+/// Opening reads the file's headers, and its tail where the duration is in doubt, and makes sure
+/// that its first picture decodes. Only the named file is ever read: nothing that the file points
+/// at is opened. The file stays open as long as the asset or any reader of it lives, so renaming
+/// or deleting it meanwhile does no harm. Immutable; usable on any thread.
+class Asset {
+public:
+    /// Throws Error (a sentence for the user) if the file cannot be opened or read as video or
+    /// audio, or if it has a video track of which not one picture decodes; Cancelled if `stop` is
+    /// requested meanwhile. Blocks: call it off the main thread.
+    static std::shared_ptr<const Asset> open(const std::filesystem::path& path,
+                                             std::stop_token stop = {});
+
+    Asset(std::shared_ptr<const ffmpeg::SourceFile> file, std::unique_ptr<ffmpeg::SourceInfo> info);
+    Asset(const Asset&) = delete;
+    Asset& operator=(const Asset&) = delete;
+    ~Asset();
+
+    [[nodiscard]] const std::filesystem::path& path() const;
+    /// From time 0, the earliest presentation time of any track, to the latest end of any track.
+    [[nodiscard]] Time duration() const;
+    /// The tracks of one type in file order. Cover pictures and timed thumbnails are not among
+    /// them.
+    [[nodiscard]] std::vector<AssetTrack> tracks(MediaType type) const;
+
+    /// For the readers inside the media layer.
+    [[nodiscard]] const ffmpeg::SourceInfo& info() const { return *m_info; }
+    [[nodiscard]] const std::shared_ptr<const ffmpeg::SourceFile>& file() const { return m_file; }
+
+private:
+    std::shared_ptr<const ffmpeg::SourceFile> m_file;
+    std::unique_ptr<ffmpeg::SourceInfo> m_info;
+};
+
+/// The size of a track's picture turned upright (|width| and |height| of the transformed frame).
+Size orientedSize(const AssetTrack& track);
+
+}  // namespace media

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "Media/Composition.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
+
+namespace media {
+
+enum class FileType { mpeg4, quickTimeMovie };
+
+/// What the encoders are asked for. The defaults are the program's "highest quality"; the table
+/// of measurements behind them stands in docs/architecture.md.
+struct EncoderSettings {
+    /// H.264 for 8-bit standard-range sources (libx264).
+    std::string h264Preset = "superfast";
+    double h264Crf = 17.7;
+    /// HEVC Main 10 for deeper or HDR sources (libx265).
+    std::string hevcPreset = "ultrafast";
+    double hevcCrf = 16;
+};
+
+/// Turns a composition into a file: demux → decode → transform → encode → mux, each stage on its
+/// own thread with bounded queues between them.
+///
+///     waiting ──run()──▶ exporting ──▶ completed | failed | cancelled
+///
+/// The file is written under a hidden temporary name beside the destination, flushed to disk and
+/// renamed onto it when it is complete; an older file at the destination is replaced in that same
+/// step. On failure and on cancellation the temporary file is removed.
+class ExportSession {
+public:
+    enum class State { waiting, exporting, completed, failed, cancelled };
+
+    /// Throws Error if the composition has no video track, or if `outputPath` is the asset's own
+    /// file (same device and inode, links followed). Touches nothing on disk.
+    ExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
+                  EncoderSettings settings = {});
+    ExportSession(const ExportSession&) = delete;
+    ExportSession& operator=(const ExportSession&) = delete;
+    ~ExportSession();
+
+    /// Call before run(). None: every source frame is kept with its own timing and size.
+    void setVideoComposition(std::optional<VideoComposition> videoComposition);
+
+    /// Runs the export on the calling thread until the file is complete. At most once.
+    /// Throws Error on failure; Cancelled within 100 ms of a stop request.
+    void run(std::stop_token stop = {});
+
+    /// The fraction done, 0 to 1, by presentation time; never decreases. Any thread.
+    [[nodiscard]] double progress() const;
+    /// Any thread.
+    [[nodiscard]] State state() const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+}  // namespace media

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "Media/Asset.h"
+#include "Media/Image.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+namespace media {
+
+/// Runs a callable later on the thread that owns a player, in the order given. The program posts
+/// to its main loop; tests pump by hand. Must be callable from any thread, and may be called
+/// after the player is gone.
+using Executor = std::function<void(std::function<void()>)>;
+
+/// Receives the frames of one player. Called on a media thread, with no lock held; must return
+/// quickly (store the image, ask for a repaint) and not call back into the player.
+class VideoSink {
+public:
+    virtual ~VideoSink() = default;
+    /// Shows `frame`; an empty image means that there is nothing to show.
+    virtual void present(const TimedImage& frame) = 0;
+};
+
+/// What a player plays: one asset. Compared by identity.
+class PlayerItem {
+public:
+    explicit PlayerItem(std::shared_ptr<const Asset> asset) : m_asset(std::move(asset)) {}
+    [[nodiscard]] const std::shared_ptr<const Asset>& asset() const { return m_asset; }
+
+private:
+    std::shared_ptr<const Asset> m_asset;
+};
+
+/// Plays one item at a time: picture to a video sink, sound to the default output, in step.
+///
+/// All operations are called on the owner's thread and return at once; decoding happens on the
+/// player's own threads. Every handler runs on the owner's thread, through the executor. Nothing
+/// is called after the destructor has returned.
+class Player {
+public:
+    using Token = std::uint64_t;
+
+    explicit Player(Executor executor);
+    Player(const Player&) = delete;
+    Player& operator=(const Player&) = delete;
+    ~Player();
+
+    /// null removes the item: the sink is told to show nothing. A running player plays the new
+    /// item from its start; a paused one shows its first frame.
+    void replaceCurrentItem(std::shared_ptr<const PlayerItem> item);
+    [[nodiscard]] std::shared_ptr<const PlayerItem> currentItem() const;
+
+    /// Sets the rate to 1 or 0. play() at the end of the item ends at once (and reports it).
+    void play();
+    void pause();
+    /// 1 while playing, else 0; becomes 0 when the item plays to its end.
+    [[nodiscard]] float rate() const;
+
+    /// Moves to `time`, clamped to the item; keeps the rate. A zero tolerance shows the frame at
+    /// exactly that time. A later seek replaces an earlier one that is still on its way. `done` (may be
+    /// empty) runs when the frame has been handed to the sink (true) or the seek was replaced
+    /// (false).
+    void seek(Time time, Time toleranceBefore, Time toleranceAfter,
+              std::function<void(bool finished)> done = {});
+    /// Moves by `count` frames (negative: backward) from the frame on screen and pauses.
+    void step(int count);
+
+    /// The current time on the item's time line; during a seek its target. invalid() without item.
+    [[nodiscard]] Time currentTime() const;
+
+    void setMuted(bool muted);
+    [[nodiscard]] bool isMuted() const;
+
+    /// The sink must outlive the player or be taken away first; null for none. `pixelWidth` ×
+    /// `pixelHeight` is the size of the view in device pixels: frames are delivered scaled to fit
+    /// into it, never enlarged; 0 × 0 asks for full size. A paused player delivers its frame again.
+    void setVideoSink(VideoSink* sink);
+    void setPreviewSize(int pixelWidth, int pixelHeight);
+
+    /// Calls `handler` with the current time every `interval` of playback and whenever the time
+    /// jumps.
+    Token addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler);
+    void removeTimeObserver(Token token);
+    /// Called after every change of rate(), with the new rate.
+    void setRateHandler(std::function<void(float rate)> handler);
+    /// Called when an item has played to its end; the argument is that item.
+    void setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler);
+
+    /// Frames handed to the sink, and frames given up because they were late, since creation.
+    struct Statistics {
+        std::uint64_t shown = 0;
+        std::uint64_t late = 0;
+        std::uint64_t dropped = 0;
+    };
+    [[nodiscard]] Statistics statistics() const;
+
+private:
+    class Private;
+    std::shared_ptr<Private> d;
+};
+
+}  // namespace media

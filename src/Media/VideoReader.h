@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Media/Asset.h"
+#include "Media/FFmpeg/Handles.h"
+
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace media {
+
+/// A decoded source picture and where it stands on the asset's time line.
+struct DecodedFrame {
+    ffmpeg::FramePtr frame;
+    /// Presentation time; never before that of the frame before it.
+    Time time;
+    /// `time` in 1/600 s: the frame is "the frame at t" from this tick up to the next frame's.
+    std::int64_t ticks = 0;
+};
+
+/// Decodes one video track in presentation order, from any position, by the frame rule: the frame
+/// at t is the one whose interval [ticks, next frame's ticks) holds t; before the first frame
+/// that is the first, after the last the last.
+///
+/// Has its own demuxer and decoder on the asset's file. Use from one thread at a time.
+class VideoReader {
+public:
+    enum class Detail {
+        full,
+        /// Leaves out what a picture of about a hundred lines cannot show (deblocking). Decoded
+        /// frames are approximate.
+        thumbnail,
+    };
+    struct Options {
+        Detail detail = Detail::full;
+        /// Decoder threads; 0 for as many as there are processors.
+        int threads = 0;
+    };
+
+    /// Throws Error if no decoder can be opened.
+    VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& track, Options options);
+    VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& track)
+        : VideoReader(std::move(asset), track, Options{})
+    {
+    }
+    VideoReader(const VideoReader&) = delete;
+    VideoReader& operator=(const VideoReader&) = delete;
+    ~VideoReader();
+
+    /// Moves so that next() returns the frame at `ticks` and then those after it. Costs nothing
+    /// when that frame is the one that next() would return or lies a little ahead; otherwise
+    /// decodes from the key frame before it. Throws Cancelled as soon as `stop` is requested (the reader stays usable;
+    /// its position is then unspecified until the next seek).
+    void seek(std::int64_t ticks, const std::stop_token& stop = {});
+
+    /// Moves to a frame between the two ticks (both included) that is cheap to decode: a key frame
+    /// where there is one, otherwise the first frame in the window.
+    void seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop = {});
+
+    /// The next frame in presentation order; none after the last. Packets that do not decode are
+    /// passed over. A new reader starts at the first frame. Throws Error when reading fails.
+    std::optional<DecodedFrame> next(const std::stop_token& stop = {});
+
+    /// The frame that next() will return, without moving; null after the last.
+    const DecodedFrame* peek(const std::stop_token& stop = {});
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+}  // namespace media
