@@ -10,6 +10,8 @@ target_compile_options(brisklet_warnings INTERFACE
     -Wimplicit-fallthrough
     -Wnon-virtual-dtor -Woverloaded-virtual -Wsuggest-override
     -Wextra-semi
+    # Structs with defaults are filled with designated initialisers that leave fields out.
+    -Wno-missing-field-initializers
     -Wundef
     -Wnull-dereference
     $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wuseless-cast>
