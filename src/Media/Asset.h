@@ -14,7 +14,7 @@ namespace media {
 namespace ffmpeg {
 struct SourceInfo;
 class SourceFile;
-}  // namespace ffmpeg
+} // namespace ffmpeg
 
 enum class MediaType { video, audio };
 
@@ -88,6 +88,7 @@ public:
 
     /// For the readers inside the media layer.
     [[nodiscard]] const ffmpeg::SourceInfo& info() const { return *m_info; }
+
     [[nodiscard]] const std::shared_ptr<const ffmpeg::SourceFile>& file() const { return m_file; }
 
 private:
@@ -98,4 +99,4 @@ private:
 /// The size of a track's picture turned upright (|width| and |height| of the transformed frame).
 Size orientedSize(const AssetTrack& track);
 
-}  // namespace media
+} // namespace media

@@ -4,19 +4,16 @@
 
 namespace media {
 
-Rect Rect::insetBy(double dx, double dy) const
-{
+Rect Rect::insetBy(double dx, double dy) const {
     return {x + dx, y + dy, width - 2 * dx, height - 2 * dy};
 }
 
-bool Rect::contains(const Rect& other) const
-{
-    return other.minX() >= minX() && other.minY() >= minY() && other.maxX() <= maxX()
-           && other.maxY() <= maxY();
+bool Rect::contains(const Rect& other) const {
+    return other.minX() >= minX() && other.minY() >= minY() && other.maxX() <= maxX() &&
+           other.maxY() <= maxY();
 }
 
-Rect Rect::intersected(const Rect& other) const
-{
+Rect Rect::intersected(const Rect& other) const {
     const double left = std::max(minX(), other.minX());
     const double top = std::max(minY(), other.minY());
     const double right = std::min(maxX(), other.maxX());
@@ -26,8 +23,7 @@ Rect Rect::intersected(const Rect& other) const
     return {left, top, right - left, bottom - top};
 }
 
-AffineTransform AffineTransform::concatenated(const AffineTransform& next) const
-{
+AffineTransform AffineTransform::concatenated(const AffineTransform& next) const {
     return {a * next.a + b * next.c,
             a * next.b + b * next.d,
             c * next.a + d * next.c,
@@ -36,28 +32,19 @@ AffineTransform AffineTransform::concatenated(const AffineTransform& next) const
             tx * next.b + ty * next.d + next.ty};
 }
 
-AffineTransform AffineTransform::inverted() const
-{
+AffineTransform AffineTransform::inverted() const {
     const double det = determinant();
-    return {d / det,
-            -b / det,
-            -c / det,
-            a / det,
-            (c * ty - d * tx) / det,
-            (b * tx - a * ty) / det};
+    return {d / det, -b / det, -c / det, a / det, (c * ty - d * tx) / det, (b * tx - a * ty) / det};
 }
 
-Point AffineTransform::apply(Point point) const
-{
+Point AffineTransform::apply(Point point) const {
     return {a * point.x + c * point.y + tx, b * point.x + d * point.y + ty};
 }
 
-Rect AffineTransform::apply(const Rect& rect) const
-{
-    const Point corners[] = {apply(Point{rect.minX(), rect.minY()}),
-                             apply(Point{rect.maxX(), rect.minY()}),
-                             apply(Point{rect.minX(), rect.maxY()}),
-                             apply(Point{rect.maxX(), rect.maxY()})};
+Rect AffineTransform::apply(const Rect& rect) const {
+    const Point corners[] = {
+        apply(Point{rect.minX(), rect.minY()}), apply(Point{rect.maxX(), rect.minY()}),
+        apply(Point{rect.minX(), rect.maxY()}), apply(Point{rect.maxX(), rect.maxY()})};
     double left = corners[0].x;
     double right = left;
     double top = corners[0].y;
@@ -71,8 +58,7 @@ Rect AffineTransform::apply(const Rect& rect) const
     return {left, top, right - left, bottom - top};
 }
 
-Rect fitAspect(Size size, const Rect& bounds)
-{
+Rect fitAspect(Size size, const Rect& bounds) {
     const double centreX = bounds.x + bounds.width / 2;
     const double centreY = bounds.y + bounds.height / 2;
     if (size.width <= 0 || size.height <= 0)
@@ -83,4 +69,4 @@ Rect fitAspect(Size size, const Rect& bounds)
     return {centreX - width / 2, centreY - height / 2, width, height};
 }
 
-}  // namespace media
+} // namespace media

@@ -24,9 +24,13 @@ struct Rect {
     double height = 0;
 
     [[nodiscard]] double minX() const { return x; }
+
     [[nodiscard]] double minY() const { return y; }
+
     [[nodiscard]] double maxX() const { return x + width; }
+
     [[nodiscard]] double maxY() const { return y + height; }
+
     [[nodiscard]] Size size() const { return {width, height}; }
 
     /// Moves each side inward by dx or dy (outward where negative).
@@ -49,12 +53,14 @@ struct AffineTransform {
     double ty = 0;
 
     static AffineTransform translation(double tx, double ty) { return {1, 0, 0, 1, tx, ty}; }
+
     static AffineTransform scale(double sx, double sy) { return {sx, 0, 0, sy, 0, 0}; }
 
     /// The transform that applies this one first and `next` after it.
     [[nodiscard]] AffineTransform concatenated(const AffineTransform& next) const;
     /// Undoes this transform. The determinant must not be 0.
     [[nodiscard]] AffineTransform inverted() const;
+
     [[nodiscard]] double determinant() const { return a * d - b * c; }
 
     [[nodiscard]] Point apply(Point point) const;
@@ -68,4 +74,4 @@ struct AffineTransform {
 /// Empty (at the centre) when `size` has no area.
 Rect fitAspect(Size size, const Rect& bounds);
 
-}  // namespace media
+} // namespace media

@@ -10,31 +10,28 @@ namespace {
 __extension__ using Wide = __int128;
 
 /// numerator / denominator to the nearest whole number, halves away from zero.
-Wide dividedRounding(Wide numerator, Wide denominator)
-{
+Wide dividedRounding(Wide numerator, Wide denominator) {
     const Wide half = denominator / 2;
     const Wide magnitude = ((numerator < 0 ? -numerator : numerator) + half) / denominator;
     return numerator < 0 ? -magnitude : magnitude;
 }
 
-std::int64_t saturated(Wide value)
-{
+std::int64_t saturated(Wide value) {
     constexpr Wide kMax = std::numeric_limits<std::int64_t>::max();
     constexpr Wide kMin = std::numeric_limits<std::int64_t>::min();
     return static_cast<std::int64_t>(value > kMax ? kMax : (value < kMin ? kMin : value));
 }
 
 /// The timescale in which sums and differences of the two are formed.
-std::int32_t commonTimescale(std::int32_t a, std::int32_t b)
-{
+std::int32_t commonTimescale(std::int32_t a, std::int32_t b) {
     const std::int64_t multiple = std::lcm<std::int64_t>(a, b);
-    return multiple <= std::numeric_limits<std::int32_t>::max() ? static_cast<std::int32_t>(multiple)
-                                                                : std::max(a, b);
+    return multiple <= std::numeric_limits<std::int32_t>::max()
+               ? static_cast<std::int32_t>(multiple)
+               : std::max(a, b);
 }
 
 /// The result of adding to or subtracting from a time when one operand is not numeric.
-Time nonNumericSum(Time a, Time b)
-{
+Time nonNumericSum(Time a, Time b) {
     if (a.isNumeric())
         return b;
     if (b.isNumeric() || a.value == b.value)
@@ -42,10 +39,9 @@ Time nonNumericSum(Time a, Time b)
     return Time::invalid();
 }
 
-}  // namespace
+} // namespace
 
-Time Time::fromSeconds(double seconds, std::int32_t timescale)
-{
+Time Time::fromSeconds(double seconds, std::int32_t timescale) {
     if (std::isnan(seconds))
         return invalid();
     const double ticks = std::round(seconds * timescale);
@@ -57,8 +53,7 @@ Time Time::fromSeconds(double seconds, std::int32_t timescale)
     return {static_cast<std::int64_t>(ticks), timescale};
 }
 
-double Time::seconds() const
-{
+double Time::seconds() const {
     if (isNumeric())
         return static_cast<double>(value) / timescale;
     if (value == 0)
@@ -67,15 +62,13 @@ double Time::seconds() const
                      : -std::numeric_limits<double>::infinity();
 }
 
-Time Time::rescaled(std::int32_t newTimescale) const
-{
+Time Time::rescaled(std::int32_t newTimescale) const {
     if (!isNumeric() || timescale == newTimescale)
         return *this;
     return {saturated(dividedRounding(Wide{value} * newTimescale, timescale)), newTimescale};
 }
 
-std::int64_t Time::comparisonTicks() const
-{
+std::int64_t Time::comparisonTicks() const {
     if (isNumeric())
         return rescaled(kComparisonTimescale).value;
     if (value == 0)
@@ -84,21 +77,18 @@ std::int64_t Time::comparisonTicks() const
                      : std::numeric_limits<std::int64_t>::min();
 }
 
-Time operator+(Time a, Time b)
-{
+Time operator+(Time a, Time b) {
     if (!a.isNumeric() || !b.isNumeric())
         return nonNumericSum(a, b);
     const std::int32_t timescale = commonTimescale(a.timescale, b.timescale);
     return {saturated(Wide{a.rescaled(timescale).value} + b.rescaled(timescale).value), timescale};
 }
 
-Time operator-(Time a, Time b)
-{
+Time operator-(Time a, Time b) {
     return a + Time{-b.value, b.timescale};
 }
 
-std::partial_ordering operator<=>(Time a, Time b)
-{
+std::partial_ordering operator<=>(Time a, Time b) {
     const bool aIsNumber = a.isNumeric() || a.value != 0;
     const bool bIsNumber = b.isNumeric() || b.value != 0;
     if (!aIsNumber || !bIsNumber)
@@ -115,4 +105,4 @@ std::partial_ordering operator<=>(Time a, Time b)
     return left < right ? std::partial_ordering::less : std::partial_ordering::greater;
 }
 
-}  // namespace media
+} // namespace media

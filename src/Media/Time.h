@@ -19,7 +19,9 @@ struct Time {
     std::int32_t timescale = kComparisonTimescale;
 
     static constexpr Time invalid() { return {0, 0}; }
+
     static constexpr Time positiveInfinity() { return {1, 0}; }
+
     static constexpr Time negativeInfinity() { return {-1, 0}; }
 
     /// The tick nearest to `seconds`, halves away from zero. NaN gives invalid(); an infinity, or a
@@ -46,6 +48,7 @@ struct Time {
 
     /// Compares the exact rationals; invalid() is unordered.
     friend std::partial_ordering operator<=>(Time a, Time b);
+
     friend bool operator==(Time a, Time b) { return (a <=> b) == 0; }
 };
 
@@ -55,7 +58,8 @@ struct TimeRange {
     Time end;
 
     [[nodiscard]] Time duration() const { return end - start; }
+
     friend bool operator==(const TimeRange&, const TimeRange&) = default;
 };
 
-}  // namespace media
+} // namespace media

@@ -31,6 +31,7 @@ public:
         /// frames are approximate.
         thumbnail,
     };
+
     struct Options {
         Detail detail = Detail::full;
         /// Decoder threads; 0 for as many as there are processors.
@@ -39,18 +40,18 @@ public:
 
     /// Throws Error if no decoder can be opened.
     VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& track, Options options);
+
     VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& track)
-        : VideoReader(std::move(asset), track, Options{})
-    {
-    }
+        : VideoReader(std::move(asset), track, Options{}) {}
+
     VideoReader(const VideoReader&) = delete;
     VideoReader& operator=(const VideoReader&) = delete;
     ~VideoReader();
 
     /// Moves so that next() returns the frame at `ticks` and then those after it. Costs nothing
     /// when that frame is the one that next() would return or lies a little ahead; otherwise
-    /// decodes from the key frame before it. Throws Cancelled as soon as `stop` is requested (the reader stays usable;
-    /// its position is then unspecified until the next seek).
+    /// decodes from the key frame before it. Throws Cancelled as soon as `stop` is requested (the
+    /// reader stays usable; its position is then unspecified until the next seek).
     void seek(std::int64_t ticks, const std::stop_token& stop = {});
 
     /// Moves to a frame between the two ticks (both included) that is cheap to decode: a key frame
@@ -69,4 +70,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-}  // namespace media
+} // namespace media

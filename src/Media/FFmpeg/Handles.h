@@ -18,18 +18,24 @@ namespace media::ffmpeg {
 /// The one place where libav objects are released.
 struct Deleter {
     void operator()(AVFormatContext* context) const noexcept { avformat_close_input(&context); }
+
     void operator()(AVCodecContext* context) const noexcept { avcodec_free_context(&context); }
-    void operator()(AVCodecParameters* parameters) const noexcept
-    {
+
+    void operator()(AVCodecParameters* parameters) const noexcept {
         avcodec_parameters_free(&parameters);
     }
+
     void operator()(AVFrame* frame) const noexcept { av_frame_free(&frame); }
+
     void operator()(AVPacket* packet) const noexcept { av_packet_free(&packet); }
+
     void operator()(AVDictionary* dictionary) const noexcept { av_dict_free(&dictionary); }
+
     void operator()(SwsContext* context) const noexcept { sws_freeContext(context); }
+
     void operator()(SwrContext* context) const noexcept { swr_free(&context); }
-    void operator()(AVIOContext* context) const noexcept
-    {
+
+    void operator()(AVIOContext* context) const noexcept {
         av_freep(static_cast<void*>(&context->buffer));
         avio_context_free(&context);
     }
@@ -53,19 +59,23 @@ using IoContextPtr = std::unique_ptr<AVIOContext, Deleter>;
 
 /// `object`, or std::bad_alloc where libav could not allocate it.
 template<typename T>
-T* allocated(T* object)
-{
+T* allocated(T* object) {
     if (!object)
         throw std::bad_alloc();
     return object;
 }
 
-inline FramePtr makeFrame() { return FramePtr(allocated(av_frame_alloc())); }
-inline PacketPtr makePacket() { return PacketPtr(allocated(av_packet_alloc())); }
+inline FramePtr makeFrame() {
+    return FramePtr(allocated(av_frame_alloc()));
+}
+
+inline PacketPtr makePacket() {
+    return PacketPtr(allocated(av_packet_alloc()));
+}
+
 /// A new reference to the same data.
-inline FramePtr referenced(const AVFrame& frame)
-{
+inline FramePtr referenced(const AVFrame& frame) {
     return FramePtr(allocated(av_frame_clone(&frame)));
 }
 
-}  // namespace media::ffmpeg
+} // namespace media::ffmpeg

@@ -1,0 +1,49 @@
+#include "Media/FFmpeg/Decoder.h"
+
+#include "Media/FFmpeg/Check.h"
+
+namespace media::ffmpeg {
+
+Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads) {
+    silenceLog();
+    const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
+    if (!codec)
+        check(AVERROR_DECODER_NOT_FOUND);
+    m_context.reset(allocated(avcodec_alloc_context3(codec)));
+    check(avcodec_parameters_to_context(m_context.get(), &parameters));
+    m_context->pkt_timebase = timeBase;
+    m_context->thread_count = threads;
+    check(avcodec_open2(m_context.get(), codec, nullptr));
+}
+
+void Decoder::send(const AVPacket* packet) {
+    const int result = avcodec_send_packet(m_context.get(), packet);
+    if (result == AVERROR(ENOMEM))
+        check(result);
+    if (result < 0 && result != AVERROR_EOF)
+        ++m_errorCount;
+}
+
+Decoder::Status Decoder::receive(AVFrame& frame) {
+    // A decoder reports each damaged picture once; it goes on with the next.
+    constexpr int kMostErrorsInARow = 10'000;
+    for (int errors = 0; errors < kMostErrorsInARow; ++errors) {
+        const int result = avcodec_receive_frame(m_context.get(), &frame);
+        if (result >= 0)
+            return Status::frame;
+        if (result == AVERROR(EAGAIN))
+            return Status::needsInput;
+        if (result == AVERROR_EOF)
+            return Status::endOfStream;
+        if (result == AVERROR(ENOMEM))
+            check(result);
+        ++m_errorCount;
+    }
+    return Status::endOfStream;
+}
+
+void Decoder::flush() {
+    avcodec_flush_buffers(m_context.get());
+}
+
+} // namespace media::ffmpeg

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Media/FFmpeg/Handles.h"
+
+namespace media::ffmpeg {
+
+/// A libav decoder. Use from one thread at a time.
+class Decoder {
+public:
+    /// `threads` 0: as many as there are processors. Throws Error if there is no decoder or it
+    /// does not open.
+    Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads = 0);
+
+    [[nodiscard]] AVCodecContext& context() { return *m_context; }
+
+    /// Hands in one packet; null begins draining. Call receive() until it gives needsInput before.
+    /// A packet that does not decode is dropped and counted.
+    void send(const AVPacket* packet);
+
+    enum class Status { frame, needsInput, endOfStream };
+    Status receive(AVFrame& frame);
+
+    /// Forgets everything buffered (after a seek).
+    void flush();
+
+    [[nodiscard]] int errorCount() const { return m_errorCount; }
+
+private:
+    CodecContextPtr m_context;
+    int m_errorCount = 0;
+};
+
+} // namespace media::ffmpeg

@@ -1,0 +1,273 @@
+#include "Media/FFmpeg/Inspection.h"
+
+#include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/Decoder.h"
+#include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/TrackFacts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <string_view>
+
+namespace media::ffmpeg {
+
+namespace {
+
+/// A container's duration is believed when the last packets end within this many seconds of it.
+constexpr double kDurationSlack = 0.25;
+/// How far before the claimed end the tail is read.
+constexpr double kTailSeconds = 2;
+
+Time containerTime(std::int64_t timestamp, AVRational timeBase) {
+    return {timestamp * timeBase.num, timeBase.den};
+}
+
+/// Where packets of each stream end, in container time.
+using Ends = std::map<int, Time>;
+
+/// What the first pictures of a track tell.
+struct FirstPictures {
+    /// Of the first picture that decodes; AV_NOPTS_VALUE if there is none.
+    std::int64_t timestamp = AV_NOPTS_VALUE;
+    bool lacksPresentationTimes = false;
+    bool needsGeneratedTimes = false;
+};
+
+/// How many packets are looked at to learn whether a track states its presentation times.
+constexpr int kPacketsToJudge = 16;
+
+/// Reads a track's packets until one picture has decoded and its habits are known.
+class FirstPicturesReader {
+public:
+    FirstPicturesReader(Demuxer& demuxer, const SourceTrack& track)
+        : m_demuxer(demuxer), m_track(track), m_decoder(*track.parameters, track.timeBase, 1) {}
+
+    FirstPictures read(const std::stop_token& stop) {
+        const bool mustJudge = !statesPresentationTimes(*m_demuxer.context().iformat);
+        while (!m_timestamp || (mustJudge && m_packets < kPacketsToJudge)) {
+            if (!readPacket(stop))
+                break;
+        }
+        if (!m_timestamp)
+            throw Error("Not one picture in this file can be decoded.");
+        return judged();
+    }
+
+private:
+    /// False at the end of the file.
+    bool readPacket(const std::stop_token& stop) {
+        const bool hasPacket = m_demuxer.read(*m_packet, stop) == Demuxer::Status::packet;
+        if (hasPacket && m_packet->stream_index != m_track.facts.streamIndex) {
+            av_packet_unref(m_packet.get());
+            return true;
+        }
+        if (hasPacket) {
+            ++m_packets;
+            m_packetsWithoutPts += m_packet->pts == AV_NOPTS_VALUE ? 1 : 0;
+            if (m_firstDts == AV_NOPTS_VALUE)
+                m_firstDts = m_packet->dts;
+        }
+        if (!m_timestamp) {
+            m_decoder.send(hasPacket ? m_packet.get() : nullptr);
+            if (m_decoder.receive(*m_frame) == Decoder::Status::frame)
+                m_timestamp =
+                    m_frame->pts != AV_NOPTS_VALUE ? m_frame->pts : m_frame->best_effort_timestamp;
+        }
+        av_packet_unref(m_packet.get());
+        return hasPacket;
+    }
+
+    [[nodiscard]] FirstPictures judged() const {
+        FirstPictures result{*m_timestamp, false, false};
+        const AVCodecID codec = m_track.parameters->codec_id;
+        const bool reordersByOne = codec == AV_CODEC_ID_MPEG1VIDEO ||
+                                   codec == AV_CODEC_ID_MPEG2VIDEO || codec == AV_CODEC_ID_MPEG4;
+        if (reordersByOne && m_packetsWithoutPts > 0) {
+            result.needsGeneratedTimes = true;
+        } else if (m_packetsWithoutPts * 2 > m_packets) {
+            result.lacksPresentationTimes = true;
+            result.timestamp = m_firstDts;
+        }
+        return result;
+    }
+
+    Demuxer& m_demuxer;
+    const SourceTrack& m_track;
+    Decoder m_decoder;
+    PacketPtr m_packet = makePacket();
+    FramePtr m_frame = makeFrame();
+    std::optional<std::int64_t> m_timestamp;
+    std::int64_t m_firstDts = AV_NOPTS_VALUE;
+    int m_packets = 0;
+    int m_packetsWithoutPts = 0;
+};
+
+/// The origin of the asset's time line: the earliest start of any audio or video stream.
+Time findOrigin(const AVFormatContext& context, const std::optional<Time>& firstPicture,
+                int pictureStream) {
+    std::optional<Time> origin = firstPicture;
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        const AVStream& stream = *context.streams[i];
+        const AVMediaType type = stream.codecpar->codec_type;
+        const bool counts = type == AVMEDIA_TYPE_AUDIO || type == AVMEDIA_TYPE_VIDEO;
+        if (!counts || stream.index == pictureStream || stream.start_time == AV_NOPTS_VALUE ||
+            (stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
+            continue;
+        const Time start = containerTime(stream.start_time, stream.time_base);
+        if (!origin || start < *origin)
+            origin = start;
+    }
+    return origin.value_or(Time{0, 1});
+}
+
+/// The stream's end as the container states it, in container time.
+std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& stream) {
+    if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0) {
+        const std::int64_t start = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;
+        return containerTime(start + stream.duration, stream.time_base);
+    }
+    if (context.duration != AV_NOPTS_VALUE && context.duration > 0) {
+        const std::int64_t start = context.start_time != AV_NOPTS_VALUE ? context.start_time : 0;
+        return containerTime(start + context.duration, AV_TIME_BASE_Q);
+    }
+    return std::nullopt;
+}
+
+/// Whether the container's index shows every sample, up to the claimed end, to lie in the file.
+bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
+                     const std::vector<SourceTrack>& tracks) {
+    if (!std::string_view(context.iformat->name).starts_with("mov"))
+        return false;
+    return std::ranges::all_of(tracks, [&](const SourceTrack& track) {
+        AVStream* stream = context.streams[track.facts.streamIndex];
+        const int count = avformat_index_get_entries_count(stream);
+        const auto end = claimedEnd(context, *stream);
+        if (count == 0 || !end)
+            return false;
+        const AVIndexEntry* last = avformat_index_get_entry(stream, count - 1);
+        const Time lastTime = containerTime(last->timestamp, stream->time_base);
+        return last->pos + last->size <= file.size() && (*end - lastTime).seconds() < kTailSeconds;
+    });
+}
+
+/// Reads packets to the end of the file and notes where each stream's end.
+Ends readEnds(Demuxer& demuxer, const std::stop_token& stop) {
+    Ends ends;
+    const PacketPtr packet = makePacket();
+    while (demuxer.read(*packet, stop) == Demuxer::Status::packet) {
+        const std::int64_t start = packet->pts != AV_NOPTS_VALUE ? packet->pts : packet->dts;
+        if (start != AV_NOPTS_VALUE && !(packet->flags & AV_PKT_FLAG_DISCARD)) {
+            const AVStream& stream = *demuxer.context().streams[packet->stream_index];
+            const Time end = containerTime(start + packet->duration, stream.time_base);
+            const auto [entry, isNew] = ends.try_emplace(packet->stream_index, end);
+            if (!isNew && entry->second < end)
+                entry->second = end;
+        }
+        av_packet_unref(packet.get());
+    }
+    return ends;
+}
+
+Ends measureEnds(Demuxer& demuxer, const std::vector<SourceTrack>& tracks,
+                 const std::stop_token& stop) {
+    std::vector<int> indexes;
+    std::optional<Time> latest;
+    for (const SourceTrack& track : tracks) {
+        const int index = track.facts.streamIndex;
+        indexes.push_back(index);
+        const auto end = claimedEnd(demuxer.context(), *demuxer.context().streams[index]);
+        if (end && (!latest || *latest < *end))
+            latest = end;
+    }
+    demuxer.selectOnly(indexes);
+    if (latest) {
+        const Time tail = *latest - Time::fromSeconds(kTailSeconds, kComparisonTimescale);
+        const AVRational timeBase = demuxer.context().streams[indexes.front()]->time_base;
+        const std::int64_t timestamp = av_rescale_q(tail.value, {1, tail.timescale}, timeBase);
+        if (demuxer.seek(indexes.front(), timestamp, stop)) {
+            Ends ends = readEnds(demuxer, stop);
+            if (!ends.empty())
+                return ends;
+        }
+    }
+    demuxer.reopen(stop);
+    return readEnds(demuxer, stop);
+}
+
+Time findDuration(Demuxer& demuxer, const SourceFile& file, const SourceInfo& info,
+                  const std::stop_token& stop) {
+    const bool isIndexed = indexReachesEnd(demuxer.context(), file, info.tracks);
+    const Ends ends = isIndexed ? Ends{} : measureEnds(demuxer, info.tracks, stop);
+    Time latest = info.origin;
+    for (const SourceTrack& track : info.tracks) {
+        const int index = track.facts.streamIndex;
+        auto end = claimedEnd(demuxer.context(), *demuxer.context().streams[index]);
+        if (const auto measured = ends.find(index); measured != ends.end()) {
+            if (!end || std::abs((*end - measured->second).seconds()) > kDurationSlack)
+                end = measured->second;
+        } else if (!isIndexed) {
+            continue;
+        }
+        if (end && latest < *end)
+            latest = *end;
+    }
+    return latest - info.origin;
+}
+
+void describeChapters(SourceInfo& info, const AVFormatContext& context) {
+    for (unsigned i = 0; i < context.nb_chapters; ++i) {
+        const AVChapter& chapter = *context.chapters[i];
+        SourceChapter result;
+        result.range.start = containerTime(chapter.start, chapter.time_base) - info.origin;
+        result.range.end = containerTime(chapter.end, chapter.time_base) - info.origin;
+        if (const auto* title = av_dict_get(chapter.metadata, "title", nullptr, 0))
+            result.title = title->value;
+        info.chapters.push_back(std::move(result));
+    }
+}
+
+} // namespace
+
+SourceInfo inspect(const std::shared_ptr<const SourceFile>& file, const std::stop_token& stop) {
+    Demuxer demuxer(file, nullptr, stop);
+    demuxer.findStreamInfo(stop);
+    AVFormatContext& context = demuxer.context();
+    SourceInfo info;
+    info.format = context.iformat;
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        if (isUsableStream(context, *context.streams[i]))
+            info.tracks.push_back(describeStream(context, *context.streams[i]));
+    }
+    AVDictionary* metadata = nullptr;
+    check(av_dict_copy(&metadata, context.metadata, 0));
+    info.metadata.reset(metadata);
+
+    std::optional<Time> firstPicture;
+    int pictureStream = -1;
+    const auto video = std::ranges::find(info.tracks, MediaType::video,
+                                         [](const SourceTrack& track) { return track.facts.type; });
+    if (video != info.tracks.end()) {
+        const FirstPictures first = FirstPicturesReader(demuxer, *video).read(stop);
+        video->lacksPresentationTimes = first.lacksPresentationTimes;
+        video->needsGeneratedTimes = first.needsGeneratedTimes;
+        pictureStream = video->facts.streamIndex;
+        if (first.timestamp != AV_NOPTS_VALUE)
+            firstPicture = containerTime(first.timestamp, video->timeBase);
+    }
+    info.origin = findOrigin(context, firstPicture, pictureStream);
+    for (SourceTrack& track : info.tracks) {
+        const std::int64_t start = context.streams[track.facts.streamIndex]->start_time;
+        const bool isPicture = track.facts.streamIndex == pictureStream && firstPicture;
+        track.facts.startTime = (isPicture                 ? *firstPicture
+                                 : start != AV_NOPTS_VALUE ? containerTime(start, track.timeBase)
+                                                           : info.origin) -
+                                info.origin;
+    }
+    describeChapters(info, context);
+    info.duration = info.tracks.empty() ? Time{0, 1} : findDuration(demuxer, *file, info, stop);
+    return info;
+}
+
+} // namespace media::ffmpeg

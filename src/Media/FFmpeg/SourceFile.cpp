@@ -1,0 +1,89 @@
+#include "Media/FFmpeg/SourceFile.h"
+
+#include "Media/Error.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace media::ffmpeg {
+
+namespace {
+
+[[noreturn]] void throwOpenError(int code) {
+    switch (code) {
+    case ENOENT:
+    case ENOTDIR:
+        throw Error("The file doesn’t exist.");
+    case EACCES:
+    case EPERM:
+        throw Error("You don’t have permission to read this file.");
+    case ENAMETOOLONG:
+        throw Error("The file name is too long.");
+    case ELOOP:
+        throw Error("The link to the file leads nowhere.");
+    case ENXIO:
+    case ENODEV:
+        throw Error("It is not a regular file.");
+    default:
+        throw Error("The file can’t be read: " + std::generic_category().message(code) + ".");
+    }
+}
+
+} // namespace
+
+std::shared_ptr<const SourceFile> SourceFile::open(const std::filesystem::path& path) {
+    // Looked at before it is opened: opening a device can have effects of its own.
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0)
+        throwOpenError(errno);
+    if (S_ISDIR(status.st_mode))
+        throw Error("It is a folder, not a video file.");
+    if (!S_ISREG(status.st_mode))
+        throw Error("It is not a regular file.");
+    // Without O_NONBLOCK a pipe put in the file's place meanwhile would block for ever.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        throwOpenError(errno);
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        ::close(descriptor);
+        throw Error("It is not a regular file.");
+    }
+    if (status.st_size == 0) {
+        ::close(descriptor);
+        throw Error("The file is empty.");
+    }
+    return std::make_shared<const SourceFile>(descriptor, path, status.st_dev, status.st_ino);
+}
+
+SourceFile::SourceFile(int descriptor, std::filesystem::path path, dev_t device, ino_t inode)
+    : m_descriptor(descriptor), m_path(std::move(path)), m_device(device), m_inode(inode) {}
+
+SourceFile::~SourceFile() {
+    ::close(m_descriptor);
+}
+
+std::int64_t SourceFile::size() const {
+    struct stat status = {};
+    return ::fstat(m_descriptor, &status) == 0 ? std::int64_t{status.st_size} : 0;
+}
+
+std::int64_t SourceFile::read(std::int64_t offset, std::uint8_t* buffer, std::int64_t count) const {
+    for (;;) {
+        const ssize_t got = ::pread(m_descriptor, buffer, static_cast<std::size_t>(count), offset);
+        if (got >= 0)
+            return got;
+        if (errno != EINTR)
+            return -errno;
+    }
+}
+
+bool SourceFile::isSameFileAs(const std::filesystem::path& other) const {
+    struct stat status = {};
+    return ::stat(other.c_str(), &status) == 0 && status.st_dev == m_device &&
+           status.st_ino == m_inode;
+}
+
+} // namespace media::ffmpeg

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Media/FFmpeg/Handles.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <sys/types.h>
+
+namespace media::ffmpeg {
+
+/// A regular file opened for reading, shared by all readers of an asset. Stays readable when the
+/// file is renamed or deleted. Immutable; usable on any thread (reads are positional).
+class SourceFile {
+public:
+    /// Throws Error with a sentence for the user if `path` is not a regular file that can be read.
+    /// Never blocks on pipes and devices: they are refused.
+    static std::shared_ptr<const SourceFile> open(const std::filesystem::path& path);
+
+    SourceFile(int descriptor, std::filesystem::path path, dev_t device, ino_t inode);
+    SourceFile(const SourceFile&) = delete;
+    SourceFile& operator=(const SourceFile&) = delete;
+    ~SourceFile();
+
+    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
+    /// The size now, in bytes; it may change while the file is open.
+    [[nodiscard]] std::int64_t size() const;
+    /// Up to `count` bytes at `offset`; 0 at the end, a negative errno on failure.
+    [[nodiscard]] std::int64_t read(std::int64_t offset, std::uint8_t* buffer,
+                                    std::int64_t count) const;
+    /// Whether `other` leads to this very file (device and inode, links followed).
+    [[nodiscard]] bool isSameFileAs(const std::filesystem::path& other) const;
+
+private:
+    int m_descriptor;
+    std::filesystem::path m_path;
+    dev_t m_device;
+    ino_t m_inode;
+};
+
+} // namespace media::ffmpeg

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Media/Asset.h"
+#include "Media/FFmpeg/Handles.h"
+
+#include <string>
+#include <vector>
+
+namespace media::ffmpeg {
+
+/// A track with what readers and the exporter need beyond its public facts.
+struct SourceTrack {
+    AssetTrack facts;
+    AVRational timeBase{1, 1};
+    CodecParametersPtr parameters;
+    AVRational averageFrameRate{0, 1};
+    AVRational sampleAspectRatio{0, 1};
+    DictionaryPtr metadata;
+    int disposition = 0;
+    /// The file's pictures come without presentation times: they are taken to be shown one after
+    /// another at their decoding times.
+    bool lacksPresentationTimes = false;
+    /// Only pictures that others refer to come without a presentation time: theirs is the decoding
+    /// time of the next such picture, which the demuxer can fill in.
+    bool needsGeneratedTimes = false;
+};
+
+struct SourceChapter {
+    TimeRange range;
+    std::string title;
+};
+
+/// Everything that opening a file found out. Immutable once made.
+struct SourceInfo {
+    /// Short name of the demuxer, handed to later openings so that nothing is guessed twice.
+    const AVInputFormat* format = nullptr;
+    /// The container time that is the asset's time 0.
+    Time origin;
+    Time duration;
+    std::vector<SourceTrack> tracks;
+    DictionaryPtr metadata;
+    std::vector<SourceChapter> chapters;
+
+    /// The track of that stream; aborts if there is none.
+    [[nodiscard]] const SourceTrack& track(int streamIndex) const;
+};
+
+/// Whether the container gives every packet its presentation time by itself, so that packets need
+/// not be parsed to find it.
+bool statesPresentationTimes(const AVInputFormat& format);
+/// Whether times and positions only make sense when the file is read from its start (bare
+/// bitstreams without a container).
+bool isBareBitstream(const AVInputFormat& format);
+
+/// A timestamp of a stream on the asset's time line.
+Time assetTime(const SourceInfo& info, const SourceTrack& track, std::int64_t timestamp);
+/// The timestamp of a stream at a time on the asset's time line, rounded to the nearest.
+std::int64_t streamTimestamp(const SourceInfo& info, const SourceTrack& track, Time time);
+
+} // namespace media::ffmpeg

@@ -1,0 +1,299 @@
+#include "Media/VideoReader.h"
+
+#include "Media/Error.h"
+#include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/Decoder.h"
+#include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/SourceInfo.h"
+
+#include <algorithm>
+#include <deque>
+#include <limits>
+#include <set>
+
+namespace media {
+
+namespace {
+
+constexpr std::int64_t kNoTarget = std::numeric_limits<std::int64_t>::min();
+/// Without an index to say where the key frames are, decoding on is taken to be cheaper than
+/// moving for targets this close.
+constexpr std::int64_t kNearTicks = 2 * kComparisonTimescale;
+/// The first step back when a container lands behind the frame that was asked for.
+constexpr std::int64_t kFirstStepBackTicks = kComparisonTimescale / 2;
+
+/// Whether "non-reference" means in this codec that no other picture depends on it.
+bool canSkipNonReference(AVCodecID codec) {
+    return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_MPEG2VIDEO ||
+           codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG4;
+}
+
+} // namespace
+
+class VideoReader::Private {
+public:
+    Private(std::shared_ptr<const Asset> asset, const AssetTrack& facts, Options options)
+        : m_asset(std::move(asset)),
+          m_track(m_asset->info().track(facts.streamIndex)),
+          m_demuxer(m_asset->file(), m_asset->info().format),
+          m_options(options) {
+        openDecoder();
+        if (!ffmpeg::statesPresentationTimes(*m_asset->info().format))
+            m_demuxer.findStreamInfo();
+        if (m_track.needsGeneratedTimes)
+            m_demuxer.generatePresentationTimes();
+        m_demuxer.selectOnly({m_track.facts.streamIndex});
+    }
+
+    void seek(std::int64_t ticks, const std::stop_token& stop) {
+        m_target = ticks;
+        m_bestTicks = kNoTarget;
+        if (!isAheadNearby(ticks))
+            reposition(ticks, stop);
+        advanceTo(ticks, stop);
+        m_target = kNoTarget;
+    }
+
+    void seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop) {
+        m_target = latest;
+        m_bestTicks = kNoTarget;
+        if (!(isAheadNearby(earliest) && !hasKeyFrameWithin(earliest, latest)))
+            reposition(latest, stop);
+        fill(1, stop);
+        while (!m_queue.empty() && m_queue.front().ticks < earliest) {
+            fill(2, stop);
+            if (m_queue.size() < 2 || m_queue[1].ticks > latest)
+                break;
+            m_queue.pop_front();
+        }
+        m_target = kNoTarget;
+    }
+
+    const DecodedFrame* peek(const std::stop_token& stop) {
+        fill(1, stop);
+        return m_queue.empty() ? nullptr : &m_queue.front();
+    }
+
+    std::optional<DecodedFrame> next(const std::stop_token& stop) {
+        fill(1, stop);
+        if (m_queue.empty())
+            return std::nullopt;
+        DecodedFrame frame = std::move(m_queue.front());
+        m_queue.pop_front();
+        return frame;
+    }
+
+private:
+    void openDecoder() {
+        m_decoder.emplace(*m_track.parameters, m_track.timeBase, m_options.threads);
+        if (m_options.detail == Detail::thumbnail) {
+            m_decoder->context().skip_loop_filter = AVDISCARD_ALL;
+            m_decoder->context().flags2 |= AV_CODEC_FLAG2_FAST;
+        }
+        m_hasNewParameters = false;
+    }
+
+    /// The dts of the last key frame that the container's index knows at or before `ticks`.
+    [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(std::int64_t ticks) {
+        AVStream* stream = m_demuxer.context().streams[m_track.facts.streamIndex];
+        const std::int64_t timestamp =
+            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale});
+        const AVIndexEntry* entry =
+            avformat_index_get_entry_from_timestamp(stream, timestamp, AVSEEK_FLAG_BACKWARD);
+        return entry ? std::optional(entry->timestamp) : std::nullopt;
+    }
+
+    [[nodiscard]] bool hasKeyFrameWithin(std::int64_t earliest, std::int64_t latest) {
+        const auto key = keyFrameBefore(latest);
+        return key &&
+               ffmpeg::assetTime(m_asset->info(), m_track, *key).comparisonTicks() >= earliest;
+    }
+
+    /// Whether the frame at `ticks` is queued or best reached by decoding on.
+    [[nodiscard]] bool isAheadNearby(std::int64_t ticks) {
+        if (m_queue.empty() || ticks < m_queue.front().ticks || ticks < m_gaplessFrom)
+            return false;
+        if (m_isDrained || m_queue.back().ticks > ticks)
+            return true;
+        const bool hasIndex = ffmpeg::statesPresentationTimes(*m_asset->info().format);
+        const auto key = hasIndex ? keyFrameBefore(ticks) : std::nullopt;
+        if (key && m_lastReadDts != AV_NOPTS_VALUE)
+            return *key <= m_lastReadDts;
+        return ticks - m_queue.back().ticks <= kNearTicks;
+    }
+
+    /// Drops queued frames until the first is the frame at `ticks`.
+    void advanceTo(std::int64_t ticks, const std::stop_token& stop) {
+        while (fill(2, stop), m_queue.size() >= 2 && m_queue[1].ticks <= ticks)
+            m_queue.pop_front();
+    }
+
+    /// Starts decoding at a random-access point whose first picture is shown at or before `ticks`.
+    void reposition(std::int64_t ticks, const std::stop_token& stop) {
+        const std::int64_t first = m_track.facts.startTime.comparisonTicks();
+        const bool canSeek = !ffmpeg::isBareBitstream(*m_asset->info().format);
+        for (std::int64_t back = 0; canSeek && ticks - back > first;
+             back = back == 0 ? kFirstStepBackTicks : back * 4) {
+            const std::int64_t timestamp = ffmpeg::streamTimestamp(
+                m_asset->info(), m_track, Time{ticks - back, kComparisonTimescale});
+            if (!m_demuxer.seek(m_track.facts.streamIndex, timestamp, stop))
+                break;
+            restart();
+            fill(1, stop);
+            if (!m_queue.empty() && m_queue.front().ticks <= ticks)
+                return;
+        }
+        m_demuxer.reopen(stop);
+        if (m_hasNewParameters)
+            openDecoder();
+        restart();
+    }
+
+    void restart() {
+        m_decoder->flush();
+        m_queue.clear();
+        m_pendingDts.clear();
+        m_isDrained = false;
+        m_isDraining = false;
+        m_lastReadDts = AV_NOPTS_VALUE;
+        m_bestTicks = kNoTarget;
+        m_gaplessFrom = kNoTarget;
+        m_lastTime = Time::negativeInfinity();
+    }
+
+    /// Decodes until `count` frames are queued or the track has ended.
+    void fill(std::size_t count, const std::stop_token& stop) {
+        while (m_queue.size() < count && !m_isDrained) {
+            if (stop.stop_requested())
+                throw Cancelled();
+            ffmpeg::FramePtr frame = ffmpeg::makeFrame();
+            switch (m_decoder->receive(*frame)) {
+            case ffmpeg::Decoder::Status::frame:
+                enqueue(std::move(frame));
+                break;
+            case ffmpeg::Decoder::Status::needsInput:
+                feed(stop);
+                break;
+            case ffmpeg::Decoder::Status::endOfStream:
+                m_isDrained = true;
+                break;
+            }
+        }
+    }
+
+    void feed(const std::stop_token& stop) {
+        if (m_isDraining) {
+            m_isDrained = true;
+            return;
+        }
+        if (m_demuxer.read(*m_packet, stop) == ffmpeg::Demuxer::Status::endOfFile) {
+            m_isDraining = true;
+            m_decoder->send(nullptr);
+            return;
+        }
+        if (av_packet_get_side_data(m_packet.get(), AV_PKT_DATA_NEW_EXTRADATA, nullptr))
+            m_hasNewParameters = true;
+        if (m_packet->dts != AV_NOPTS_VALUE) {
+            m_lastReadDts = m_packet->dts;
+            if (m_track.lacksPresentationTimes)
+                m_pendingDts.insert(m_packet->dts);
+        }
+        m_decoder->context().skip_frame =
+            isUnneeded(*m_packet) ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+        m_decoder->send(m_packet.get());
+        av_packet_unref(m_packet.get());
+    }
+
+    /// On the way to a target: whether a later picture, already read, will be shown at or before
+    /// it, so that this one is not the picture there.
+    [[nodiscard]] bool isUnneeded(const AVPacket& packet) {
+        if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE ||
+            m_track.lacksPresentationTimes || !canSkipNonReference(m_track.parameters->codec_id))
+            return false;
+        const std::int64_t ticks =
+            ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).comparisonTicks();
+        if (ticks <= m_target)
+            m_bestTicks = std::max(m_bestTicks, ticks);
+        if (ticks >= m_bestTicks)
+            return false;
+        m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
+        return true;
+    }
+
+    void enqueue(ffmpeg::FramePtr frame) {
+        Time time = presentationTime(*frame);
+        if (m_lastTime.isNumeric() && time < m_lastTime)
+            time = m_lastTime;
+        m_lastTime = time;
+        const std::int64_t ticks = time.comparisonTicks();
+        m_queue.push_back({std::move(frame), time, ticks});
+    }
+
+    [[nodiscard]] Time presentationTime(const AVFrame& frame) {
+        std::int64_t timestamp =
+            frame.pts != AV_NOPTS_VALUE ? frame.pts : frame.best_effort_timestamp;
+        if (m_track.lacksPresentationTimes) {
+            timestamp = AV_NOPTS_VALUE;
+            if (!m_pendingDts.empty()) {
+                timestamp = *m_pendingDts.begin();
+                m_pendingDts.erase(m_pendingDts.begin());
+            }
+        }
+        if (timestamp != AV_NOPTS_VALUE)
+            return ffmpeg::assetTime(m_asset->info(), m_track, timestamp);
+        if (!m_lastTime.isNumeric())
+            return m_track.facts.startTime;
+        const double fps = m_track.facts.nominalFrameRate > 0 ? m_track.facts.nominalFrameRate : 25;
+        return m_lastTime + Time::fromSeconds(1 / fps, m_lastTime.timescale);
+    }
+
+    std::shared_ptr<const Asset> m_asset;
+    const ffmpeg::SourceTrack& m_track;
+    ffmpeg::Demuxer m_demuxer;
+    Options m_options;
+    std::optional<ffmpeg::Decoder> m_decoder;
+    /// The stream changed the decoder's parameters on its way.
+    bool m_hasNewParameters = false;
+    ffmpeg::PacketPtr m_packet = ffmpeg::makePacket();
+
+    std::deque<DecodedFrame> m_queue;
+    /// Decoding times of pictures not yet given out, for tracks without presentation times.
+    std::multiset<std::int64_t> m_pendingDts;
+    bool m_isDraining = false;
+    bool m_isDrained = false;
+    std::int64_t m_lastReadDts = AV_NOPTS_VALUE;
+    Time m_lastTime = Time::negativeInfinity();
+
+    /// The tick that a seek is on its way to, and the latest tick at or before it among the
+    /// pictures read so far.
+    std::int64_t m_target = kNoTarget;
+    std::int64_t m_bestTicks = kNoTarget;
+    /// Pictures before this tick may have been left out of the run being decoded; a later target
+    /// before it, after a seek that was given up, needs a new run.
+    std::int64_t m_gaplessFrom = kNoTarget;
+};
+
+VideoReader::VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& track,
+                         Options options)
+    : d(std::make_unique<Private>(std::move(asset), track, options)) {}
+
+VideoReader::~VideoReader() = default;
+
+void VideoReader::seek(std::int64_t ticks, const std::stop_token& stop) {
+    d->seek(ticks, stop);
+}
+
+void VideoReader::seekNear(std::int64_t earliest, std::int64_t latest,
+                           const std::stop_token& stop) {
+    d->seekNear(earliest, latest, stop);
+}
+
+std::optional<DecodedFrame> VideoReader::next(const std::stop_token& stop) {
+    return d->next(stop);
+}
+
+const DecodedFrame* VideoReader::peek(const std::stop_token& stop) {
+    return d->peek(stop);
+}
+
+} // namespace media
