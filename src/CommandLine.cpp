@@ -1,0 +1,56 @@
+#include "CommandLine.h"
+
+#include "Support/FileUrl.h"
+
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace brisklet {
+
+namespace {
+
+QUrl fileOf(std::string_view argument) {
+    const std::filesystem::path path(argument);
+    std::error_code ignored;
+    if (argument.starts_with("file:") && !std::filesystem::exists(path, ignored)) {
+        const auto size = static_cast<qsizetype>(argument.size());
+        const QUrl url = QUrl::fromEncoded(QByteArray(argument.data(), size));
+        if (url.isValid())
+            return url;
+    }
+    return urlOf(path);
+}
+
+} // namespace
+
+CommandLine CommandLine::parse(std::span<const char* const> arguments) {
+    CommandLine result;
+    bool takesOptions = true;
+    for (const std::string_view argument : arguments) {
+        const bool isOption = takesOptions && argument.size() > 1 && argument.front() == '-';
+        if (argument.empty())
+            continue;
+        if (!isOption)
+            result.files.push_back(fileOf(argument));
+        else if (argument == "--")
+            takesOptions = false;
+        else if (argument == "--help" || argument == "-h")
+            result.wantsHelp = true;
+        else if (argument == "--version")
+            result.wantsVersion = true;
+        else if (!result.unknownOption)
+            result.unknownOption = argument;
+    }
+    return result;
+}
+
+std::string usage() {
+    return "Usage: brisklet [VIDEO...]\n"
+           "Trims videos. Each VIDEO opens in a window of its own.\n"
+           "\n"
+           "  --help     print this and exit\n"
+           "  --version  print the version and exit\n";
+}
+
+} // namespace brisklet

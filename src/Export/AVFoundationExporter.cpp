@@ -1,0 +1,110 @@
+#include "Export/AVFoundationExporter.h"
+
+#include "Export/ProgressWatcher.h"
+#include "Media/Error.h"
+#include "Media/ExportSession.h"
+#include "Support/FileUrl.h"
+#include "Support/Workers.h"
+
+#include <exception>
+#include <memory>
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+const char* sentence(AVFoundationExporter::ExportError::Kind kind) {
+    using Kind = AVFoundationExporter::ExportError::Kind;
+    return kind == Kind::noVideoTrack ? "The source file contains no video track."
+                                      : "Couldn't create an export session for this video.";
+}
+
+/// The request's range, kept inside the source: the shortest range that the window can set is
+/// longer than some videos.
+media::TimeRange rangeOf(const ExportRequest& request, media::Time duration) {
+    media::TimeRange range{media::Time::fromSeconds(request.startTime, media::kComparisonTimescale),
+                           media::Time::fromSeconds(request.endTime, media::kComparisonTimescale)};
+    const media::Time zero{0, media::kComparisonTimescale};
+    const media::Time last = duration.rescaled(media::kComparisonTimescale);
+    if (range.start < zero)
+        range.start = zero;
+    if (last < range.end)
+        range.end = last;
+    if (!range.start.isNumeric() || !range.end.isNumeric() || !(range.start < range.end))
+        throw media::Error("The range to export is empty.");
+    return range;
+}
+
+media::FileType fileTypeOf(ExportFormat format) {
+    return format == ExportFormat::mov ? media::FileType::quickTimeMovie : media::FileType::mpeg4;
+}
+
+std::unique_ptr<media::ExportSession> makeSession(media::Composition composition,
+                                                  const ExportRequest& request) {
+    try {
+        return std::make_unique<media::ExportSession>(
+            std::move(composition), pathOf(request.outputURL), fileTypeOf(request.format));
+    } catch (const media::Error&) {
+        // Every failure to set up the export has this one message; the cause is kept for a log.
+        std::throw_with_nested(AVFoundationExporter::ExportError(
+            AVFoundationExporter::ExportError::Kind::sessionCreationFailed));
+    }
+}
+
+} // namespace
+
+AVFoundationExporter::ExportError::ExportError(Kind kind)
+    : std::runtime_error(sentence(kind)), m_kind(kind) {}
+
+QCoro::Task<> AVFoundationExporter::exportVideo(ExportRequest request,
+                                                ExportProgressHandler onProgress,
+                                                std::stop_token stop) const {
+    co_await runOnWorker([request, onProgress, stop] { run(request, onProgress, stop); });
+}
+
+void AVFoundationExporter::run(const ExportRequest& request,
+                               const ExportProgressHandler& onProgress,
+                               const std::stop_token& stop) {
+    const auto asset = media::Asset::open(pathOf(request.sourceURL), stop);
+    media::Composition toExport = composition(asset, request);
+    const auto rendering = videoComposition(toExport.videoTrack->source, request);
+    const auto session = makeSession(std::move(toExport), request);
+    session->setVideoComposition(rendering);
+
+    // An older file at the output is not removed here: the session replaces it in one step when
+    // the new one is complete, so an export that fails or is cancelled loses nothing.
+    const ProgressWatcher watcher(*session, onProgress);
+    session->run(stop);
+}
+
+media::Composition AVFoundationExporter::composition(std::shared_ptr<const media::Asset> asset,
+                                                     const ExportRequest& request) {
+    const auto videoTracks = asset->tracks(media::MediaType::video);
+    if (videoTracks.empty())
+        throw ExportError(ExportError::Kind::noVideoTrack);
+    const media::AssetTrack& video = videoTracks.front();
+    const media::TimeRange range = rangeOf(request, asset->duration());
+
+    media::Composition result;
+    result.videoTrack = media::CompositionTrack{
+        .source = video, .range = range, .preferredTransform = video.preferredTransform};
+    if (!request.muted) {
+        for (const media::AssetTrack& audio : asset->tracks(media::MediaType::audio)) {
+            result.audioTracks.push_back(
+                {.source = audio, .range = range, .preferredTransform = {}});
+        }
+    }
+    result.asset = std::move(asset);
+    return result;
+}
+
+std::optional<media::VideoComposition>
+AVFoundationExporter::videoComposition(const media::AssetTrack& source,
+                                       const ExportRequest& request) {
+    if (!request.cropRect && request.rotation % 360 == 0 && !request.maxShortEdge)
+        return std::nullopt;
+    return transformComposition(source, request.rotation, request.cropRect, request.maxShortEdge);
+}
+
+} // namespace brisklet

@@ -1,0 +1,114 @@
+#include "Models/EditState.h"
+
+#include "Export/AVFoundationExporter.h"
+#include "Media/Error.h"
+#include "Support/FileUrl.h"
+#include "Support/MainThread.h"
+
+#include <exception>
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+/// How far a crop may fall short of the whole picture on each side and still count as none.
+constexpr double kWholePictureMargin = 0.001;
+
+bool coversPicture(const media::Rect& crop) {
+    return crop.insetBy(-kWholePictureMargin, -kWholePictureMargin)
+        .contains(media::Rect{0, 0, 1, 1});
+}
+
+SaveProposal proposalFor(const QUrl& source, ExportFormat format) {
+    const bool isQuickTime = format == ExportFormat::mov;
+    const QString extension = isQuickTime ? QStringLiteral("mov") : QStringLiteral("mp4");
+    return {.fileName = displayBaseName(source) + QStringLiteral(" Trimmed.") + extension,
+            .folder = urlOf(pathOf(source).parent_path()),
+            .typeName =
+                isQuickTime ? QStringLiteral("QuickTime movie") : QStringLiteral("MPEG-4 movie"),
+            .extension = extension};
+}
+
+} // namespace
+
+void EditState::presentExportPanel() {
+    if (videoURL() && !m_exportProgress.value() && m_filePanels)
+        askForOutput();
+}
+
+QCoro::Task<> EditState::askForOutput() {
+    const std::weak_ptr<EditState> weak = weak_from_this();
+    const auto panels = m_filePanels;
+    const std::optional<QUrl> url =
+        co_await panels->saveMovie(proposalFor(*videoURL(), ExportSettings::shared().format()));
+    const auto self = weak.lock();
+    if (self && url)
+        self->exportTo(*url);
+}
+
+void EditState::exportTo(const QUrl& outputURL) {
+    if (!videoURL() || m_exportProgress.value())
+        return;
+    m_playerController.player()->pause();
+    ExportRequest request = exportRequest(outputURL);
+    m_exportTask.emplace();
+    const std::stop_token stop = m_exportTask->get_token();
+    m_exportProgress = 0.0;
+    runExport(shared_from_this(), std::move(request), stop);
+}
+
+ExportRequest EditState::exportRequest(const QUrl& outputURL) const {
+    const ExportSettings& settings = ExportSettings::shared();
+    std::optional<media::Rect> crop = cropRect();
+    if (crop && coversPicture(*crop))
+        crop.reset();
+    return {.sourceURL = *videoURL(),
+            .startTime = m_trimStart,
+            .endTime = m_trimEnd,
+            .muted = m_isMuted,
+            .cropRect = crop,
+            .rotation = m_rotation,
+            .outputURL = outputURL,
+            .format = settings.format(),
+            .maxShortEdge = maxShortEdge(settings.resolution())};
+}
+
+QCoro::Task<> EditState::runExport(std::shared_ptr<EditState> state, ExportRequest request,
+                                   std::stop_token stop) {
+    const auto onProgress = [weak = std::weak_ptr(state), stop](double fraction) {
+        // The model is looked up on the main thread only, so that its last reference never ends on
+        // the thread that reports.
+        postToMainThread([weak, stop, fraction] {
+            if (const auto self = weak.lock())
+                self->exportProgressed(fraction, stop);
+        });
+    };
+    std::optional<QString> failure;
+    try {
+        co_await AVFoundationExporter().exportVideo(std::move(request), onProgress, stop);
+    } catch (const media::Cancelled&) {
+        // The user asked for it.
+        failure.reset();
+    } catch (const std::exception& error) {
+        failure = QStringLiteral("Export failed: ") + QString::fromUtf8(error.what());
+    }
+    if (failure)
+        state->m_errorMessage = failure;
+    state->m_exportProgress = std::nullopt;
+    // An observer of the line above may have started the next export already.
+    if (!state->m_exportProgress.value())
+        state->m_exportTask.reset();
+}
+
+void EditState::exportProgressed(double fraction, const std::stop_token& stop) {
+    if (m_exportProgress.value() && m_exportTask && m_exportTask->get_token() == stop)
+        m_exportProgress = fraction;
+}
+
+void EditState::cancelExport() {
+    if (m_exportTask)
+        m_exportTask->request_stop();
+}
+
+} // namespace brisklet

@@ -1,0 +1,101 @@
+#include "Platform/FileDialogPanels.h"
+
+#include "Support/FileUrl.h"
+
+#include <QCoroFuture>
+#include <QFileDialog>
+#include <QFuture>
+#include <QPromise>
+
+#include <memory>
+#include <system_error>
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+using Answer = std::optional<QUrl>;
+
+/// The extensions that movie files are known by. Both cases are named, since some dialogs tell
+/// them apart and many cameras write capitals.
+QString movieFilter() {
+    static constexpr const char* kExtensions[] = {
+        "mp4", "m4v",  "mov", "qt",  "mkv", "webm", "avi", "mpg", "mpeg", "m2v", "ts",
+        "mts", "m2ts", "3gp", "3g2", "wmv", "asf",  "flv", "f4v", "ogv",  "mxf", "vob"};
+    QStringList patterns;
+    for (const char* extension : kExtensions) {
+        const QString pattern = QStringLiteral("*.") + QString::fromLatin1(extension);
+        patterns << pattern << QStringLiteral("*.") + QString::fromLatin1(extension).toUpper();
+    }
+    return QFileDialog::tr("Movies (%1)").arg(patterns.join(u' '));
+}
+
+/// Shows the dialog and gives what it answers. The dialog deletes itself.
+QFuture<Answer> ask(QFileDialog* dialog) {
+    const auto promise = std::make_shared<QPromise<Answer>>();
+    promise->start();
+    const auto answer = [promise](Answer url) {
+        if (!promise->future().isFinished()) {
+            promise->addResult(std::move(url));
+            promise->finish();
+        }
+    };
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, answer](int result) {
+        const QList<QUrl> urls = dialog->selectedUrls();
+        answer(result == QDialog::Accepted && !urls.isEmpty() ? Answer(urls.first()) : Answer());
+    });
+    QObject::connect(dialog, &QObject::destroyed, [answer] { answer({}); });
+    const QFuture<Answer> future = promise->future();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+    return future;
+}
+
+QFileDialog* makeSavePanel(QWidget* window, const SaveProposal& proposal) {
+    auto* dialog = new QFileDialog(window, QFileDialog::tr("Export"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(proposal.typeName, proposal.extension));
+    dialog->setDefaultSuffix(proposal.extension);
+    dialog->setDirectoryUrl(proposal.folder);
+    dialog->selectFile(proposal.fileName);
+    return dialog;
+}
+
+bool exists(const QUrl& file) {
+    std::error_code ignored;
+    return std::filesystem::exists(std::filesystem::symlink_status(pathOf(file), ignored));
+}
+
+} // namespace
+
+FileDialogPanels::FileDialogPanels(QWidget* window) : m_window(window) {}
+
+QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
+    auto* dialog = new QFileDialog(m_window, QFileDialog::tr("Open"));
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({movieFilter(), QFileDialog::tr("All files (*)")});
+    co_return co_await ask(dialog);
+}
+
+QCoro::Task<std::optional<QUrl>> FileDialogPanels::saveMovie(SaveProposal proposal) {
+    while (m_window) {
+        const Answer answer = co_await ask(makeSavePanel(m_window, proposal));
+        const QString suffix = QLatin1Char('.') + proposal.extension;
+        if (!answer || displayName(*answer).endsWith(suffix, Qt::CaseInsensitive))
+            co_return answer;
+        // A name that was typed with another extension, or with a full stop in it.
+        const std::filesystem::path path = pathOf(*answer).concat(suffix.toStdString());
+        const QUrl completed = urlOf(path);
+        if (!exists(completed))
+            co_return completed;
+        // The user has not been asked about replacing this one: ask again, with its full name.
+        proposal.folder = urlOf(path.parent_path());
+        proposal.fileName = displayName(completed);
+    }
+    co_return std::nullopt;
+}
+
+} // namespace brisklet

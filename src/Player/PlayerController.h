@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Media/Player.h"
+
+#include <functional>
+#include <memory>
+
+namespace brisklet {
+
+/// One window's player, with its events as plain callbacks. Main thread only; so are the
+/// callbacks. None of them is called after the destructor has begun.
+class PlayerController final {
+public:
+    PlayerController();
+    PlayerController(const PlayerController&) = delete;
+    PlayerController& operator=(const PlayerController&) = delete;
+    ~PlayerController();
+
+    /// Constant, never null. Views that show it may keep it for as long as they need.
+    [[nodiscard]] const std::shared_ptr<media::Player>& player() const { return m_player; }
+
+    /// The current time in seconds: every 1/30 s of playback, and whenever the time jumps.
+    std::function<void(double time)> onTick;
+    /// Whether the player runs; after every change of its rate.
+    std::function<void(bool playing)> onPlayingChange;
+    /// The current item played to its end.
+    std::function<void()> onPlayedToEnd;
+
+private:
+    void tick(media::Time time) const;
+    void rateChanged(float rate) const;
+    void itemEnded(const std::shared_ptr<const media::PlayerItem>& item) const;
+
+    std::shared_ptr<media::Player> m_player;
+    media::Player::Token m_timeObserver;
+};
+
+} // namespace brisklet

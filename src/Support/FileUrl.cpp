@@ -1,0 +1,44 @@
+#include "Support/FileUrl.h"
+
+#include <QByteArray>
+#include <QStringDecoder>
+
+#include <string>
+
+namespace brisklet {
+
+namespace {
+
+QString textOf(const std::filesystem::path& path) {
+    return QString::fromUtf8(QByteArray::fromStdString(path.string()));
+}
+
+} // namespace
+
+QUrl urlOf(const std::filesystem::path& path) {
+    QByteArray bytes = QByteArray::fromStdString(std::filesystem::absolute(path).string());
+    // Two leading slashes would be read as the name of a host.
+    while (bytes.startsWith("//"))
+        bytes.remove(0, 1);
+
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder(bytes);
+    if (!decoder.hasError())
+        return QUrl::fromLocalFile(text);
+    return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/"), QUrl::StrictMode);
+}
+
+std::filesystem::path pathOf(const QUrl& url) {
+    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
+    return std::filesystem::path(QByteArray::fromPercentEncoding(encoded).toStdString());
+}
+
+QString displayName(const QUrl& url) {
+    return textOf(pathOf(url).filename());
+}
+
+QString displayBaseName(const QUrl& url) {
+    return textOf(pathOf(url).stem());
+}
+
+} // namespace brisklet

@@ -1,0 +1,23 @@
+#include "Support/MainThread.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+#include <QThread>
+
+#include <utility>
+
+namespace brisklet {
+
+bool isMainThread() {
+    const QCoreApplication* application = QCoreApplication::instance();
+    return application != nullptr && application->thread() == QThread::currentThread();
+}
+
+void postToMainThread(std::function<void()> work) {
+    // The application object stands for its thread: it outlives every window, and the events of a
+    // destroyed receiver are dropped by Qt. Workers end before it does (waitForWorkers()).
+    if (QCoreApplication* application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(application, std::move(work), Qt::QueuedConnection);
+}
+
+} // namespace brisklet

@@ -1,0 +1,57 @@
+#include "Support/Thumbnailer.h"
+
+#include "Media/ImageGenerator.h"
+#include "Support/ImageConversion.h"
+#include "Support/Workers.h"
+
+#include <exception>
+
+namespace brisklet::Thumbnailer {
+
+namespace {
+
+constexpr int kMaximumHeight = 120;
+constexpr double kToleranceSeconds = 0.5;
+
+media::Time middleOfSlice(int index, double duration, int count) {
+    return media::Time::fromSeconds((index + 0.5) * duration / count, media::kComparisonTimescale);
+}
+
+} // namespace
+
+QCoro::Task<QList<QImage>> filmstrip(std::shared_ptr<const media::Asset> asset, double duration,
+                                     int count, std::stop_token stop) {
+    if (duration <= 0 || count < 1)
+        co_return QList<QImage>();
+    co_return co_await runOnWorker(
+        [asset, duration, count, stop] { return makeFilmstrip(asset, duration, count, stop); });
+}
+
+QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, double duration,
+                            int count, const std::stop_token& stop) {
+    QList<QImage> images;
+    if (duration <= 0 || count < 1)
+        return images;
+    try {
+        media::ImageGenerator generator(asset);
+        generator.setMaximumSize(0, kMaximumHeight);
+        const media::Time tolerance =
+            media::Time::fromSeconds(kToleranceSeconds, media::kComparisonTimescale);
+        generator.setTolerance(tolerance, tolerance);
+        for (int index = 0; index < count && !stop.stop_requested(); ++index) {
+            try {
+                const media::Time time = middleOfSlice(index, duration, count);
+                images.append(toQImage(generator.image(time, stop).image));
+            } catch (const std::exception&) {
+                // The strip goes on without this image: a damaged spot must not hide the rest.
+                continue;
+            }
+        }
+    } catch (const std::exception&) {
+        // No generator, no images: the timeline does without.
+        return images;
+    }
+    return images;
+}
+
+} // namespace brisklet::Thumbnailer

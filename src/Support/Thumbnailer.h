@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Media/Asset.h"
+
+#include <QCoroTask>
+#include <QImage>
+#include <QList>
+
+#include <memory>
+#include <stop_token>
+
+/// Makes the filmstrip of a video: a few small stills, evenly spaced over its whole length.
+namespace brisklet::Thumbnailer {
+
+/// `count` upright images, at most 120 pixels high, from the middles of `count` equal slices of
+/// `duration` (seconds), in time order. Each may show a frame up to half a second off. Images that
+/// cannot be made are left out; never throws. Works on a worker thread and resumes the caller on
+/// its own; a stop request ends it early with what there is.
+QCoro::Task<QList<QImage>> filmstrip(std::shared_ptr<const media::Asset> asset, double duration,
+                                     int count, std::stop_token stop = {});
+
+/// The same, blocking, on the calling thread.
+QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, double duration,
+                            int count, const std::stop_token& stop = {});
+
+} // namespace brisklet::Thumbnailer

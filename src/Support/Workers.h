@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QCoroFuture>
+#include <QCoroTask>
+#include <QFuture>
+#include <QPromise>
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <type_traits>
+#include <utility>
+
+namespace brisklet {
+
+/// Starts `work` on a thread of its own choosing, at once: however many long jobs run already, a
+/// short one never waits behind them.
+void startWorker(std::function<void()> work);
+
+/// Blocks until every worker has ended. The program calls it once its last window is gone, so that
+/// no worker outlives the application object.
+void waitForWorkers();
+
+/// Runs blocking work on a worker thread; the coroutine that awaits it resumes on the thread it
+/// came from, with the work's result or its exception. The work must be copyable, and should watch
+/// a stop token if it may take long.
+///
+/// Exceptions are carried beside the future: QFuture itself keeps the type of only those that
+/// derive from QException.
+template<typename Work>
+QCoro::Task<std::invoke_result_t<Work&>> runOnWorker(Work work) {
+    using Result = std::invoke_result_t<Work&>;
+
+    struct Outcome {
+        std::conditional_t<std::is_void_v<Result>, std::optional<bool>, std::optional<Result>>
+            value;
+        std::exception_ptr error;
+        QPromise<void> promise;
+    };
+
+    const auto outcome = std::make_shared<Outcome>();
+    const QFuture<void> finished = outcome->promise.future();
+    outcome->promise.start();
+    startWorker([outcome, work = std::move(work)]() mutable {
+        try {
+            if constexpr (std::is_void_v<Result>)
+                work();
+            else
+                outcome->value.emplace(work());
+        } catch (...) {
+            outcome->error = std::current_exception();
+        }
+        outcome->promise.finish();
+    });
+    co_await finished;
+    if (outcome->error)
+        std::rethrow_exception(std::exchange(outcome->error, nullptr));
+    if constexpr (!std::is_void_v<Result>)
+        co_return std::move(*outcome->value);
+}
+
+} // namespace brisklet

@@ -1,0 +1,112 @@
+#include "Views/PlayerLayerView.h"
+
+#include "Support/ImageConversion.h"
+#include "Views/PictureLayout.h"
+
+#include <QPainter>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+QSize inDevicePixels(const QWidget& widget) {
+    const qreal ratio = widget.devicePixelRatio();
+    return {qRound(widget.width() * ratio), qRound(widget.height() * ratio)};
+}
+
+} // namespace
+
+PlayerLayerView::PlayerLayerView(QWidget* parent) : QWidget(parent) {}
+
+PlayerLayerView::~PlayerLayerView() {
+    setPlayer(nullptr);
+}
+
+void PlayerLayerView::setPlayer(std::shared_ptr<media::Player> player) {
+    if (m_player)
+        m_player->setVideoSink(nullptr);
+    m_player = std::move(player);
+    present({});
+    m_announcedSize = QSize();
+    if (!m_player)
+        return;
+    announceSize();
+    m_player->setVideoSink(this);
+}
+
+void PlayerLayerView::setRotation(int degrees) {
+    if (m_rotation == degrees)
+        return;
+    m_rotation = degrees;
+    announceSize();
+    update();
+}
+
+QRectF PlayerLayerView::videoRect() const {
+    const qreal ratio = devicePixelRatio();
+    const QRect rect =
+        PictureLayout::fit(m_image.size(), m_rotation, QRect({}, inDevicePixels(*this))).rect;
+    return {rect.x() / ratio, rect.y() / ratio, rect.width() / ratio, rect.height() / ratio};
+}
+
+void PlayerLayerView::present(const media::TimedImage& frame) {
+    bool isUpdateAsked = false;
+    {
+        const auto inbox = m_inbox.lock();
+        inbox->newest = frame.image;
+        isUpdateAsked = std::exchange(inbox->isUpdateAsked, true);
+    }
+    // However many frames arrive before the main thread comes round, it takes the newest once.
+    if (!isUpdateAsked)
+        QMetaObject::invokeMethod(this, &PlayerLayerView::takeFrame, Qt::QueuedConnection);
+}
+
+void PlayerLayerView::takeFrame() {
+    media::ImagePtr newest;
+    {
+        const auto inbox = m_inbox.lock();
+        inbox->isUpdateAsked = false;
+        newest = inbox->newest;
+    }
+    m_image = toQImage(std::move(newest));
+    update();
+}
+
+void PlayerLayerView::paintEvent(QPaintEvent* /*event*/) {
+    // A window that moves to a screen of another density is only painted anew.
+    announceSize();
+    if (m_image.isNull())
+        return;
+    QPainter painter(this);
+    // The layout is made in the pixels of the screen, so that the picture's own pixels meet them.
+    const QTransform toDevice = painter.deviceTransform();
+    const QRect view = toDevice.mapRect(QRectF(rect())).toRect();
+    const auto layout = PictureLayout::fit(m_image.size(), m_rotation, view);
+    painter.setTransform(layout.transform * toDevice.inverted());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, layout.isScaled);
+    painter.drawImage(QPointF(0, 0), m_image);
+}
+
+void PlayerLayerView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    announceSize();
+}
+
+void PlayerLayerView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    announceSize();
+}
+
+void PlayerLayerView::announceSize() {
+    QSize size = inDevicePixels(*this);
+    if (m_rotation % 180 != 0)
+        size.transpose();
+    if (!m_player || size.isEmpty() || size == m_announcedSize)
+        return;
+    m_announcedSize = size;
+    m_player->setPreviewSize(size.width(), size.height());
+}
+
+} // namespace brisklet

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Media/Guarded.h"
+#include "Media/Player.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <memory>
+
+namespace brisklet {
+
+/// Shows the current frame of one player: whole, centred, never stretched; and nothing but the
+/// frame, so what lies behind shows in the bars beside it. Each pixel that the player delivers is
+/// one pixel of the screen unless the picture is smaller than the view.
+///
+/// Main thread, but for present(). Keeps the player it shows alive; a player is shown by one view.
+class PlayerLayerView final : public QWidget, public media::VideoSink {
+    Q_OBJECT
+
+public:
+    explicit PlayerLayerView(QWidget* parent = nullptr);
+    ~PlayerLayerView() override;
+
+    [[nodiscard]] const std::shared_ptr<media::Player>& player() const { return m_player; }
+
+    /// null shows nothing.
+    void setPlayer(std::shared_ptr<media::Player> player);
+
+    /// Turns the picture clockwise by quarter turns, in degrees. The player does not hear of it.
+    [[nodiscard]] int rotation() const { return m_rotation; }
+
+    void setRotation(int degrees);
+
+    /// The part of the view that the picture covers, in the view's coordinates; empty without one.
+    [[nodiscard]] QRectF videoRect() const;
+
+    /// Any thread.
+    void present(const media::TimedImage& frame) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    struct Inbox {
+        media::ImagePtr newest;
+        /// The main thread has been asked to take it.
+        bool isUpdateAsked = false;
+    };
+
+    void announceSize();
+    void takeFrame();
+
+    std::shared_ptr<media::Player> m_player;
+    int m_rotation = 0;
+    /// The frame on screen.
+    QImage m_image;
+    /// The size last announced to the player, device pixels.
+    QSize m_announcedSize;
+
+    media::Guarded<Inbox> m_inbox;
+};
+
+} // namespace brisklet
