@@ -9,6 +9,10 @@
 
 namespace media {
 
+namespace playback {
+class AudioOutput;
+}
+
 /// Runs a callable later on the thread that owns a player, in the order given. The program posts
 /// to its main loop; tests pump by hand. Must be callable from any thread, and may be called
 /// after the player is gone.
@@ -27,6 +31,7 @@ public:
 class PlayerItem {
 public:
     explicit PlayerItem(std::shared_ptr<const Asset> asset) : m_asset(std::move(asset)) {}
+
     [[nodiscard]] const std::shared_ptr<const Asset>& asset() const { return m_asset; }
 
 private:
@@ -42,7 +47,10 @@ class Player {
 public:
     using Token = std::uint64_t;
 
+    /// Sounds on the system's default device.
     explicit Player(Executor executor);
+    /// Sounds on `output`, which is used and released on a thread of the player's own.
+    Player(Executor executor, std::unique_ptr<playback::AudioOutput> output);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
     ~Player();
@@ -59,12 +67,13 @@ public:
     [[nodiscard]] float rate() const;
 
     /// Moves to `time`, clamped to the item; keeps the rate. A zero tolerance shows the frame at
-    /// exactly that time. A later seek replaces an earlier one that is still on its way. `done` (may be
-    /// empty) runs when the frame has been handed to the sink (true) or the seek was replaced
-    /// (false).
+    /// exactly that time. A later seek replaces an earlier one that is still on its way. `done`
+    /// (may be empty) runs when the frame has been handed to the sink (true) or the seek was
+    /// replaced (false).
     void seek(Time time, Time toleranceBefore, Time toleranceAfter,
               std::function<void(bool finished)> done = {});
-    /// Moves by `count` frames (negative: backward) from the frame on screen and pauses.
+    /// Moves by `count` frames (negative: backward) from the frame on screen, which is left where
+    /// it is at either end, and pauses. The current time becomes that of the frame shown.
     void step(int count);
 
     /// The current time on the item's time line; during a seek its target. invalid() without item.
@@ -80,20 +89,25 @@ public:
     void setPreviewSize(int pixelWidth, int pixelHeight);
 
     /// Calls `handler` with the current time every `interval` of playback and whenever the time
-    /// jumps.
+    /// jumps. An owner that falls behind gets one call for several intervals.
     Token addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler);
     void removeTimeObserver(Token token);
     /// Called after every change of rate(), with the new rate.
     void setRateHandler(std::function<void(float rate)> handler);
-    /// Called when an item has played to its end; the argument is that item.
+    /// Called when an item has played to its end, after the rate has become 0 and the time
+    /// observers have got the end time; the argument is that item.
     void setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler);
 
-    /// Frames handed to the sink, and frames given up because they were late, since creation.
+    /// Counts of frames since creation.
     struct Statistics {
+        /// Handed to the sink (or to none).
         std::uint64_t shown = 0;
+        /// Among those, the ones that were handed over more than 20 ms after their time.
         std::uint64_t late = 0;
+        /// Given up for a later one.
         std::uint64_t dropped = 0;
     };
+
     [[nodiscard]] Statistics statistics() const;
 
 private:
@@ -101,4 +115,4 @@ private:
     std::shared_ptr<Private> d;
 };
 
-}  // namespace media
+} // namespace media

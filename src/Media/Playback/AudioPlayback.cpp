@@ -1,0 +1,295 @@
+#include "Media/Playback/AudioPlayback.h"
+
+#include "Media/Error.h"
+
+#include <algorithm>
+#include <span>
+
+namespace media::playback {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+/// What is kept queued: enough for the thread to be late by that much.
+constexpr std::size_t kQueuedFrames = kOutputSampleRate * 3 / 4;
+/// Between two looks at the device while playing.
+constexpr milliseconds kRound{10};
+constexpr milliseconds kIdle{3'600'000};
+/// A device whose position stands for so long is taken for gone.
+constexpr milliseconds kStalled{1000};
+/// How long the device stays open after the end of an item, so that a loop starts at once.
+constexpr milliseconds kLinger{1000};
+constexpr milliseconds kFirstRetry{1000};
+constexpr milliseconds kLastRetry{60'000};
+/// A position that took longer to ask for says nothing about when it was true.
+constexpr milliseconds kExactReading{4};
+/// How far ahead of the running clock sound is prepared that is to fall in with it.
+constexpr milliseconds kHeadStart{250};
+
+SteadyTime now() {
+    return std::chrono::steady_clock::now();
+}
+
+nanoseconds duration(std::int64_t frames) {
+    return nanoseconds(frames * kNanoTimescale / kOutputSampleRate);
+}
+
+std::int64_t frameCount(nanoseconds duration) {
+    return duration.count() * kOutputSampleRate / kNanoTimescale;
+}
+
+Time later(Time time, nanoseconds by) {
+    return Time{(toNanoseconds(time) + by).count(), kNanoTimescale};
+}
+
+} // namespace
+
+AudioPlayback::AudioPlayback(Playback& playback, std::unique_ptr<AudioOutput> output)
+    : m_playback(playback), m_output(std::move(output)), m_retryDelay(kFirstRetry) {}
+
+void AudioPlayback::work(const std::stop_token& stop) {
+    while (!stop.stop_requested()) {
+        if (takeRun())
+            beginRun();
+        const Pause pause = m_run.isWanted ? serve() : idle();
+        auto access = m_playback.transport.lock();
+        if (access->run == m_run.number)
+            access->audioWake.wait(access, stop, now() + pause);
+    }
+    closeOutput();
+}
+
+bool AudioPlayback::takeRun() {
+    auto access = m_playback.transport.lock();
+    if (access->run == m_run.number)
+        return false;
+    m_run = {access->run,         access->item,
+             access->time(now()), access->isRunningWanted(),
+             access->hasEnded,    access->audioWork.get_token()};
+    return true;
+}
+
+void AudioPlayback::beginRun() {
+    m_queue.begin();
+    m_isPlaced = false;
+    m_isDriving = false;
+    m_isStale = false;
+    if (!m_run.isWanted) {
+        m_closeAt = now() + (m_run.hasEnded ? kLinger : milliseconds(0));
+        if (m_item != m_run.item) {
+            m_reader.reset();
+            m_item.reset();
+        }
+        return;
+    }
+    m_lastMoved = now();
+    openReader();
+    prepare(m_run.start);
+}
+
+AudioPlayback::Pause AudioPlayback::idle() {
+    if (!m_isOpen)
+        return kIdle;
+    const SteadyTime time = now();
+    if (time < m_closeAt)
+        return std::chrono::ceil<Pause>(m_closeAt - time);
+    closeOutput();
+    return kIdle;
+}
+
+AudioPlayback::Pause AudioPlayback::serve() {
+    if (!m_reader) {
+        runSteadily();
+        return kIdle;
+    }
+    if (!m_isOpen && now() < m_retryAt) {
+        runSteadily();
+        m_isStale = true;
+        return std::max(kRound, std::chrono::ceil<Pause>(m_retryAt - now()));
+    }
+    if (m_isPlaced && !m_isDriving && isClockRunning())
+        m_isStale = true;
+    if (m_isStale)
+        prepare(later(clockTime(), kHeadStart));
+    fill();
+    if (!m_isPlaced)
+        place();
+    if (!m_isOpen && (m_isPlaced || isClockRunning()) && !openOutput())
+        return kRound;
+    if (m_isOpen)
+        drive();
+    return kRound;
+}
+
+void AudioPlayback::openReader() {
+    if (m_item == m_run.item)
+        return;
+    m_item = m_run.item;
+    m_reader.reset();
+    const AudioReader::Format format{AV_SAMPLE_FMT_FLT, kOutputSampleRate, kOutputChannels};
+    for (const AssetTrack& track : m_item->asset()->tracks(MediaType::audio)) {
+        try {
+            m_reader = std::make_unique<AudioReader>(m_item->asset(), track, format);
+            return;
+        } catch (const std::exception&) {
+            // The next track may be one that can be decoded; without any the item is silent.
+        }
+    }
+}
+
+/// Begins the queue anew with the sound at `at`.
+void AudioPlayback::prepare(Time at) {
+    m_queue.begin();
+    m_start = at;
+    m_isPlaced = false;
+    m_isDriving = false;
+    m_isStale = false;
+    m_block.reset();
+    m_isAtEnd = false;
+    if (!m_reader)
+        return;
+    try {
+        m_reader->seek(at, m_run.stop);
+    } catch (const std::exception&) {
+        // Given up for a newer run, or unreadable: silence until then.
+        m_isAtEnd = true;
+    }
+}
+
+void AudioPlayback::fill() {
+    try {
+        while (!m_isAtEnd && m_queue.queuedFrames() < kQueuedFrames) {
+            if (!m_block) {
+                m_block = m_reader->next(m_run.stop);
+                m_blockOffset = 0;
+            }
+            if (!m_block)
+                m_isAtEnd = true;
+            else if (!writeBlock())
+                return;
+        }
+    } catch (const std::exception&) {
+        m_isAtEnd = true;
+    }
+}
+
+/// Whether the whole block found room.
+bool AudioPlayback::writeBlock() {
+    const auto* samples = static_cast<const float*>(static_cast<const void*>(m_block->data[0]));
+    const std::span all(samples, static_cast<std::size_t>(m_block->nb_samples) * kOutputChannels);
+    m_blockOffset += m_queue.write(all.subspan(m_blockOffset)) * kOutputChannels;
+    if (m_blockOffset < all.size())
+        return false;
+    m_block.reset();
+    return true;
+}
+
+void AudioPlayback::place() {
+    bool isClockRunning = false;
+    {
+        auto access = m_playback.transport.lock();
+        if (access->run != m_run.number || !access->isPictureReady)
+            return;
+        isClockRunning = access->clock.isRunning();
+    }
+    if (isClockRunning) {
+        placeIntoRunningClock();
+        return;
+    }
+    m_queue.play();
+    m_isPlaced = true;
+}
+
+void AudioPlayback::placeIntoRunningClock() {
+    const std::optional<std::uint64_t> heard = m_isOpen ? m_output->heardFrames() : std::nullopt;
+    // Before its position moves it is not known when a new device will be heard.
+    if (!heard || *heard == 0)
+        return;
+    const nanoseconds ahead = toNanoseconds(m_start) - toNanoseconds(clockTime());
+    m_queue.play(static_cast<std::int64_t>(*heard) + frameCount(ahead));
+    m_isPlaced = true;
+    m_isDriving = true;
+}
+
+bool AudioPlayback::openOutput() {
+    if (!m_output->start(m_queue)) {
+        giveUpOutput();
+        runSteadily();
+        return false;
+    }
+    m_isOpen = true;
+    m_lastHeard = 0;
+    m_lastMoved = now();
+    return true;
+}
+
+void AudioPlayback::closeOutput() {
+    m_output->stop();
+    m_queue.reset();
+    m_isOpen = false;
+    m_isPlaced = false;
+    m_isDriving = false;
+}
+
+/// The clock goes on as it ran; the device is tried again after a while.
+void AudioPlayback::giveUpOutput() {
+    closeOutput();
+    m_isStale = true;
+    m_retryAt = now() + m_retryDelay;
+    m_retryDelay = std::min(2 * m_retryDelay, kLastRetry);
+}
+
+void AudioPlayback::drive() {
+    const SteadyTime before = now();
+    const std::optional<std::uint64_t> heard = m_output->heardFrames();
+    const SteadyTime after = now();
+    if (m_output->hasFailed() || hasStalled(heard.value_or(m_lastHeard), after)) {
+        giveUpOutput();
+        runSteadily();
+        return;
+    }
+    const std::optional<std::int64_t> first = m_queue.firstDeviceFrame();
+    if (!m_isPlaced || !heard || !first || after - before > kExactReading)
+        return;
+    const std::int64_t frames = static_cast<std::int64_t>(*heard) - *first;
+    auto access = m_playback.transport.lock();
+    if (frames <= 0 || access->run != m_run.number || !access->isRunningWanted())
+        return;
+    const bool wasRunning = access->clock.isRunning();
+    if (wasRunning && !m_isDriving)
+        return;
+    m_isDriving = true;
+    access->clock.correct(later(m_start, duration(frames)), before + (after - before) / 2);
+    if (!wasRunning)
+        access->presenterWake.raise();
+}
+
+bool AudioPlayback::hasStalled(std::uint64_t heard, SteadyTime time) {
+    if (heard != m_lastHeard) {
+        m_lastHeard = heard;
+        m_lastMoved = time;
+        m_retryDelay = kFirstRetry;
+    }
+    return time - m_lastMoved > kStalled;
+}
+
+/// Lets the clock run without a device, as soon as the picture is there.
+void AudioPlayback::runSteadily() {
+    auto access = m_playback.transport.lock();
+    if (access->run != m_run.number || !access->isRunningWanted() || !access->isPictureReady ||
+        access->clock.isRunning())
+        return;
+    access->clock.run(now());
+    access->presenterWake.raise();
+}
+
+bool AudioPlayback::isClockRunning() {
+    return m_playback.transport.lock()->clock.isRunning();
+}
+
+Time AudioPlayback::clockTime() {
+    return m_playback.transport.lock()->time(now());
+}
+
+} // namespace media::playback

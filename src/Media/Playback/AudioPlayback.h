@@ -1,0 +1,94 @@
+#pragma once
+
+#include "Media/AudioReader.h"
+#include "Media/Playback/AudioOutput.h"
+#include "Media/Playback/SoundQueue.h"
+#include "Media/Playback/Transport.h"
+
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace media::playback {
+
+/// Sounds what a player plays, and drives its clock: by the position of the sound device where
+/// there is one, by the steady clock where there is none, where it fails or where the item is
+/// silent. Lives on one thread of its own, which owns the reader and the device and alone may be
+/// kept waiting by it.
+///
+/// Each run of the transport is prepared (the reader is moved, the queue filled), placed (the
+/// queue is let be heard, once the picture is there) and then driven (each position heard corrects
+/// the clock). Where the clock runs already, because the device came late, a run is placed so
+/// that it falls in with the clock.
+class AudioPlayback {
+public:
+    AudioPlayback(Playback& playback, std::unique_ptr<AudioOutput> output);
+
+    void work(const std::stop_token& stop);
+
+    /// Any thread. Applies from the device's next pull on.
+    void setMuted(bool muted) { m_queue.setMuted(muted); }
+
+private:
+    using Pause = std::chrono::milliseconds;
+
+    struct Run {
+        std::uint64_t number = 0;
+        std::shared_ptr<const PlayerItem> item;
+        Time start;
+        bool isWanted = false;
+        /// Not wanted because the item ended: it may well be wanted again in a moment.
+        bool hasEnded = false;
+        std::stop_token stop;
+    };
+
+    bool takeRun();
+    void beginRun();
+    Pause idle();
+    Pause serve();
+
+    void openReader();
+    void prepare(Time at);
+    void fill();
+    bool writeBlock();
+    void place();
+    void placeIntoRunningClock();
+    bool openOutput();
+    void closeOutput();
+    void giveUpOutput();
+    void drive();
+    [[nodiscard]] bool hasStalled(std::uint64_t heard, SteadyTime now);
+    void runSteadily();
+
+    [[nodiscard]] bool isClockRunning();
+    [[nodiscard]] Time clockTime();
+
+    Playback& m_playback;
+    SoundQueue m_queue;
+    std::unique_ptr<AudioOutput> m_output;
+    Run m_run;
+
+    std::shared_ptr<const PlayerItem> m_item;
+    /// Null where the item has no sound that can be decoded.
+    std::unique_ptr<AudioReader> m_reader;
+    ffmpeg::FramePtr m_block;
+    std::size_t m_blockOffset = 0;
+    bool m_isAtEnd = false;
+
+    /// The item's time of the queue's first frame.
+    Time m_start;
+    bool m_isPlaced = false;
+    /// The clock follows the device (or was followed when the run was placed).
+    bool m_isDriving = false;
+    /// The clock has left what is queued behind.
+    bool m_isStale = false;
+
+    bool m_isOpen = false;
+    SteadyTime m_closeAt;
+    SteadyTime m_retryAt;
+    Pause m_retryDelay;
+    std::uint64_t m_lastHeard = 0;
+    SteadyTime m_lastMoved;
+};
+
+} // namespace media::playback
