@@ -103,7 +103,8 @@ SwrContextPtr SampleConverter::makeContext(const AVFrame& frame, bool matchesByI
         std::array<int, kMostChannels> channels = {};
         for (int i = 0; i < std::min(layout().nb_channels, kMostChannels); ++i)
             channels[static_cast<std::size_t>(i)] = i < frame.ch_layout.nb_channels ? i : -1;
-        check(av_opt_set_chlayout(result.get(), "used_chlayout", &layout(), 0));
+        if (av_opt_set_int(result.get(), "used_channel_count", layout().nb_channels, 0) < 0)
+            check(av_opt_set_chlayout(result.get(), "used_chlayout", &layout(), 0));
         check(swr_set_channel_mapping(result.get(), channels.data()));
     }
     return result;

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Media/Error.h"
+
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <stop_token>
+
+namespace media {
+
+/// Hands values from one thread to another in order, holding up the writer while `capacity` of
+/// them wait. Both ends throw Cancelled as soon as `stop` is requested.
+template<typename T>
+class BoundedQueue {
+public:
+    BoundedQueue(std::size_t capacity, std::stop_token stop)
+        : m_capacity(capacity), m_stop(std::move(stop)) {}
+
+    void push(T value) {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, m_stop, [this] { return m_values.size() < m_capacity; });
+        if (m_stop.stop_requested())
+            throw Cancelled();
+        m_values.push_back(std::move(value));
+        m_changed.notify_all();
+    }
+
+    /// Nothing more will be pushed.
+    void finish() {
+        const std::lock_guard lock(m_mutex);
+        m_isFinished = true;
+        m_changed.notify_all();
+    }
+
+    /// The oldest value; none when the queue is finished and empty.
+    std::optional<T> pop() {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, m_stop, [this] { return !m_values.empty() || m_isFinished; });
+        if (m_stop.stop_requested())
+            throw Cancelled();
+        if (m_values.empty())
+            return std::nullopt;
+        std::optional<T> value(std::move(m_values.front()));
+        m_values.pop_front();
+        m_changed.notify_all();
+        return value;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable_any m_changed;
+    std::deque<T> m_values;
+    std::size_t m_capacity;
+    bool m_isFinished = false;
+    std::stop_token m_stop;
+};
+
+} // namespace media

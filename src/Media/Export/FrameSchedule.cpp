@@ -1,0 +1,138 @@
+#include "Media/Export/FrameSchedule.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace media {
+
+namespace {
+
+/// Finer time bases than this gain nothing and make the numbers in the file large.
+constexpr std::int64_t kFinestTimescale = 1'000'000;
+/// The fallback's ticks are those of transport streams, a whole number for the usual frame rates.
+constexpr std::int32_t kFallbackTimescale = 90'000;
+
+/// A timescale in which both the source's times and cuts at 1/600 s are whole numbers.
+std::int32_t timescaleFor(std::int64_t sourceTimescale) {
+    const std::int64_t common = std::lcm<std::int64_t>(sourceTimescale, kComparisonTimescale);
+    return common <= kFinestTimescale ? static_cast<std::int32_t>(common) : kFallbackTimescale;
+}
+
+class SourceTiming final : public FrameSchedule {
+public:
+    SourceTiming(VideoReader& reader, const CompositionTrack& track, std::int32_t sourceTimescale)
+        : m_reader(reader),
+          m_range(track.range),
+          m_endTicks(track.range.end.comparisonTicks()),
+          m_timescale(timescaleFor(sourceTimescale)),
+          m_duration(track.range.duration().rescaled(m_timescale).value) {
+        // Sources of variable rate may well run faster for a while than they do on average.
+        constexpr double kLeastRate = 60;
+        const double rate = std::max(kLeastRate, 2 * static_cast<double>(track.source.nominalFrameRate));
+        m_expectedFrames =
+            static_cast<std::int64_t>(std::ceil(m_range.duration().seconds() * rate)) + 16;
+    }
+
+    [[nodiscard]] AVRational timeBase() const override { return {1, m_timescale}; }
+
+    [[nodiscard]] std::int64_t expectedFrames() const override { return m_expectedFrames; }
+
+    std::optional<ScheduledFrame> next(const std::stop_token& stop) override {
+        const bool isFirst = !m_hasStarted;
+        if (isFirst)
+            m_reader.seek(m_range.start.comparisonTicks(), stop);
+        m_hasStarted = true;
+        for (;;) {
+            auto source = m_reader.next(stop);
+            if (!source || (!isFirst && source->ticks >= m_endTicks))
+                return std::nullopt;
+            const DecodedFrame* following = m_reader.peek(stop);
+            if (following && following->ticks <= source->ticks)
+                continue;
+            ScheduledFrame result;
+            result.pts = isFirst ? 0 : std::max(m_nextPts, exportTime(source->time));
+            const bool isLast = !following || following->ticks >= m_endTicks;
+            const std::int64_t end = isLast ? m_duration : exportTime(following->time);
+            result.duration = std::max<std::int64_t>(end - result.pts, 1);
+            result.frame = std::move(source->frame);
+            m_nextPts = result.pts + 1;
+            return result;
+        }
+    }
+
+private:
+    [[nodiscard]] std::int64_t exportTime(Time time) const {
+        return (time - m_range.start).rescaled(m_timescale).value;
+    }
+
+    VideoReader& m_reader;
+    TimeRange m_range;
+    std::int64_t m_endTicks;
+    std::int32_t m_timescale;
+    std::int64_t m_duration;
+    std::int64_t m_expectedFrames = 0;
+    std::int64_t m_nextPts = 0;
+    bool m_hasStarted = false;
+};
+
+class ConstantRate final : public FrameSchedule {
+public:
+    ConstantRate(VideoReader& reader, const TimeRange& range, Time frameDuration)
+        : m_reader(reader),
+          m_start(range.start),
+          m_frameDuration(frameDuration),
+          m_timescale(timescaleFor(frameDuration.timescale)),
+          m_duration(range.duration().rescaled(m_timescale).value),
+          m_step(frameDuration.rescaled(m_timescale).value) {}
+
+    [[nodiscard]] AVRational timeBase() const override { return {1, m_timescale}; }
+
+    [[nodiscard]] std::int64_t expectedFrames() const override {
+        return std::max<std::int64_t>((m_duration + m_step - 1) / m_step, 1);
+    }
+
+    std::optional<ScheduledFrame> next(const std::stop_token& stop) override {
+        if (m_number >= expectedFrames())
+            return std::nullopt;
+        const Time offset{m_frameDuration.value * m_number, m_frameDuration.timescale};
+        m_reader.seek((m_start + offset).comparisonTicks(), stop);
+        const DecodedFrame* source = m_reader.peek(stop);
+        if (!source)
+            return std::nullopt;
+        ScheduledFrame result;
+        result.pts = m_number * m_step;
+        result.duration = std::min(m_step, std::max<std::int64_t>(m_duration - result.pts, 1));
+        result.isRepeat = m_shownTicks == source->ticks;
+        result.frame = ffmpeg::referenced(*source->frame);
+        m_shownTicks = source->ticks;
+        ++m_number;
+        return result;
+    }
+
+private:
+    VideoReader& m_reader;
+    Time m_start;
+    Time m_frameDuration;
+    std::int32_t m_timescale;
+    std::int64_t m_duration;
+    std::int64_t m_step;
+    std::int64_t m_number = 0;
+    /// Which source frame was scheduled last.
+    std::optional<std::int64_t> m_shownTicks;
+};
+
+} // namespace
+
+std::unique_ptr<FrameSchedule> FrameSchedule::sourceTiming(VideoReader& reader,
+                                                           const CompositionTrack& track,
+                                                           std::int32_t sourceTimescale) {
+    return std::make_unique<SourceTiming>(reader, track, sourceTimescale);
+}
+
+std::unique_ptr<FrameSchedule>
+FrameSchedule::constantRate(VideoReader& reader, const TimeRange& range, Time frameDuration) {
+    return std::make_unique<ConstantRate>(reader, range, frameDuration);
+}
+
+} // namespace media

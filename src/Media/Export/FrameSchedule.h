@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Media/Composition.h"
+#include "Media/VideoReader.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace media {
+
+/// A source picture and when the exported file shows it, in FrameSchedule::timeBase() from the
+/// start of the file.
+struct ScheduledFrame {
+    ffmpeg::FramePtr frame;
+    std::int64_t pts = 0;
+    std::int64_t duration = 0;
+    /// The same source picture as the one before.
+    bool isRepeat = false;
+};
+
+/// Decides which source pictures an export has, and when each is shown. Use from one thread.
+class FrameSchedule {
+public:
+    /// Every source frame whose display interval meets the range, with its own timing: the first
+    /// shows from 0, the last until the end of the range.
+    static std::unique_ptr<FrameSchedule>
+    sourceTiming(VideoReader& reader, const CompositionTrack& track, std::int32_t sourceTimescale);
+    /// A frame every `frameDuration` from 0, each the source's frame at that time of the range.
+    static std::unique_ptr<FrameSchedule> constantRate(VideoReader& reader, const TimeRange& range,
+                                                       Time frameDuration);
+
+    virtual ~FrameSchedule() = default;
+
+    [[nodiscard]] virtual AVRational timeBase() const = 0;
+    /// How many frames there will be; an estimate where the source's timing is kept.
+    [[nodiscard]] virtual std::int64_t expectedFrames() const = 0;
+    virtual std::optional<ScheduledFrame> next(const std::stop_token& stop) = 0;
+};
+
+} // namespace media

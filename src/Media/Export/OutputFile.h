@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace media {
+
+/// A file that appears under its final name only when it is complete.
+///
+/// Written under a hidden temporary name in the destination's folder; commit() flushes it to disk
+/// and renames it onto the destination, replacing an older file there. Destroyed without commit(),
+/// it leaves nothing behind. Use from one thread at a time.
+class OutputFile {
+public:
+    /// Creates the temporary file. Throws Error (a sentence for the user) if the folder is missing
+    /// or not writable, or if the destination is something else than a regular file.
+    explicit OutputFile(const std::filesystem::path& destination);
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+    ~OutputFile();
+
+    /// Writes at the current position; 0, or the errno of the failure.
+    int write(const std::uint8_t* data, std::int64_t count);
+
+    void seek(std::int64_t position) { m_position = position; }
+
+    [[nodiscard]] std::int64_t position() const { return m_position; }
+
+    [[nodiscard]] std::int64_t size() const { return m_size; }
+
+    /// Throws Error if the data cannot be brought to disk or the file not be given its name.
+    void commit();
+
+private:
+    void startWriteback();
+
+    std::filesystem::path m_destination;
+    std::filesystem::path m_temporary;
+    int m_descriptor = -1;
+    std::int64_t m_position = 0;
+    std::int64_t m_size = 0;
+    std::int64_t m_writebackEnd = 0;
+};
+
+} // namespace media

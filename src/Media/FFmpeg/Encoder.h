@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Media/FFmpeg/Handles.h"
+
+#include <optional>
+
+namespace media {
+struct EncoderSettings;
+}
+
+namespace media::ffmpeg {
+
+struct SourceTrack;
+
+/// What a video encoder has to produce.
+struct VideoEncoding {
+    int width = 2;
+    int height = 2;
+    AVRational timeBase{1, 600};
+    /// A hint for the encoder's rate control; frames may come at any time.
+    AVRational frameRate{30, 1};
+    AVRational sampleAspectRatio{1, 1};
+};
+
+/// Whether a track's pictures need more than 8 bits or HDR signalling, that is HEVC Main 10.
+bool needsDeepColor(const SourceTrack& track);
+
+/// A libav encoder. Use from one thread at a time.
+class Encoder {
+public:
+    /// H.264 High 8-bit, or HEVC Main 10 where needsDeepColor(), with the track's colour tags.
+    /// Throws Error.
+    static Encoder forVideo(const SourceTrack& track, const VideoEncoding& encoding,
+                            const EncoderSettings& settings);
+    /// AAC-LC at a transparent rate. None if the encoder does not know the channel layout.
+    static std::optional<Encoder> forAudio(int sampleRate, const AVChannelLayout& layout);
+
+    [[nodiscard]] AVCodecContext& context() { return *m_context; }
+
+    /// Hands in one frame; null begins draining. Throws Error.
+    void send(const AVFrame* frame);
+    /// The next packet; false if the encoder needs more input or is drained. Throws Error.
+    bool receive(AVPacket& packet);
+
+private:
+    explicit Encoder(CodecContextPtr context) : m_context(std::move(context)) {}
+
+    CodecContextPtr m_context;
+};
+
+/// The sample rate at which AAC carries sound of `sampleRate` Hz: the same where AAC knows it.
+int aacSampleRate(int sampleRate);
+
+} // namespace media::ffmpeg

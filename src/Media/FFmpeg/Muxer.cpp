@@ -1,0 +1,195 @@
+#include "Media/FFmpeg/Muxer.h"
+
+#include "Media/Export/OutputFile.h"
+#include "Media/FFmpeg/Check.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string_view>
+
+extern "C" {
+#include <libavutil/opt.h>
+}
+
+namespace media::ffmpeg {
+
+namespace {
+
+constexpr int kWriteBufferBytes = 1024 * 1024;
+/// The most that one packet takes in a track's tables (stts, ctts, stss, stsz, stsc, co64); bytes.
+constexpr std::int64_t kIndexBytesPerPacket = 44;
+/// Everything else in the index: headers, decoder configurations, metadata; bytes.
+constexpr std::int64_t kIndexBytes = 32 * 1024;
+
+/// What describes the source's file format or its encoding rather than its content.
+bool belongsToTheOldFile(std::string_view key) {
+    constexpr std::array<std::string_view, 7> kKeys = {
+        "major_brand", "minor_version", "compatible_brands", "encoder", "vendor_id",
+        "timecode",    "rotate"};
+    return std::ranges::find(kKeys, key) != kKeys.end();
+}
+
+void copyEntries(AVDictionary** target, const AVDictionary* source) {
+    const AVDictionaryEntry* entry = nullptr;
+    while ((entry = av_dict_get(source, "", entry, AV_DICT_IGNORE_SUFFIX))) {
+        if (belongsToTheOldFile(entry->key))
+            continue;
+        check(av_dict_set(target, entry->key, entry->value, 0));
+    }
+}
+
+std::int64_t metadataBytes(const AVDictionary* dictionary) {
+    std::int64_t bytes = 0;
+    const AVDictionaryEntry* entry = nullptr;
+    while ((entry = av_dict_get(dictionary, "", entry, AV_DICT_IGNORE_SUFFIX)))
+        bytes += static_cast<std::int64_t>(std::string_view(entry->value).size()) + 64;
+    return bytes;
+}
+
+void setDisplayMatrix(AVStream& stream, const AffineTransform& transform) {
+    if (transform == AffineTransform{})
+        return;
+    constexpr double kOne = 65536;
+    const auto fixed = [](double value) { return static_cast<std::int32_t>(std::lround(value)); };
+    const std::array<std::int32_t, 9> matrix = {
+        fixed(transform.a * kOne),  fixed(transform.b * kOne),  0,
+        fixed(transform.c * kOne),  fixed(transform.d * kOne),  0,
+        fixed(transform.tx * kOne), fixed(transform.ty * kOne), 1 << 30};
+    std::uint8_t* data =
+        allocated(av_stream_new_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, sizeof matrix));
+    std::copy_n(reinterpret_cast<const std::uint8_t*>(matrix.data()), sizeof matrix, data);
+}
+
+} // namespace
+
+struct Muxer::Io {
+    OutputFile& file;
+    /// errno of the first write that failed.
+    int error = 0;
+
+    static int write(void* opaque, std::uint8_t* data, int count) {
+        auto& io = *static_cast<Io*>(opaque);
+        if (io.error == 0)
+            io.error = io.file.write(data, count);
+        return io.error == 0 ? count : -io.error;
+    }
+
+    static std::int64_t seek(void* opaque, std::int64_t offset, int whence) {
+        auto& io = *static_cast<Io*>(opaque);
+        switch (whence & ~AVSEEK_FORCE) {
+        case AVSEEK_SIZE:
+            return io.file.size();
+        case SEEK_SET:
+            io.file.seek(offset);
+            return offset;
+        default:
+            return AVERROR(EINVAL);
+        }
+    }
+};
+
+Muxer::Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range)
+    : m_io(new Io{file}) {
+    silenceLog();
+    auto* buffer = static_cast<unsigned char*>(allocated(av_malloc(kWriteBufferBytes)));
+    m_ioContext.reset(allocated(avio_alloc_context(buffer, kWriteBufferBytes, 1, m_io.get(),
+                                                   nullptr, &Io::write, &Io::seek)));
+    AVFormatContext* context = nullptr;
+    check(avformat_alloc_output_context2(&context, nullptr, type == FileType::mpeg4 ? "mp4" : "mov",
+                                         nullptr));
+    m_context.reset(context);
+    m_context->pb = m_ioContext.get();
+    m_context->flags |= AVFMT_FLAG_CUSTOM_IO;
+    copyEntries(&m_context->metadata, info.metadata.get());
+    addChapters(info, range);
+}
+
+Muxer::~Muxer() = default;
+
+void Muxer::addChapters(const SourceInfo& info, const TimeRange& range) {
+    for (const SourceChapter& chapter : info.chapters) {
+        const Time start =
+            std::max(chapter.range.start, range.start, [](Time a, Time b) { return a < b; });
+        const Time end =
+            std::min(chapter.range.end, range.end, [](Time a, Time b) { return a < b; });
+        if (!(start < end))
+            continue;
+        auto* result = static_cast<AVChapter*>(allocated(av_mallocz(sizeof(AVChapter))));
+        int count = static_cast<int>(m_context->nb_chapters);
+        if (av_dynarray_add_nofree(&m_context->chapters, &count, result) < 0) {
+            av_free(result);
+            throw std::bad_alloc();
+        }
+        m_context->nb_chapters = static_cast<unsigned>(count);
+        constexpr std::int32_t kMilliseconds = 1000;
+        result->id = count;
+        result->time_base = {1, kMilliseconds};
+        result->start = (start - range.start).rescaled(kMilliseconds).value;
+        result->end = (end - range.start).rescaled(kMilliseconds).value;
+        if (!chapter.title.empty())
+            check(av_dict_set(&result->metadata, "title", chapter.title.c_str(), 0));
+    }
+}
+
+int Muxer::addStream(const AVCodecContext& encoder, const SourceTrack& source,
+                     const AffineTransform& transform) {
+    AVStream* stream = allocated(avformat_new_stream(m_context.get(), nullptr));
+    check(avcodec_parameters_from_context(stream->codecpar, &encoder));
+    stream->time_base = encoder.time_base;
+    stream->avg_frame_rate = encoder.framerate;
+    stream->sample_aspect_ratio = encoder.sample_aspect_ratio;
+    stream->disposition = source.disposition & AV_DISPOSITION_DEFAULT;
+    copyEntries(&stream->metadata, source.metadata.get());
+    if (encoder.codec_type == AVMEDIA_TYPE_VIDEO)
+        setDisplayMatrix(*stream, transform);
+    return stream->index;
+}
+
+void Muxer::writeHeader(std::int64_t expectedPackets) {
+    m_expectedPackets = expectedPackets;
+    m_roomBytes = kIndexBytes + expectedPackets * kIndexBytesPerPacket +
+                  metadataBytes(m_context->metadata) +
+                  static_cast<std::int64_t>(m_context->nb_streams) * 4096 +
+                  static_cast<std::int64_t>(m_context->nb_chapters) * 1024;
+    m_roomBytes = std::min<std::int64_t>(m_roomBytes, std::numeric_limits<int>::max());
+    checkIo(av_opt_set_int(m_context->priv_data, "moov_size", m_roomBytes, 0));
+    checkIo(avformat_write_header(m_context.get(), nullptr));
+    // After the room the muxer has begun the media box: an empty box and its own header, 8 bytes
+    // each.
+    m_roomPosition = avio_tell(m_ioContext.get()) - 16 - m_roomBytes;
+}
+
+void Muxer::write(AVPacket& packet, int stream, AVRational timeBase) {
+    packet.stream_index = stream;
+    av_packet_rescale_ts(&packet, timeBase, m_context->streams[stream]->time_base);
+    ++m_writtenPackets;
+    checkIo(av_write_frame(m_context.get(), &packet));
+}
+
+void Muxer::finish() {
+    if (m_writtenPackets > m_expectedPackets) {
+        turnReservedRoomIntoFreeBox();
+        checkIo(av_opt_set_int(m_context->priv_data, "moov_size", 0, 0));
+    }
+    checkIo(av_write_trailer(m_context.get()));
+    avio_flush(m_ioContext.get());
+    checkIo(m_ioContext->error);
+}
+
+void Muxer::turnReservedRoomIntoFreeBox() {
+    const std::int64_t end = avio_tell(m_ioContext.get());
+    avio_seek(m_ioContext.get(), m_roomPosition, SEEK_SET);
+    avio_wb32(m_ioContext.get(), static_cast<unsigned>(m_roomBytes));
+    avio_wl32(m_ioContext.get(), MKTAG('f', 'r', 'e', 'e'));
+    avio_seek(m_ioContext.get(), end, SEEK_SET);
+}
+
+void Muxer::checkIo(int result) {
+    if (m_io->error != 0)
+        check(-m_io->error);
+    check(result);
+}
+
+} // namespace media::ffmpeg

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Media/ExportSession.h"
+#include "Media/FFmpeg/Handles.h"
+#include "Media/FFmpeg/SourceInfo.h"
+
+namespace media {
+class OutputFile;
+}
+
+namespace media::ffmpeg {
+
+/// Writes encoded streams into an MP4 or MOV file whose index stands in front of the media, in
+/// one pass: room for it is kept free from the start. Use from one thread at a time.
+class Muxer {
+public:
+    /// Container metadata is taken from `info`. `file` must outlive the muxer.
+    Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range);
+    Muxer(const Muxer&) = delete;
+    Muxer& operator=(const Muxer&) = delete;
+    ~Muxer();
+
+    /// Adds a stream for an opened encoder, with the source track's language and names; the stream
+    /// number. `transform` is written as the display matrix of a video stream.
+    int addStream(const AVCodecContext& encoder, const SourceTrack& source,
+                  const AffineTransform& transform = {});
+
+    /// To be called once, when all streams are added. `expectedPackets`: of all streams together;
+    /// more are allowed, but then the index moves to the end of the file. Throws Error.
+    void writeHeader(std::int64_t expectedPackets);
+
+    /// Packets must come in decoding order over all streams; times in `timeBase`. Throws Error.
+    void write(AVPacket& packet, int stream, AVRational timeBase);
+
+    /// Completes the file (not its name). Throws Error.
+    void finish();
+
+private:
+    struct Io;
+
+    void addChapters(const SourceInfo& info, const TimeRange& range);
+    void checkIo(int result);
+    void turnReservedRoomIntoFreeBox();
+
+    std::unique_ptr<Io> m_io;
+    IoContextPtr m_ioContext;
+    OutputContextPtr m_context;
+    std::int64_t m_roomPosition = 0;
+    std::int64_t m_roomBytes = 0;
+    std::int64_t m_expectedPackets = 0;
+    std::int64_t m_writtenPackets = 0;
+};
+
+} // namespace media::ffmpeg
