@@ -280,7 +280,12 @@ private:
             }
             counted += secondsOf(*frame);
         }
-        return count > 0 ? std::optional(sum / count) : std::nullopt;
+        if (!first)
+            return std::nullopt;
+        // A file's first timestamp is rarely a rounded one.
+        const double mean = sum / count;
+        const bool isFirstOfFile = m_startedAtStart && !m_expected;
+        return isFirstOfFile && std::abs(mean - *first) < av_q2d(m_track.timeBase) ? *first : mean;
     }
 
     /// Whether the next frame lies elsewhere than right behind the last one, and most of the
