@@ -1,0 +1,180 @@
+#include "Media/Pixels/CanvasPainter.h"
+
+#include <algorithm>
+
+namespace media::pixels {
+
+namespace {
+
+/// The part of a plane with its corner at column x, line y.
+template<typename P>
+P part(P plane, int x, int y, int width, int height, int depth) {
+    plane.data = plane.line(y) + std::ptrdiff_t{x} * bytesPerSample(depth);
+    plane.width = width;
+    plane.height = height;
+    return plane;
+}
+
+void fill(Plane plane, int depth, unsigned value) {
+    for (int y = 0; y < plane.height; ++y) {
+        if (depth > 8)
+            std::fill_n(reinterpret_cast<std::uint16_t*>(plane.line(y)), plane.width,
+                        static_cast<std::uint16_t>(value));
+        else
+            std::fill_n(plane.line(y), plane.width, static_cast<std::uint8_t>(value));
+    }
+}
+
+/// Everything but the columns and rows given.
+void fillAround(Plane plane, Span columns, Span rows, int depth, unsigned value) {
+    fill(part(plane, 0, 0, plane.width, rows.first, depth), depth, value);
+    fill(part(plane, 0, rows.end, plane.width, plane.height - rows.end, depth), depth, value);
+    fill(part(plane, 0, rows.first, columns.first, rows.count(), depth), depth, value);
+    fill(part(plane, columns.end, rows.first, plane.width - columns.end, rows.count(), depth),
+         depth, value);
+}
+
+/// Moves every sample half-way to the value given.
+template<typename T>
+void halve(Plane plane, unsigned value) {
+    for (int y = 0; y < plane.height; ++y) {
+        auto* line = reinterpret_cast<T*>(plane.line(y));
+        std::transform(line, line + plane.width, line,
+                       [value](T sample) { return static_cast<T>((sample + value + 1) / 2); });
+    }
+}
+
+/// The samples of a plane with 2^shift pixels each that touch any of the pixels.
+Span subsampled(Span pixels, int shift) {
+    return {pixels.first >> shift, (pixels.end + (1 << shift) - 1) >> shift};
+}
+
+}  // namespace
+
+CanvasPainter::CanvasPainter(const PlanarFormat& picture, const CanvasMapping& mapping,
+                             const CanvasFormat& canvas)
+    : m_picture(picture), m_canvas(canvas) {
+    const bool transposed = mapping.transposed;
+    m_columns =
+        coverage(mapping.horizontal, transposed ? picture.height : picture.width, canvas.width);
+    m_rows = coverage(mapping.vertical, transposed ? picture.width : picture.height, canvas.height);
+    if (m_columns.count() == 0 || m_rows.count() == 0)
+        m_columns = m_rows = {};
+    for (unsigned plane = 0; plane < 3; ++plane)
+        prepare(m_steps[plane], plane, mapping);
+}
+
+void CanvasPainter::prepare(Step& step, unsigned plane, const CanvasMapping& mapping) const {
+    const bool isChroma = plane > 0 && m_picture.family != Family::rgb;
+    const int shift = isChroma ? m_canvas.chromaShift : 0;
+    PlanarFormat levels = m_picture;
+    levels.depth = m_canvas.depth;
+    step.background = isChroma ? neutralChroma(levels.depth) : blackLevel(levels);
+    if (plane > 0 && m_picture.family == Family::grey)
+        return;
+    step.isSubsampled = shift > 0;
+    step.columns = subsampled(m_columns, shift);
+    step.rows = subsampled(m_rows, shift);
+    if (m_columns.count() == 0)
+        return;
+
+    const int shiftX = isChroma ? m_picture.chromaShiftX : 0;
+    const int shiftY = isChroma ? m_picture.chromaShiftY : 0;
+    const AVChromaLocation location = m_picture.chromaLocation;
+    const SampleGrid gridX = isChroma ? chromaGridX(location, shiftX) : SampleGrid{};
+    const SampleGrid gridY = isChroma ? chromaGridY(location, shiftY) : SampleGrid{};
+    const AxisSampling across = sampling(
+        mapping.horizontal, mapping.transposed ? gridY : gridX,
+        isChroma ? chromaGridX(m_canvas.chromaLocation, shift) : SampleGrid{}, step.columns);
+    const AxisSampling down =
+        sampling(mapping.vertical, mapping.transposed ? gridX : gridY,
+                 isChroma ? chromaGridY(m_canvas.chromaLocation, shift) : SampleGrid{}, step.rows);
+    step.turn = {mapping.transposed, across.mirrored, down.mirrored};
+    const AxisSampling& x = mapping.transposed ? down : across;
+    const AxisSampling& y = mapping.transposed ? across : down;
+    step.width = x.count;
+    step.height = y.count;
+
+    const int width = (m_picture.width + (1 << shiftX) - 1) >> shiftX;
+    const int height = (m_picture.height + (1 << shiftY) - 1) >> shiftY;
+    const bool inside =
+        x.start >= 0 && x.start + x.count <= width && y.start >= 0 && y.start + y.count <= height;
+    if (x.isCopy() && y.isCopy() && inside && m_picture.depth == m_canvas.depth) {
+        step.copyX = x.firstCopied();
+        step.copyY = y.firstCopied();
+        return;
+    }
+    // Chroma has its zero in the middle: a change of depth multiplies it in either range.
+    const bool stretchesRange = m_picture.isFullRange && !isChroma;
+    step.resampler.emplace(
+        Resampling{.width = width,
+                   .height = height,
+                   .depth = m_picture.depth,
+                   .x = x,
+                   .y = y,
+                   .newDepth = m_canvas.depth,
+                   .isFullRange = stretchesRange,
+                   .filter = m_canvas.filter,
+                   .dithers = m_canvas.dithers && m_canvas.depth < m_picture.depth});
+}
+
+void CanvasPainter::paint(const PlanarPicture& picture, const std::array<Plane, 3>& canvas) {
+    for (unsigned index = 0; index < 3; ++index) {
+        if (canvas[index].data)
+            paintPlane(m_steps[index], picture.planes[index], canvas[index]);
+    }
+}
+
+void CanvasPainter::paintPlane(Step& step, ConstPlane in, Plane out) const {
+    const int depth = m_canvas.depth;
+    fillAround(out, step.columns, step.rows, depth, step.background);
+    if (step.columns.count() == 0 || step.rows.count() == 0)
+        return;
+    const Plane target = part(out, step.columns.first, step.rows.first, step.columns.count(),
+                              step.rows.count(), depth);
+    const int bytes = bytesPerSample(depth);
+    if (!step.resampler) {
+        turnPlane(part(in, step.copyX, step.copyY, step.width, step.height, depth), target,
+                  step.turn, bytes);
+    } else if (step.turn.isNone()) {
+        step.resampler->run(in, target);
+    } else {
+        const Plane resampled = step.resampled.reserve(step.width, step.height, depth);
+        step.resampler->run(in, resampled);
+        turnPlane(resampled, target, step.turn, bytes);
+    }
+    softenChromaEdges(step, target);
+}
+
+void CanvasPainter::softenChromaEdges(const Step& step, Plane out) const {
+    // A chroma sample that the picture shares with the black beside it has half of each.
+    if (!step.isSubsampled)
+        return;
+    const int depth = m_canvas.depth;
+    const auto soften = [&](Plane edge) {
+        if (depth > 8)
+            halve<std::uint16_t>(edge, step.background);
+        else
+            halve<std::uint8_t>(edge, step.background);
+    };
+    if (m_columns.first % 2 != 0)
+        soften(part(out, 0, 0, 1, out.height, depth));
+    if (m_columns.end % 2 != 0)
+        soften(part(out, out.width - 1, 0, 1, out.height, depth));
+    if (m_rows.first % 2 != 0)
+        soften(part(out, 0, 0, out.width, 1, depth));
+    if (m_rows.end % 2 != 0)
+        soften(part(out, 0, out.height - 1, out.width, 1, depth));
+}
+
+std::optional<ConstPlane> CanvasPainter::unchanged(const PlanarPicture& picture,
+                                                   unsigned plane) const {
+    const Step& step = m_steps[plane];
+    if (step.resampler || !step.turn.isNone() || step.columns != Span{0, m_canvas.width} ||
+        step.rows != Span{0, m_canvas.height} || !picture.planes[plane].data)
+        return std::nullopt;
+    return part(picture.planes[plane], step.copyX, step.copyY, step.width, step.height,
+                m_canvas.depth);
+}
+
+}  // namespace media::pixels
