@@ -212,6 +212,8 @@ void Player::Private::setPlaying(bool isPlaying) {
         access->isPlaying = isPlaying;
         if (isPlaying)
             access->hasEnded = false;
+        else
+            access->lastEnd = {};
         access->holdClock(time);
         access->videoWake.raise();
         stale.audio = std::exchange(access->audioWork, std::stop_source());
@@ -225,7 +227,7 @@ void Player::Private::seek(Time time, Time before, Time after, std::function<voi
     PendingSeek seek{0, std::move(done)};
     {
         auto access = transport();
-        if (access->item && time != Time::invalid()) {
+        if (access->item && (time <=> time) == 0) {
             const Time target = clamped(time, access->duration);
             stale =
                 beginJump(*access, target, seekRequest(target, before, after, access->duration));

@@ -66,7 +66,7 @@ bool AudioPlayback::takeRun() {
         return false;
     m_run = {access->run,         access->item,
              access->time(now()), access->isRunningWanted(),
-             access->hasEnded,    access->audioWork.get_token()};
+             access->lastEnd,    access->audioWork.get_token()};
     return true;
 }
 
@@ -76,7 +76,7 @@ void AudioPlayback::beginRun() {
     m_isDriving = false;
     m_isStale = false;
     if (!m_run.isWanted) {
-        m_closeAt = now() + (m_run.hasEnded ? kLinger : milliseconds(0));
+        m_closeAt = m_run.lastEnd + kLinger;
         if (m_item != m_run.item) {
             m_reader.reset();
             m_item.reset();

@@ -37,8 +37,7 @@ private:
         std::shared_ptr<const PlayerItem> item;
         Time start;
         bool isWanted = false;
-        /// Not wanted because the item ended: it may well be wanted again in a moment.
-        bool hasEnded = false;
+        SteadyTime lastEnd;
         std::stop_token stop;
     };
 

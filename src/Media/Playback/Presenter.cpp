@@ -52,7 +52,7 @@ Presenter::Round Presenter::look(Transport& transport, SteadyTime now) {
         return round;
     tick(transport, now, round);
     if (transport.time(now) >= transport.duration)
-        finish(transport, round);
+        finish(transport, now, round);
     return round;
 }
 
@@ -121,8 +121,9 @@ void Presenter::tick(Transport& transport, SteadyTime now, Round& round) {
         round.events.push_back({PlaybackEvent::Kind::tick, transport.generation, 0});
 }
 
-void Presenter::finish(Transport& transport, Round& round) {
+void Presenter::finish(Transport& transport, SteadyTime now, Round& round) {
     transport.hasEnded = true;
+    transport.lastEnd = now;
     transport.holdClock(transport.duration);
     round.events.push_back({PlaybackEvent::Kind::end, transport.generation, ++transport.endCount});
 }

@@ -52,7 +52,7 @@ private:
     void jump(Transport& transport, SteadyTime now, Round& round);
     void takeDueFrames(Transport& transport, SteadyTime now, Round& round);
     void tick(Transport& transport, SteadyTime now, Round& round);
-    void finish(Transport& transport, Round& round);
+    void finish(Transport& transport, SteadyTime now, Round& round);
     [[nodiscard]] SteadyTime nextLook(const Transport& transport, SteadyTime now) const;
     void deliver(Access& access, const Round& round);
 

@@ -94,6 +94,8 @@ struct Transport {
     /// The item played to its end, which the owner has not yet been told of.
     bool hasEnded = false;
     std::uint64_t endCount = 0;
+    /// When the item last played to its end: it may well be played again in a moment.
+    SteadyTime lastEnd;
 
     // Frames.
 
