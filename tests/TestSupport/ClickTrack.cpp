@@ -52,10 +52,11 @@ std::vector<std::int16_t> drawClicks(const ClickTrack& track) {
     const std::vector<double> shape = clickShape(track.sampleRate);
     const auto count = static_cast<std::int64_t>(std::llround(track.duration * track.sampleRate));
     std::vector<std::int16_t> samples(static_cast<std::size_t>(count));
-    for (double second = std::floor(track.start) - 1; second < track.start + track.duration;
-         ++second) {
-        const std::int64_t first =
-            std::llround((second + track.clickPhase - track.start) * track.sampleRate);
+    const auto firstSecond = static_cast<std::int64_t>(std::floor(track.start)) - 1;
+    const auto lastSecond = static_cast<std::int64_t>(std::ceil(track.start + track.duration));
+    for (std::int64_t second = firstSecond; second <= lastSecond; ++second) {
+        const double seconds = static_cast<double>(second) + track.clickPhase - track.start;
+        const std::int64_t first = std::llround(seconds * track.sampleRate);
         for (std::size_t i = 0; i < shape.size(); ++i) {
             const std::int64_t position = first + static_cast<std::int64_t>(i);
             if (position >= 0 && position < count)

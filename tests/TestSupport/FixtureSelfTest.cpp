@@ -47,6 +47,7 @@ TEST(ClickTrack, findsWhatItDrewToTheSample) {
         const std::vector<std::int16_t> drawn =
             drawClicks({.sampleRate = rate, .start = 0.5, .duration = 3, .clickPhase = 0.1});
         std::vector<float> samples;
+        samples.reserve(drawn.size());
         for (const std::int16_t sample : drawn)
             samples.push_back(static_cast<float>(sample) / 32768);
         const auto at = [&](double seconds) {

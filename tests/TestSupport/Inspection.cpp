@@ -281,12 +281,11 @@ std::string warningsWhilePlaying(const std::filesystem::path& path) {
 
 double ssim(const std::filesystem::path& first, const std::filesystem::path& second) {
     // Renumbered, because frames are compared in order, whatever their times.
-    const ProcessResult result =
-        runProcessOrThrow({"ffmpeg", "-nostdin", "-hide_banner", "-nostats", "-v", "info", "-i",
-                           urlFor(first), "-i", urlFor(second), "-lavfi",
-                           "[0:v:0]settb=1/25,setpts=N[a];[1:v:0]settb=1/25,setpts=N[b];"
-                           "[a][b]ssim=shortest=1",
-                           "-fps_mode", "passthrough", "-f", "null", "-"});
+    const std::string graph = "[0:v:0]settb=1/25,setpts=N[a];[1:v:0]settb=1/25,setpts=N[b];"
+                              "[a][b]ssim=shortest=1";
+    const ProcessResult result = runProcessOrThrow(
+        {"ffmpeg", "-nostdin", "-hide_banner", "-nostats", "-v", "info", "-i", urlFor(first), "-i",
+         urlFor(second), "-lavfi", graph, "-fps_mode", "passthrough", "-f", "null", "-"});
     const auto similarity = valueAfter(result.errors, " All:");
     if (!similarity)
         throw std::runtime_error("ffmpeg did not compare the pictures. " + result.errors);

@@ -35,7 +35,7 @@ std::filesystem::path
 cachedMedia(const std::string& name,
             const std::function<void(const std::filesystem::path& path)>& generate) {
     const std::filesystem::path folder = BRISKLET_TEST_MEDIA_DIR;
-    const std::filesystem::path path = folder / name;
+    std::filesystem::path path = folder / name;
     if (std::filesystem::exists(path))
         return path;
     std::filesystem::create_directories(folder);
@@ -60,7 +60,7 @@ std::filesystem::path cachedMedia(const std::string& name,
 }
 
 std::optional<std::filesystem::path> sampleMedia(const std::string& name) {
-    const std::filesystem::path path =
+    std::filesystem::path path =
         std::filesystem::path(BRISKLET_SOURCE_DIR) / ".." / "shared" / "media" / name;
     if (!std::filesystem::exists(path))
         return std::nullopt;

@@ -6,13 +6,14 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
-#include <optional>
+#include <iomanip>
 #include <ostream>
 #include <random>
 #include <regex>
+#include <sstream>
 
 /// Exports random ranges of files whose frames show their own number and whose sound clicks every
 /// second, through brisklet-cli, and holds every frame and click of the outcome, as ffmpeg reads
@@ -121,9 +122,9 @@ void expectSound(const HeardTrack& exported, const HeardTrack& source, const Ran
 }
 
 std::string decimal(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.9f", value);
-    return text;
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(9) << value;
+    return text.str();
 }
 
 void runCli(std::vector<std::string> arguments) {
@@ -136,7 +137,7 @@ void runCli(std::vector<std::string> arguments) {
 int compositionRate(const Fixture& source) {
     const auto result = testsupport::runProcessOrThrow({BRISKLET_CLI, "probe", source.path});
     std::smatch match;
-    const std::regex pattern("\"nominalFrameRate\"\\s*:\\s*([0-9.eE+-]+)");
+    const std::regex pattern(R"json("nominalFrameRate"\s*:\s*([0-9.eE+-]+))json");
     if (!std::regex_search(result.output, match, pattern))
         throw std::runtime_error("No frame rate in " + result.output);
     return static_cast<int>(std::lround(std::stod(match[1])));
@@ -251,20 +252,21 @@ struct Combination {
     const char* container;
 };
 
-constexpr Combination kCombinations[] = {
-    {VideoCodec::h264, "H264", "mp4"},   {VideoCodec::h264, "H264", "mov"},
-    {VideoCodec::h264, "H264", "mkv"},   {VideoCodec::h264, "H264", "ts"},
-    {VideoCodec::hevc, "HEVC", "mp4"},   {VideoCodec::hevc, "HEVC", "mov"},
-    {VideoCodec::hevc, "HEVC", "mkv"},   {VideoCodec::hevc, "HEVC", "ts"},
-    {VideoCodec::vp9, "VP9", "mp4"},     {VideoCodec::vp9, "VP9", "mkv"},
-    {VideoCodec::vp9, "VP9", "webm"},    {VideoCodec::mpeg2, "MPEG2", "mp4"},
-    {VideoCodec::mpeg2, "MPEG2", "mov"}, {VideoCodec::mpeg2, "MPEG2", "mkv"},
-    {VideoCodec::mpeg2, "MPEG2", "ts"}};
+constexpr std::array kCombinations = {
+    Combination{VideoCodec::h264, "H264", "mp4"},   Combination{VideoCodec::h264, "H264", "mov"},
+    Combination{VideoCodec::h264, "H264", "mkv"},   Combination{VideoCodec::h264, "H264", "ts"},
+    Combination{VideoCodec::hevc, "HEVC", "mp4"},   Combination{VideoCodec::hevc, "HEVC", "mov"},
+    Combination{VideoCodec::hevc, "HEVC", "mkv"},   Combination{VideoCodec::hevc, "HEVC", "ts"},
+    Combination{VideoCodec::vp9, "VP9", "mp4"},     Combination{VideoCodec::vp9, "VP9", "mkv"},
+    Combination{VideoCodec::vp9, "VP9", "webm"},    Combination{VideoCodec::mpeg2, "MPEG2", "mp4"},
+    Combination{VideoCodec::mpeg2, "MPEG2", "mov"}, Combination{VideoCodec::mpeg2, "MPEG2", "mkv"},
+    Combination{VideoCodec::mpeg2, "MPEG2", "ts"}};
 
-constexpr testsupport::Fraction kFrameRates[] = {
-    {24000, 1001}, {25, 1}, {30000, 1001}, {50, 1}, {60, 1}};
+constexpr std::array kFrameRates = {
+    testsupport::Fraction{24000, 1001}, testsupport::Fraction{25, 1},
+    testsupport::Fraction{30000, 1001}, testsupport::Fraction{50, 1}, testsupport::Fraction{60, 1}};
 
-constexpr double kStartOffsets[] = {0, 1.3, 3.7};
+constexpr std::array kStartOffsets = {0.0, 1.3, 3.7};
 
 Recipe recipeFor(const Combination& combination, int groupOfPictures, unsigned index) {
     return {.codec = combination.codec,
