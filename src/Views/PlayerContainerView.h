@@ -1,10 +1,12 @@
 #pragma once
 
-#include "Media/Player.h"
-
 #include <QWidget>
 
 #include <memory>
+
+namespace media {
+class Player;
+}
 
 namespace brisklet {
 
