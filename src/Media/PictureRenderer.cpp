@@ -39,7 +39,7 @@ AVColorSpace matrixOf(const AVFrame& frame) {
     return frame.height < 720 ? AVCOL_SPC_SMPTE170M : AVCOL_SPC_BT709;
 }
 
-}  // namespace
+} // namespace
 
 class PictureRenderer::Private {
 public:
@@ -143,4 +143,4 @@ ImagePtr PictureRenderer::render(const AVFrame& frame, int maxWidth, int maxHeig
     return d->render(frame, maxWidth, maxHeight);
 }
 
-}  // namespace media
+} // namespace media

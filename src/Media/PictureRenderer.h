@@ -27,4 +27,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-}  // namespace media
+} // namespace media

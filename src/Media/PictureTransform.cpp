@@ -46,7 +46,7 @@ std::optional<int> plainStart(const AxisMapping& mapping, int length, int canvas
     return pixels.firstCopied();
 }
 
-}  // namespace
+} // namespace
 
 class PictureTransform::Private {
 public:
@@ -154,4 +154,4 @@ ffmpeg::FramePtr PictureTransform::apply(const AVFrame& frame) {
     return d->apply(frame);
 }
 
-}  // namespace media
+} // namespace media

@@ -18,8 +18,7 @@ namespace {
 constexpr int kWidth = 160;
 constexpr int kHeight = 120;
 
-AVPixFmtDescriptor descriptorOf(AVPixelFormat format)
-{
+AVPixFmtDescriptor descriptorOf(AVPixelFormat format) {
     return *av_pix_fmt_desc_get(format);
 }
 
@@ -30,8 +29,7 @@ struct Canvas {
 };
 
 /// The picture in one of its eight orientations, then a region of it, then a scale.
-Canvas canvasOf(int turn, Size natural, Rect region, double scale)
-{
+Canvas canvasOf(int turn, Size natural, Rect region, double scale) {
     const AffineTransform transform =
         orientation(turn, natural)
             .concatenated(AffineTransform::translation(-region.x, -region.y))
@@ -51,8 +49,7 @@ struct Deviation {
 /// place is nearer than `margin` pixels to the source's border are left out: there the filter also
 /// sees what is not part of the function.
 Deviation deviationFrom(const ChannelFunction& value, const AVFrame& frame, const Canvas& canvas,
-                        Size source, double margin)
-{
+                        Size source, double margin) {
     const AVPixFmtDescriptor format = descriptorOf(static_cast<AVPixelFormat>(frame.format));
     const int depth = format.comp[0].depth;
     const AffineTransform toSource = canvas.toCanvas.inverted();
@@ -62,8 +59,8 @@ Deviation deviationFrom(const ChannelFunction& value, const AVFrame& frame, cons
         double& worst = plane > 0 ? deviation.chroma : deviation.luma;
         for (int row = 0; row < planeHeight(frame, plane); ++row) {
             for (int column = 0; column < planeWidth(frame, plane); ++column) {
-                const Point place = toSource.apply(
-                    samplePlace(format, frame.chroma_location, plane, column, row));
+                const Point place =
+                    toSource.apply(samplePlace(format, frame.chroma_location, plane, column, row));
                 if (!inner.contains(Rect{place.x, place.y, 0, 0}))
                     continue;
                 const double expected = levelOf(value(plane, place.x, place.y), depth, plane > 0,
@@ -85,8 +82,7 @@ struct RegionCase {
     bool isOddSize;
 };
 
-void PrintTo(const RegionCase& testCase, std::ostream* out)
-{
+void PrintTo(const RegionCase& testCase, std::ostream* out) {
     *out << testCase.name;
 }
 
@@ -116,8 +112,7 @@ constexpr RegionCase kRegionCases[] = {
      AVCOL_RANGE_MPEG, true},
 };
 
-TEST_P(PictureTransformRegion, showsExactlyThePlacesAskedForInEveryOrientation)
-{
+TEST_P(PictureTransformRegion, showsExactlyThePlacesAskedForInEveryOrientation) {
     const RegionCase& test = GetParam();
     const int odd = test.isOddSize ? 1 : 0;
     const Size size{kWidth + double(odd), kHeight + double(odd)};
@@ -131,10 +126,9 @@ TEST_P(PictureTransformRegion, showsExactlyThePlacesAskedForInEveryOrientation)
                 SCOPED_TRACE(testing::Message() << "orientation " << turn << ", region at "
                                                 << region.x << ", scale " << scale);
                 const Canvas canvas = canvasOf(turn, size, region, scale);
-                PictureTransform transform(canvas.toCanvas, size,
-                                           {.width = canvas.width,
-                                            .height = canvas.height,
-                                            .format = test.output});
+                PictureTransform transform(
+                    canvas.toCanvas, size,
+                    {.width = canvas.width, .height = canvas.height, .format = test.output});
                 const auto result = transform.apply(*source);
                 ASSERT_EQ(result->width, canvas.width);
                 ASSERT_EQ(result->height, canvas.height);
@@ -151,17 +145,14 @@ TEST_P(PictureTransformRegion, showsExactlyThePlacesAskedForInEveryOrientation)
 INSTANTIATE_TEST_SUITE_P(Formats, PictureTransformRegion, testing::ValuesIn(kRegionCases),
                          [](const auto& test) { return std::string(test.param.name); });
 
-TEST(PictureTransform, readsEveryKindOfPixelFormat)
-{
+TEST(PictureTransform, readsEveryKindOfPixelFormat) {
     const AVPixelFormat formats[] = {
-        AV_PIX_FMT_YUV410P,     AV_PIX_FMT_YUV411P,     AV_PIX_FMT_YUV440P,
-        AV_PIX_FMT_YUV422P,     AV_PIX_FMT_YUV444P,     AV_PIX_FMT_YUV420P9,
-        AV_PIX_FMT_YUV420P12,   AV_PIX_FMT_YUV420P16,   AV_PIX_FMT_YUV420P10BE,
-        AV_PIX_FMT_YUV444P16LE, AV_PIX_FMT_NV12,        AV_PIX_FMT_NV21,
-        AV_PIX_FMT_NV16,        AV_PIX_FMT_P010LE,      AV_PIX_FMT_P010BE,
-        AV_PIX_FMT_P016LE,      AV_PIX_FMT_YUYV422,     AV_PIX_FMT_UYVY422,
-        AV_PIX_FMT_YVYU422,     AV_PIX_FMT_Y210LE,      AV_PIX_FMT_YUVA420P,
-        AV_PIX_FMT_YUVA444P12,
+        AV_PIX_FMT_YUV410P,     AV_PIX_FMT_YUV411P,     AV_PIX_FMT_YUV440P,   AV_PIX_FMT_YUV422P,
+        AV_PIX_FMT_YUV444P,     AV_PIX_FMT_YUV420P9,    AV_PIX_FMT_YUV420P12, AV_PIX_FMT_YUV420P16,
+        AV_PIX_FMT_YUV420P10BE, AV_PIX_FMT_YUV444P16LE, AV_PIX_FMT_NV12,      AV_PIX_FMT_NV21,
+        AV_PIX_FMT_NV16,        AV_PIX_FMT_P010LE,      AV_PIX_FMT_P010BE,    AV_PIX_FMT_P016LE,
+        AV_PIX_FMT_YUYV422,     AV_PIX_FMT_UYVY422,     AV_PIX_FMT_YVYU422,   AV_PIX_FMT_Y210LE,
+        AV_PIX_FMT_YUVA420P,    AV_PIX_FMT_YUVA444P12,
     };
     for (const AVPixelFormat format : formats) {
         SCOPED_TRACE(av_get_pix_fmt_name(format));
@@ -169,10 +160,9 @@ TEST(PictureTransform, readsEveryKindOfPixelFormat)
         const auto source =
             drawPicture(format, kWidth, kHeight, waves, {.location = AVCHROMA_LOC_LEFT});
         const Canvas canvas = canvasOf(2, size, {21, 32, 72, 80}, 0.75);
-        PictureTransform transform(canvas.toCanvas, size,
-                                   {.width = canvas.width,
-                                    .height = canvas.height,
-                                    .format = AV_PIX_FMT_YUV420P10});
+        PictureTransform transform(
+            canvas.toCanvas, size,
+            {.width = canvas.width, .height = canvas.height, .format = AV_PIX_FMT_YUV420P10});
         const auto result = transform.apply(*source);
         const Deviation deviation = deviationFrom(waves, *result, canvas, size, 8);
         EXPECT_LT(deviation.luma, 1.0);
@@ -181,14 +171,13 @@ TEST(PictureTransform, readsEveryKindOfPixelFormat)
 }
 
 /// What RGB with the waves as red, green and blue is in Y′CbCr.
-ChannelFunction wavesConverted(double redWeight, double blueWeight)
-{
+ChannelFunction wavesConverted(double redWeight, double blueWeight) {
     return [=](int channel, double x, double y) {
         const double red = waves(0, x, y);
         const double green = waves(1, x, y);
         const double blue = waves(2, x, y);
-        const double luma = redWeight * red + (1 - redWeight - blueWeight) * green
-                            + blueWeight * blue;
+        const double luma =
+            redWeight * red + (1 - redWeight - blueWeight) * green + blueWeight * blue;
         if (channel == 0)
             return luma;
         return channel == 1 ? (blue - luma) / (2 - 2 * blueWeight) + 0.5
@@ -196,21 +185,21 @@ ChannelFunction wavesConverted(double redWeight, double blueWeight)
     };
 }
 
-TEST(PictureTransform, convertsRgbWithTheMatrixGiven)
-{
+TEST(PictureTransform, convertsRgbWithTheMatrixGiven) {
     struct Matrix {
         AVColorSpace tag;
         ChannelFunction expected;
     };
+
     const Matrix matrices[] = {{AVCOL_SPC_BT709, wavesConverted(0.2126, 0.0722)},
                                {AVCOL_SPC_SMPTE170M, wavesConverted(0.299, 0.114)},
                                {AVCOL_SPC_BT2020_NCL, wavesConverted(0.2627, 0.0593)}};
-    const AVPixelFormat formats[] = {
-        AV_PIX_FMT_RGB24,  AV_PIX_FMT_BGR24,   AV_PIX_FMT_ARGB,    AV_PIX_FMT_RGBA,
-        AV_PIX_FMT_ABGR,   AV_PIX_FMT_BGRA,    AV_PIX_FMT_0RGB,    AV_PIX_FMT_BGR0,
-        AV_PIX_FMT_GBRP,   AV_PIX_FMT_GBRP10,  AV_PIX_FMT_GBRP12,  AV_PIX_FMT_GBRP16,
-        AV_PIX_FMT_GBRAP,  AV_PIX_FMT_GBRAP12, AV_PIX_FMT_RGB48LE, AV_PIX_FMT_BGR48BE,
-        AV_PIX_FMT_RGBA64, AV_PIX_FMT_X2RGB10LE};
+    const AVPixelFormat formats[] = {AV_PIX_FMT_RGB24,   AV_PIX_FMT_BGR24,   AV_PIX_FMT_ARGB,
+                                     AV_PIX_FMT_RGBA,    AV_PIX_FMT_ABGR,    AV_PIX_FMT_BGRA,
+                                     AV_PIX_FMT_0RGB,    AV_PIX_FMT_BGR0,    AV_PIX_FMT_GBRP,
+                                     AV_PIX_FMT_GBRP10,  AV_PIX_FMT_GBRP12,  AV_PIX_FMT_GBRP16,
+                                     AV_PIX_FMT_GBRAP,   AV_PIX_FMT_GBRAP12, AV_PIX_FMT_RGB48LE,
+                                     AV_PIX_FMT_BGR48BE, AV_PIX_FMT_RGBA64,  AV_PIX_FMT_X2RGB10LE};
     const Size size{kWidth, kHeight};
     const Canvas canvas = canvasOf(0, size, {21, 32, 72, 80}, 0.75);
     for (const Matrix& matrix : matrices) {
@@ -231,8 +220,7 @@ TEST(PictureTransform, convertsRgbWithTheMatrixGiven)
     }
 }
 
-TEST(PictureTransform, turnsAndMirrorsLumaBitForBit)
-{
+TEST(PictureTransform, turnsAndMirrorsLumaBitForBit) {
     for (const AVPixelFormat format : {AV_PIX_FMT_YUV420P, AV_PIX_FMT_YUV420P10}) {
         const auto source = drawNoise(format, 147, 131);
         const Size size{147, 131};
@@ -248,9 +236,9 @@ TEST(PictureTransform, turnsAndMirrorsLumaBitForBit)
             for (int y = 0; y < canvas.height; ++y) {
                 for (int x = 0; x < canvas.width; ++x) {
                     const Point place = toSource.apply(Point{x + 0.5, y + 0.5});
-                    wrong += sampleOf(*result, 0, x, y)
-                             != sampleOf(*source, 0, static_cast<int>(place.x),
-                                         static_cast<int>(place.y));
+                    wrong +=
+                        sampleOf(*result, 0, x, y) !=
+                        sampleOf(*source, 0, static_cast<int>(place.x), static_cast<int>(place.y));
                 }
             }
             EXPECT_EQ(wrong, 0);
@@ -258,8 +246,7 @@ TEST(PictureTransform, turnsAndMirrorsLumaBitForBit)
     }
 }
 
-TEST(PictureTransform, doesNotCopyAWholePicture)
-{
+TEST(PictureTransform, doesNotCopyAWholePicture) {
     const auto source = drawNoise(AV_PIX_FMT_YUV420P, 64, 48);
     source->pict_type = AV_PICTURE_TYPE_I;
     source->pts = 77;
@@ -272,8 +259,7 @@ TEST(PictureTransform, doesNotCopyAWholePicture)
     EXPECT_EQ(result->pict_type, AV_PICTURE_TYPE_NONE);
 }
 
-TEST(PictureTransform, doesNotCopyAnEvenPartOfAPicture)
-{
+TEST(PictureTransform, doesNotCopyAnEvenPartOfAPicture) {
     const auto source = drawNoise(AV_PIX_FMT_YUV420P10, 65, 49);
     PictureTransform transform(AffineTransform::translation(-6, -4), {65, 49},
                                {.width = 40, .height = 30, .format = AV_PIX_FMT_YUV420P10});
@@ -285,8 +271,7 @@ TEST(PictureTransform, doesNotCopyAnEvenPartOfAPicture)
     EXPECT_EQ(result->height, 30);
 }
 
-TEST(PictureTransform, cutsOddSizesToEvenWithoutCopying)
-{
+TEST(PictureTransform, cutsOddSizesToEvenWithoutCopying) {
     const auto source = drawNoise(AV_PIX_FMT_YUV420P, 65, 49);
     PictureTransform transform({}, {65, 49}, {.width = 64, .height = 48});
     const auto result = transform.apply(*source);
@@ -295,8 +280,7 @@ TEST(PictureTransform, cutsOddSizesToEvenWithoutCopying)
     EXPECT_EQ(result->height, 48);
 }
 
-TEST(PictureTransform, keepsLumaOfAnOddPartAsItIs)
-{
+TEST(PictureTransform, keepsLumaOfAnOddPartAsItIs) {
     const auto source = drawNoise(AV_PIX_FMT_YUV420P, 64, 48);
     PictureTransform transform(AffineTransform::translation(-7, -3), {64, 48},
                                {.width = 40, .height = 30});
@@ -306,8 +290,7 @@ TEST(PictureTransform, keepsLumaOfAnOddPartAsItIs)
             ASSERT_EQ(sampleOf(*result, 0, x, y), sampleOf(*source, 0, x + 7, y + 3));
 }
 
-TEST(PictureTransform, keepsEveryTagOfTheSource)
-{
+TEST(PictureTransform, keepsEveryTagOfTheSource) {
     const auto source = drawPicture(AV_PIX_FMT_YUV422P, 64, 48, waves,
                                     {.range = AVCOL_RANGE_MPEG,
                                      .matrix = AVCOL_SPC_BT2020_NCL,
@@ -331,8 +314,7 @@ TEST(PictureTransform, keepsEveryTagOfTheSource)
     EXPECT_EQ(result->chroma_location, AVCHROMA_LOC_LEFT);
 }
 
-TEST(PictureTransform, leavesUntaggedSourcesUntagged)
-{
+TEST(PictureTransform, leavesUntaggedSourcesUntagged) {
     PictureTransform transform({}, {64, 48}, {.width = 64, .height = 48});
     const auto result = transform.apply(*drawPicture(AV_PIX_FMT_YUV444P, 64, 48, waves));
     EXPECT_EQ(result->color_range, AVCOL_RANGE_UNSPECIFIED);
@@ -340,8 +322,7 @@ TEST(PictureTransform, leavesUntaggedSourcesUntagged)
     EXPECT_EQ(result->chroma_location, AVCHROMA_LOC_UNSPECIFIED);
 }
 
-TEST(PictureTransform, tagsTheDeprecatedFullRangeFormats)
-{
+TEST(PictureTransform, tagsTheDeprecatedFullRangeFormats) {
     const auto source = drawNoise(AV_PIX_FMT_YUVJ420P, 64, 48);
     PictureTransform whole({}, {64, 48}, {.width = 64, .height = 48});
     const auto uncopied = whole.apply(*source);
@@ -356,8 +337,7 @@ TEST(PictureTransform, tagsTheDeprecatedFullRangeFormats)
 
 /// Expects one colour in a rectangle of 4:2:0 (even corners) and another one around it.
 void expectColours(const AVFrame& frame, Rect rect, const std::array<int, 3>& inside,
-                   const std::array<int, 3>& outside)
-{
+                   const std::array<int, 3>& outside) {
     for (int plane = 0; plane < 3; ++plane) {
         const double factor = plane > 0 ? 2 : 1;
         for (int row = 0; row < planeHeight(frame, plane); ++row) {
@@ -372,15 +352,15 @@ void expectColours(const AVFrame& frame, Rect rect, const std::array<int, 3>& in
     }
 }
 
-TEST(PictureTransform, isBlackOutsideOfTheSource)
-{
+TEST(PictureTransform, isBlackOutsideOfTheSource) {
     struct Range {
         AVColorRange tag;
         int black;
     };
+
     for (const Range& range : {Range{AVCOL_RANGE_MPEG, 16}, Range{AVCOL_RANGE_JPEG, 0}}) {
-        const auto source = drawPicture(AV_PIX_FMT_YUV420P, 32, 24, flat(0.7, 0.3, 0.8),
-                                        {.range = range.tag});
+        const auto source =
+            drawPicture(AV_PIX_FMT_YUV420P, 32, 24, flat(0.7, 0.3, 0.8), {.range = range.tag});
         const std::array<int, 3> colour{sampleOf(*source, 0, 0, 0), sampleOf(*source, 1, 0, 0),
                                         sampleOf(*source, 2, 0, 0)};
         PictureTransform transform(AffineTransform::translation(6, 4), {32, 24},
@@ -392,8 +372,7 @@ TEST(PictureTransform, isBlackOutsideOfTheSource)
     }
 }
 
-TEST(PictureTransform, halvesTheChromaThatAnOddPictureSharesWithBlack)
-{
+TEST(PictureTransform, halvesTheChromaThatAnOddPictureSharesWithBlack) {
     const auto source = drawPicture(AV_PIX_FMT_YUV420P, 5, 5, flat(0.7, 0.1, 0.9));
     PictureTransform transform({}, {5, 5}, {.width = 6, .height = 6});
     const auto result = transform.apply(*source);
@@ -407,16 +386,14 @@ TEST(PictureTransform, halvesTheChromaThatAnOddPictureSharesWithBlack)
     EXPECT_NEAR(sampleOf(*result, 1, 2, 2), (chroma + 3 * 128) / 4.0, 1);
 }
 
-TEST(PictureTransform, isAllBlackWhereTheCanvasMissesTheSource)
-{
+TEST(PictureTransform, isAllBlackWhereTheCanvasMissesTheSource) {
     PictureTransform transform(AffineTransform::translation(-500, 0), {32, 24},
                                {.width = 16, .height = 16});
     const auto result = transform.apply(*drawNoise(AV_PIX_FMT_YUV420P, 32, 24));
     expectColours(*result, {}, {}, {16, 128, 128});
 }
 
-TEST(PictureTransform, stretchesToTheNaturalSize)
-{
+TEST(PictureTransform, stretchesToTheNaturalSize) {
     // Half as wide as it is meant to be shown.
     const auto squeezed = [](int channel, double x, double y) { return waves(channel, 2 * x, y); };
     const auto source =
@@ -428,15 +405,16 @@ TEST(PictureTransform, stretchesToTheNaturalSize)
     EXPECT_LT(deviation.chroma, 1.5);
 }
 
-TEST(PictureTransform, takesFramesThatChangeSizeAndFormat)
-{
+TEST(PictureTransform, takesFramesThatChangeSizeAndFormat) {
     const Size natural{kWidth, kHeight};
     PictureTransform transform({}, natural, {.width = kWidth, .height = kHeight});
+
     struct Kind {
         AVPixelFormat format;
         int divisor;
     };
-    const Kind kinds[] = {{AV_PIX_FMT_YUV420P, 1}, {AV_PIX_FMT_YUV422P, 2},
+
+    const Kind kinds[] = {{AV_PIX_FMT_YUV420P, 1},   {AV_PIX_FMT_YUV422P, 2},
                           {AV_PIX_FMT_YUV444P10, 1}, {AV_PIX_FMT_NV12, 2},
                           {AV_PIX_FMT_YUV420P, 2},   {AV_PIX_FMT_YUV411P, 1},
                           {AV_PIX_FMT_P010LE, 1}};
@@ -446,8 +424,8 @@ TEST(PictureTransform, takesFramesThatChangeSizeAndFormat)
             const auto shrunk = [&](int channel, double x, double y) {
                 return waves(channel, x * kind.divisor, y * kind.divisor);
             };
-            const auto source = drawPicture(kind.format, kWidth / kind.divisor,
-                                            kHeight / kind.divisor, shrunk);
+            const auto source =
+                drawPicture(kind.format, kWidth / kind.divisor, kHeight / kind.divisor, shrunk);
             const auto result = transform.apply(*source);
             const Deviation deviation =
                 deviationFrom(waves, *result, {{}, kWidth, kHeight}, natural, 14);
@@ -457,12 +435,12 @@ TEST(PictureTransform, takesFramesThatChangeSizeAndFormat)
     }
 }
 
-TEST(PictureTransform, composesTransparentPicturesOverBlack)
-{
+TEST(PictureTransform, composesTransparentPicturesOverBlack) {
     struct Transparent {
         AVPixelFormat format;
         AVPixelFormat output;
     };
+
     for (const auto& [format, output] :
          {Transparent{AV_PIX_FMT_YUVA420P, AV_PIX_FMT_YUV420P},
           Transparent{AV_PIX_FMT_YUVA422P10LE, AV_PIX_FMT_YUV420P10},
@@ -479,8 +457,7 @@ TEST(PictureTransform, composesTransparentPicturesOverBlack)
     }
 }
 
-TEST(PictureTransform, composesTransparentRgbOverBlack)
-{
+TEST(PictureTransform, composesTransparentRgbOverBlack) {
     for (const AVPixelFormat format :
          {AV_PIX_FMT_BGRA, AV_PIX_FMT_ARGB, AV_PIX_FMT_GBRAP, AV_PIX_FMT_RGBA64LE}) {
         SCOPED_TRACE(av_get_pix_fmt_name(format));
@@ -493,8 +470,7 @@ TEST(PictureTransform, composesTransparentRgbOverBlack)
     }
 }
 
-TEST(PictureTransform, givesGreyPicturesNeutralChroma)
-{
+TEST(PictureTransform, givesGreyPicturesNeutralChroma) {
     for (const AVPixelFormat format : {AV_PIX_FMT_GRAY8, AV_PIX_FMT_GRAY10LE, AV_PIX_FMT_GRAY16LE,
                                        AV_PIX_FMT_GRAY16BE, AV_PIX_FMT_YA8}) {
         SCOPED_TRACE(av_get_pix_fmt_name(format));
@@ -511,8 +487,7 @@ TEST(PictureTransform, givesGreyPicturesNeutralChroma)
     }
 }
 
-TEST(PictureTransform, keepsFullRangeChromaNeutralThroughAChangeOfDepth)
-{
+TEST(PictureTransform, keepsFullRangeChromaNeutralThroughAChangeOfDepth) {
     const auto source =
         drawPicture(AV_PIX_FMT_YUV420P, 32, 24, flat(1.0), {.range = AVCOL_RANGE_JPEG});
     PictureTransform transform({}, {32, 24},
@@ -523,8 +498,7 @@ TEST(PictureTransform, keepsFullRangeChromaNeutralThroughAChangeOfDepth)
     EXPECT_EQ(sampleOf(*result, 2, 9, 9), 512);
 }
 
-TEST(PictureTransform, readsPalettesAndTheirTransparency)
-{
+TEST(PictureTransform, readsPalettesAndTheirTransparency) {
     auto source = ffmpeg::makeFrame();
     source->format = AV_PIX_FMT_PAL8;
     source->width = 32;
@@ -546,8 +520,7 @@ TEST(PictureTransform, readsPalettesAndTheirTransparency)
     EXPECT_NEAR(sampleOf(*result, 1, 14, 2), 128, 1);
 }
 
-TEST(PictureTransform, takesPicturesAndCanvasesOfVeryFewPixels)
-{
+TEST(PictureTransform, takesPicturesAndCanvasesOfVeryFewPixels) {
     for (const int width : {1, 2, 3, 5}) {
         for (const int height : {1, 2, 7}) {
             for (int turn = 0; turn < 8; ++turn) {
@@ -564,22 +537,19 @@ TEST(PictureTransform, takesPicturesAndCanvasesOfVeryFewPixels)
     }
 }
 
-TEST(PictureTransform, cutsANarrowStripOutOfALargePicture)
-{
+TEST(PictureTransform, cutsANarrowStripOutOfALargePicture) {
     const Size size{kWidth, kHeight};
     const auto source =
         drawPicture(AV_PIX_FMT_YUV420P, kWidth, kHeight, waves, {.location = AVCHROMA_LOC_LEFT});
     const Canvas canvas = canvasOf(0, size, {61, 31, 2, 60}, 1);
     PictureTransform transform(canvas.toCanvas, size,
                                {.width = canvas.width, .height = canvas.height});
-    const Deviation deviation =
-        deviationFrom(waves, *transform.apply(*source), canvas, size, 0);
+    const Deviation deviation = deviationFrom(waves, *transform.apply(*source), canvas, size, 0);
     EXPECT_LT(deviation.luma, 1.0);
     EXPECT_LT(deviation.chroma, 1.5);
 }
 
-TEST(PictureTransform, shrinksAPictureToTwoPixels)
-{
+TEST(PictureTransform, shrinksAPictureToTwoPixels) {
     PictureTransform transform(AffineTransform::scale(2.0 / 320, 2.0 / 240), {320, 240},
                                {.width = 2, .height = 2});
     const auto source = drawPicture(AV_PIX_FMT_YUV420P, 320, 240, flat(0.7, 0.3, 0.8));
@@ -588,8 +558,7 @@ TEST(PictureTransform, shrinksAPictureToTwoPixels)
         EXPECT_EQ(sampleOf(*result, plane, 0, 0), sampleOf(*source, plane, 0, 0));
 }
 
-TEST(PictureTransform, takesFramesAtAnyAddressAndUpsideDown)
-{
+TEST(PictureTransform, takesFramesAtAnyAddressAndUpsideDown) {
     const auto whole = drawPicture(AV_PIX_FMT_YUV420P, kWidth, kHeight, waves);
     const auto flipped = ffmpeg::referenced(*whole);
     for (int plane = 0; plane < 3; ++plane) {
@@ -605,14 +574,12 @@ TEST(PictureTransform, takesFramesAtAnyAddressAndUpsideDown)
     const auto upsideDown = [](int channel, double x, double y) {
         return waves(channel, x, kHeight - y);
     };
-    const auto movedLeft = [](int channel, double x, double y) {
-        return waves(channel, x + 6, y);
-    };
+    const auto movedLeft = [](int channel, double x, double y) { return waves(channel, x + 6, y); };
     const AffineTransform half = AffineTransform::scale(0.5, 0.5);
     PictureTransform transform(half, {kWidth, kHeight},
                                {.width = kWidth / 2, .height = kHeight / 2});
-    const Deviation first = deviationFrom(upsideDown, *transform.apply(*flipped), {half, 0, 0},
-                                          {kWidth, kHeight}, 12);
+    const Deviation first =
+        deviationFrom(upsideDown, *transform.apply(*flipped), {half, 0, 0}, {kWidth, kHeight}, 12);
     EXPECT_LT(std::max(first.luma, first.chroma), 1.5);
     PictureTransform narrower(half, {kWidth - 6, kHeight},
                               {.width = kWidth / 2 - 4, .height = kHeight / 2});
@@ -621,8 +588,7 @@ TEST(PictureTransform, takesFramesAtAnyAddressAndUpsideDown)
     EXPECT_LT(std::max(second.luma, second.chroma), 1.5);
 }
 
-TEST(PictureTransform, keepsItsFramesIntactAndOutlivesThem)
-{
+TEST(PictureTransform, keepsItsFramesIntactAndOutlivesThem) {
     const auto bright = drawPicture(AV_PIX_FMT_YUV444P, 32, 24, flat(0.9));
     const auto dark = drawPicture(AV_PIX_FMT_YUV444P, 32, 24, flat(0.1));
     ffmpeg::FramePtr first;
@@ -636,14 +602,12 @@ TEST(PictureTransform, keepsItsFramesIntactAndOutlivesThem)
     EXPECT_EQ(sampleOf(*second, 0, 31, 23), sampleOf(*dark, 0, 31, 23));
 }
 
-TEST(PictureTransform, takesTheNearestQuarterTurnOfAnyTransform)
-{
+TEST(PictureTransform, takesTheNearestQuarterTurnOfAnyTransform) {
     const double angle = 1.45;
-    const AffineTransform slanted =
-        AffineTransform::translation(-40, -40)
-            .concatenated({std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0,
-                           0})
-            .concatenated(AffineTransform::translation(40, 40));
+    const AffineTransform slanted = AffineTransform::translation(-40, -40)
+                                        .concatenated({std::cos(angle), std::sin(angle),
+                                                       -std::sin(angle), std::cos(angle), 0, 0})
+                                        .concatenated(AffineTransform::translation(40, 40));
     const Size size{80, 80};
     const auto source = drawNoise(AV_PIX_FMT_YUV420P, 80, 80);
     PictureTransform transform(slanted, size, {.width = 80, .height = 80});
@@ -654,8 +618,7 @@ TEST(PictureTransform, takesTheNearestQuarterTurnOfAnyTransform)
         ASSERT_EQ(sampleOf(*result, 0, i, 79 - i / 2), sampleOf(*expected, 0, i, 79 - i / 2));
 }
 
-TEST(PictureTransform, refusesWhatHasNoSamplesToRead)
-{
+TEST(PictureTransform, refusesWhatHasNoSamplesToRead) {
     auto frame = ffmpeg::makeFrame();
     frame->format = AV_PIX_FMT_VAAPI;
     frame->width = 32;
@@ -664,6 +627,6 @@ TEST(PictureTransform, refusesWhatHasNoSamplesToRead)
     EXPECT_THROW(static_cast<void>(transform.apply(*frame)), Error);
 }
 
-}  // namespace
+} // namespace
 
-}  // namespace media::test
+} // namespace media::test

@@ -1,5 +1,6 @@
 #include "SyntheticPicture.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <numbers>
@@ -23,38 +24,33 @@ constexpr Wave kWaves[3][2] = {
     {{0.17, -0.0047, 0.0074, 1.5}, {0.16, 0.0081, 0.0024, 3.3}},
 };
 
-bool isChroma(const AVPixFmtDescriptor& format, int component)
-{
-    return !(format.flags & AV_PIX_FMT_FLAG_RGB) && format.nb_components >= 3
-           && (component == 1 || component == 2);
+bool isChroma(const AVPixFmtDescriptor& format, int component) {
+    return !(format.flags & AV_PIX_FMT_FLAG_RGB) && format.nb_components >= 3 &&
+           (component == 1 || component == 2);
 }
 
-bool isAlpha(const AVPixFmtDescriptor& format, int component)
-{
+bool isAlpha(const AVPixFmtDescriptor& format, int component) {
     return (format.flags & AV_PIX_FMT_FLAG_ALPHA) && component == format.nb_components - 1;
 }
 
-int shifted(int length, int shift)
-{
+int shifted(int length, int shift) {
     return (length + (1 << shift) - 1) >> shift;
 }
 
-}  // namespace
+} // namespace
 
-double waves(int channel, double x, double y)
-{
+double waves(int channel, double x, double y) {
     if (channel > 2)
         return 1;
     double value = 0.5;
     for (const Wave& wave : kWaves[channel])
-        value += wave.amplitude
-                 * std::cos(2 * std::numbers::pi * (wave.perPixelX * x + wave.perPixelY * y)
-                            + wave.phase);
+        value +=
+            wave.amplitude *
+            std::cos(2 * std::numbers::pi * (wave.perPixelX * x + wave.perPixelY * y) + wave.phase);
     return value;
 }
 
-ChannelFunction flat(double first, double second, double third, double alpha)
-{
+ChannelFunction flat(double first, double second, double third, double alpha) {
     return [=](int channel, double, double) {
         const double values[] = {first, second, third, alpha};
         return values[channel];
@@ -62,15 +58,14 @@ ChannelFunction flat(double first, double second, double third, double alpha)
 }
 
 Point samplePlace(const AVPixFmtDescriptor& format, AVChromaLocation location, int plane,
-                  int column, int row)
-{
+                  int column, int row) {
     if (!isChroma(format, plane))
         return {column + 0.5, row + 0.5};
     const double spacingX = 1 << format.log2_chroma_w;
     const double spacingY = 1 << format.log2_chroma_h;
     Point first{0.5, spacingY / 2};
-    if (location == AVCHROMA_LOC_CENTER || location == AVCHROMA_LOC_TOP
-        || location == AVCHROMA_LOC_BOTTOM)
+    if (location == AVCHROMA_LOC_CENTER || location == AVCHROMA_LOC_TOP ||
+        location == AVCHROMA_LOC_BOTTOM)
         first.x = spacingX / 2;
     if (location == AVCHROMA_LOC_TOPLEFT || location == AVCHROMA_LOC_TOP)
         first.y = 0.5;
@@ -79,8 +74,7 @@ Point samplePlace(const AVPixFmtDescriptor& format, AVChromaLocation location, i
     return {first.x + spacingX * column, first.y + spacingY * row};
 }
 
-double levelOf(double value, int depth, bool isChroma, bool isFullRange)
-{
+double levelOf(double value, int depth, bool isChroma, bool isFullRange) {
     if (!isFullRange)
         return (isChroma ? 128 + 224 * (value - 0.5) : 16 + 219 * value) * std::exp2(depth - 8);
     const double most = std::exp2(depth) - 1;
@@ -88,8 +82,7 @@ double levelOf(double value, int depth, bool isChroma, bool isFullRange)
 }
 
 ffmpeg::FramePtr drawPicture(AVPixelFormat format, int width, int height,
-                             const ChannelFunction& value, const PictureTags& tags)
-{
+                             const ChannelFunction& value, const PictureTags& tags) {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     ffmpeg::FramePtr frame = ffmpeg::makeFrame();
     frame->format = format;
@@ -109,17 +102,17 @@ ffmpeg::FramePtr drawPicture(AVPixelFormat format, int width, int height,
         const bool alpha = isAlpha(descriptor, component);
         const bool fullRange = isRgb || alpha || tags.range == AVCOL_RANGE_JPEG;
         const int depth = descriptor.comp[component].depth;
+        const double most = std::exp2(depth) - 1;
         const int columns = shifted(width, chroma ? descriptor.log2_chroma_w : 0);
         const int rows = shifted(height, chroma ? descriptor.log2_chroma_h : 0);
         std::vector<std::uint16_t> line(static_cast<std::size_t>(columns));
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
-                const Point place =
-                    samplePlace(descriptor, tags.location, component, column, row);
+                const Point place = samplePlace(descriptor, tags.location, component, column, row);
                 const double level = levelOf(value(alpha ? 3 : component, place.x, place.y), depth,
                                              chroma, fullRange);
                 line[static_cast<std::size_t>(column)] =
-                    static_cast<std::uint16_t>(std::lround(level));
+                    static_cast<std::uint16_t>(std::lround(std::min(level, most)));
             }
             av_write_image_line2(line.data(), frame->data, frame->linesize, &descriptor, 0, row,
                                  component, columns, 2);
@@ -128,37 +121,31 @@ ffmpeg::FramePtr drawPicture(AVPixelFormat format, int width, int height,
     return frame;
 }
 
-ffmpeg::FramePtr drawNoise(AVPixelFormat format, int width, int height)
-{
+ffmpeg::FramePtr drawNoise(AVPixelFormat format, int width, int height) {
     std::mt19937 random(1234);
     std::uniform_real_distribution<double> uniform(0, 1);
     return drawPicture(format, width, height, [&](int, double, double) { return uniform(random); });
 }
 
-int planeWidth(const AVFrame& frame, int plane)
-{
+int planeWidth(const AVFrame& frame, int plane) {
     const auto* descriptor = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
     return shifted(frame.width, plane > 0 ? descriptor->log2_chroma_w : 0);
 }
 
-int planeHeight(const AVFrame& frame, int plane)
-{
+int planeHeight(const AVFrame& frame, int plane) {
     const auto* descriptor = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
     return shifted(frame.height, plane > 0 ? descriptor->log2_chroma_h : 0);
 }
 
-int sampleOf(const AVFrame& frame, int plane, int column, int row)
-{
+int sampleOf(const AVFrame& frame, int plane, int column, int row) {
     const auto* descriptor = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
-    const std::uint8_t* line =
-        frame.data[plane] + std::ptrdiff_t{row} * frame.linesize[plane];
+    const std::uint8_t* line = frame.data[plane] + std::ptrdiff_t{row} * frame.linesize[plane];
     if (descriptor->comp[0].depth <= 8)
         return line[column];
     return reinterpret_cast<const std::uint16_t*>(line)[column];
 }
 
-AffineTransform orientation(int index, Size size)
-{
+AffineTransform orientation(int index, Size size) {
     AffineTransform transform;
     if (index & 1)
         transform = {-1, 0, 0, 1, size.width, 0};
@@ -169,4 +156,4 @@ AffineTransform orientation(int index, Size size)
     return transform;
 }
 
-}  // namespace media::test
+} // namespace media::test

@@ -52,4 +52,4 @@ int sampleOf(const AVFrame& frame, int plane, int column, int row);
 /// then bits 1 and 2 turn it clockwise by quarters.
 AffineTransform orientation(int index, Size size);
 
-}  // namespace media::test
+} // namespace media::test

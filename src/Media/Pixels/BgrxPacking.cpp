@@ -69,7 +69,7 @@ std::uint16_t bytePair(unsigned first, unsigned second) {
         return static_cast<std::uint16_t>(first << 8 | second);
 }
 
-}  // namespace
+} // namespace
 
 YuvToRgb::YuvToRgb(AVColorSpace matrix, bool isFullRange) {
     const double lumaScale = isFullRange ? 1 : 255.0 / 219;
@@ -141,4 +141,4 @@ void packLine(const std::uint8_t* red, const std::uint8_t* green, const std::uin
     }
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -33,4 +33,4 @@ private:
 void packLine(const std::uint8_t* red, const std::uint8_t* green, const std::uint8_t* blue,
               std::uint8_t* out, int count);
 
-}  // namespace media::pixels
+} // namespace media::pixels

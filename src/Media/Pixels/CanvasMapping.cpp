@@ -20,7 +20,7 @@ bool isLeft(AVChromaLocation location) {
            location == AVCHROMA_LOC_BOTTOMLEFT;
 }
 
-}  // namespace
+} // namespace
 
 CanvasMapping CanvasMapping::nearest(const AffineTransform& toCanvas, Size naturalSize, int width,
                                      int height) {
@@ -99,4 +99,4 @@ AxisSampling sampling(const AxisMapping& mapping, SampleGrid pictureGrid, Sample
     return {start, step, out.count(), mirrored};
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

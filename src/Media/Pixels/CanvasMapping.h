@@ -75,4 +75,4 @@ struct AxisSampling {
 AxisSampling sampling(const AxisMapping& mapping, SampleGrid pictureGrid, SampleGrid canvasGrid,
                       Span out);
 
-}  // namespace media::pixels
+} // namespace media::pixels

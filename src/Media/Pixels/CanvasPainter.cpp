@@ -49,7 +49,7 @@ Span subsampled(Span pixels, int shift) {
     return {pixels.first >> shift, (pixels.end + (1 << shift) - 1) >> shift};
 }
 
-}  // namespace
+} // namespace
 
 CanvasPainter::CanvasPainter(const PlanarFormat& picture, const CanvasMapping& mapping,
                              const CanvasFormat& canvas)
@@ -177,4 +177,4 @@ std::optional<ConstPlane> CanvasPainter::unchanged(const PlanarPicture& picture,
                 m_canvas.depth);
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

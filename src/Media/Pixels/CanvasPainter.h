@@ -71,4 +71,4 @@ private:
     std::array<Step, 3> m_steps;
 };
 
-}  // namespace media::pixels
+} // namespace media::pixels

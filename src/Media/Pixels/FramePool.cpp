@@ -47,4 +47,4 @@ std::array<Plane, 3> planesOf(const AVFrame& frame) {
     return planes;
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -38,4 +38,4 @@ private:
 /// The three planes of such a frame.
 std::array<Plane, 3> planesOf(const AVFrame& frame);
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -22,23 +22,23 @@ bool isDeprecatedFullRange(AVPixelFormat format) {
            format == AV_PIX_FMT_YUVJ411P;
 }
 
-/// Formats whose samples are no plain numbers at regular places, and the nearest one whose
-/// samples are; AV_PIX_FMT_NONE for all that can be read as they are.
+/// Whether pictures of the format have samples in main memory that are numbers at regular places,
+/// or can be made to have such.
+bool isReadable(AVPixelFormat format, const AVPixFmtDescriptor& descriptor) {
+    const bool isHalfFloat =
+        descriptor.flags & AV_PIX_FMT_FLAG_FLOAT && descriptor.comp[0].depth != 32;
+    return !(descriptor.flags & AV_PIX_FMT_FLAG_HWACCEL) && !isHalfFloat &&
+           format != AV_PIX_FMT_UYYVYY411;
+}
+
+/// The nearest format with such samples; AV_PIX_FMT_NONE for all that have them.
 AVPixelFormat plainSubstitute(AVPixelFormat format, const AVPixFmtDescriptor& descriptor) {
-    const bool isGrey = descriptor.nb_components < 3;
-    if (descriptor.flags & AV_PIX_FMT_FLAG_FLOAT) {
-        if (isGrey)
-            return AV_PIX_FMT_GRAY16;
-        return descriptor.flags & AV_PIX_FMT_FLAG_ALPHA ? AV_PIX_FMT_GBRAP16 : AV_PIX_FMT_GBRP16;
-    }
     if (descriptor.flags & AV_PIX_FMT_FLAG_BAYER)
         return AV_PIX_FMT_RGB24;
     switch (format) {
     case AV_PIX_FMT_XYZ12LE:
     case AV_PIX_FMT_XYZ12BE:
         return AV_PIX_FMT_RGB48;
-    case AV_PIX_FMT_UYYVYY411:
-        return AV_PIX_FMT_YUV411P;
     case AV_PIX_FMT_MONOWHITE:
     case AV_PIX_FMT_MONOBLACK:
         return AV_PIX_FMT_GRAY8;
@@ -58,12 +58,13 @@ PlanarFormat formatOf(const AVFrame& frame, const AVPixFmtDescriptor& descriptor
     PlanarFormat format{.family = familyOf(descriptor),
                         .width = frame.width,
                         .height = frame.height,
-                        .depth = unpackedDepth(descriptor.comp[0])};
+                        .depth = unpackedDepth(descriptor, 0)};
     if (format.family == Family::yuv) {
         format.chromaShiftX = descriptor.log2_chroma_w;
         format.chromaShiftY = descriptor.log2_chroma_h;
     }
     format.isFullRange = format.family == Family::rgb || isDeprecatedFullRange(pixelFormat) ||
+                         descriptor.flags & AV_PIX_FMT_FLAG_FLOAT ||
                          frame.color_range == AVCOL_RANGE_JPEG;
     if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED)
         format.chromaLocation = frame.chroma_location;
@@ -72,7 +73,7 @@ PlanarFormat formatOf(const AVFrame& frame, const AVPixFmtDescriptor& descriptor
     return format;
 }
 
-}  // namespace
+} // namespace
 
 unsigned blackLevel(const PlanarFormat& format) {
     return format.isFullRange ? 0 : 16U << (format.depth - 8);
@@ -85,8 +86,7 @@ unsigned neutralChroma(int depth) {
 PlanarPicture PlanarReader::read(const AVFrame& frame) {
     const auto format = static_cast<AVPixelFormat>(frame.format);
     const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
-    if (!descriptor || descriptor->flags & AV_PIX_FMT_FLAG_HWACCEL || frame.width < 1 ||
-        frame.height < 1)
+    if (!descriptor || !isReadable(format, *descriptor) || frame.width < 1 || frame.height < 1)
         failUnreadable(format);
     const AVPixelFormat substitute = plainSubstitute(format, *descriptor);
     if (substitute == AV_PIX_FMT_NONE)
@@ -127,8 +127,8 @@ ConstPlane PlanarReader::component(const AVFrame& frame, const AVPixFmtDescripto
     const AVComponentDescriptor& layout = descriptor.comp[index];
     if (isPlane(descriptor, index))
         return {frame.data[layout.plane], frame.linesize[layout.plane], width, height};
-    const Plane plane =
-        m_components[static_cast<unsigned>(index)].reserve(width, height, unpackedDepth(layout));
+    const Plane plane = m_components[static_cast<unsigned>(index)].reserve(
+        width, height, unpackedDepth(descriptor, index));
     unpackComponent(frame, descriptor, index, plane);
     return plane;
 }
@@ -168,9 +168,8 @@ const AVFrame& PlanarReader::repacked(const AVFrame& frame, AVPixelFormat to) {
     m_repacked->width = frame.width;
     m_repacked->height = frame.height;
     m_repacked->chroma_location = frame.chroma_location;
-    // What becomes grey here comes from formats without a darkest level above 0.
-    const bool becomesGrey = to == AV_PIX_FMT_GRAY8 || to == AV_PIX_FMT_GRAY16;
-    m_repacked->color_range = becomesGrey ? AVCOL_RANGE_JPEG : frame.color_range;
+    // What becomes grey here has nothing but black and white.
+    m_repacked->color_range = to == AV_PIX_FMT_GRAY8 ? AVCOL_RANGE_JPEG : frame.color_range;
     if (av_frame_get_buffer(m_repacked.get(), 0) < 0)
         throw std::bad_alloc();
     if (sws_scale(m_repacker.get(), frame.data, frame.linesize, 0, frame.height, m_repacked->data,
@@ -179,4 +178,4 @@ const AVFrame& PlanarReader::repacked(const AVFrame& frame, AVPixelFormat to) {
     return *m_repacked;
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -64,4 +64,4 @@ private:
     ffmpeg::FramePtr m_repacked;
 };
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -82,4 +82,4 @@ private:
     AlignedBuffer m_bytes;
 };
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -39,8 +39,7 @@ double filterWeight(Filter filter, double distance) {
     return filter == Filter::cubic ? cubicWeight(x) : spline36Weight(x);
 }
 
-bool isPlainCopy(const AxisSampling& axis, int length)
-{
+bool isPlainCopy(const AxisSampling& axis, int length) {
     return axis.isCopy() && axis.firstCopied() >= 0 && axis.firstCopied() + axis.count <= length;
 }
 
@@ -111,7 +110,7 @@ float depthFactor(const Resampling& resampling) {
            static_cast<float>((1U << resampling.depth) - 1);
 }
 
-}  // namespace
+} // namespace
 
 PlaneResampler::PlaneResampler(const Resampling& resampling) : m_resampling(resampling) {
     const Resampling& r = m_resampling;
@@ -225,4 +224,4 @@ void PlaneResampler::runDirectly(ConstPlane in, Plane out) {
     }
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

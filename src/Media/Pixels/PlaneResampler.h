@@ -74,4 +74,4 @@ private:
     Kernel m_kernelY;
 };
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -140,7 +140,7 @@ P upsideDown(P plane) {
     return plane;
 }
 
-}  // namespace
+} // namespace
 
 void turnPlane(ConstPlane in, Plane out, Turn turnBy, int sampleBytes) {
     if (turnBy.mirroredY)
@@ -157,4 +157,4 @@ void turnPlane(ConstPlane in, Plane out, Turn turnBy, int sampleBytes) {
     }
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -21,4 +21,4 @@ struct Turn {
 /// or 4 bytes wide.
 void turnPlane(ConstPlane in, Plane out, Turn turn, int sampleBytes);
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -36,4 +36,4 @@ private:
     std::vector<Entry> m_entries;
 };
 
-}  // namespace media::pixels
+} // namespace media::pixels

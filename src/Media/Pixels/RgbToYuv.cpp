@@ -27,7 +27,7 @@ bool isAligned(const ConstPlane& plane) {
            plane.stride % static_cast<std::ptrdiff_t>(kPlaneAlignment) == 0;
 }
 
-}  // namespace
+} // namespace
 
 AVColorSpace usableMatrix(AVColorSpace wanted) {
     switch (wanted) {
@@ -92,4 +92,4 @@ PlanarPicture RgbToYuv::convert(const PlanarPicture& rgb) {
     return yuv;
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -38,4 +38,4 @@ private:
     std::array<PlaneBuffer, 3> m_converted;
 };
 
-}  // namespace media::pixels
+} // namespace media::pixels

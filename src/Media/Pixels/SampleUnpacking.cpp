@@ -79,6 +79,24 @@ bool pickCommon(const AVFrame& frame, const AVPixFmtDescriptor& format,
     }
 }
 
+/// Single-precision numbers; what lies outside of 0 … 1 is cut off.
+void pickFloats(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out) {
+    const std::uint8_t* planes[4] = {frame.data[0], frame.data[1], frame.data[2], frame.data[3]};
+    const int strides[4] = {frame.linesize[0], frame.linesize[1], frame.linesize[2],
+                            frame.linesize[3]};
+    std::vector<std::uint32_t> line(static_cast<std::size_t>(out.width));
+    for (int y = 0; y < out.height; ++y) {
+        av_read_image_line2(line.data(), planes, strides, &format, 0, y, index, out.width, 0, 4);
+        std::ranges::transform(
+            line, reinterpret_cast<std::uint16_t*>(out.line(y)), [](std::uint32_t bits) {
+                const auto value = std::bit_cast<float>(bits);
+                // Not a number counts as nothing.
+                const float level = value > 0 ? std::min(value, 1.0F) * 65535 : 0;
+                return static_cast<std::uint16_t>(level + 0.5F);
+            });
+    }
+}
+
 /// Every remaining layout, by way of libavutil's reader of single lines.
 void pickAny(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out) {
     const AVComponentDescriptor& component = format.comp[index];
@@ -126,10 +144,10 @@ void averageLine(ConstPlane alpha, int top, int bottom, int shiftX, T* out, int 
     }
 }
 
-}  // namespace
+} // namespace
 
-int unpackedDepth(const AVComponentDescriptor& component) {
-    return std::max(8, component.depth);
+int unpackedDepth(const AVPixFmtDescriptor& format, int component) {
+    return format.flags & AV_PIX_FMT_FLAG_FLOAT ? 16 : std::max(8, format.comp[component].depth);
 }
 
 bool isPlane(const AVPixFmtDescriptor& format, int component) {
@@ -138,11 +156,13 @@ bool isPlane(const AVPixFmtDescriptor& format, int component) {
                                                  (std::endian::native == std::endian::big);
     return native && layout.depth >= 8 && layout.shift == 0 && layout.offset == 0 &&
            layout.step == bytesPerSample(layout.depth) &&
-           !(format.flags & AV_PIX_FMT_FLAG_BITSTREAM);
+           !(format.flags & (AV_PIX_FMT_FLAG_BITSTREAM | AV_PIX_FMT_FLAG_FLOAT));
 }
 
 void unpackComponent(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out) {
-    if (!pickCommon(frame, format, format.comp[index], out))
+    if (format.flags & AV_PIX_FMT_FLAG_FLOAT)
+        pickFloats(frame, format, index, out);
+    else if (!pickCommon(frame, format, format.comp[index], out))
         pickAny(frame, format, index, out);
 }
 
@@ -204,4 +224,4 @@ void composeOver(ConstPlane in, ConstPlane alpha, int depth, unsigned base, Plan
     }
 }
 
-}  // namespace media::pixels
+} // namespace media::pixels

@@ -9,16 +9,16 @@ extern "C" {
 
 namespace media::pixels {
 
-/// Depth in bits of the samples that unpackComponent() makes of a component: its own, or 8 where
-/// it has fewer.
-int unpackedDepth(const AVComponentDescriptor& component);
+/// Depth in bits of the samples that unpackComponent() makes of a component: its own, but 8 where
+/// it has fewer and 16 where it is a floating-point number.
+int unpackedDepth(const AVPixFmtDescriptor& format, int component);
 
 /// Whether the component lies in memory as a plane of unpackedDepth() already.
 bool isPlane(const AVPixFmtDescriptor& format, int component);
 
 /// Copies component `index` of every pixel into a plane of its own, whatever the layout in memory.
-/// Samples of fewer than 8 bits are stretched to 0 … 255, others keep their value. Not for
-/// palettes, floating-point and mosaic formats.
+/// Samples of fewer than 8 bits are stretched to 0 … 255, floating-point ones from 0 … 1 to
+/// 0 … 65535; others keep their value. Not for palettes and mosaics.
 void unpackComponent(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out);
 
 /// Splits a picture of palette entries into planes of 8 bits: red, green, blue over black.
@@ -34,4 +34,4 @@ void averageAlpha(ConstPlane alpha, int depth, int shiftX, int shiftY, Plane out
 /// value `base`. All three planes are of one size and depth; `in` may be `out`.
 void composeOver(ConstPlane in, ConstPlane alpha, int depth, unsigned base, Plane out);
 
-}  // namespace media::pixels
+} // namespace media::pixels
