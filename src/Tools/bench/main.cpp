@@ -1,0 +1,147 @@
+#include "Support/Workers.h"
+#include "Tools/bench/Benchmarks.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdio>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using namespace brisklet::bench;
+
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+/// The picture's share of a new window.
+constexpr QSize kUsualSize(960, 540);
+constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [--size WxH]\n"
+                               "       brisklet-bench open SOURCE\n"
+                               "       brisklet-bench play SOURCE SECONDS\n"
+                               "       brisklet-bench startup\n";
+
+/// Arguments that are none of the above.
+class UsageError final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+std::vector<double> readTimes(const std::string& path) {
+    QFile file(QString::fromLocal8Bit(path));
+    if (!file.open(QIODevice::ReadOnly))
+        throw BenchmarkError("The list of times cannot be read.");
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    if (!document.isArray())
+        throw BenchmarkError("The times are no JSON list of seconds.");
+    std::vector<double> times;
+    for (const QJsonValue& value : document.array())
+        times.push_back(value.toDouble());
+    if (times.empty())
+        throw BenchmarkError("The list of times is empty.");
+    return times;
+}
+
+QSize parseSize(std::string_view text) {
+    int width = 0;
+    int height = 0;
+    const std::size_t cross = text.find('x');
+    if (cross != std::string_view::npos) {
+        std::from_chars(text.data(), text.data() + cross, width);
+        std::from_chars(text.data() + cross + 1, text.data() + text.size(), height);
+    }
+    if (width <= 0 || height <= 0)
+        throw UsageError("--size needs WxH");
+    return {width, height};
+}
+
+double parseSeconds(const std::string& text) {
+    double seconds = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), seconds);
+    if (result.ec != std::errc() || !(seconds > 0) || !std::isfinite(seconds))
+        throw UsageError("SECONDS needs a number");
+    return seconds;
+}
+
+/// The value that `share` of the sorted values do not exceed.
+double percentile(const std::vector<double>& sorted, double share) {
+    const auto rank =
+        static_cast<std::size_t>(std::ceil(share * static_cast<double>(sorted.size())));
+    return sorted[std::clamp<std::size_t>(rank, 1, sorted.size()) - 1];
+}
+
+void print(const QJsonObject& figures) {
+    std::puts(QJsonDocument(figures).toJson(QJsonDocument::Compact).constData());
+}
+
+void runScrub(const std::vector<std::string>& operands) {
+    const bool hasSize = operands.size() == 4 && operands[2] == "--size";
+    if (operands.size() != 2 && !hasSize)
+        throw UsageError("scrub takes SOURCE TIMES.json [--size WxH]");
+    const auto figures =
+        scrub(operands[0], readTimes(operands[1]), hasSize ? parseSize(operands[3]) : kUsualSize);
+    std::vector<double> sorted = figures.seeks;
+    std::ranges::sort(sorted);
+    print({{QStringLiteral("n"), static_cast<qint64>(sorted.size())},
+           {QStringLiteral("first"), figures.seeks.front()},
+           {QStringLiteral("p50"), percentile(sorted, 0.5)},
+           {QStringLiteral("p95"), percentile(sorted, 0.95)},
+           {QStringLiteral("max"), sorted.back()}});
+}
+
+void runPlay(const std::vector<std::string>& operands) {
+    if (operands.size() != 2)
+        throw UsageError("play takes SOURCE SECONDS");
+    const auto figures = play(operands[0], parseSeconds(operands[1]));
+    print({{QStringLiteral("shown"), static_cast<qint64>(figures.shown)},
+           {QStringLiteral("late"), static_cast<qint64>(figures.late)},
+           {QStringLiteral("dropped"), static_cast<qint64>(figures.dropped)},
+           {QStringLiteral("cpuSeconds"), figures.cpuSeconds}});
+}
+
+void runBenchmark(const std::string& name, const std::vector<std::string>& operands,
+                  Clock::time_point start) {
+    if (name == "scrub") {
+        runScrub(operands);
+    } else if (name == "open" && operands.size() == 1) {
+        std::printf("%.1f\n", open(operands[0]));
+    } else if (name == "play") {
+        runPlay(operands);
+    } else if (name == "startup" && operands.empty()) {
+        std::printf("%.1f\n", startup(start));
+    } else {
+        throw UsageError("\"" + name + "\" with these arguments is no benchmark");
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto start = Clock::now();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("brisklet"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    const std::vector<std::string> arguments(argv + 1, argv + std::max(argc, 1));
+    int status = 0;
+    try {
+        if (arguments.empty())
+            throw UsageError("no benchmark is named");
+        runBenchmark(arguments[0], {arguments.begin() + 1, arguments.end()}, start);
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "brisklet-bench: %s\n%s", error.what(), kUsage);
+        status = kWrongUsage;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brisklet-bench: %s\n", error.what());
+        status = kFailed;
+    }
+    brisklet::waitForWorkers();
+    return status;
+}

@@ -1,0 +1,210 @@
+#include "Tools/cli/Arguments.h"
+
+#include "Tools/cli/ArgumentList.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstddef>
+#include <string_view>
+
+namespace brisklet::cli {
+
+namespace {
+
+/// A crop that leaves out no more than this on any side is no crop.
+constexpr double kCropSlack = 0.001;
+constexpr int kMostStills = 10'000;
+
+const ArgumentList::Options kNoOptions;
+const ArgumentList::Options kFilmstripOptions{.flags = {}, .withValue = {"--count"}};
+const ArgumentList::Options kExportOptions{
+    .flags = {"--mute"},
+    .withValue = {"--start", "--end", "--crop", "--rotate", "--max-short-edge", "--format",
+                  "--progress", "--h264-preset", "--h264-crf", "--hevc-preset", "--hevc-crf"}};
+
+void expectOperands(const ArgumentList& list, std::size_t count, const char* names) {
+    if (list.operands().size() < count)
+        throw UsageError(std::string("something is missing: expected ") + names);
+    if (list.operands().size() > count)
+        throw UsageError("unexpected argument \"" + list.operands()[count] + "\"");
+    if (std::ranges::any_of(list.operands(), [](const auto& operand) { return operand.empty(); }))
+        throw UsageError("a name is empty");
+}
+
+ProbeCommand parseProbe(std::span<char* const> arguments) {
+    const ArgumentList list(arguments, kNoOptions);
+    expectOperands(list, 1, "SOURCE");
+    return {list.operands()[0]};
+}
+
+FilmstripCommand parseFilmstrip(std::span<char* const> arguments) {
+    const ArgumentList list(arguments, kFilmstripOptions);
+    expectOperands(list, 2, "SOURCE DIRECTORY");
+    FilmstripCommand command{.source = list.operands()[0], .directory = list.operands()[1]};
+    command.count = list.integer("--count").value_or(command.count);
+    if (command.count < 1 || command.count > kMostStills)
+        throw UsageError("--count needs a number from 1 to " + std::to_string(kMostStills));
+    return command;
+}
+
+FrameCommand parseFrame(std::span<char* const> arguments) {
+    const ArgumentList list(arguments, kNoOptions);
+    expectOperands(list, 3, "SOURCE SECONDS OUTPUT.png");
+    const auto seconds = parseNumber(list.operands()[1]);
+    if (!seconds || *seconds < 0)
+        throw UsageError("SECONDS needs a number from 0, not \"" + list.operands()[1] + "\"");
+    return {list.operands()[0], *seconds, list.operands()[2]};
+}
+
+std::optional<media::Rect> parseCrop(const std::string& text) {
+    std::array<double, 4> sides = {};
+    std::string_view rest = text;
+    for (std::size_t i = 0; i < sides.size(); ++i) {
+        const std::size_t comma = i + 1 < sides.size() ? rest.find(',') : rest.size();
+        const auto side =
+            comma == std::string_view::npos ? std::nullopt : parseNumber(rest.substr(0, comma));
+        if (!side)
+            throw UsageError("--crop needs X,Y,W,H, not \"" + text + "\"");
+        sides[i] = *side;
+        rest.remove_prefix(std::min(comma + 1, rest.size()));
+    }
+    const media::Rect crop{sides[0], sides[1], sides[2], sides[3]};
+    const media::Rect whole{0, 0, 1, 1};
+    if (crop.width <= 0 || crop.height <= 0 ||
+        !whole.insetBy(-kCropSlack, -kCropSlack).contains(crop))
+        throw UsageError("--crop needs fractions of the picture, from 0 to 1, with an area");
+    if (crop.insetBy(-kCropSlack, -kCropSlack).contains(whole))
+        return std::nullopt;
+    return crop.intersected(whole);
+}
+
+std::optional<ExportFormat> formatOf(const std::string& name) {
+    std::string upper = name;
+    std::ranges::transform(upper, upper.begin(), [](unsigned char character) {
+        return static_cast<char>(std::toupper(character));
+    });
+    if (upper == "MP4" || upper == "M4V")
+        return ExportFormat::mp4;
+    if (upper == "MOV" || upper == "QT")
+        return ExportFormat::mov;
+    return std::nullopt;
+}
+
+ExportFormat parseFormat(const ArgumentList& list, const std::filesystem::path& output) {
+    if (const auto name = list.value("--format")) {
+        if (const auto format = formatOf(*name))
+            return *format;
+        throw UsageError("--format knows mp4 and mov, not \"" + *name + "\"");
+    }
+    const std::string extension = output.extension().string();
+    if (const auto format = formatOf(extension.empty() ? extension : extension.substr(1)))
+        return *format;
+    throw UsageError("the name of the output does not say which format: add --format mp4 or mov");
+}
+
+std::optional<media::EncoderSettings> parseEncoders(const ArgumentList& list) {
+    media::EncoderSettings settings;
+    settings.h264Preset = list.value("--h264-preset").value_or(settings.h264Preset);
+    settings.h264Crf = list.number("--h264-crf").value_or(settings.h264Crf);
+    settings.hevcPreset = list.value("--hevc-preset").value_or(settings.hevcPreset);
+    settings.hevcCrf = list.number("--hevc-crf").value_or(settings.hevcCrf);
+    const bool areChanged = list.has("--h264-preset") || list.has("--h264-crf") ||
+                            list.has("--hevc-preset") || list.has("--hevc-crf");
+    return areChanged ? std::optional(settings) : std::nullopt;
+}
+
+void parseRange(ExportCommand& command, const ArgumentList& list) {
+    command.start = list.number("--start").value_or(command.start);
+    command.end = list.number("--end").value_or(command.end);
+    if (command.start < 0)
+        throw UsageError("--start must not be negative");
+    if (command.end <= command.start)
+        throw UsageError("--end must come after --start");
+}
+
+ExportCommand parseExport(std::span<char* const> arguments) {
+    const ArgumentList list(arguments, kExportOptions);
+    expectOperands(list, 2, "SOURCE OUTPUT");
+    ExportCommand command;
+    command.source = list.operands()[0];
+    command.output = list.operands()[1];
+    parseRange(command, list);
+    if (const auto crop = list.value("--crop"))
+        command.crop = parseCrop(*crop);
+    command.rotation = list.integer("--rotate").value_or(0);
+    command.muted = list.has("--mute");
+    command.maxShortEdge = list.integer("--max-short-edge");
+    if (command.maxShortEdge.value_or(1) < 1)
+        throw UsageError("--max-short-edge needs a number of pixels");
+    command.format = parseFormat(list, command.output);
+    if (const auto progress = list.value("--progress")) {
+        if (*progress != "json")
+            throw UsageError("--progress knows json only, not \"" + *progress + "\"");
+        command.progress = ExportCommand::Progress::json;
+    }
+    command.encoders = parseEncoders(list);
+    return command;
+}
+
+} // namespace
+
+Command parseArguments(std::span<char* const> arguments) {
+    // Before a "--", a question for help wins over all else.
+    for (const std::string_view argument : arguments) {
+        if (argument == "--")
+            break;
+        if (argument == "--help" || argument == "-h")
+            return HelpCommand();
+        if (argument == "--version")
+            return VersionCommand();
+    }
+    if (arguments.empty())
+        throw UsageError("no command is given");
+    const std::string_view name = arguments.front();
+    const auto rest = arguments.subspan(1);
+    if (name == "probe")
+        return parseProbe(rest);
+    if (name == "filmstrip")
+        return parseFilmstrip(rest);
+    if (name == "frame")
+        return parseFrame(rest);
+    if (name == "export")
+        return parseExport(rest);
+    throw UsageError("\"" + std::string(name) + "\" is no command");
+}
+
+std::string shortUsage() {
+    return "Usage: brisklet-cli probe SOURCE\n"
+           "       brisklet-cli filmstrip SOURCE DIRECTORY [--count N]\n"
+           "       brisklet-cli frame SOURCE SECONDS OUTPUT.png\n"
+           "       brisklet-cli export SOURCE OUTPUT [--start S] [--end S] [--crop X,Y,W,H]\n"
+           "                    [--rotate DEGREES] [--mute] [--max-short-edge N]\n"
+           "                    [--format mp4|mov] [--progress json]\n";
+}
+
+std::string fullUsage() {
+    return shortUsage() +
+           "\n"
+           "probe      prints what the file is, as one JSON object.\n"
+           "filmstrip  writes N (12) small stills from the middles of N equal slices to the\n"
+           "           directory as 00.png, 01.png, ..., and prints their times as JSON.\n"
+           "frame      writes the upright picture that a player shows at that time.\n"
+           "export     writes a copy of the file:\n"
+           "  --start, --end        the part to keep, in seconds (all of it)\n"
+           "  --crop                in fractions of the picture as displayed after --rotate,\n"
+           "                        from its top left corner\n"
+           "  --rotate              clockwise quarter turns, in degrees\n"
+           "  --mute                leaves the sound out\n"
+           "  --max-short-edge      scales down to this many pixels on the shorter side\n"
+           "  --format              mp4 or mov (what the output's name ends in)\n"
+           "  --progress json       prints one JSON line per report instead of a bar\n"
+           "  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf\n"
+           "                        other encoder settings than the program's, for measurements\n"
+           "\n"
+           "  --help, --version     print this, or the version, and exit\n"
+           "\n"
+           "Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.\n";
+}
+
+} // namespace brisklet::cli

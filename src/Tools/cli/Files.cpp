@@ -1,0 +1,62 @@
+#include "Tools/cli/Files.h"
+
+#include "Media/Error.h"
+#include "Support/FileUrl.h"
+#include "Tools/cli/Commands.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+
+namespace brisklet::cli {
+
+namespace {
+
+struct Close {
+    void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+};
+
+[[noreturn]] void throwWriteError(const std::filesystem::path& path, int code) {
+    throw CommandError("Couldn't write " + quotedName(path) + ": " +
+                       std::generic_category().message(code) + ".");
+}
+
+} // namespace
+
+std::string quotedName(const std::filesystem::path& path) {
+    const QString name = displayName(urlOf(path));
+    return (u'\u201C' + name + u'\u201D').toStdString();
+}
+
+std::shared_ptr<const media::Asset> openSource(const std::filesystem::path& path,
+                                               const std::stop_token& stop) {
+    try {
+        return media::Asset::open(path, stop);
+    } catch (const media::Error& error) {
+        throw CommandError("Couldn't open " + quotedName(path) + ": " + error.what());
+    }
+}
+
+void writeFile(const std::filesystem::path& path, const QByteArray& content) {
+    std::unique_ptr<std::FILE, Close> file(std::fopen(path.c_str(), "wbe"));
+    if (!file)
+        throwWriteError(path, errno);
+    const auto size = static_cast<std::size_t>(content.size());
+    // A full disk may show only when the rest of the buffer goes out.
+    if (std::fwrite(content.constData(), 1, size, file.get()) != size ||
+        std::fflush(file.get()) != 0)
+        throwWriteError(path, errno);
+    if (std::fclose(file.release()) != 0)
+        throwWriteError(path, errno);
+}
+
+void writeToStandardOutput(const QByteArray& content) {
+    const auto size = static_cast<std::size_t>(content.size());
+    if (std::fwrite(content.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        throw CommandError("Couldn't write the answer: " + std::generic_category().message(errno) +
+                           ".");
+}
+
+} // namespace brisklet::cli

@@ -1,0 +1,101 @@
+#include "Media/Error.h"
+#include "Media/ImageGenerator.h"
+#include "Support/ImageConversion.h"
+#include "Tools/cli/Commands.h"
+#include "Tools/cli/Files.h"
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
+#include <cstdio>
+#include <optional>
+#include <system_error>
+
+namespace brisklet::cli {
+
+namespace {
+
+// The filmstrip of the window.
+constexpr int kMaximumHeight = 120;
+constexpr double kToleranceSeconds = 0.5;
+
+media::Time timeOf(double seconds) {
+    return media::Time::fromSeconds(seconds, media::kComparisonTimescale);
+}
+
+media::ImageGenerator makeGenerator(const std::filesystem::path& source,
+                                    const std::shared_ptr<const media::Asset>& asset) {
+    if (asset->tracks(media::MediaType::video).empty())
+        throw CommandError(quotedName(source) + " contains no video track.");
+    return media::ImageGenerator(asset);
+}
+
+QByteArray pngOf(media::ImagePtr image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!toQImage(std::move(image)).save(&buffer, "PNG"))
+        throw CommandError("Couldn't write the picture as PNG.");
+    return bytes;
+}
+
+std::string stillName(int number) {
+    std::array<char, 16> name = {};
+    std::snprintf(name.data(), name.size(), "%02d.png", number);
+    return name.data();
+}
+
+void createDirectory(const std::filesystem::path& directory) {
+    std::error_code error;
+    std::filesystem::create_directories(directory, error);
+    if (error)
+        throw CommandError("Couldn't make the folder " + quotedName(directory) + ": " +
+                           error.message() + ".");
+}
+
+} // namespace
+
+void run(const FilmstripCommand& command, const std::stop_token& stop) {
+    const auto asset = openSource(command.source, stop);
+    media::ImageGenerator generator = makeGenerator(command.source, asset);
+    generator.setMaximumSize(0, kMaximumHeight);
+    generator.setTolerance(timeOf(kToleranceSeconds), timeOf(kToleranceSeconds));
+    createDirectory(command.directory);
+
+    const double duration = asset->duration().seconds();
+    QJsonArray times;
+    std::string lastFailure = "It has no length.";
+    for (int i = 0; i < command.count && duration > 0; ++i) {
+        const media::Time requested = timeOf((i + 0.5) * duration / command.count);
+        std::optional<media::TimedImage> still;
+        try {
+            still = generator.image(requested, stop);
+        } catch (const media::Error& error) {
+            // As in the window, a damaged spot takes only its own picture away.
+            lastFailure = error.what();
+            continue;
+        }
+        const auto number = static_cast<int>(times.size());
+        writeFile(command.directory / stillName(number), pngOf(std::move(still->image)));
+        times.append(QJsonObject{{QStringLiteral("requested"), requested.seconds()},
+                                 {QStringLiteral("actual"), still->time.seconds()}});
+    }
+    if (times.isEmpty())
+        throw CommandError("Couldn't make a filmstrip of " + quotedName(command.source) + ": " +
+                           lastFailure);
+    writeToStandardOutput(QJsonDocument(times).toJson());
+}
+
+void run(const FrameCommand& command, const std::stop_token& stop) {
+    const auto asset = openSource(command.source, stop);
+    media::ImageGenerator generator = makeGenerator(command.source, asset);
+    try {
+        writeFile(command.output, pngOf(generator.image(timeOf(command.seconds), stop).image));
+    } catch (const media::Error& error) {
+        throw CommandError("Couldn't make the picture: " + std::string(error.what()));
+    }
+}
+
+} // namespace brisklet::cli

@@ -1,0 +1,71 @@
+#include "Media/Error.h"
+#include "Tools/cli/Arguments.h"
+#include "Tools/cli/Commands.h"
+#include "Tools/cli/Interruption.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <span>
+#include <string>
+#include <type_traits>
+#include <variant>
+
+namespace {
+
+using namespace brisklet::cli;
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+constexpr int kInterrupted = 130;
+
+/// A failure is told in exactly one line, whatever the texts of other libraries hold.
+void tell(std::string message) {
+    std::ranges::replace(message, '\n', ' ');
+    std::fprintf(stderr, "%s\n", message.c_str());
+}
+
+int perform(const HelpCommand&) {
+    std::fputs(fullUsage().c_str(), stdout);
+    return kDone;
+}
+
+int perform(const VersionCommand&) {
+    std::puts("brisklet-cli " BRISKLET_VERSION);
+    return kDone;
+}
+
+template<typename Work>
+int perform(const Work& command) {
+    const Interruption interruption;
+    try {
+        run(command, interruption.token());
+        return kDone;
+    } catch (const media::Cancelled&) {
+        return kInterrupted;
+    } catch (const std::exception& error) {
+        // Whoever interrupts is not interested in what else went wrong because of it.
+        if (interruption.token().stop_requested())
+            return kInterrupted;
+        tell(error.what());
+        return kFailed;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::span<char* const> all(argv, argc > 0 ? static_cast<std::size_t>(argc) : 0);
+    try {
+        const Command command = parseArguments(all.subspan(std::min<std::size_t>(1, all.size())));
+        return std::visit([](const auto& chosen) { return perform(chosen); }, command);
+    } catch (const UsageError& error) {
+        tell(std::string("brisklet-cli: ") + error.what());
+        std::fputs(shortUsage().c_str(), stderr);
+        return kWrongUsage;
+    } catch (const std::exception& error) {
+        tell(std::string("brisklet-cli: ") + error.what());
+        return kFailed;
+    }
+}
