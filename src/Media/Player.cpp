@@ -203,11 +203,13 @@ Player::Private::StaleWork Player::Private::beginJump(Transport& transport, Time
 }
 
 void Player::Private::setPlaying(bool isPlaying) {
+    if (transport()->isPlaying == isPlaying)
+        return;
+    // Before any thread can act on it, so that an end that follows at once is reported after it.
+    reportRate(isPlaying ? 1.0F : 0.0F);
     StaleWork stale;
     {
         auto access = transport();
-        if (access->isPlaying == isPlaying)
-            return;
         const Time time = access->time(now());
         access->isPlaying = isPlaying;
         if (isPlaying)
@@ -219,7 +221,6 @@ void Player::Private::setPlaying(bool isPlaying) {
         stale.audio = std::exchange(access->audioWork, std::stop_source());
     }
     stale.stop();
-    reportRate(isPlaying ? 1.0F : 0.0F);
 }
 
 void Player::Private::seek(Time time, Time before, Time after, std::function<void(bool)> done) {

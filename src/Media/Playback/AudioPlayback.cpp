@@ -66,7 +66,7 @@ bool AudioPlayback::takeRun() {
         return false;
     m_run = {access->run,         access->item,
              access->time(now()), access->isRunningWanted(),
-             access->lastEnd,    access->audioWork.get_token()};
+             access->lastEnd,     access->audioWork.get_token()};
     return true;
 }
 
