@@ -1,5 +1,6 @@
 #include "Media/Asset.h"
 
+#include "Media/FFmpeg/DemuxerPool.h"
 #include "Media/FFmpeg/Inspection.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
@@ -8,13 +9,17 @@ namespace media {
 
 std::shared_ptr<const Asset> Asset::open(const std::filesystem::path& path, std::stop_token stop) {
     auto file = ffmpeg::SourceFile::open(path);
-    auto info = std::make_unique<ffmpeg::SourceInfo>(ffmpeg::inspect(file, stop));
-    return std::make_shared<const Asset>(std::move(file), std::move(info));
+    auto demuxer = std::make_unique<ffmpeg::Demuxer>(file, nullptr, stop);
+    auto info = std::make_unique<ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
+    auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format);
+    demuxers->giveBack(std::move(demuxer));
+    return std::make_shared<const Asset>(std::move(file), std::move(info), std::move(demuxers));
 }
 
 Asset::Asset(std::shared_ptr<const ffmpeg::SourceFile> file,
-             std::unique_ptr<ffmpeg::SourceInfo> info)
-    : m_file(std::move(file)), m_info(std::move(info)) {}
+             std::unique_ptr<ffmpeg::SourceInfo> info,
+             std::unique_ptr<ffmpeg::DemuxerPool> demuxers)
+    : m_file(std::move(file)), m_info(std::move(info)), m_demuxers(std::move(demuxers)) {}
 
 Asset::~Asset() = default;
 

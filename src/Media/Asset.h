@@ -13,6 +13,7 @@ namespace media {
 
 namespace ffmpeg {
 struct SourceInfo;
+class DemuxerPool;
 class SourceFile;
 } // namespace ffmpeg
 
@@ -74,7 +75,8 @@ public:
     static std::shared_ptr<const Asset> open(const std::filesystem::path& path,
                                              std::stop_token stop = {});
 
-    Asset(std::shared_ptr<const ffmpeg::SourceFile> file, std::unique_ptr<ffmpeg::SourceInfo> info);
+    Asset(std::shared_ptr<const ffmpeg::SourceFile> file, std::unique_ptr<ffmpeg::SourceInfo> info,
+          std::unique_ptr<ffmpeg::DemuxerPool> demuxers);
     Asset(const Asset&) = delete;
     Asset& operator=(const Asset&) = delete;
     ~Asset();
@@ -91,9 +93,12 @@ public:
 
     [[nodiscard]] const std::shared_ptr<const ffmpeg::SourceFile>& file() const { return m_file; }
 
+    [[nodiscard]] ffmpeg::DemuxerPool& demuxers() const { return *m_demuxers; }
+
 private:
     std::shared_ptr<const ffmpeg::SourceFile> m_file;
     std::unique_ptr<ffmpeg::SourceInfo> m_info;
+    std::unique_ptr<ffmpeg::DemuxerPool> m_demuxers;
 };
 
 /// The size of a track's picture turned upright (|width| and |height| of the transformed frame).

@@ -3,7 +3,7 @@
 #include "Media/Error.h"
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/Decoder.h"
-#include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/DemuxerPool.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
@@ -35,15 +35,20 @@ public:
     Private(std::shared_ptr<const Asset> asset, const AssetTrack& facts, Options options)
         : m_asset(std::move(asset)),
           m_track(m_asset->info().track(facts.streamIndex)),
-          m_demuxer(m_asset->file(), m_asset->info().format),
+          m_demuxer(m_asset->demuxers().take()),
           m_options(options) {
         openDecoder();
         if (!ffmpeg::statesPresentationTimes(*m_asset->info().format))
-            m_demuxer.findStreamInfo();
+            m_demuxer->findStreamInfo();
         if (m_track.needsGeneratedTimes)
-            m_demuxer.generatePresentationTimes();
-        m_demuxer.selectOnly({m_track.facts.streamIndex});
+            m_demuxer->generatePresentationTimes();
+        m_demuxer->selectOnly({m_track.facts.streamIndex});
     }
+
+    Private(const Private&) = delete;
+    Private& operator=(const Private&) = delete;
+
+    ~Private() { m_asset->demuxers().giveBack(std::move(m_demuxer)); }
 
     void seek(std::int64_t ticks, const std::stop_token& stop) {
         m_target = ticks;
@@ -70,11 +75,13 @@ public:
     }
 
     const DecodedFrame* peek(const std::stop_token& stop) {
+        startIfNew(stop);
         fill(1, stop);
         return m_queue.empty() ? nullptr : &m_queue.front();
     }
 
     std::optional<DecodedFrame> next(const std::stop_token& stop) {
+        startIfNew(stop);
         fill(1, stop);
         if (m_queue.empty())
             return std::nullopt;
@@ -95,7 +102,7 @@ private:
 
     /// The dts of the last key frame that the container's index knows at or before `ticks`.
     [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(std::int64_t ticks) {
-        AVStream* stream = m_demuxer.context().streams[m_track.facts.streamIndex];
+        AVStream* stream = m_demuxer->context().streams[m_track.facts.streamIndex];
         const std::int64_t timestamp =
             ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale});
         const AVIndexEntry* entry =
@@ -128,22 +135,30 @@ private:
             m_queue.pop_front();
     }
 
-    /// Starts decoding at a random-access point whose first picture is shown at or before `ticks`.
+    void startIfNew(const std::stop_token& stop) {
+        if (!m_isPositioned)
+            reposition(m_track.facts.startTime.comparisonTicks(), stop);
+    }
+
+    /// Starts decoding at a random-access point whose first picture is shown at or before `ticks`,
+    /// or at the track's first picture.
     void reposition(std::int64_t ticks, const std::stop_token& stop) {
+        m_isPositioned = true;
         const std::int64_t first = m_track.facts.startTime.comparisonTicks();
         const bool canSeek = !ffmpeg::isBareBitstream(*m_asset->info().format);
-        for (std::int64_t back = 0; canSeek && ticks - back > first;
-             back = back == 0 ? kFirstStepBackTicks : back * 4) {
+        for (std::int64_t back = 0; canSeek; back = back == 0 ? kFirstStepBackTicks : back * 4) {
             const std::int64_t timestamp = ffmpeg::streamTimestamp(
                 m_asset->info(), m_track, Time{ticks - back, kComparisonTimescale});
-            if (!m_demuxer.seek(m_track.facts.streamIndex, timestamp, stop))
+            if (!m_demuxer->seek(m_track.facts.streamIndex, timestamp, stop))
                 break;
             restart();
             fill(1, stop);
-            if (!m_queue.empty() && m_queue.front().ticks <= ticks)
+            if (!m_queue.empty() && m_queue.front().ticks <= std::max(ticks, first))
                 return;
+            if (ticks - back <= first)
+                break;
         }
-        m_demuxer.reopen(stop);
+        m_demuxer->reopen(stop);
         if (m_hasNewParameters)
             openDecoder();
         restart();
@@ -186,7 +201,7 @@ private:
             m_isDrained = true;
             return;
         }
-        if (m_demuxer.read(*m_packet, stop) == ffmpeg::Demuxer::Status::endOfFile) {
+        if (m_demuxer->read(*m_packet, stop) == ffmpeg::Demuxer::Status::endOfFile) {
             m_isDraining = true;
             m_decoder->send(nullptr);
             return;
@@ -249,7 +264,7 @@ private:
 
     std::shared_ptr<const Asset> m_asset;
     const ffmpeg::SourceTrack& m_track;
-    ffmpeg::Demuxer m_demuxer;
+    std::unique_ptr<ffmpeg::Demuxer> m_demuxer;
     Options m_options;
     std::optional<ffmpeg::Decoder> m_decoder;
     /// The stream changed the decoder's parameters on its way.
@@ -259,6 +274,8 @@ private:
     std::deque<DecodedFrame> m_queue;
     /// Decoding times of pictures not yet given out, for tracks without presentation times.
     std::multiset<std::int64_t> m_pendingDts;
+    /// A borrowed demuxer may stand anywhere until the first move.
+    bool m_isPositioned = false;
     bool m_isDraining = false;
     bool m_isDrained = false;
     std::int64_t m_lastReadDts = AV_NOPTS_VALUE;

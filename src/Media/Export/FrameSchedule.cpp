@@ -29,7 +29,8 @@ public:
           m_duration(track.range.duration().rescaled(m_timescale).value) {
         // Sources of variable rate may well run faster for a while than they do on average.
         constexpr double kLeastRate = 60;
-        const double rate = std::max(kLeastRate, 2 * static_cast<double>(track.source.nominalFrameRate));
+        const double rate =
+            std::max(kLeastRate, 2 * static_cast<double>(track.source.nominalFrameRate));
         m_expectedFrames =
             static_cast<std::int64_t>(std::ceil(m_range.duration().seconds() * rate)) + 16;
     }

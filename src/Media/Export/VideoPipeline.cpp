@@ -11,7 +11,7 @@ namespace {
 
 /// Enough to keep a stage busy while its neighbour is held up for a moment; each picture more
 /// costs its full size in memory.
-constexpr std::size_t kPicturesWaiting = 3;
+constexpr std::size_t kPicturesWaiting = 2;
 constexpr std::size_t kPacketsWaiting = 32;
 
 int evenAtLeastTwo(int side) {

@@ -230,8 +230,7 @@ void describeChapters(SourceInfo& info, const AVFormatContext& context) {
 
 } // namespace
 
-SourceInfo inspect(const std::shared_ptr<const SourceFile>& file, const std::stop_token& stop) {
-    Demuxer demuxer(file, nullptr, stop);
+SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
     demuxer.findStreamInfo(stop);
     AVFormatContext& context = demuxer.context();
     SourceInfo info;
@@ -266,7 +265,7 @@ SourceInfo inspect(const std::shared_ptr<const SourceFile>& file, const std::sto
                                 info.origin;
     }
     describeChapters(info, context);
-    info.duration = info.tracks.empty() ? Time{0, 1} : findDuration(demuxer, *file, info, stop);
+    info.duration = info.tracks.empty() ? Time{0, 1} : findDuration(demuxer, file, info, stop);
     return info;
 }
 
