@@ -40,8 +40,7 @@ void forgetCoding(AVFrame& frame) {
 /// The first pixel shown if an axis is shown as it is, from an even one on.
 std::optional<int> plainStart(const AxisMapping& mapping, int length, int canvasLength) {
     const AxisSampling pixels = sampling(mapping, {}, {}, {0, canvasLength});
-    if (!pixels.isCopy() || pixels.mirrored || pixels.start < 0 ||
-        pixels.start + canvasLength > length || pixels.firstCopied() % 2 != 0)
+    if (!pixels.isCopyOf(length) || pixels.mirrored || pixels.firstCopied() % 2 != 0)
         return std::nullopt;
     return pixels.firstCopied();
 }

@@ -549,6 +549,25 @@ TEST(PictureTransform, cutsANarrowStripOutOfALargePicture) {
     EXPECT_LT(deviation.chroma, 1.5);
 }
 
+// A vector kernel of the scaler computed single columns from the wrong samples where a line is
+// shrunk to a little less than half. Nothing but the scale decides it, so they are tried densely.
+TEST(PictureTransform, computesEveryColumnAtScalesAroundOneHalf) {
+    const Size size{kWidth, kHeight};
+    const auto source =
+        drawPicture(AV_PIX_FMT_YUV420P, kWidth, kHeight, waves, {.location = AVCHROMA_LOC_LEFT});
+    for (int step = 0; step < 40; ++step) {
+        const double scale = 0.44 + 0.003 * step;
+        SCOPED_TRACE(testing::Message() << "scale " << scale);
+        const Canvas canvas = canvasOf(0, size, {0, 0, kWidth, kHeight}, scale);
+        PictureTransform transform(canvas.toCanvas, size,
+                                   {.width = canvas.width, .height = canvas.height});
+        const Deviation deviation =
+            deviationFrom(waves, *transform.apply(*source), canvas, size, 16);
+        EXPECT_LT(deviation.luma, 1.5);
+        EXPECT_LT(deviation.chroma, 1.5);
+    }
+}
+
 TEST(PictureTransform, shrinksAPictureToTwoPixels) {
     PictureTransform transform(AffineTransform::scale(2.0 / 320, 2.0 / 240), {320, 240},
                                {.width = 2, .height = 2});

@@ -77,6 +77,10 @@ bool AxisSampling::isCopy() const {
     return step == 1 && start == std::floor(start);
 }
 
+bool AxisSampling::isCopyOf(int length) const {
+    return isCopy() && start >= 0 && start + count <= length;
+}
+
 int AxisSampling::firstCopied() const {
     return static_cast<int>(start);
 }

@@ -64,8 +64,10 @@ struct AxisSampling {
     int count = 0;
     bool mirrored = false;
 
-    /// Every sample is one of the plane's own: nothing is to be computed.
+    /// The positions are those of samples: nothing is to be computed inside of the plane.
     [[nodiscard]] bool isCopy() const;
+    /// Every sample is one of the `length` that the plane has.
+    [[nodiscard]] bool isCopyOf(int length) const;
     /// Where a copy begins.
     [[nodiscard]] int firstCopied() const;
 };

@@ -49,6 +49,17 @@ Span subsampled(Span pixels, int shift) {
     return {pixels.first >> shift, (pixels.end + (1 << shift) - 1) >> shift};
 }
 
+struct Grids {
+    SampleGrid x;
+    SampleGrid y;
+};
+
+Grids gridsOf(bool isChroma, AVChromaLocation location, int shiftX, int shiftY) {
+    if (!isChroma)
+        return {};
+    return {chromaGridX(location, shiftX), chromaGridY(location, shiftY)};
+}
+
 } // namespace
 
 CanvasPainter::CanvasPainter(const PlanarFormat& picture, const CanvasMapping& mapping,
@@ -66,56 +77,49 @@ CanvasPainter::CanvasPainter(const PlanarFormat& picture, const CanvasMapping& m
 
 void CanvasPainter::prepare(Step& step, unsigned plane, const CanvasMapping& mapping) const {
     const bool isChroma = plane > 0 && m_picture.family != Family::rgb;
-    const int shift = isChroma ? m_canvas.chromaShift : 0;
     PlanarFormat levels = m_picture;
     levels.depth = m_canvas.depth;
     step.background = isChroma ? neutralChroma(levels.depth) : blackLevel(levels);
-    if (plane > 0 && m_picture.family == Family::grey)
+    if (m_columns.count() == 0 || (plane > 0 && m_picture.family == Family::grey))
         return;
+
+    const int shift = isChroma ? m_canvas.chromaShift : 0;
     step.isSubsampled = shift > 0;
     step.columns = subsampled(m_columns, shift);
     step.rows = subsampled(m_rows, shift);
-    if (m_columns.count() == 0)
-        return;
-
     const int shiftX = isChroma ? m_picture.chromaShiftX : 0;
     const int shiftY = isChroma ? m_picture.chromaShiftY : 0;
-    const AVChromaLocation location = m_picture.chromaLocation;
-    const SampleGrid gridX = isChroma ? chromaGridX(location, shiftX) : SampleGrid{};
-    const SampleGrid gridY = isChroma ? chromaGridY(location, shiftY) : SampleGrid{};
-    const AxisSampling across = sampling(
-        mapping.horizontal, mapping.transposed ? gridY : gridX,
-        isChroma ? chromaGridX(m_canvas.chromaLocation, shift) : SampleGrid{}, step.columns);
+    const Grids from = gridsOf(isChroma, m_picture.chromaLocation, shiftX, shiftY);
+    const Grids to = gridsOf(isChroma, m_canvas.chromaLocation, shift, shift);
+    const AxisSampling across =
+        sampling(mapping.horizontal, mapping.transposed ? from.y : from.x, to.x, step.columns);
     const AxisSampling down =
-        sampling(mapping.vertical, mapping.transposed ? gridX : gridY,
-                 isChroma ? chromaGridY(m_canvas.chromaLocation, shift) : SampleGrid{}, step.rows);
+        sampling(mapping.vertical, mapping.transposed ? from.x : from.y, to.y, step.rows);
     step.turn = {mapping.transposed, across.mirrored, down.mirrored};
-    const AxisSampling& x = mapping.transposed ? down : across;
-    const AxisSampling& y = mapping.transposed ? across : down;
+    // Chroma has its zero in the middle: a change of depth multiplies it in either range.
+    prepareSamples(step, {.width = (m_picture.width + (1 << shiftX) - 1) >> shiftX,
+                          .height = (m_picture.height + (1 << shiftY) - 1) >> shiftY,
+                          .depth = m_picture.depth,
+                          .x = mapping.transposed ? down : across,
+                          .y = mapping.transposed ? across : down,
+                          .newDepth = m_canvas.depth,
+                          .isFullRange = m_picture.isFullRange && !isChroma,
+                          .filter = m_canvas.filter,
+                          .dithers = m_canvas.dithers && m_canvas.depth < m_picture.depth});
+}
+
+void CanvasPainter::prepareSamples(Step& step, const Resampling& resampling) {
+    const AxisSampling& x = resampling.x;
+    const AxisSampling& y = resampling.y;
     step.width = x.count;
     step.height = y.count;
-
-    const int width = (m_picture.width + (1 << shiftX) - 1) >> shiftX;
-    const int height = (m_picture.height + (1 << shiftY) - 1) >> shiftY;
-    const bool inside =
-        x.start >= 0 && x.start + x.count <= width && y.start >= 0 && y.start + y.count <= height;
-    if (x.isCopy() && y.isCopy() && inside && m_picture.depth == m_canvas.depth) {
+    if (resampling.depth == resampling.newDepth && x.isCopyOf(resampling.width) &&
+        y.isCopyOf(resampling.height)) {
         step.copyX = x.firstCopied();
         step.copyY = y.firstCopied();
-        return;
+    } else {
+        step.resampler.emplace(resampling);
     }
-    // Chroma has its zero in the middle: a change of depth multiplies it in either range.
-    const bool stretchesRange = m_picture.isFullRange && !isChroma;
-    step.resampler.emplace(
-        Resampling{.width = width,
-                   .height = height,
-                   .depth = m_picture.depth,
-                   .x = x,
-                   .y = y,
-                   .newDepth = m_canvas.depth,
-                   .isFullRange = stretchesRange,
-                   .filter = m_canvas.filter,
-                   .dithers = m_canvas.dithers && m_canvas.depth < m_picture.depth});
 }
 
 void CanvasPainter::paint(const PlanarPicture& picture, const std::array<Plane, 3>& canvas) {

@@ -60,6 +60,7 @@ private:
     };
 
     void prepare(Step& step, unsigned plane, const CanvasMapping& mapping) const;
+    static void prepareSamples(Step& step, const Resampling& resampling);
     void paintPlane(Step& step, ConstPlane in, Plane out) const;
     void softenChromaEdges(const Step& step, Plane out) const;
 

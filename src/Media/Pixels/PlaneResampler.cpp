@@ -39,14 +39,10 @@ double filterWeight(Filter filter, double distance) {
     return filter == Filter::cubic ? cubicWeight(x) : spline36Weight(x);
 }
 
-bool isPlainCopy(const AxisSampling& axis, int length) {
-    return axis.isCopy() && axis.firstCopied() >= 0 && axis.firstCopied() + axis.count <= length;
-}
-
 /// Whether the filter finds all its samples in the plane or next to it, so that zimg's rule for
 /// borders holds.
 bool suitsGraph(const AxisSampling& axis, int length, Filter filter) {
-    if (isPlainCopy(axis, length))
+    if (axis.isCopyOf(length))
         return true;
     const double support = std::ceil(filterRadius(filter) * std::max(axis.step, 1.0));
     const double extent = axis.step * axis.count;
@@ -127,7 +123,7 @@ void PlaneResampler::buildGraph() {
     AxisSampling y = r.y;
     int height = r.height;
     // Lines copied as they are need no filter, which zimg only sees if they are all there is.
-    if (isPlainCopy(y, height)) {
+    if (y.isCopyOf(height)) {
         m_skippedLines = y.firstCopied();
         y.start = 0;
         height = y.count;
