@@ -60,7 +60,7 @@ AVFoundationExporter::ExportError::ExportError(Kind kind)
 QCoro::Task<> AVFoundationExporter::exportVideo(ExportRequest request,
                                                 ExportProgressHandler onProgress,
                                                 std::stop_token stop) const {
-    co_await runOnWorker([request, onProgress, stop] { run(request, onProgress, stop); });
+    return runOnWorker([request, onProgress, stop] { run(request, onProgress, stop); });
 }
 
 void AVFoundationExporter::run(const ExportRequest& request,

@@ -72,21 +72,26 @@ void EditState::load(const QUrl& url) {
     loadAsset(url);
 }
 
+QCoro::Task<EditState::LoadedVideo> EditState::open(const QUrl& url, const std::stop_token& stop) {
+    return runOnWorker([path = pathOf(url), stop] {
+        LoadedVideo loaded;
+        loaded.asset = media::Asset::open(path, stop);
+        loaded.duration = loaded.asset->duration().seconds();
+        const auto tracks = loaded.asset->tracks(media::MediaType::video);
+        if (!tracks.empty())
+            loaded.displaySize = media::orientedSize(tracks.front());
+        return loaded;
+    });
+}
+
 QCoro::Task<> EditState::loadAsset(QUrl url) {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const std::stop_token stop = m_loads.get_token();
     LoadedVideo video;
     QString failure;
     try {
-        video = co_await runOnWorker([path = pathOf(url), stop] {
-            LoadedVideo loaded;
-            loaded.asset = media::Asset::open(path, stop);
-            loaded.duration = loaded.asset->duration().seconds();
-            const auto tracks = loaded.asset->tracks(media::MediaType::video);
-            if (!tracks.empty())
-                loaded.displaySize = media::orientedSize(tracks.front());
-            return loaded;
-        });
+        auto opening = open(url, stop);
+        video = co_await opening;
         if (!video.displaySize)
             failure = quoted(displayName(url)) + QStringLiteral(" contains no video track.");
     } catch (const media::Cancelled&) {
@@ -105,8 +110,8 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
         }
         self->publish(url, video);
     }
-    const QList<QImage> images =
-        co_await Thumbnailer::filmstrip(video.asset, video.duration, kThumbnailCount, stop);
+    auto strip = Thumbnailer::filmstrip(video.asset, video.duration, kThumbnailCount, stop);
+    const QList<QImage> images = co_await strip;
     if (const auto self = weak.lock())
         self->m_thumbnails = images;
 }
@@ -136,7 +141,8 @@ void EditState::presentOpenPanel() {
 QCoro::Task<> EditState::askForMovie() {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const auto panels = m_filePanels;
-    const std::optional<QUrl> url = co_await panels->openMovie();
+    auto panel = panels->openMovie();
+    const std::optional<QUrl> url = co_await panel;
     const auto self = weak.lock();
     if (self && url)
         self->load(*url);

@@ -134,6 +134,7 @@ private:
     struct LoadedVideo;
 
     QCoro::Task<> loadAsset(QUrl url);
+    static QCoro::Task<LoadedVideo> open(const QUrl& url, const std::stop_token& stop);
     void publish(const QUrl& url, const LoadedVideo& video);
     void tick(double time);
     void playedToEnd();

@@ -86,7 +86,9 @@ QCoro::Task<> EditState::runExport(std::shared_ptr<EditState> state, ExportReque
     };
     std::optional<QString> failure;
     try {
-        co_await AVFoundationExporter().exportVideo(std::move(request), onProgress, stop);
+        const AVFoundationExporter exporter;
+        auto task = exporter.exportVideo(std::move(request), onProgress, stop);
+        co_await task;
     } catch (const media::Cancelled&) {
         // The user asked for it.
         failure.reset();

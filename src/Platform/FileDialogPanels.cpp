@@ -77,12 +77,14 @@ QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({movieFilter(), QFileDialog::tr("All files (*)")});
-    co_return co_await ask(dialog);
+    const QFuture<Answer> answer = ask(dialog);
+    co_return co_await answer;
 }
 
 QCoro::Task<std::optional<QUrl>> FileDialogPanels::saveMovie(SaveProposal proposal) {
     while (m_window) {
-        const Answer answer = co_await ask(makeSavePanel(m_window, proposal));
+        const QFuture<Answer> asked = ask(makeSavePanel(m_window, proposal));
+        const Answer answer = co_await asked;
         const QString suffix = QLatin1Char('.') + proposal.extension;
         if (!answer || displayName(*answer).endsWith(suffix, Qt::CaseInsensitive))
             co_return answer;

@@ -21,9 +21,7 @@ media::Time middleOfSlice(int index, double duration, int count) {
 
 QCoro::Task<QList<QImage>> filmstrip(std::shared_ptr<const media::Asset> asset, double duration,
                                      int count, std::stop_token stop) {
-    if (duration <= 0 || count < 1)
-        co_return QList<QImage>();
-    co_return co_await runOnWorker(
+    return runOnWorker(
         [asset, duration, count, stop] { return makeFilmstrip(asset, duration, count, stop); });
 }
 

@@ -22,25 +22,40 @@ void startWorker(std::function<void()> work);
 /// no worker outlives the application object.
 void waitForWorkers();
 
+namespace detail {
+
+/// What a worker leaves for the coroutine that awaits it. Exceptions are carried beside the
+/// future: QFuture itself keeps the type of only those that derive from QException.
+template<typename Result>
+struct Outcome {
+    std::conditional_t<std::is_void_v<Result>, std::optional<bool>, std::optional<Result>> value;
+    std::exception_ptr error;
+    QPromise<void> promise;
+};
+
+template<typename Result>
+QCoro::Task<Result> await(std::shared_ptr<Outcome<Result>> outcome) {
+    QFuture<void> finished = outcome->promise.future();
+    co_await finished;
+    if (outcome->error)
+        std::rethrow_exception(std::exchange(outcome->error, nullptr));
+    if constexpr (!std::is_void_v<Result>)
+        co_return std::move(*outcome->value);
+}
+
+} // namespace detail
+
 /// Runs blocking work on a worker thread; the coroutine that awaits it resumes on the thread it
 /// came from, with the work's result or its exception. The work must be copyable, and should watch
 /// a stop token if it may take long.
 ///
-/// Exceptions are carried beside the future: QFuture itself keeps the type of only those that
-/// derive from QException.
+/// Await it through a name (`auto task = runOnWorker(…); co_await task;`), here as with every task
+/// whose arguments hold resources: g++ 12 destroys some temporaries of a co_await expression twice,
+/// the captures of a lambda among them. For that reason this is no coroutine itself.
 template<typename Work>
 QCoro::Task<std::invoke_result_t<Work&>> runOnWorker(Work work) {
     using Result = std::invoke_result_t<Work&>;
-
-    struct Outcome {
-        std::conditional_t<std::is_void_v<Result>, std::optional<bool>, std::optional<Result>>
-            value;
-        std::exception_ptr error;
-        QPromise<void> promise;
-    };
-
-    const auto outcome = std::make_shared<Outcome>();
-    const QFuture<void> finished = outcome->promise.future();
+    const auto outcome = std::make_shared<detail::Outcome<Result>>();
     outcome->promise.start();
     startWorker([outcome, work = std::move(work)]() mutable {
         try {
@@ -53,11 +68,7 @@ QCoro::Task<std::invoke_result_t<Work&>> runOnWorker(Work work) {
         }
         outcome->promise.finish();
     });
-    co_await finished;
-    if (outcome->error)
-        std::rethrow_exception(std::exchange(outcome->error, nullptr));
-    if constexpr (!std::is_void_v<Result>)
-        co_return std::move(*outcome->value);
+    return detail::await<Result>(outcome);
 }
 
 } // namespace brisklet

@@ -1,5 +1,6 @@
 #include "Views/PlayerContainerView.h"
 
+#include "Media/Player.h"
 #include "Views/PlayerLayerView.h"
 
 #include <QVBoxLayout>

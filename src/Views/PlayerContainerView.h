@@ -8,6 +8,10 @@ namespace media {
 class Player;
 }
 
+namespace media {
+class Player;
+}
+
 namespace brisklet {
 
 class PlayerLayerView;

@@ -1,5 +1,7 @@
 #include "Views/PlayerLayerView.h"
 
+#include "Media/Guarded.h"
+#include "Media/Player.h"
 #include "Support/ImageConversion.h"
 #include "Views/PictureLayout.h"
 
@@ -18,7 +20,41 @@ QSize inDevicePixels(const QWidget& widget) {
 
 } // namespace
 
-PlayerLayerView::PlayerLayerView(QWidget* parent) : QWidget(parent) {}
+class PlayerLayerView::Sink final : public media::VideoSink {
+public:
+    explicit Sink(PlayerLayerView& view) : m_view(view) {}
+
+    void present(const media::TimedImage& frame) override {
+        bool isUpdateAsked = false;
+        {
+            const auto inbox = m_inbox.lock();
+            inbox->newest = frame.image;
+            isUpdateAsked = std::exchange(inbox->isUpdateAsked, true);
+        }
+        // However many frames arrive before the main thread comes round, it takes the newest once.
+        if (!isUpdateAsked)
+            QMetaObject::invokeMethod(&m_view, &PlayerLayerView::takeFrame, Qt::QueuedConnection);
+    }
+
+    media::ImagePtr take() {
+        const auto inbox = m_inbox.lock();
+        inbox->isUpdateAsked = false;
+        return inbox->newest;
+    }
+
+private:
+    struct Inbox {
+        media::ImagePtr newest;
+        /// The main thread has been asked to take it.
+        bool isUpdateAsked = false;
+    };
+
+    PlayerLayerView& m_view;
+    media::Guarded<Inbox> m_inbox;
+};
+
+PlayerLayerView::PlayerLayerView(QWidget* parent)
+    : QWidget(parent), m_sink(std::make_unique<Sink>(*this)) {}
 
 PlayerLayerView::~PlayerLayerView() {
     setPlayer(nullptr);
@@ -33,7 +69,7 @@ void PlayerLayerView::setPlayer(std::shared_ptr<media::Player> player) {
     if (!m_player)
         return;
     announceSize();
-    m_player->setVideoSink(this);
+    m_player->setVideoSink(m_sink.get());
 }
 
 void PlayerLayerView::setRotation(int degrees) {
@@ -52,25 +88,11 @@ QRectF PlayerLayerView::videoRect() const {
 }
 
 void PlayerLayerView::present(const media::TimedImage& frame) {
-    bool isUpdateAsked = false;
-    {
-        const auto inbox = m_inbox.lock();
-        inbox->newest = frame.image;
-        isUpdateAsked = std::exchange(inbox->isUpdateAsked, true);
-    }
-    // However many frames arrive before the main thread comes round, it takes the newest once.
-    if (!isUpdateAsked)
-        QMetaObject::invokeMethod(this, &PlayerLayerView::takeFrame, Qt::QueuedConnection);
+    m_sink->present(frame);
 }
 
 void PlayerLayerView::takeFrame() {
-    media::ImagePtr newest;
-    {
-        const auto inbox = m_inbox.lock();
-        inbox->isUpdateAsked = false;
-        newest = inbox->newest;
-    }
-    m_image = toQImage(std::move(newest));
+    m_image = toQImage(m_sink->take());
     update();
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "Media/Guarded.h"
-#include "Media/Player.h"
-
 #include <QImage>
 #include <QWidget>
 
 #include <memory>
+
+namespace media {
+class Player;
+struct TimedImage;
+} // namespace media
 
 namespace brisklet {
 
@@ -15,7 +17,7 @@ namespace brisklet {
 /// one pixel of the screen unless the picture is smaller than the view.
 ///
 /// Main thread, but for present(). Keeps the player it shows alive; a player is shown by one view.
-class PlayerLayerView final : public QWidget, public media::VideoSink {
+class PlayerLayerView final : public QWidget {
     Q_OBJECT
 
 public:
@@ -35,8 +37,9 @@ public:
     /// The part of the view that the picture covers, in the view's coordinates; empty without one.
     [[nodiscard]] QRectF videoRect() const;
 
-    /// Any thread.
-    void present(const media::TimedImage& frame) override;
+    /// Shows a frame, as the player's video sink does; an image that is null shows nothing. Any
+    /// thread.
+    void present(const media::TimedImage& frame);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -44,11 +47,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    struct Inbox {
-        media::ImagePtr newest;
-        /// The main thread has been asked to take it.
-        bool isUpdateAsked = false;
-    };
+    class Sink;
 
     void announceSize();
     void takeFrame();
@@ -60,7 +59,8 @@ private:
     /// The size last announced to the player, device pixels.
     QSize m_announcedSize;
 
-    media::Guarded<Inbox> m_inbox;
+    /// Takes the player's frames on their way from the media thread.
+    std::unique_ptr<Sink> m_sink;
 };
 
 } // namespace brisklet

@@ -1,0 +1,439 @@
+#include "Models/EditStateFixture.h"
+
+#include "TestSupport/TemporaryFolder.h"
+
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <fstream>
+#include <string>
+#include <sys/stat.h>
+
+namespace brisklet {
+
+namespace {
+
+using media::Rect;
+using media::Size;
+using testsupport::makeFixture;
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+
+class EditStateTest : public EditStateFixture {};
+
+TEST_F(EditStateTest, beginsEmpty) {
+    EXPECT_EQ(state().videoURL(), std::nullopt);
+    EXPECT_EQ(state().duration(), 0);
+    EXPECT_EQ(state().displaySize(), (Size{0, 0}));
+    EXPECT_EQ(state().rotatedDisplaySize(), (Size{0, 0}));
+    EXPECT_TRUE(state().thumbnails().isEmpty());
+    EXPECT_EQ(state().currentTime(), 0);
+    EXPECT_FALSE(state().isPlaying());
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_EQ(state().trimEnd(), 0);
+    EXPECT_FALSE(state().isMuted());
+    EXPECT_EQ(state().cropRect(), std::nullopt);
+    EXPECT_EQ(state().rotation(), 0);
+    EXPECT_EQ(state().exportProgress(), std::nullopt);
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+    EXPECT_EQ(player().currentItem(), nullptr);
+}
+
+TEST_F(EditStateTest, loadsAVideoAndThenItsFilmstrip) {
+    const auto video = makeFixture(kTenSeconds).path;
+    bool wasStripEmptyAtFirst = false;
+    QObject::connect(&state(), &EditState::videoURLChanged, &state(),
+                     [&] { wasStripEmptyAtFirst = state().thumbnails().isEmpty(); });
+    state().load(urlOf(video));
+    // Nothing is reset before the new video is ready.
+    EXPECT_EQ(state().videoURL(), std::nullopt);
+    ASSERT_TRUE(pumpUntil([this] { return state().videoURL().has_value(); }));
+    EXPECT_EQ(state().videoURL(), urlOf(video));
+    EXPECT_NEAR(state().duration(), 10, 0.03);
+    EXPECT_EQ(state().displaySize(), (Size{320, 240}));
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_EQ(state().trimEnd(), state().duration());
+    EXPECT_EQ(state().currentTime(), 0);
+    EXPECT_EQ(state().rotation(), 0);
+    EXPECT_EQ(state().cropRect(), std::nullopt);
+    EXPECT_FALSE(state().isMuted());
+    EXPECT_TRUE(wasStripEmptyAtFirst);
+    ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
+    EXPECT_EQ(state().thumbnails().size(), 12);
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+    ASSERT_NE(player().currentItem(), nullptr);
+    EXPECT_EQ(player().currentItem()->asset()->path(), video);
+}
+
+TEST_F(EditStateTest, resetsTheEditWithEachVideo) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(2);
+    state().setTrimEnd(3);
+    state().setCropRect(Rect{0.1, 0.1, 0.5, 0.5});
+    state().rotateLeft();
+    state().setMuted(true);
+    state().seek(2.5);
+    const auto other = makeFixture({.duration = 2}).path;
+    state().load(urlOf(other));
+    ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(other); }));
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_EQ(state().trimEnd(), state().duration());
+    EXPECT_NEAR(state().duration(), 2, 0.03);
+    EXPECT_EQ(state().currentTime(), 0);
+    EXPECT_EQ(state().cropRect(), std::nullopt);
+    EXPECT_EQ(state().rotation(), 0);
+    EXPECT_FALSE(state().isMuted());
+    EXPECT_FALSE(player().isMuted());
+    EXPECT_TRUE(state().thumbnails().isEmpty());
+}
+
+TEST_F(EditStateTest, keepsPlayingWhenAnotherVideoIsLoaded) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying() && state().currentTime() > 0.1; }));
+    const auto other = makeFixture({.duration = 8}).path;
+    state().load(urlOf(other));
+    ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(other); }));
+    EXPECT_EQ(player().rate(), 1.0F);
+    EXPECT_TRUE(state().isPlaying());
+}
+
+TEST_F(EditStateTest, showsTheSizeOfATurnedSourceUpright) {
+    ASSERT_TRUE(loadAndWait({.width = 1920, .height = 1080, .displayRotation = 90}));
+    EXPECT_EQ(state().displaySize(), (Size{1080, 1920}));
+    EXPECT_EQ(state().rotatedDisplaySize(), (Size{1080, 1920}));
+    state().rotateLeft();
+    EXPECT_EQ(state().rotation(), 270);
+    EXPECT_EQ(state().rotatedDisplaySize(), (Size{1920, 1080}));
+    state().rotateLeft();
+    EXPECT_EQ(state().rotatedDisplaySize(), (Size{1080, 1920}));
+    state().rotateLeft();
+    EXPECT_EQ(state().rotation(), 90);
+    EXPECT_EQ(state().rotatedDisplaySize(), (Size{1920, 1080}));
+}
+
+TEST_F(EditStateTest, saysThatAFileHasNoVideoTrackAndKeepsThePreviousVideo) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    const auto before = state().videoURL();
+    const auto item = player().currentItem();
+    state().setTrimStart(2);
+    state().load(urlOf(soundOnly()));
+    ASSERT_TRUE(waitForError());
+    EXPECT_EQ(state().errorMessage(),
+              QStringLiteral("\u201Csong.m4a\u201D contains no video track."));
+    EXPECT_EQ(state().videoURL(), before);
+    EXPECT_EQ(player().currentItem(), item);
+    EXPECT_EQ(state().trimStart(), 2);
+    EXPECT_EQ(state().thumbnails().size(), 12);
+}
+
+TEST_F(EditStateTest, saysWhyAFileCannotBeOpened) {
+    const testsupport::TemporaryFolder folder;
+    std::ofstream(folder / "notes.txt") << "These are no pictures.\n";
+    std::ofstream(folder / "empty.mp4").flush();
+    std::filesystem::create_directory(folder / "folder.mov");
+    ASSERT_EQ(::mkfifo((folder / "pipe.mov").c_str(), 0600), 0);
+    for (const char* name :
+         {"notes.txt", "empty.mp4", "folder.mov", "pipe.mov", "missing.mov", "\xff.mov"}) {
+        state().load(urlOf(folder / name));
+        ASSERT_TRUE(waitForError()) << name;
+        const QString message = *state().errorMessage();
+        const QString shownName = displayName(urlOf(folder / name));
+        EXPECT_TRUE(
+            message.startsWith(QStringLiteral("Couldn't open \u201C%1\u201D: ").arg(shownName)))
+            << message.toStdString();
+        EXPECT_FALSE(message.endsWith(QStringLiteral(": "))) << message.toStdString();
+        EXPECT_EQ(state().videoURL(), std::nullopt);
+        state().clearErrorMessage();
+    }
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+}
+
+TEST_F(EditStateTest, opensFilesOfAnyName) {
+    const testsupport::TemporaryFolder folder;
+    const auto video = makeFixture({.duration = 1}).path;
+    const std::string longName = std::string(251, 'x') + ".mp4";
+    for (const std::string& name :
+         {std::string("a b \"'&<i>#?%41.mp4"), std::string("\xf0\x9f\x98\x80.mp4"),
+          std::string("\xff\xfe.mp4"), std::string("-n\n.mp4"), longName}) {
+        std::filesystem::copy_file(video, folder / name);
+        state().load(urlOf(folder / name));
+        ASSERT_TRUE(pumpUntil(
+            [&] { return state().videoURL() == urlOf(folder / name) || state().errorMessage(); }));
+        EXPECT_EQ(state().errorMessage(), std::nullopt) << name;
+    }
+}
+
+TEST_F(EditStateTest, stopsOnTheTrimEndAndThenRestartsAtTheTrimStart) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(1);
+    state().setTrimEnd(5);
+    state().seek(4.7);
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying() && state().currentTime() == 5; }));
+    EXPECT_EQ(player().rate(), 0.0F);
+    EXPECT_EQ(player().currentTime(), (media::Time{5, 1}));
+
+    std::optional<double> firstTime;
+    QObject::connect(&state(), &EditState::currentTimeChanged, &state(), [&] {
+        if (!firstTime)
+            firstTime = state().currentTime();
+    });
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([&] { return state().isPlaying() && firstTime; }));
+    EXPECT_GE(*firstTime, 1);
+    EXPECT_LT(*firstTime, 4);
+}
+
+TEST_F(EditStateTest, isPutBackOnTheTrimEndByATickBeyondIt) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimEnd(5);
+    state().seek(1);
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    state().playerController().onTick(5.02);
+    EXPECT_EQ(player().rate(), 0.0F);
+    EXPECT_EQ(player().currentTime(), (media::Time{5, 1}));
+    EXPECT_TRUE(state().isPlaying());
+    ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying() && state().currentTime() == 5; }));
+}
+
+TEST_F(EditStateTest, wrapsToTheTrimStartWithoutPausingWhenLooping) {
+    PlaybackSettings::shared().setLoopEnabled(true);
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(2);
+    state().setTrimEnd(5);
+    state().seek(4.7);
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    const QSignalSpy playStates(&state(), &EditState::isPlayingChanged);
+    ASSERT_TRUE(
+        pumpUntil([this] { return state().currentTime() >= 2 && state().currentTime() < 4; }));
+    EXPECT_EQ(playStates.count(), 0);
+    EXPECT_EQ(player().rate(), 1.0F);
+
+    state().playerController().onTick(5.02);
+    EXPECT_EQ(player().rate(), 1.0F);
+    EXPECT_EQ(player().currentTime(), (media::Time{2, 1}));
+}
+
+TEST_F(EditStateTest, startsOverAtTheEndOfTheFileWhenLooping) {
+    PlaybackSettings::shared().setLoopEnabled(true);
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 2}));
+    state().setTrimStart(0.5);
+    // Past the end: only the end of the item itself can wrap.
+    state().setTrimEnd(100);
+    state().seek(1.7);
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    ASSERT_TRUE(
+        pumpUntil([this] { return state().currentTime() >= 0.5 && state().currentTime() < 1.5; }));
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+}
+
+TEST_F(EditStateTest, staysAtTheEndOfTheFileWithoutLooping) {
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 2}));
+    state().setTrimEnd(100);
+    state().seek(1.7);
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
+    pumpPending();
+    EXPECT_EQ(player().rate(), 0.0F);
+    EXPECT_GT(state().currentTime(), 1.5);
+}
+
+TEST_F(EditStateTest, followsTicksWhilePausedWithoutStopping) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimEnd(5);
+    state().playerController().onTick(7);
+    EXPECT_EQ(state().currentTime(), 7);
+    EXPECT_NE(player().currentTime(), (media::Time{5, 1}));
+    state().playerController().onTick(std::nan(""));
+    EXPECT_TRUE(std::isnan(state().currentTime()));
+}
+
+TEST_F(EditStateTest, pausesAndPlays) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().seek(3);
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying() && state().currentTime() > 3; }));
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
+    EXPECT_LT(state().currentTime(), 9);
+}
+
+TEST_F(EditStateTest, playsFromTheTrimStartWhenThePlayheadIsBeforeIt) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(6);
+    state().seek(1);
+    state().togglePlayback();
+    EXPECT_EQ(player().currentTime(), (media::Time{6, 1}));
+    EXPECT_EQ(player().rate(), 1.0F);
+}
+
+TEST_F(EditStateTest, playsFromTheTrimStartWhenThePlayheadIsWithinAMarginOfTheTrimEnd) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(1);
+    state().setTrimEnd(5);
+    state().seek(4.96);
+    state().togglePlayback();
+    EXPECT_EQ(player().currentTime(), (media::Time{1, 1}));
+}
+
+TEST_F(EditStateTest, seeksWithinTheFileAtOnce) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().seek(-3);
+    EXPECT_EQ(state().currentTime(), 0);
+    state().seek(1e9);
+    EXPECT_EQ(state().currentTime(), state().duration());
+    state().seek(4);
+    EXPECT_EQ(state().currentTime(), 4);
+    EXPECT_EQ(player().currentTime(), (media::Time{4, 1}));
+    state().setTrimStart(6);
+    state().seek(2);
+    EXPECT_EQ(state().currentTime(), 2);
+    EXPECT_EQ(player().rate(), 0.0F);
+    state().seek(std::nan(""));
+    EXPECT_TRUE(std::isnan(state().currentTime()));
+}
+
+TEST_F(EditStateTest, keepsATenthOfASecondWhenAnEndIsSetToThePlayhead) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimEnd(4);
+    state().seek(7);
+    state().setTrimStartToPlayhead();
+    EXPECT_DOUBLE_EQ(state().trimStart(), 3.9);
+    EXPECT_EQ(state().trimEnd(), 4);
+
+    state().setTrimStart(4);
+    state().setTrimEnd(9);
+    state().seek(2);
+    state().setTrimEndToPlayhead();
+    EXPECT_DOUBLE_EQ(state().trimEnd(), 4.1);
+    EXPECT_EQ(state().trimStart(), 4);
+    EXPECT_EQ(state().currentTime(), 2);
+}
+
+TEST_F(EditStateTest, setsEachEndToThePlayhead) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().seek(3);
+    state().setTrimStartToPlayhead();
+    EXPECT_EQ(state().trimStart(), 3);
+    state().seek(6);
+    state().setTrimEndToPlayhead();
+    EXPECT_EQ(state().trimEnd(), 6);
+    state().seek(std::nan(""));
+    state().setTrimStartToPlayhead();
+    EXPECT_EQ(state().trimStart(), 0);
+}
+
+TEST_F(EditStateTest, turnsTheCropWithThePicture) {
+    const Rect crop{0.1, 0.2, 0.3, 0.4};
+    state().setCropRect(crop);
+    state().rotateLeft();
+    ASSERT_TRUE(state().cropRect().has_value());
+    EXPECT_NEAR(state().cropRect()->x, 0.2, 1e-12);
+    EXPECT_NEAR(state().cropRect()->y, 0.6, 1e-12);
+    EXPECT_NEAR(state().cropRect()->width, 0.4, 1e-12);
+    EXPECT_NEAR(state().cropRect()->height, 0.3, 1e-12);
+    for (const int rotation : {180, 90, 0}) {
+        state().rotateLeft();
+        EXPECT_EQ(state().rotation(), rotation);
+    }
+    EXPECT_NEAR(state().cropRect()->x, crop.x, 1e-12);
+    EXPECT_NEAR(state().cropRect()->y, crop.y, 1e-12);
+    EXPECT_NEAR(state().cropRect()->width, crop.width, 1e-12);
+    EXPECT_NEAR(state().cropRect()->height, crop.height, 1e-12);
+}
+
+TEST_F(EditStateTest, mutesThePlayerAtOnce) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setMuted(true);
+    EXPECT_TRUE(player().isMuted());
+    state().setMuted(false);
+    EXPECT_FALSE(player().isMuted());
+    // The flag wins over whatever has been done to the player meanwhile, changed or not.
+    player().setMuted(true);
+    const QSignalSpy spy(&state(), &EditState::isMutedChanged);
+    state().setMuted(false);
+    EXPECT_FALSE(player().isMuted());
+    EXPECT_EQ(spy.count(), 0);
+}
+
+TEST_F(EditStateTest, tellsObserversOfChangesOnly) {
+    const QSignalSpy trims(&state(), &EditState::trimStartChanged);
+    const QSignalSpy crops(&state(), &EditState::cropRectChanged);
+    state().setTrimStart(0);
+    state().setCropRect(std::nullopt);
+    EXPECT_EQ(trims.count() + crops.count(), 0);
+    state().setTrimStart(1);
+    state().setTrimStart(1);
+    state().setCropRect(Rect{0, 0, 0.5, 0.5});
+    state().setCropRect(Rect{0, 0, 0.5, 0.5});
+    EXPECT_EQ(trims.count(), 1);
+    EXPECT_EQ(crops.count(), 1);
+}
+
+TEST_F(EditStateTest, loadsWhatTheOpenPanelAnswers) {
+    m_panels->toOpen = urlOf(makeFixture(kTenSeconds).path);
+    state().presentOpenPanel();
+    ASSERT_TRUE(pumpUntil([this] { return state().videoURL().has_value(); }));
+    EXPECT_EQ(state().videoURL(), m_panels->toOpen);
+    EXPECT_EQ(m_panels->openCount, 1);
+}
+
+TEST_F(EditStateTest, changesNothingWhenTheOpenPanelIsCancelled) {
+    state().presentOpenPanel();
+    pumpPending();
+    EXPECT_EQ(m_panels->openCount, 1);
+    EXPECT_EQ(state().videoURL(), std::nullopt);
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+}
+
+TEST_F(EditStateTest, mayBeReleasedWhileItLoads) {
+    const auto video = urlOf(makeFixture(kTenSeconds).path);
+    const std::weak_ptr<EditState> weak = m_state;
+    state().load(video);
+    m_state.reset();
+    EXPECT_TRUE(weak.expired());
+    pumpPending();
+
+    // And while it makes the filmstrip.
+    m_state = std::make_shared<EditState>();
+    state().load(video);
+    ASSERT_TRUE(pumpUntil([this] { return state().videoURL().has_value(); }));
+    m_state.reset();
+    pumpPending();
+}
+
+TEST_F(EditStateTest, mayBeReleasedByAnObserver) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    const std::weak_ptr<EditState> weak = m_state;
+    QObject::connect(m_state.get(), &EditState::currentTimeChanged, m_state.get(),
+                     [this] { m_state.reset(); });
+    player().play();
+    EXPECT_TRUE(pumpUntil([&weak] { return weak.expired(); }));
+}
+
+TEST_F(EditStateTest, takesTheLastOfTwoVideosLoadedAtOnce) {
+    const auto one = urlOf(makeFixture(kTenSeconds).path);
+    const auto other = urlOf(makeFixture({.duration = 2}).path);
+    int published = 0;
+    QObject::connect(&state(), &EditState::videoURLChanged, &state(), [&] { ++published; });
+    state().load(one);
+    state().load(other);
+    ASSERT_TRUE(pumpUntil([&] { return published == 2; }));
+    // Whichever came last, all the fields are of one video.
+    const bool isLong = state().videoURL() == one;
+    EXPECT_NEAR(state().duration(), isLong ? 10 : 2, 0.03);
+    EXPECT_EQ(state().trimEnd(), state().duration());
+    EXPECT_EQ(player().currentItem()->asset()->path(), pathOf(*state().videoURL()));
+}
+
+} // namespace
+
+} // namespace brisklet

@@ -1,0 +1,101 @@
+#include "Support/Thumbnailer.h"
+
+#include "QtSupport/EventPump.h"
+#include "TestSupport/Fixture.h"
+#include "TestSupport/MediaCache.h"
+#include "TestSupport/NumberedPicture.h"
+
+#include <QCoroTask>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace {
+
+using namespace brisklet;
+using testsupport::Fixture;
+using testsupport::makeFixture;
+
+std::optional<int> numberIn(const QImage& image) {
+    const QImage grey = image.convertToFormat(QImage::Format_Grayscale8);
+    std::vector<std::uint8_t> pixels;
+    for (int y = 0; y < grey.height(); ++y)
+        pixels.insert(pixels.end(), grey.constScanLine(y), grey.constScanLine(y) + grey.width());
+    return testsupport::readNumber(pixels, grey.width(), grey.height());
+}
+
+QList<QImage> filmstripOf(const std::filesystem::path& path, int count) {
+    const auto asset = media::Asset::open(path);
+    return testsupport::await(Thumbnailer::filmstrip(asset, asset->duration().seconds(), count));
+}
+
+TEST(Thumbnailer, takesTheMiddleOfEachSliceWithinHalfASecond) {
+    const Fixture video = makeFixture({.duration = 24, .groupOfPictures = 12, .audioTracks = 0});
+    const QList<QImage> images = filmstripOf(video.path, 12);
+    ASSERT_EQ(images.size(), 12);
+    for (int index = 0; index < 12; ++index) {
+        const auto number = numberIn(images[index]);
+        ASSERT_TRUE(number.has_value()) << index;
+        const double shown = video.frames[static_cast<std::size_t>(*number)].seconds;
+        EXPECT_NEAR(shown, index * 2 + 1.0, 0.5 + 1.0 / 30) << index;
+    }
+}
+
+TEST(Thumbnailer, asksForOneImageAtTheMiddleWhenOneIsWanted) {
+    const Fixture video = makeFixture({.duration = 24, .groupOfPictures = 12, .audioTracks = 0});
+    const QList<QImage> images = filmstripOf(video.path, 1);
+    ASSERT_EQ(images.size(), 1);
+    const auto number = numberIn(images.first());
+    ASSERT_TRUE(number.has_value());
+    EXPECT_NEAR(video.frames[static_cast<std::size_t>(*number)].seconds, 12, 0.5 + 1.0 / 30);
+}
+
+TEST(Thumbnailer, makesUprightPortraitImagesOfATurnedVideo) {
+    const Fixture video = makeFixture({.duration = 4, .displayRotation = 90, .audioTracks = 0});
+    const QList<QImage> images = filmstripOf(video.path, 3);
+    ASSERT_EQ(images.size(), 3);
+    for (const QImage& image : images) {
+        EXPECT_EQ(image.size(), QSize(90, 120));
+        EXPECT_TRUE(numberIn(image).has_value());
+    }
+}
+
+TEST(Thumbnailer, makesNothingWithoutADurationOrACount) {
+    // No asset either: none of these may so much as create a generator.
+    EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(nullptr, 0, 12)).isEmpty());
+    EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(nullptr, -1, 12)).isEmpty());
+    EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(nullptr, 10, 0)).isEmpty());
+    EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(nullptr, 10, -1)).isEmpty());
+}
+
+TEST(Thumbnailer, leavesOutWhatCannotBeMade) {
+    const Fixture video = makeFixture({.duration = 4, .audioTracks = 0});
+    const auto asset = media::Asset::open(video.path);
+    const double nan = std::nan("");
+    EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(asset, nan, 12)).isEmpty());
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(asset, infinity, 12)).isEmpty());
+}
+
+TEST(Thumbnailer, makesNothingOfAFileWithoutPictures) {
+    const auto sound =
+        testsupport::cachedMedia("sine-4s.m4a", {"-f", "lavfi", "-i", "sine=d=4", "-c:a", "aac"});
+    EXPECT_TRUE(filmstripOf(sound, 12).isEmpty());
+}
+
+TEST(Thumbnailer, endsEarlyWhenAskedToStop) {
+    const Fixture video = makeFixture({.duration = 4, .audioTracks = 0});
+    std::stop_source source;
+    source.request_stop();
+    const auto asset = media::Asset::open(video.path);
+    const auto images =
+        testsupport::await(Thumbnailer::filmstrip(asset, 4.0, 12, source.get_token()));
+    EXPECT_TRUE(images.isEmpty());
+}
+
+} // namespace
