@@ -28,6 +28,11 @@ bool canSkipNonReference(AVCodecID codec) {
            codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG4;
 }
 
+/// Whether the decoder gives out pictures although those they refer to are not there.
+bool decodesWithoutReferences(AVCodecID codec) {
+    return codec == AV_CODEC_ID_HEVC || codec == AV_CODEC_ID_VVC;
+}
+
 } // namespace
 
 class VideoReader::Private {
@@ -152,6 +157,7 @@ private:
             if (!m_demuxer->seek(m_track.facts.streamIndex, timestamp, stop))
                 break;
             restart();
+            m_awaitsKeyFrame = decodesWithoutReferences(m_track.parameters->codec_id);
             fill(1, stop);
             if (!m_queue.empty() && m_queue.front().ticks <= std::max(ticks, first))
                 return;
@@ -170,6 +176,7 @@ private:
         m_pendingDts.clear();
         m_isDrained = false;
         m_isDraining = false;
+        m_awaitsKeyFrame = false;
         m_lastReadDts = AV_NOPTS_VALUE;
         m_bestTicks = kNoTarget;
         m_gaplessFrom = kNoTarget;
@@ -206,6 +213,11 @@ private:
             m_decoder->send(nullptr);
             return;
         }
+        if (m_awaitsKeyFrame && !(m_packet->flags & AV_PKT_FLAG_KEY)) {
+            av_packet_unref(m_packet.get());
+            return;
+        }
+        m_awaitsKeyFrame = false;
         if (av_packet_get_side_data(m_packet.get(), AV_PKT_DATA_NEW_EXTRADATA, nullptr))
             m_hasNewParameters = true;
         if (m_packet->dts != AV_NOPTS_VALUE) {
@@ -278,6 +290,8 @@ private:
     bool m_isPositioned = false;
     bool m_isDraining = false;
     bool m_isDrained = false;
+    /// Moved to a place that need not be a random-access point.
+    bool m_awaitsKeyFrame = false;
     std::int64_t m_lastReadDts = AV_NOPTS_VALUE;
     Time m_lastTime = Time::negativeInfinity();
 
