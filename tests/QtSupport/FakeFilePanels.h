@@ -12,12 +12,15 @@ class FakeFilePanels final : public brisklet::FilePanels {
 public:
     QCoro::Task<std::optional<QUrl>> openMovie() override {
         ++openCount;
-        co_return toOpen;
+        // QCoro moves out of what is returned, even out of a member.
+        std::optional<QUrl> answer = toOpen;
+        co_return answer;
     }
 
     QCoro::Task<std::optional<QUrl>> saveMovie(brisklet::SaveProposal proposal) override {
         proposals.push_back(proposal);
-        co_return toSave;
+        std::optional<QUrl> answer = toSave;
+        co_return answer;
     }
 
     std::optional<QUrl> toOpen;

@@ -1,0 +1,136 @@
+#include "Platform/FileDialogPanels.h"
+
+#include "QtSupport/EventPump.h"
+#include "Support/FileUrl.h"
+#include "TestSupport/TemporaryFolder.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <memory>
+
+namespace {
+
+using namespace brisklet;
+using testsupport::pumpUntil;
+using testsupport::Settled;
+using testsupport::TemporaryFolder;
+
+using Answer = std::optional<QUrl>;
+
+class FileDialogPanelsTest : public testing::Test {
+protected:
+    FileDialogPanelsTest() { m_window->show(); }
+
+    /// The panel on screen, once there is one other than `before`.
+    QFileDialog* waitForPanel(const QFileDialog* before = nullptr) {
+        QFileDialog* found = nullptr;
+        pumpUntil([&] {
+            for (auto* dialog : m_window->findChildren<QFileDialog*>()) {
+                if (dialog != before && dialog->isVisible())
+                    found = dialog;
+            }
+            return found != nullptr;
+        });
+        return found;
+    }
+
+    SaveProposal proposal() const {
+        return {.fileName = QStringLiteral("Holiday Trimmed.mp4"),
+                .folder = urlOf(m_folder.path()),
+                .typeName = QStringLiteral("MPEG-4 movie"),
+                .extension = QStringLiteral("mp4")};
+    }
+
+    static void typeAndAccept(QFileDialog* panel, const QString& name) {
+        panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+        QMetaObject::invokeMethod(panel, "accept");
+    }
+
+    TemporaryFolder m_folder;
+    std::unique_ptr<QWidget> m_window = std::make_unique<QWidget>();
+    FileDialogPanels m_panels{m_window.get()};
+};
+
+TEST_F(FileDialogPanelsTest, proposesANameInTheGivenFolder) {
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(panel->selectedUrls(), QList<QUrl>{urlOf(m_folder / "Holiday Trimmed.mp4")});
+    EXPECT_EQ(panel->nameFilters(), QStringList{QStringLiteral("MPEG-4 movie (*.mp4)")});
+    QMetaObject::invokeMethod(panel, "accept");
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, urlOf(m_folder / "Holiday Trimmed.mp4"));
+}
+
+TEST_F(FileDialogPanelsTest, answersNothingWhenCancelled) {
+    auto task = m_panels.openMovie();
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    panel->reject();
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, std::nullopt);
+}
+
+TEST_F(FileDialogPanelsTest, opensOneMovie) {
+    std::ofstream(m_folder / "a.MOV") << "x";
+    auto task = m_panels.openMovie();
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->fileMode(), QFileDialog::ExistingFile);
+    EXPECT_TRUE(panel->nameFilters().first().contains(QStringLiteral("*.mov")));
+    typeAndAccept(panel, QString::fromStdString((m_folder / "a.MOV").string()));
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, urlOf(m_folder / "a.MOV"));
+}
+
+TEST_F(FileDialogPanelsTest, completesANameThatLacksTheExtension) {
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    typeAndAccept(panel, QStringLiteral("holiday v1.2"));
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, urlOf(m_folder / "holiday v1.2.mp4"));
+}
+
+// The dialog confirms the name that was typed, which is not the one that would be replaced.
+TEST_F(FileDialogPanelsTest, asksAgainWhenACompletedNameIsTaken) {
+    std::ofstream(m_folder / "holiday v1.2.mp4") << "old";
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    typeAndAccept(panel, QStringLiteral("holiday v1.2"));
+    QFileDialog* second = waitForPanel(panel);
+    ASSERT_NE(second, nullptr);
+    EXPECT_FALSE(answer.isSettled);
+    EXPECT_EQ(second->selectedUrls(), QList<QUrl>{urlOf(m_folder / "holiday v1.2.mp4")});
+    second->reject();
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, std::nullopt);
+}
+
+TEST_F(FileDialogPanelsTest, answersNothingWhenItsWindowGoes) {
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    ASSERT_NE(waitForPanel(), nullptr);
+    m_window.reset();
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, std::nullopt);
+}
+
+} // namespace
