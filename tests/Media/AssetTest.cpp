@@ -92,6 +92,22 @@ TEST(Asset, countsTimeFromTheEarliestTrack) {
     }
 }
 
+/// Opus in Matroska starts before 0, with samples that nobody hears.
+TEST(Asset, countsTimeFromTheFirstSampleThatIsHeard) {
+    for (const char* container : {"webm", "mp4"}) {
+        const Fixture fixture = makeFixture({.codec = VideoCodec::vp9,
+                                             .container = container,
+                                             .duration = 2,
+                                             .audioCodec = testsupport::AudioCodec::opus});
+        const auto asset = Asset::open(fixture.path);
+        EXPECT_NEAR(firstTrack(*asset).startTime.seconds(), fixture.frames[0].seconds, kMillisecond)
+            << container;
+        EXPECT_NEAR(firstTrack(*asset, MediaType::audio).startTime.seconds(),
+                    fixture.audio[0].start, kMillisecond)
+            << container;
+    }
+}
+
 TEST(Asset, knowsTracksThatStartLaterOrEndEarlier) {
     const Fixture fixture =
         makeFixture({.container = "mov", .audioStart = 1.5, .audioDuration = 1.75});

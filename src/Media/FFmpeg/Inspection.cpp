@@ -104,6 +104,20 @@ private:
     int m_packetsWithoutPts = 0;
 };
 
+/// When a stream is first seen or heard; its time base. Matroska's times count the samples that an
+/// Opus decoder drops at the beginning, those of other containers do not.
+std::optional<std::int64_t> presentationStart(const AVFormatContext& context,
+                                              const AVStream& stream) {
+    if (stream.start_time == AV_NOPTS_VALUE)
+        return std::nullopt;
+    const AVCodecParameters& parameters = *stream.codecpar;
+    if (parameters.codec_id != AV_CODEC_ID_OPUS ||
+        !std::string_view(context.iformat->name).starts_with("matroska"))
+        return stream.start_time;
+    return stream.start_time +
+           av_rescale_q(parameters.initial_padding, {1, parameters.sample_rate}, stream.time_base);
+}
+
 /// The origin of the asset's time line: the earliest start of any audio or video stream.
 Time findOrigin(const AVFormatContext& context, const std::optional<Time>& firstPicture,
                 int pictureStream) {
@@ -112,10 +126,11 @@ Time findOrigin(const AVFormatContext& context, const std::optional<Time>& first
         const AVStream& stream = *context.streams[i];
         const AVMediaType type = stream.codecpar->codec_type;
         const bool counts = type == AVMEDIA_TYPE_AUDIO || type == AVMEDIA_TYPE_VIDEO;
-        if (!counts || stream.index == pictureStream || stream.start_time == AV_NOPTS_VALUE ||
+        const auto timestamp = presentationStart(context, stream);
+        if (!counts || stream.index == pictureStream || !timestamp ||
             (stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
             continue;
-        const Time start = containerTime(stream.start_time, stream.time_base);
+        const Time start = containerTime(*timestamp, stream.time_base);
         if (!origin || start < *origin)
             origin = start;
     }
@@ -257,11 +272,11 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
     }
     info.origin = findOrigin(context, firstPicture, pictureStream);
     for (SourceTrack& track : info.tracks) {
-        const std::int64_t start = context.streams[track.facts.streamIndex]->start_time;
+        const auto start = presentationStart(context, *context.streams[track.facts.streamIndex]);
         const bool isPicture = track.facts.streamIndex == pictureStream && firstPicture;
-        track.facts.startTime = (isPicture                 ? *firstPicture
-                                 : start != AV_NOPTS_VALUE ? containerTime(start, track.timeBase)
-                                                           : info.origin) -
+        track.facts.startTime = (isPicture ? *firstPicture
+                                 : start   ? containerTime(*start, track.timeBase)
+                                           : info.origin) -
                                 info.origin;
     }
     describeChapters(info, context);
