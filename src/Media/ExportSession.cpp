@@ -23,9 +23,12 @@ namespace {
 /// Runs stages on threads of their own. The first failure stops all of them.
 class Stages {
 public:
-    [[nodiscard]] std::stop_token stopToken() const { return m_stop.get_token(); }
+    explicit Stages(std::stop_source stop) : m_stop(std::move(stop)) {}
 
-    void requestStop() { m_stop.request_stop(); }
+    Stages(const Stages&) = delete;
+    Stages& operator=(const Stages&) = delete;
+
+    ~Stages() { m_stop.request_stop(); }
 
     void start(const char* name, std::function<void()> stage) {
         m_threads.emplace_back([this, name, stage = std::move(stage)] {
@@ -60,6 +63,127 @@ private:
     std::vector<std::jthread> m_threads;
 };
 
+/// Everything that exists only while an export runs.
+class ExportRun {
+public:
+    /// Opens decoders, encoders and the temporary file. Throws Error.
+    ExportRun(const Composition& composition,
+              const std::optional<VideoComposition>& videoComposition,
+              const EncoderSettings& settings, const std::filesystem::path& outputPath,
+              FileType fileType);
+
+    /// Runs all stages until the media are written, or until one fails or is stopped.
+    void writeMedia(const std::stop_token& stop, std::atomic<double>& progress);
+    /// Waits for all stages, completes the file and gives it its name. Throws what went wrong.
+    void complete(const std::stop_token& stop);
+    /// Removes the temporary file; the stages, told to stop, wind down by themselves.
+    void abandon();
+
+private:
+    void muxStage(std::atomic<double>& progress);
+    void report(const AVPacket& packet, AVRational timeBase, std::atomic<double>& progress) const;
+
+    Time m_duration;
+    // The stages' stop token goes to all that follows; their threads end before any of it.
+    std::stop_source m_stop;
+    VideoPipeline m_video;
+    std::vector<std::unique_ptr<AudioPipeline>> m_sounds;
+    OutputFile m_file;
+    ffmpeg::Muxer m_muxer;
+    std::vector<PacketStream*> m_streams;
+    Stages m_stages;
+};
+
+ExportRun::ExportRun(const Composition& composition,
+                     const std::optional<VideoComposition>& videoComposition,
+                     const EncoderSettings& settings, const std::filesystem::path& outputPath,
+                     FileType fileType)
+    : m_duration(composition.videoTrack->range.duration()),
+      m_video(composition, videoComposition, settings, m_stop.get_token()),
+      m_file(outputPath),
+      m_muxer(m_file, fileType, composition.asset->info(), composition.videoTrack->range),
+      m_stages(m_stop) {
+    const ffmpeg::SourceInfo& info = composition.asset->info();
+    const CompositionTrack& picture = *composition.videoTrack;
+    m_streams.push_back(&m_video.output());
+    m_video.output().muxerStream =
+        m_muxer.addStream(m_video.encoderContext(), info.track(picture.source.streamIndex),
+                          videoComposition ? AffineTransform{} : picture.preferredTransform);
+    std::int64_t expectedPackets = m_video.expectedPackets();
+    for (const CompositionTrack& track : composition.audioTracks) {
+        auto sound = std::make_unique<AudioPipeline>(composition, track, m_stop.get_token());
+        sound->output().muxerStream =
+            m_muxer.addStream(sound->encoderContext(), info.track(track.source.streamIndex));
+        expectedPackets += sound->expectedPackets();
+        m_streams.push_back(&sound->output());
+        m_sounds.push_back(std::move(sound));
+    }
+    m_muxer.writeHeader(expectedPackets);
+}
+
+void ExportRun::writeMedia(const std::stop_token& stop, std::atomic<double>& progress) {
+    const std::stop_callback stopStages(stop, [this] { m_stop.request_stop(); });
+    m_stages.start("decode", [this] { m_video.decodeStage(); });
+    m_stages.start("transform", [this] { m_video.transformStage(); });
+    m_stages.start("encode", [this] { m_video.encodeStage(); });
+    for (const auto& sound : m_sounds)
+        m_stages.start("sound", [&sound] { sound->run(); });
+    m_stages.guard([&] { muxStage(progress); });
+}
+
+void ExportRun::complete(const std::stop_token& stop) {
+    m_stages.join();
+    m_muxer.finish();
+    if (stop.stop_requested())
+        throw Cancelled();
+    m_file.commit();
+}
+
+void ExportRun::abandon() {
+    m_stop.request_stop();
+    m_file.discard();
+}
+
+void ExportRun::muxStage(std::atomic<double>& progress) {
+    struct Head {
+        PacketStream* stream;
+        ffmpeg::PacketPtr packet;
+    };
+
+    std::vector<Head> heads;
+    for (PacketStream* stream : m_streams) {
+        if (auto packet = stream->packets.pop())
+            heads.push_back({stream, std::move(*packet)});
+    }
+    // Always the packet that decodes first: each stream's next one has to be there before any can
+    // be written, and each producer works by itself, so the wait ends.
+    while (!heads.empty()) {
+        const auto first = std::ranges::min_element(heads, [](const Head& a, const Head& b) {
+            return av_compare_ts(a.packet->dts, a.stream->timeBase, b.packet->dts,
+                                 b.stream->timeBase) < 0;
+        });
+        if (first->stream == m_streams.front())
+            report(*first->packet, first->stream->timeBase, progress);
+        m_muxer.write(*first->packet, first->stream->muxerStream, first->stream->timeBase);
+        if (auto packet = first->stream->packets.pop())
+            first->packet = std::move(*packet);
+        else
+            heads.erase(first);
+    }
+}
+
+void ExportRun::report(const AVPacket& packet, AVRational timeBase,
+                       std::atomic<double>& progress) const {
+    const double duration = m_duration.seconds();
+    if (duration <= 0)
+        return;
+    const double end = static_cast<double>(packet.pts + packet.duration) * av_q2d(timeBase);
+    const double fraction = std::clamp(end / duration, 0.0, 1.0);
+    // Only this thread writes; packets come in decoding order, so the pts goes back and forth.
+    if (fraction > progress.load(std::memory_order_relaxed))
+        progress.store(fraction, std::memory_order_relaxed);
+}
+
 } // namespace
 
 class ExportSession::Private {
@@ -71,89 +195,22 @@ public:
     std::optional<VideoComposition> videoComposition;
     std::atomic<double> progress = 0;
     std::atomic<State> state = State::waiting;
+    /// Of a run that was cancelled: its threads end soon, and are waited for in the destructor.
+    std::unique_ptr<ExportRun> abandoned;
 
     void exportFile(const std::stop_token& stop);
-
-private:
-    void muxStage(ffmpeg::Muxer& muxer, std::vector<PacketStream*> streams);
-    void report(const AVPacket& packet, AVRational timeBase);
 };
 
 void ExportSession::Private::exportFile(const std::stop_token& stop) {
-    Stages stages;
-    const std::stop_callback stopStages(stop, [&stages] { stages.requestStop(); });
-    VideoPipeline video(composition, videoComposition, settings, stages.stopToken());
-    std::vector<std::unique_ptr<AudioPipeline>> sounds;
-    for (const CompositionTrack& track : composition.audioTracks)
-        sounds.push_back(std::make_unique<AudioPipeline>(composition, track, stages.stopToken()));
-
-    OutputFile file(outputPath);
-    const ffmpeg::SourceInfo& info = composition.asset->info();
-    const CompositionTrack& picture = *composition.videoTrack;
-    ffmpeg::Muxer muxer(file, fileType, info, picture.range);
-    std::vector<PacketStream*> streams = {&video.output()};
-    video.output().muxerStream =
-        muxer.addStream(video.encoderContext(), info.track(picture.source.streamIndex),
-                        videoComposition ? AffineTransform{} : picture.preferredTransform);
-    std::int64_t expectedPackets = video.expectedPackets();
-    for (const auto& sound : sounds) {
-        sound->output().muxerStream =
-            muxer.addStream(sound->encoderContext(), info.track(sound->track().source.streamIndex));
-        expectedPackets += sound->expectedPackets();
-        streams.push_back(&sound->output());
-    }
-    muxer.writeHeader(expectedPackets);
-
-    stages.start("decode", [&video] { video.decodeStage(); });
-    stages.start("transform", [&video] { video.transformStage(); });
-    stages.start("encode", [&video] { video.encodeStage(); });
-    for (const auto& sound : sounds)
-        stages.start("sound", [&sound] { sound->run(); });
-    stages.guard([&] { muxStage(muxer, streams); });
-    stages.join();
-    muxer.finish();
-    if (stop.stop_requested())
+    auto run =
+        std::make_unique<ExportRun>(composition, videoComposition, settings, outputPath, fileType);
+    run->writeMedia(stop, progress);
+    if (stop.stop_requested()) {
+        run->abandon();
+        abandoned = std::move(run);
         throw Cancelled();
-    file.commit();
-}
-
-void ExportSession::Private::muxStage(ffmpeg::Muxer& muxer, std::vector<PacketStream*> streams) {
-    struct Head {
-        PacketStream* stream;
-        ffmpeg::PacketPtr packet;
-    };
-
-    std::vector<Head> heads;
-    for (PacketStream* stream : streams) {
-        if (auto packet = stream->packets.pop())
-            heads.push_back({stream, std::move(*packet)});
     }
-    // Always the packet that decodes first: each stream's next one has to be there before any can
-    // be written, and each producer works by itself, so the wait ends.
-    while (!heads.empty()) {
-        const auto first = std::ranges::min_element(heads, [](const Head& a, const Head& b) {
-            return av_compare_ts(a.packet->dts, a.stream->timeBase, b.packet->dts,
-                                 b.stream->timeBase) < 0;
-        });
-        if (first->stream == streams.front())
-            report(*first->packet, first->stream->timeBase);
-        muxer.write(*first->packet, first->stream->muxerStream, first->stream->timeBase);
-        if (auto packet = first->stream->packets.pop())
-            first->packet = std::move(*packet);
-        else
-            heads.erase(first);
-    }
-}
-
-void ExportSession::Private::report(const AVPacket& packet, AVRational timeBase) {
-    const double duration = composition.videoTrack->range.duration().seconds();
-    if (duration <= 0)
-        return;
-    const double end = static_cast<double>(packet.pts + packet.duration) * av_q2d(timeBase);
-    const double fraction = std::clamp(end / duration, 0.0, 1.0);
-    // Only this thread writes; packets come in decoding order, so the pts goes back and forth.
-    if (fraction > progress.load(std::memory_order_relaxed))
-        progress.store(fraction, std::memory_order_relaxed);
+    run->complete(stop);
 }
 
 ExportSession::ExportSession(Composition composition, std::filesystem::path outputPath,

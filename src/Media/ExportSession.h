@@ -47,7 +47,8 @@ public:
     void setVideoComposition(std::optional<VideoComposition> videoComposition);
 
     /// Runs the export on the calling thread until the file is complete. At most once.
-    /// Throws Error on failure; Cancelled within 100 ms of a stop request.
+    /// Throws Error on failure; Cancelled within 100 ms of a stop request. By then nothing is left
+    /// on disk; encoders that are in the middle of a picture are waited for in the destructor.
     void run(std::stop_token stop = {});
 
     /// The fraction done, 0 to 1, by presentation time; never decreases. Any thread.
@@ -60,4 +61,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-}  // namespace media
+} // namespace media

@@ -86,10 +86,15 @@ OutputFile::OutputFile(const std::filesystem::path& destination)
 }
 
 OutputFile::~OutputFile() {
+    discard();
     if (m_descriptor >= 0)
         ::close(m_descriptor);
+}
+
+void OutputFile::discard() {
     if (!m_temporary.empty())
         ::unlink(m_temporary.c_str());
+    m_temporary.clear();
 }
 
 int OutputFile::write(const std::uint8_t* data, std::int64_t count) {

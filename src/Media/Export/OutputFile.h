@@ -28,6 +28,9 @@ public:
 
     [[nodiscard]] std::int64_t size() const { return m_size; }
 
+    /// Removes the temporary file at once; what is written from now on goes nowhere.
+    void discard();
+
     /// Throws Error if the data cannot be brought to disk or the file not be given its name.
     void commit();
 
