@@ -46,4 +46,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-}  // namespace media
+} // namespace media

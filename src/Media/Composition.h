@@ -40,4 +40,4 @@ struct VideoComposition {
     Time frameDuration{1, 30};
 };
 
-}  // namespace media
+} // namespace media

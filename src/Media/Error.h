@@ -17,4 +17,4 @@ public:
     [[nodiscard]] const char* what() const noexcept override { return "Cancelled."; }
 };
 
-}  // namespace media
+} // namespace media

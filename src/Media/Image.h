@@ -30,4 +30,4 @@ struct TimedImage {
     Time time;
 };
 
-}  // namespace media
+} // namespace media

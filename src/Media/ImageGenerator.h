@@ -36,4 +36,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-}  // namespace media
+} // namespace media
