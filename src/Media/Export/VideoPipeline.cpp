@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
+#include <thread>
 
 namespace media {
 
@@ -13,6 +14,14 @@ namespace {
 /// costs its full size in memory.
 constexpr std::size_t kPicturesWaiting = 2;
 constexpr std::size_t kPacketsWaiting = 32;
+
+/// One decoder thread a processor. libav's own choice is one more, which holds another picture and
+/// gains nothing beside an encoder.
+VideoReader::Options readerOptions() {
+    VideoReader::Options options;
+    options.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    return options;
+}
 
 int evenAtLeastTwo(int side) {
     return std::max(2, side - side % 2);
@@ -24,7 +33,7 @@ VideoPipeline::VideoPipeline(const Composition& composition,
                              const std::optional<VideoComposition>& videoComposition,
                              const EncoderSettings& settings, const std::stop_token& stop)
     : m_stop(stop),
-      m_reader(composition.asset, composition.videoTrack->source),
+      m_reader(composition.asset, composition.videoTrack->source, readerOptions()),
       m_decoded(kPicturesWaiting, stop),
       m_transformed(kPicturesWaiting, stop),
       m_output(kPacketsWaiting, stop) {
