@@ -48,6 +48,10 @@ Time clamped(Time time, Time duration) {
     return time > duration ? duration : time;
 }
 
+bool isTime(Time time) {
+    return time.isNumeric() || time.value != 0;
+}
+
 template<typename Work>
 std::jthread namedThread(const char* name, Work work) {
     std::jthread thread(std::move(work));
@@ -97,7 +101,7 @@ private:
         std::stop_source video;
         std::stop_source audio;
 
-        void stop() {
+        void stop() const {
             video.request_stop();
             audio.request_stop();
         }
@@ -148,11 +152,11 @@ Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutpu
 
 void Player::Private::start() {
     m_threads.push_back(
-        namedThread("player-video", [this](std::stop_token stop) { m_video.work(stop); }));
+        namedThread("player-video", [this](const std::stop_token& stop) { m_video.work(stop); }));
     m_threads.push_back(
-        namedThread("player-audio", [this](std::stop_token stop) { m_audio.work(stop); }));
-    m_threads.push_back(
-        namedThread("player-present", [this](std::stop_token stop) { m_presenter.work(stop); }));
+        namedThread("player-audio", [this](const std::stop_token& stop) { m_audio.work(stop); }));
+    m_threads.push_back(namedThread(
+        "player-present", [this](const std::stop_token& stop) { m_presenter.work(stop); }));
 }
 
 void Player::Private::close() {
@@ -228,7 +232,7 @@ void Player::Private::seek(Time time, Time before, Time after, std::function<voi
     PendingSeek seek{0, std::move(done)};
     {
         auto access = transport();
-        if (access->item && (time <=> time) == 0) {
+        if (access->item && isTime(time)) {
             const Time target = clamped(time, access->duration);
             stale =
                 beginJump(*access, target, seekRequest(target, before, after, access->duration));

@@ -56,7 +56,7 @@ private:
     void closeOutput();
     void giveUpOutput();
     void drive();
-    [[nodiscard]] bool hasStalled(std::uint64_t heard, SteadyTime now);
+    [[nodiscard]] bool hasStalled(std::uint64_t heard, SteadyTime time);
     void runSteadily();
 
     [[nodiscard]] bool isClockRunning();

@@ -128,7 +128,7 @@ void Presenter::finish(Transport& transport, SteadyTime now, Round& round) {
     round.events.push_back({PlaybackEvent::Kind::end, transport.generation, ++transport.endCount});
 }
 
-SteadyTime Presenter::nextLook(const Transport& transport, SteadyTime now) const {
+SteadyTime Presenter::nextLook(const Transport& transport, SteadyTime now) {
     if (!transport.isRunningWanted() || !transport.isPictureReady)
         return now + kIdle;
     const PlaybackClock& clock = transport.clock;

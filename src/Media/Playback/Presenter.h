@@ -47,13 +47,13 @@ private:
         [[nodiscard]] bool isEmpty() const { return !picture && events.empty(); }
     };
 
-    Round look(Transport& transport, SteadyTime now);
-    void takeFrame(Transport& transport, SteadyTime now, Round& round);
-    void jump(Transport& transport, SteadyTime now, Round& round);
-    void takeDueFrames(Transport& transport, SteadyTime now, Round& round);
-    void tick(Transport& transport, SteadyTime now, Round& round);
-    void finish(Transport& transport, SteadyTime now, Round& round);
-    [[nodiscard]] SteadyTime nextLook(const Transport& transport, SteadyTime now) const;
+    static Round look(Transport& transport, SteadyTime now);
+    static void takeFrame(Transport& transport, SteadyTime now, Round& round);
+    static void jump(Transport& transport, SteadyTime now, Round& round);
+    static void takeDueFrames(Transport& transport, SteadyTime now, Round& round);
+    static void tick(Transport& transport, SteadyTime now, Round& round);
+    static void finish(Transport& transport, SteadyTime now, Round& round);
+    [[nodiscard]] static SteadyTime nextLook(const Transport& transport, SteadyTime now);
     void deliver(Access& access, const Round& round);
 
     Playback& m_playback;

@@ -52,19 +52,18 @@ void VideoPlayback::work(const std::stop_token& stop) {
 
 std::optional<VideoPlayback::Job> VideoPlayback::takeJob(Transport& transport) {
     Job job;
+    // A frame on its way to the screen is where a step and all that is decoded next start from.
+    const bool mayGoOn = !transport.immediate;
     if (transport.seek) {
         job.kind = Job::Kind::seek;
         job.seek = *std::exchange(transport.seek, std::nullopt);
-    } else if (transport.immediate) {
-        // What comes next starts from that frame: the presenter takes it first.
-        return std::nullopt;
-    } else if (!transport.steps.empty()) {
+    } else if (mayGoOn && !transport.steps.empty()) {
         job.kind = Job::Kind::step;
         job.stepCount = transport.steps.front();
         transport.steps.pop_front();
-    } else if (isRedrawWanted(transport)) {
+    } else if (mayGoOn && isRedrawWanted(transport)) {
         job.kind = Job::Kind::redraw;
-    } else if (isAheadWanted(transport)) {
+    } else if (mayGoOn && isAheadWanted(transport)) {
         job.kind = Job::Kind::ahead;
     } else {
         return std::nullopt;

@@ -92,7 +92,7 @@ int FakeDevice::openCount() const {
 }
 
 RunningDevice::RunningDevice(FakeDevice& device)
-    : m_device(device), m_thread([this](std::stop_token stop) { run(stop); }) {}
+    : m_device(device), m_thread([this](const std::stop_token& stop) { run(stop); }) {}
 
 std::vector<float> RunningDevice::takeHeard() {
     const std::scoped_lock lock(m_mutex);

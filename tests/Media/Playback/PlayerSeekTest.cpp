@@ -125,7 +125,7 @@ TEST(Player, answersSeeksThatWereReplacedInOrderAndShowsTheLast) {
     EXPECT_EQ(stage.sink.number(), frameAt(fixture, last));
 }
 
-TEST(Player, clampsSeeksToTheItem) {
+TEST(Player, clampsSeeksToTheEndOfTheItem) {
     const Fixture fixture = makeFixture(silent({.duration = 1}));
     PlayerStage stage;
     stage.load(fixture.path);
@@ -135,6 +135,13 @@ TEST(Player, clampsSeeksToTheItem) {
         EXPECT_EQ(stage.player->currentTime(), duration);
         EXPECT_EQ(stage.sink.number(), fixture.frames.back().number);
     }
+}
+
+TEST(Player, clampsSeeksToTheStartOfTheItem) {
+    const Fixture fixture = makeFixture(silent({.duration = 1}));
+    PlayerStage stage;
+    stage.load(fixture.path);
+    stage.seekAndWait(Time{300, 600});
     for (const Time time : {Time{-1, 600}, Time::negativeInfinity()}) {
         EXPECT_TRUE(stage.seekAndWait(time));
         EXPECT_EQ(stage.player->currentTime(), Time{});

@@ -98,10 +98,12 @@ void RecordingSink::clear() {
 std::optional<int> readNumber(const media::ImagePtr& image) {
     if (!image || image->width < 1 || image->height < 1)
         return std::nullopt;
+    const auto stride = static_cast<std::size_t>(image->stride);
     std::vector<std::uint8_t> grey;
     for (int y = 0; y < image->height; ++y) {
         for (int x = 0; x < image->width; ++x)
-            grey.push_back(image->pixels[static_cast<std::size_t>(y * image->stride + 4 * x + 1)]);
+            grey.push_back(image->pixels[static_cast<std::size_t>(y) * stride +
+                                         4U * static_cast<std::size_t>(x) + 1]);
     }
     return testsupport::readNumber(grey, image->width, image->height);
 }
@@ -111,13 +113,13 @@ PlayerStage::PlayerStage()
     player->setPreviewSize(160, 120);
     player->setVideoSink(&sink);
     player->setRateHandler(
-        [this](float rate) { events.push_back(rate == 0 ? "rate 0" : "rate 1"); });
+        [this](float rate) { events.emplace_back(rate == 0 ? "rate 0" : "rate 1"); });
     player->setEndHandler([this](const auto&) {
-        events.push_back("end");
+        events.emplace_back("end");
         ++endCount;
     });
     player->addPeriodicTimeObserver(Time{1, 30}, [this](Time time) {
-        events.push_back("time");
+        events.emplace_back("time");
         times.push_back(time.seconds());
     });
 }

@@ -12,7 +12,6 @@ using media::Time;
 using testing::ElementsAre;
 using testsupport::Fixture;
 using testsupport::makeFixture;
-using testsupport::Recipe;
 
 namespace {
 
@@ -194,9 +193,8 @@ TEST(Player, playsANewItemFromItsStartWhilePlaying) {
     const Fixture second = makeFixture({.frameRate = {25, 1}, .duration = 1, .audioTracks = 0});
     PlayerStage stage;
     stage.load(first.path);
-    stage.seekAndWait(Time{1500, 600});
     stage.player->play();
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.sink.number() > 77; }));
+    ASSERT_TRUE(stage.waitForNumber(5));
     const auto item = PlayerStage::open(second.path);
     std::shared_ptr<const media::PlayerItem> ended;
     stage.player->setEndHandler([&](const auto& which) { ended = which; });

@@ -145,7 +145,7 @@ TEST(SoundQueue, takesNoMoreThanItHasRoomFor) {
 
 TEST(SoundQueue, neverJumpsWhereSoundSetsInOrBreaksOff) {
     SoundQueue queue;
-    const std::vector<float> loud(10'000 * kOutputChannels, 1.0F);
+    const std::vector<float> loud(std::size_t{10'000} * kOutputChannels, 1.0F);
     std::vector<float> heard;
     const auto listen = [&](std::size_t count) {
         const std::vector<float> more = pull(queue, count);
@@ -184,31 +184,43 @@ TEST(SoundQueue, beginsItsCountAnewForANewDevice) {
     EXPECT_EQ(queue.firstDeviceFrame(), 0);
 }
 
+/// Whether numbers that are heard at full volume never become less, over all that is given to it.
+class RisingNumbers {
+public:
+    void hear(float sample) {
+        m_equalCount = sample == m_previous ? m_equalCount + 1 : 0;
+        m_previous = sample;
+        if (m_equalCount <= 8 || sample < 0.5F)
+            return;
+        m_isRising = m_isRising && std::round(sample) >= m_newest;
+        m_newest = std::round(sample);
+    }
+
+    [[nodiscard]] bool isRising() const { return m_isRising; }
+
+private:
+    float m_previous = 0;
+    float m_newest = 0;
+    int m_equalCount = 0;
+    bool m_isRising = true;
+};
+
 TEST(SoundQueue, keepsRunsApartWhileTheDevicePulls) {
-    // Each run holds one number only: whatever is heard at full volume must be the number of the
-    // newest run or of the one before it, never of a dropped one that turns up again.
+    // Each run holds one number only: a number that is heard again after a greater one would be of
+    // a run that was dropped.
     SoundQueue queue;
     std::atomic<bool> isDone = false;
-    std::atomic<bool> isInOrder = true;
+    RisingNumbers numbers;
     std::thread device([&] {
-        float newest = 0;
-        float previous = 0;
-        int equalCount = 0;
         while (!isDone) {
-            for (const float sample : pull(queue, 256)) {
-                equalCount = sample == previous ? equalCount + 1 : 0;
-                previous = sample;
-                const bool isAtFullVolume = equalCount > 8 && sample > 0.5F;
-                if (isAtFullVolume && std::round(sample) < newest)
-                    isInOrder = false;
-                if (isAtFullVolume)
-                    newest = std::round(sample);
-            }
+            for (const float sample : pull(queue, 256))
+                numbers.hear(sample);
         }
     });
     for (int run = 1; run <= 300; ++run) {
         queue.begin();
-        const std::vector<float> samples(5000 * kOutputChannels, static_cast<float>(run));
+        const std::vector<float> samples(std::size_t{5000} * kOutputChannels,
+                                         static_cast<float>(run));
         std::size_t written = queue.write(samples);
         queue.play();
         while (written < 5000 || !queue.firstDeviceFrame()) {
@@ -218,7 +230,7 @@ TEST(SoundQueue, keepsRunsApartWhileTheDevicePulls) {
     }
     isDone = true;
     device.join();
-    EXPECT_TRUE(isInOrder);
+    EXPECT_TRUE(numbers.isRising());
 }
 
 } // namespace
