@@ -190,6 +190,8 @@ void report(const std::vector<double>& all, const media::Player::Statistics& sta
     const auto [least, greatest] = std::minmax_element(all.begin(), all.end());
     const std::ptrdiff_t tenth = std::max<std::ptrdiff_t>(1, std::ssize(all) / 10);
     std::cout << "{\"clicks\": " << all.size() << ", \"median\": " << median(all)
+              << ", \"beyond20\": "
+              << std::count_if(all.begin(), all.end(), [](double d) { return std::abs(d) > 20; })
               << ", \"min\": " << *least << ", \"max\": " << *greatest
               << ", \"firstTenth\": " << median({all.begin(), all.begin() + tenth})
               << ", \"lastTenth\": " << median({all.end() - tenth, all.end()})
