@@ -43,9 +43,26 @@ std::optional<QUrl> firstFile(const QMimeData& data) {
     return std::nullopt;
 }
 
+/// The same text, but with places to break a line inside words of more than a line's length: the
+/// name of a file can have 255 letters and no space.
+QString withBreaksInLongWords(const QString& text) {
+    constexpr int kLongestWord = 40;
+    QString result;
+    int wordLength = 0;
+    for (const QChar letter : text) {
+        wordLength = letter.isSpace() ? 0 : wordLength + 1;
+        if (wordLength > kLongestWord && !letter.isLowSurrogate()) {
+            result += QChar(0x200b);
+            wordLength = 1;
+        }
+        result += letter;
+    }
+    return result;
+}
+
 /// A message is text: what looks like markup in the name of a file is not.
 void setPlainInformativeText(QMessageBox& box, const QString& text) {
-    box.setInformativeText(text);
+    box.setInformativeText(withBreaksInLongWords(text));
     for (QLabel* label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
 }

@@ -4,15 +4,19 @@
 #include "TestSupport/Fixture.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/NumberedPicture.h"
+#include "TestSupport/TemporaryFolder.h"
 
 #include <QCoroTask>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <limits>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace {
@@ -80,6 +84,37 @@ TEST(Thumbnailer, leavesOutWhatCannotBeMade) {
     EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(asset, nan, 12)).isEmpty());
     const double infinity = std::numeric_limits<double>::infinity();
     EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(asset, infinity, 12)).isEmpty());
+}
+
+TEST(Thumbnailer, goesOnPastPicturesThatCannotBeDecoded) {
+    const Fixture video = makeFixture({.codec = testsupport::VideoCodec::mjpeg,
+                                       .container = "mov",
+                                       .duration = 24,
+                                       .bFrames = 0,
+                                       .audioTracks = 0});
+    const testsupport::TemporaryFolder folder;
+    const auto damaged = folder / "damaged.mov";
+    std::filesystem::copy_file(video.path, damaged);
+    // Pictures of one size each: this takes out those from about 9.6 s to 14 s.
+    const auto size = std::filesystem::file_size(damaged);
+    std::fstream file(damaged, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(static_cast<std::streamoff>(size * 40 / 100));
+    file << std::string(size * 18 / 100, '\0');
+    file.close();
+
+    const QList<QImage> images = filmstripOf(damaged, 12);
+    ASSERT_GE(images.size(), 9);
+    ASSERT_LE(images.size(), 12);
+    std::vector<int> numbers;
+    for (const QImage& image : images) {
+        // A picture that is partly damaged may show, with no number that can be read.
+        if (const auto number = numberIn(image))
+            numbers.push_back(*number);
+    }
+    ASSERT_GE(numbers.size(), 9U);
+    EXPECT_TRUE(std::is_sorted(numbers.begin(), numbers.end()));
+    EXPECT_NEAR(numbers.front(), 30, 16);
+    EXPECT_NEAR(numbers.back(), 690, 16);
 }
 
 TEST(Thumbnailer, makesNothingOfAFileWithoutPictures) {

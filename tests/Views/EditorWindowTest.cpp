@@ -23,6 +23,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -205,6 +206,12 @@ TEST_F(EditorWindowTest, showsWhatWentWrongAndForgetsItOnceItHasBeenSeen) {
     ASSERT_TRUE(pumpUntil([this] { return visibleChild<QMessageBox>() != nullptr; }));
     EXPECT_TRUE(
         visibleChild<QMessageBox>()->informativeText().contains(QStringLiteral("other.mov")));
+}
+
+TEST_F(EditorWindowTest, showsALongNameInAnAlertNoWiderThanTheScreen) {
+    m_state->load(urlOf(m_folder / (std::string(251, 'n') + ".mov")));
+    ASSERT_TRUE(pumpUntil([this] { return visibleChild<QMessageBox>() != nullptr; }));
+    EXPECT_LT(visibleChild<QMessageBox>()->sizeHint().width(), 640);
 }
 
 TEST_F(EditorWindowTest, loadsADroppedFileWhateverItsName) {
