@@ -95,6 +95,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         std::string parameters = "log-level=none";
         if (std::min(encoding.width, encoding.height) < 64)
             parameters += ":ctu=16";
+        parameters += x265Parameters(track.dynamicRange);
         setOption(*context, "x265-params", parameters);
     } else {
         setOption(*context, "preset", settings.h264Preset);

@@ -55,6 +55,9 @@ public:
         return judged();
     }
 
+    /// The first picture, once read() has returned.
+    [[nodiscard]] const AVFrame& picture() const { return *m_frame; }
+
 private:
     /// False at the end of the file.
     bool readPacket(const std::stop_token& stop) {
@@ -263,7 +266,10 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
     const auto video = std::ranges::find(info.tracks, MediaType::video,
                                          [](const SourceTrack& track) { return track.facts.type; });
     if (video != info.tracks.end()) {
-        const FirstPictures first = FirstPicturesReader(demuxer, *video).read(stop);
+        FirstPicturesReader reader(demuxer, *video);
+        const FirstPictures first = reader.read(stop);
+        video->dynamicRange =
+            describeDynamicRange(*context.streams[video->facts.streamIndex], reader.picture());
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 extern "C" {
 #include <libavutil/opt.h>
@@ -22,6 +23,8 @@ constexpr int kWriteBufferBytes = 1024 * 1024;
 constexpr std::int64_t kIndexBytesPerPacket = 44;
 /// Everything else in the index: headers, decoder configurations, metadata; bytes.
 constexpr std::int64_t kIndexBytes = 32 * 1024;
+/// What a metadata entry takes besides its name and its value; bytes.
+constexpr std::int64_t kEntryBytes = 64;
 
 /// What describes the source's file format or its encoding rather than its content.
 bool belongsToTheOldFile(std::string_view key) {
@@ -44,8 +47,41 @@ std::int64_t metadataBytes(const AVDictionary* dictionary) {
     std::int64_t bytes = 0;
     const AVDictionaryEntry* entry = nullptr;
     while ((entry = av_dict_get(dictionary, "", entry, AV_DICT_IGNORE_SUFFIX)))
-        bytes += static_cast<std::int64_t>(std::string_view(entry->value).size()) + 64;
-    return bytes;
+        bytes += static_cast<std::int64_t>(std::string_view(entry->key).size() +
+                                           std::string_view(entry->value).size()) +
+                 kEntryBytes;
+    // Some of it is written in two places.
+    return 2 * bytes;
+}
+
+/// Whether there are entries that have no place of their own in these files ("com.apple.…").
+bool hasNamedEntries(const AVDictionary* metadata) {
+    return av_dict_get(metadata, "com.", nullptr, AV_DICT_IGNORE_SUFFIX) != nullptr;
+}
+
+/// The QuickTime format numbers the languages, and libav knows each number by one code only.
+void useQuickTimeLanguage(AVDictionary*& metadata) {
+    constexpr std::array<std::pair<std::string_view, const char*>, 14> kCodes = {{{"fre", "fra"},
+                                                                                  {"deu", "ger"},
+                                                                                  {"nld", "dut"},
+                                                                                  {"swe", "sve"},
+                                                                                  {"ell", "gre"},
+                                                                                  {"isl", "ice"},
+                                                                                  {"zho", "chi"},
+                                                                                  {"sqi", "alb"},
+                                                                                  {"rum", "ron"},
+                                                                                  {"cze", "ces"},
+                                                                                  {"slo", "slk"},
+                                                                                  {"mkd", "mac"},
+                                                                                  {"hrv", "hr "},
+                                                                                  {"srp", "sr "}}};
+    const AVDictionaryEntry* entry = av_dict_get(metadata, "language", nullptr, 0);
+    if (!entry)
+        return;
+    const auto* const code = std::ranges::find(kCodes, std::string_view(entry->value),
+                                               &std::pair<std::string_view, const char*>::first);
+    if (code != kCodes.end())
+        check(av_dict_set(&metadata, "language", code->second, 0));
 }
 
 void setDisplayMatrix(AVStream& stream, const AffineTransform& transform) {
@@ -91,7 +127,7 @@ struct Muxer::Io {
 };
 
 Muxer::Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range)
-    : m_io(new Io{file}) {
+    : m_type(type), m_io(new Io{file}) {
     silenceLog();
     auto* buffer = static_cast<unsigned char*>(allocated(av_malloc(kWriteBufferBytes)));
     m_ioContext.reset(allocated(avio_alloc_context(buffer, kWriteBufferBytes, 1, m_io.get(),
@@ -142,8 +178,12 @@ int Muxer::addStream(const AVCodecContext& encoder, const SourceTrack& source,
     stream->sample_aspect_ratio = encoder.sample_aspect_ratio;
     stream->disposition = source.disposition & AV_DISPOSITION_DEFAULT;
     copyEntries(&stream->metadata, source.metadata.get());
-    if (encoder.codec_type == AVMEDIA_TYPE_VIDEO)
+    if (encoder.codec_type == AVMEDIA_TYPE_VIDEO) {
         setDisplayMatrix(*stream, transform);
+        attach(*stream, source.dynamicRange);
+    }
+    if (m_type == FileType::quickTimeMovie)
+        useQuickTimeLanguage(stream->metadata);
     return stream->index;
 }
 
@@ -155,6 +195,8 @@ void Muxer::writeHeader(std::int64_t expectedPackets) {
                   static_cast<std::int64_t>(m_context->nb_chapters) * 1024;
     m_roomBytes = std::min<std::int64_t>(m_roomBytes, std::numeric_limits<int>::max());
     checkIo(av_opt_set_int(m_context->priv_data, "moov_size", m_roomBytes, 0));
+    if (hasNamedEntries(m_context->metadata))
+        checkIo(av_opt_set(m_context->priv_data, "movflags", "+use_metadata_tags", 0));
     checkIo(avformat_write_header(m_context.get(), nullptr));
     // After the room the muxer has begun the media box: an empty box and its own header, 8 bytes
     // each.

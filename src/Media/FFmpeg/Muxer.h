@@ -42,6 +42,7 @@ private:
     void checkIo(int result);
     void turnReservedRoomIntoFreeBox();
 
+    FileType m_type;
     std::unique_ptr<Io> m_io;
     IoContextPtr m_ioContext;
     OutputContextPtr m_context;

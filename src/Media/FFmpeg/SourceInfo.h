@@ -2,6 +2,7 @@
 
 #include "Media/Asset.h"
 #include "Media/FFmpeg/Handles.h"
+#include "Media/FFmpeg/HighDynamicRange.h"
 
 #include <string>
 #include <vector>
@@ -15,6 +16,8 @@ struct SourceTrack {
     CodecParametersPtr parameters;
     AVRational averageFrameRate{0, 1};
     AVRational sampleAspectRatio{0, 1};
+    /// Of the first video track.
+    HighDynamicRange dynamicRange;
     DictionaryPtr metadata;
     int disposition = 0;
     /// The file's pictures come without presentation times: they are taken to be shown one after

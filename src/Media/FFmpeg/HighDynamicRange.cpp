@@ -1,0 +1,80 @@
+#include "Media/FFmpeg/HighDynamicRange.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace media::ffmpeg {
+
+namespace {
+
+/// The data of one kind that the container holds or else the picture.
+template<typename Data>
+std::optional<Data> sideData(const AVStream& stream, AVPacketSideDataType packetType,
+                             const AVFrame& picture, AVFrameSideDataType frameType) {
+    std::size_t size = 0;
+    const std::uint8_t* bytes = av_stream_get_side_data(&stream, packetType, &size);
+    if (!bytes) {
+        if (const AVFrameSideData* data = av_frame_get_side_data(&picture, frameType)) {
+            bytes = data->data;
+            size = data->size;
+        }
+    }
+    if (!bytes || size < sizeof(Data))
+        return std::nullopt;
+    Data result;
+    std::memcpy(&result, bytes, sizeof result);
+    return result;
+}
+
+/// Written as the standard counts: chromaticities in 1/50000, luminances in 1/10000 cd/m².
+std::string counted(AVRational value, int unit) {
+    return std::to_string(std::llround(av_q2d(value) * unit));
+}
+
+std::string pair(const char* name, AVRational first, AVRational second, int unit) {
+    return std::string(name) + "(" + counted(first, unit) + "," + counted(second, unit) + ")";
+}
+
+template<typename Data>
+void attachOne(AVStream& stream, AVPacketSideDataType type, const std::optional<Data>& data) {
+    if (!data)
+        return;
+    std::uint8_t* bytes = allocated(av_stream_new_side_data(&stream, type, sizeof(Data)));
+    std::memcpy(bytes, &*data, sizeof(Data));
+}
+
+} // namespace
+
+HighDynamicRange describeDynamicRange(const AVStream& stream, const AVFrame& picture) {
+    return {sideData<AVMasteringDisplayMetadata>(stream, AV_PKT_DATA_MASTERING_DISPLAY_METADATA,
+                                                 picture, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA),
+            sideData<AVContentLightMetadata>(stream, AV_PKT_DATA_CONTENT_LIGHT_LEVEL, picture,
+                                             AV_FRAME_DATA_CONTENT_LIGHT_LEVEL)};
+}
+
+std::string x265Parameters(const HighDynamicRange& range) {
+    std::string parameters;
+    if (const auto& display = range.masteringDisplay;
+        display && display->has_primaries && display->has_luminance) {
+        constexpr int kChromaticity = 50'000;
+        constexpr int kLuminance = 10'000;
+        const auto& [red, green, blue] = display->display_primaries;
+        parameters += ":master-display=" + pair("G", green[0], green[1], kChromaticity) +
+                      pair("B", blue[0], blue[1], kChromaticity) +
+                      pair("R", red[0], red[1], kChromaticity) +
+                      pair("WP", display->white_point[0], display->white_point[1], kChromaticity) +
+                      pair("L", display->max_luminance, display->min_luminance, kLuminance);
+    }
+    if (range.lightLevel) {
+        parameters += ":max-cll=" + std::to_string(range.lightLevel->MaxCLL) + "," +
+                      std::to_string(range.lightLevel->MaxFALL);
+    }
+    return parameters.empty() ? parameters : ":hdr10=1" + parameters;
+}
+
+void attach(AVStream& stream, const HighDynamicRange& range) {
+    attachOne(stream, AV_PKT_DATA_MASTERING_DISPLAY_METADATA, range.masteringDisplay);
+    attachOne(stream, AV_PKT_DATA_CONTENT_LIGHT_LEVEL, range.lightLevel);
+}
+
+} // namespace media::ffmpeg

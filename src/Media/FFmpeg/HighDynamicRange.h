@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Media/FFmpeg/Handles.h"
+
+#include <optional>
+#include <string>
+
+extern "C" {
+#include <libavutil/mastering_display_metadata.h>
+}
+
+namespace media::ffmpeg {
+
+/// What a file says about the screen its pictures were graded on and how bright they become.
+struct HighDynamicRange {
+    std::optional<AVMasteringDisplayMetadata> masteringDisplay;
+    std::optional<AVContentLightMetadata> lightLevel;
+};
+
+/// From the container and, where it does not say, from a decoded picture.
+HighDynamicRange describeDynamicRange(const AVStream& stream, const AVFrame& picture);
+
+/// The same as parameters of x265, each with a colon in front; empty where there is nothing to say.
+std::string x265Parameters(const HighDynamicRange& range);
+
+/// Has a muxer write it for an output stream.
+void attach(AVStream& stream, const HighDynamicRange& range);
+
+} // namespace media::ffmpeg
