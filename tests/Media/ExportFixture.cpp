@@ -1,6 +1,8 @@
 #include "Media/ExportFixture.h"
 
 #include "Media/Error.h"
+#include "Media/Mp4Boxes.h"
+#include "TestSupport/Inspection.h"
 
 #include <algorithm>
 #include <chrono>
@@ -99,6 +101,37 @@ bool RunningExport::waitForProgress(double fraction) {
         return m_session.progress() >= fraction ||
                (state != ExportSession::State::waiting && state != ExportSession::State::exporting);
     });
+}
+
+std::filesystem::path ExportTest::exported(const std::filesystem::path& source, double start,
+                                           double end, FileType type) {
+    std::filesystem::path output = m_folder / (type == FileType::mpeg4 ? "out.mp4" : "out.mov");
+    exportRange(source, start, end, output, type);
+    return output;
+}
+
+std::filesystem::path ExportTest::exportedAs(const Composition& composition,
+                                             const VideoComposition& videoComposition) {
+    std::filesystem::path output = m_folder / "out.mp4";
+    ExportSession session(composition, output, FileType::mpeg4);
+    session.setVideoComposition(videoComposition);
+    session.run();
+    return output;
+}
+
+double ExportTest::videoEnd(const std::filesystem::path& path) {
+    const std::string bytes = contentsOf(path);
+    const auto header = testsupport::findBox(bytes, {"moov", "mvhd"});
+    const auto edits = testsupport::findBox(bytes, {"moov", "trak", "edts", "elst"});
+    const auto number = [&](std::size_t at) {
+        return static_cast<double>(testsupport::numberAt(bytes, at));
+    };
+    // One edit, versions 0: the duration in it, and the timescale of the movie.
+    return number(edits.value().offset + 16) / number(header.value().offset + 20);
+}
+
+testsupport::ProbedFields ExportTest::video(const std::filesystem::path& path) {
+    return testsupport::probe(path).streamsOf("video").at(0);
 }
 
 } // namespace media

@@ -2,6 +2,9 @@
 
 #include "Media/ExportSession.h"
 #include "TestSupport/Fixture.h"
+#include "TestSupport/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <functional>
@@ -65,6 +68,24 @@ private:
     std::string m_error;
     bool m_wasCancelled = false;
     std::jthread m_thread;
+};
+
+/// Exports into a folder of its own.
+class ExportTest : public testing::Test {
+protected:
+    /// Exports a range, in seconds, and hands back where it is.
+    std::filesystem::path exported(const std::filesystem::path& source, double start, double end,
+                                   FileType type = FileType::mpeg4);
+
+    std::filesystem::path exportedAs(const Composition& composition,
+                                     const VideoComposition& videoComposition);
+
+    /// When the picture ends, by the file's edit list; seconds.
+    static double videoEnd(const std::filesystem::path& path);
+
+    static testsupport::ProbedFields video(const std::filesystem::path& path);
+
+    testsupport::TemporaryFolder m_folder;
 };
 
 } // namespace media

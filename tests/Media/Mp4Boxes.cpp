@@ -7,13 +7,6 @@
 namespace testsupport {
 namespace {
 
-std::size_t numberAt(std::string_view bytes, std::size_t at, std::size_t length) {
-    std::size_t value = 0;
-    for (const char byte : bytes.substr(at, length))
-        value = value << 8U | static_cast<std::uint8_t>(byte);
-    return value;
-}
-
 /// The boxes on the way to a path's end, outermost first; fewer than its length if it is not there.
 std::vector<Box> boxesOnPath(std::string_view bytes, const std::vector<std::string>& path) {
     std::vector<Box> found;
@@ -32,6 +25,13 @@ std::vector<Box> boxesOnPath(std::string_view bytes, const std::vector<std::stri
 }
 
 } // namespace
+
+std::size_t numberAt(std::string_view bytes, std::size_t at, std::size_t length) {
+    std::size_t value = 0;
+    for (const char byte : bytes.substr(at, length))
+        value = value << 8U | static_cast<std::uint8_t>(byte);
+    return value;
+}
 
 std::vector<Box> boxesIn(std::string_view bytes, std::size_t begin, std::size_t end) {
     std::vector<Box> boxes;

@@ -32,6 +32,9 @@ std::string makeBox(const std::string& type, const std::string& payload);
 /// 4 bytes, most significant first.
 std::string bigEndian(std::size_t value);
 
+/// The number in `length` bytes, most significant first.
+std::size_t numberAt(std::string_view bytes, std::size_t at, std::size_t length = 4);
+
 /// Puts another box in the place of the one that `path` leads to; the boxes around it grow or
 /// shrink along. Offsets into the media are not changed: it must lie in front.
 void replaceBox(std::string& bytes, const std::vector<std::string>& path,
