@@ -116,13 +116,13 @@ Demuxer::Demuxer(std::shared_ptr<const SourceFile> file, const AVInputFormat* fo
     context->interrupt_callback = {&Io::isStopped, m_io.get()};
     context->format_whitelist = av_strdup(kContainers);
     context->protocol_whitelist = av_strdup("file");
-    // On failure libav frees the context itself. No name is handed over: only content counts.
+    // On failure libav frees the context and sets it to null. No name is handed over: only content counts.
     const int result = avformat_open_input(&context, "", format, nullptr);
+    m_context.reset(context);
     if (stop.stop_requested())
         throw Cancelled();
     // The probing of formats that are not accepted ends in an argument error.
     check(result == AVERROR(EINVAL) ? AVERROR_INVALIDDATA : result);
-    m_context.reset(context);
 }
 
 Demuxer::~Demuxer() = default;
