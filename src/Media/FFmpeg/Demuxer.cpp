@@ -116,7 +116,8 @@ Demuxer::Demuxer(std::shared_ptr<const SourceFile> file, const AVInputFormat* fo
     context->interrupt_callback = {&Io::isStopped, m_io.get()};
     context->format_whitelist = av_strdup(kContainers);
     context->protocol_whitelist = av_strdup("file");
-    // On failure libav frees the context and sets it to null. No name is handed over: only content counts.
+    // On failure libav frees the context and sets it to null. No name is handed over: only content
+    // counts.
     const int result = avformat_open_input(&context, "", format, nullptr);
     m_context.reset(context);
     if (stop.stop_requested())
