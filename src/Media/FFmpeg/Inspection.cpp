@@ -140,17 +140,21 @@ Time findOrigin(const AVFormatContext& context, const std::optional<Time>& first
     return origin.value_or(Time{0, 1});
 }
 
+/// The end of the whole file as the container states it, in container time.
+std::optional<Time> containerEnd(const AVFormatContext& context) {
+    if (context.duration == AV_NOPTS_VALUE || context.duration <= 0)
+        return std::nullopt;
+    const std::int64_t start = context.start_time != AV_NOPTS_VALUE ? context.start_time : 0;
+    return containerTime(start + context.duration, AV_TIME_BASE_Q);
+}
+
 /// The stream's end as the container states it, in container time.
 std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& stream) {
     if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0) {
         const std::int64_t start = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;
         return containerTime(start + stream.duration, stream.time_base);
     }
-    if (context.duration != AV_NOPTS_VALUE && context.duration > 0) {
-        const std::int64_t start = context.start_time != AV_NOPTS_VALUE ? context.start_time : 0;
-        return containerTime(start + context.duration, AV_TIME_BASE_Q);
-    }
-    return std::nullopt;
+    return containerEnd(context);
 }
 
 /// Whether the container's index shows every sample, up to the claimed end, to lie in the file.
@@ -231,6 +235,11 @@ Time findDuration(Demuxer& demuxer, const SourceFile& file, const SourceInfo& in
         if (end && latest < *end)
             latest = *end;
     }
+    // A track's own length is a sum of decoding times; where pictures are reordered and of unequal
+    // length only the whole file's is that of their presentation.
+    const auto whole = containerEnd(demuxer.context());
+    if (isIndexed && whole && latest < *whole && (*whole - latest).seconds() < kDurationSlack)
+        latest = *whole;
     return latest - info.origin;
 }
 
