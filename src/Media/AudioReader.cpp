@@ -141,7 +141,8 @@ private:
     void move(const std::stop_token& stop) {
         const double audible = std::max(m_target, m_track.facts.startTime.seconds());
         m_skipBefore = audible - kPrerollSeconds;
-        if (m_skipBefore <= 0 || !seekContainer(audible, stop))
+        const bool wantsStart = m_skipBefore <= 0;
+        if ((wantsStart && m_isAtStart) || !seekContainer(audible, stop))
             moveToStart(stop);
     }
 
@@ -164,9 +165,9 @@ private:
             const Time time = Time::fromSeconds(m_skipBefore - back, AV_TIME_BASE);
             m_isAtStart = false;
             m_startedAtStart = false;
-            if (time.value <= 0 ||
-                !m_demuxer.seek(guide.facts.streamIndex, ffmpeg::streamTimestamp(info, guide, time),
-                                stop))
+            const bool isBeforeStart = back > 0 && time.value <= 0;
+            if (isBeforeStart || !m_demuxer.seek(guide.facts.streamIndex,
+                                                 ffmpeg::streamTimestamp(info, guide, time), stop))
                 return false;
             const auto landing = readLanding(stop);
             if (landing && (*landing <= audible || landing == earlier))

@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/SourceInfo.h"
 #include "TestSupport/ClickTrack.h"
 #include "TestSupport/Fixture.h"
+#include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"
 #include "TestSupport/TemporaryFolder.h"
@@ -228,12 +229,13 @@ std::filesystem::path withHole(const Fixture& source, const std::string& contain
 TEST(AudioReader, fillsHolesWithSilence) {
     for (const char* container : {"mkv", "ts"}) {
         SCOPED_TRACE(container);
-        const Fixture whole = makeFixture({.container = container, .duration = 6});
-        const auto asset = opened(withHole(whole, container));
+        const auto path = withHole(makeFixture({.container = container, .duration = 6}), container);
+        const auto asset = opened(path);
         AudioReader reader = makeReader(asset);
-        std::vector<double> expected = clicksOn(*asset, whole, 0);
-        std::erase_if(expected, [](double click) { return click > 2.5 && click < 3.5; });
-        ASSERT_EQ(expected.size() + 1, whole.audio[0].clicks.size());
+        std::vector<double> expected = testsupport::readClicks(path);
+        for (double& click : expected)
+            click -= asset->info().origin.seconds();
+        ASSERT_EQ(expected.size(), 5U);
         expectClicks(clicksOf(readSound(reader, 100), 0), expected);
         reader.seek(seconds(2.7));
         const Sound sound = readSound(reader, 100);
