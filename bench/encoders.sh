@@ -1,0 +1,79 @@
+#!/usr/bin/env bash
+# Compares encoder settings by similarity, time and size: x264 presets against medium at crf 16,
+# x265 presets (10 bit) against medium at crf 18. Times are of the encoder alone, on raw pictures.
+source "$(dirname "$0")/common.sh"
+
+frames=${BENCH_FRAMES:-150}
+
+# rawClip NAME PIXEL-FORMAT FFMPEG-INPUT...: raw 1080p pictures.
+rawClip() {
+    local name=$1 format=$2
+    shift 2
+    toRaw() {
+        ffmpeg "${@:1:$#-1}" -frames:v "$frames" -vf \
+            "scale=1920:1080:flags=lanczos,setsar=1,format=$format" -f nut -c:v rawvideo "${!#}"
+    }
+    generated "$name-$format-$frames.nut" toRaw "$@"
+}
+
+# row CLIP FORMAT ENCODER PRESET CRF: one line of the table; sets wall, bytes.
+row() {
+    local clip=$1 format=$2 encoder=$3 preset=$4 crf=$5 parameters=()
+    [[ $encoder == libx265 ]] && parameters=(-x265-params log-level=none)
+    measure ffmpeg -nostdin -v error -y -i "$clip" -pix_fmt "$format" -c:v "$encoder" \
+        -preset "$preset" -crf "$crf" "${parameters[@]}" -f nut "$scratch/coded.nut"
+    bytes=$(stat -c %s "$scratch/coded.nut")
+    local similarity
+    similarity=$(command ffmpeg -nostdin -hide_banner -i "$scratch/coded.nut" -i "$clip" \
+        -lavfi ssim -f null - 2>&1 | sed -n 's/.*All:\([0-9.]*\).*/\1/p')
+    baseWall=${baseWall:-$wall} baseBytes=${baseBytes:-$bytes}
+    printf '| %-10s | %5s | %8s | %7s | %5s | %6s | %5s |\n' "$preset" "$crf" "$similarity" \
+        "$wall" "$(ratio "$wall" "$baseWall")" \
+        "$(awk -v b="$bytes" 'BEGIN { printf "%.2f", b / 1048576 }')" \
+        "$(ratio "$bytes" "$baseBytes")"
+}
+
+# table TITLE CLIP FORMAT ENCODER PRESET:CRF...: the first setting is what the others stand beside.
+table() {
+    local title=$1 clip=$2 format=$3 encoder=$4 setting
+    shift 4
+    printf '%s\n\n| preset     |   crf |     SSIM |  wall s | x     |    MiB | x     |\n' "$title"
+    printf '|---|---|---|---|---|---|---|\n'
+    baseWall='' baseBytes=''
+    for setting in "$@"; do
+        row "$clip" "$format" "$encoder" "${setting%:*}" "${setting#*:}"
+    done
+    echo
+}
+
+h264=(medium:16 faster:16 veryfast:16 superfast:16 superfast:17 superfast:17.7 superfast:18
+    ultrafast:14 ultrafast:16)
+hevc=(medium:18 fast:18 superfast:16 superfast:17 superfast:18 ultrafast:14 ultrafast:15
+    ultrafast:16 ultrafast:17 ultrafast:18)
+
+printMachine
+noise=(-f lavfi -i "testsrc2=size=1920x1080:rate=30,noise=alls=10:allf=t")
+if [[ -d $samples ]]; then
+    declare -A clips=(
+        [butterfly]="mp4 name with spaces, 'quote' & ümläut.mp4"
+        [roof]=mp4-iphone-rot90-hevc10-hlg-editlist.mp4
+        [screen]=mkv-screenrec-1080p60-aac.mkv)
+    for name in butterfly roof screen; do
+        clip=$(rawClip "$name" yuv420p -noautorotate -i "$samples/${clips[$name]}")
+        table "H.264, $name" "$clip" yuv420p libx264 "${h264[@]}"
+    done
+fi
+clip=$(rawClip noise yuv420p "${noise[@]}")
+table "H.264, test picture with noise" "$clip" yuv420p libx264 "${h264[@]}"
+
+if [[ -d $samples ]]; then
+    declare -A deepClips=(
+        [roof]=mp4-iphone-rot90-hevc10-hlg-editlist.mp4
+        [terrace]=mp4-hevc10-pq-1080p.mp4)
+    for name in roof terrace; do
+        clip=$(rawClip "$name" yuv420p10le -noautorotate -i "$samples/${deepClips[$name]}")
+        table "HEVC 10 bit, $name" "$clip" yuv420p10le libx265 "${hevc[@]}"
+    done
+fi
+clip=$(rawClip noise yuv420p10le "${noise[@]}")
+table "HEVC 10 bit, test picture with noise" "$clip" yuv420p10le libx265 "${hevc[@]}"
