@@ -15,7 +15,7 @@ QUrl fileOf(std::string_view argument) {
     std::error_code ignored;
     if (argument.starts_with("file:") && !std::filesystem::exists(path, ignored)) {
         const auto size = static_cast<qsizetype>(argument.size());
-        const QUrl url = QUrl::fromEncoded(QByteArray(argument.data(), size));
+        QUrl url = QUrl::fromEncoded(QByteArray(argument.data(), size));
         if (url.isValid())
             return url;
     }

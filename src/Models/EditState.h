@@ -44,7 +44,7 @@ public:
     [[nodiscard]] double duration() const { return m_duration; }
 
     /// Pixels of the picture as the source orients it, before the user's rotation.
-    [[nodiscard]] media::Size displaySize() const { return m_displaySize; }
+    [[nodiscard]] media::Size displaySize() const { return m_displaySize.value(); }
 
     /// displaySize() as the user sees it, after the rotation. What the crop's fractions refer to.
     [[nodiscard]] media::Size rotatedDisplaySize() const;
@@ -67,7 +67,7 @@ public:
     [[nodiscard]] int rotation() const { return m_rotation; }
 
     /// The fraction done, 0 to 1, of the running export; none while none runs.
-    [[nodiscard]] std::optional<double> exportProgress() const { return m_exportProgress; }
+    [[nodiscard]] std::optional<double> exportProgress() const { return m_exportProgress.value(); }
 
     /// The one message to show to the user. Whoever has shown it clears it.
     [[nodiscard]] const std::optional<QString>& errorMessage() const {

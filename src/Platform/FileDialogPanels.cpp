@@ -7,6 +7,7 @@
 #include <QFuture>
 #include <QPromise>
 
+#include <array>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -20,9 +21,9 @@ using Answer = std::optional<QUrl>;
 /// The extensions that movie files are known by. Both cases are named, since some dialogs tell
 /// them apart and many cameras write capitals.
 QString movieFilter() {
-    static constexpr const char* kExtensions[] = {
-        "mp4", "m4v",  "mov", "qt",  "mkv", "webm", "avi", "mpg", "mpeg", "m2v", "ts",
-        "mts", "m2ts", "3gp", "3g2", "wmv", "asf",  "flv", "f4v", "ogv",  "mxf", "vob"};
+    static constexpr auto kExtensions = std::to_array<const char*>(
+        {"mp4", "m4v",  "mov", "qt",  "mkv", "webm", "avi", "mpg", "mpeg", "m2v", "ts",
+         "mts", "m2ts", "3gp", "3g2", "wmv", "asf",  "flv", "f4v", "ogv",  "mxf", "vob"});
     QStringList patterns;
     for (const char* extension : kExtensions) {
         const QString pattern = QStringLiteral("*.") + QString::fromLatin1(extension);
@@ -46,7 +47,7 @@ QFuture<Answer> ask(QFileDialog* dialog) {
         answer(result == QDialog::Accepted && !urls.isEmpty() ? Answer(urls.first()) : Answer());
     });
     QObject::connect(dialog, &QObject::destroyed, [answer] { answer({}); });
-    const QFuture<Answer> future = promise->future();
+    QFuture<Answer> future = promise->future();
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
     return future;

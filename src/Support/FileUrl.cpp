@@ -30,7 +30,7 @@ QUrl urlOf(const std::filesystem::path& path) {
 
 std::filesystem::path pathOf(const QUrl& url) {
     const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
-    return std::filesystem::path(QByteArray::fromPercentEncoding(encoded).toStdString());
+    return {QByteArray::fromPercentEncoding(encoded).toStdString()};
 }
 
 QString displayName(const QUrl& url) {

@@ -15,7 +15,7 @@ QImage toQImage(media::ImagePtr image) {
         shared.pixels.data(), shared.width, shared.height, shared.stride, QImage::Format_RGB32,
         [](void* keptAlive) { delete static_cast<media::ImagePtr*>(keptAlive); }, owner.get());
     if (!wrapped.isNull())
-        owner.release();
+        static_cast<void>(owner.release());
     return wrapped;
 }
 

@@ -19,8 +19,8 @@ media::Time middleOfSlice(int index, double duration, int count) {
 
 } // namespace
 
-QCoro::Task<QList<QImage>> filmstrip(std::shared_ptr<const media::Asset> asset, double duration,
-                                     int count, std::stop_token stop) {
+QCoro::Task<QList<QImage>> filmstrip(const std::shared_ptr<const media::Asset>& asset,
+                                     double duration, int count, const std::stop_token& stop) {
     return runOnWorker(
         [asset, duration, count, stop] { return makeFilmstrip(asset, duration, count, stop); });
 }

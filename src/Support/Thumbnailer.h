@@ -16,8 +16,8 @@ namespace brisklet::Thumbnailer {
 /// `duration` (seconds), in time order. Each may show a frame up to half a second off. Images that
 /// cannot be made are left out; never throws. Works on a worker thread and resumes the caller on
 /// its own; a stop request ends it early with what there is.
-QCoro::Task<QList<QImage>> filmstrip(std::shared_ptr<const media::Asset> asset, double duration,
-                                     int count, std::stop_token stop = {});
+QCoro::Task<QList<QImage>> filmstrip(const std::shared_ptr<const media::Asset>& asset,
+                                     double duration, int count, const std::stop_token& stop = {});
 
 /// The same, blocking, on the calling thread.
 QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, double duration,
