@@ -27,17 +27,18 @@ median() {
 # ratio A B
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a / b }'; }
 
-# measure COMMAND...: sets wall (seconds) and peak (MiB, of the largest process of the command).
+# measure COMMAND...: sets wall and cpu (seconds) and peak (MiB, of the largest of its processes).
 measure() {
     local start=$EPOCHREALTIME
-    /usr/bin/time --quiet -f %M -o "$scratch/peak" "$@" >"$scratch/output" 2>"$scratch/errors" || {
+    /usr/bin/time --quiet -f '%M %U %S' -o "$scratch/usage" "$@" >"$scratch/output" 2>"$scratch/errors" || {
         echo "failed: $*" >&2
         cat "$scratch/errors" >&2
         exit 1
     }
     local end=$EPOCHREALTIME
     wall=$(awk -v a="$start" -v b="$end" 'BEGIN { printf "%.3f", b - a }')
-    peak=$(awk '{ printf "%.1f", $1 / 1024 }' "$scratch/peak")
+    peak=$(awk '{ printf "%.1f", $1 / 1024 }' "$scratch/usage")
+    cpu=$(awk '{ printf "%.2f", $2 + $3 }' "$scratch/usage")
 }
 
 # compare LABEL-A COMMAND-A LABEL-B COMMAND-B: runs two functions in turn and prints the medians.
