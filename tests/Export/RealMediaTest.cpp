@@ -1,0 +1,214 @@
+#include "Export/AVFoundationExporter.h"
+#include "Media/Error.h"
+#include "Media/ImageGenerator.h"
+#include "Support/FileUrl.h"
+#include "TestSupport/Inspection.h"
+#include "TestSupport/MediaCache.h"
+#include "TestSupport/Process.h"
+#include "TestSupport/TemporaryFolder.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <ostream>
+
+/// Files that phones, cameras, screen recorders and broadcasters made. What can be shown of them
+/// can be exported; what cannot be shown is told in a sentence.
+namespace brisklet {
+namespace {
+
+using media::Asset;
+using media::MediaType;
+using testsupport::probe;
+using testsupport::ProbedFile;
+using testsupport::TemporaryFolder;
+
+struct Sample {
+    std::string name;
+    /// "opens", "no video track" or "cannot open".
+    std::string expectation;
+    bool firstFrameDecodes = false;
+
+    [[nodiscard]] bool canBeShown() const { return expectation == "opens" && firstFrameDecodes; }
+};
+
+std::ostream& operator<<(std::ostream& stream, const Sample& sample) {
+    return stream << sample.name;
+}
+
+/// Empty where the collection is not there.
+std::vector<Sample> allSamples() {
+    std::vector<Sample> samples;
+    const auto manifest = testsupport::sampleMedia("manifest.json");
+    if (!manifest)
+        return samples;
+    QFile file(QString::fromStdString(manifest->string()));
+    if (!file.open(QIODevice::ReadOnly))
+        return samples;
+    const auto entries = QJsonDocument::fromJson(file.readAll())[u"files"].toArray();
+    for (const QJsonValue& entry : entries) {
+        samples.push_back({entry[u"name"].toString().toStdString(),
+                           entry[u"expect"].toString().toStdString(),
+                           entry[u"first_frame_decodes"].toBool()});
+    }
+    return samples;
+}
+
+std::vector<Sample> samplesThat(bool canBeShown) {
+    std::vector<Sample> samples = allSamples();
+    std::erase_if(samples, [&](const Sample& sample) { return sample.canBeShown() != canBeShown; });
+    return samples;
+}
+
+std::string testName(const testing::TestParamInfo<Sample>& info) {
+    std::string name;
+    for (const char letter : info.param.name)
+        name += std::isalnum(static_cast<unsigned char>(letter)) ? letter : '_';
+    return name;
+}
+
+std::filesystem::path pathOfSample(const Sample& sample) {
+    return testsupport::sampleMedia(sample.name).value();
+}
+
+/// How many of a file's audio tracks ffmpeg decodes anything of.
+std::size_t audibleTracks(const std::filesystem::path& path) {
+    std::size_t audible = 0;
+    const std::size_t count = probe(path).streamsOf("audio").size();
+    for (std::size_t track = 0; track < count; ++track) {
+        const auto result = testsupport::runProcess(
+            {"ffmpeg", "-nostdin", "-v", "quiet", "-i", "file:" + path.string(), "-map",
+             "0:a:" + std::to_string(track), "-frames:a", "1", "-f", "framemd5", "-"});
+        // A line for each frame, after those of the head.
+        if (result.output.find("\n0,") != std::string::npos)
+            ++audible;
+    }
+    return audible;
+}
+
+/// A second from the middle of what lasts longer.
+ExportRequest requestFor(const std::filesystem::path& source, double duration) {
+    ExportRequest request;
+    request.sourceURL = urlOf(source);
+    request.startTime = duration > 2 ? duration * 0.4 : 0;
+    request.endTime = std::min(duration, request.startTime + 1);
+    return request;
+}
+
+class RealMedia : public testing::TestWithParam<Sample> {
+protected:
+    void SetUp() override {
+        m_source = pathOfSample(GetParam());
+        m_asset = Asset::open(m_source);
+    }
+
+    /// Exports in one format and looks at what came out.
+    ProbedFile exported(ExportRequest request, ExportFormat format) {
+        const auto output = m_folder / (format == ExportFormat::mov ? "out.mov" : "out.mp4");
+        request.outputURL = urlOf(output);
+        request.format = format;
+        AVFoundationExporter::run(request, {}, {});
+
+        EXPECT_EQ(testsupport::warningsWhilePlaying(output), "");
+        const auto frames = testsupport::readPackets(output);
+        const auto first = std::ranges::min_element(frames, {}, &testsupport::ProbedPacket::pts);
+        EXPECT_NE(first, frames.end());
+        if (first != frames.end()) {
+            EXPECT_NEAR(first->pts, 0, 0.001);
+        }
+        ProbedFile file = probe(output);
+        EXPECT_EQ(file.streamsOf("video").size(), 1U);
+        const double length = static_cast<double>(std::llround(request.endTime * 600) -
+                                                  std::llround(request.startTime * 600)) /
+                              600;
+        EXPECT_NEAR(file.format.number("duration").value_or(0), length, 0.03);
+        EXPECT_NEAR(file.format.number("start_time").value_or(1), 0, 0.001);
+        return file;
+    }
+
+    std::filesystem::path m_source;
+    std::shared_ptr<const Asset> m_asset;
+    TemporaryFolder m_folder;
+};
+
+TEST_P(RealMedia, isShownInTheFilmstrip) {
+    media::ImageGenerator generator(m_asset);
+    generator.setMaximumSize(0, 120);
+    const double duration = m_asset->duration().seconds();
+    EXPECT_GT(duration, 0);
+    generator.setTolerance(media::Time::fromSeconds(0.5, 600), media::Time::fromSeconds(0.5, 600));
+    const auto still = generator.image(media::Time::fromSeconds(duration / 2, 600));
+    EXPECT_GT(still.image->width, 0);
+    EXPECT_GT(still.image->height, 0);
+    EXPECT_LE(still.image->height, 120);
+}
+
+TEST_P(RealMedia, isExportedAsItIs) {
+    const std::size_t audible = audibleTracks(m_source);
+    for (const ExportFormat format : {ExportFormat::mp4, ExportFormat::mov}) {
+        const ExportRequest request = requestFor(m_source, m_asset->duration().seconds());
+        const ProbedFile file = exported(request, format);
+        EXPECT_EQ(file.streamsOf("audio").size(), audible);
+    }
+}
+
+TEST_P(RealMedia, isExportedTurnedCroppedAndSmaller) {
+    const media::AssetTrack track = m_asset->tracks(MediaType::video).at(0);
+    for (const ExportFormat format : {ExportFormat::mp4, ExportFormat::mov}) {
+        ExportRequest request = requestFor(m_source, m_asset->duration().seconds());
+        request.rotation = 90;
+        request.cropRect = media::Rect{0.1, 0.25, 0.6, 0.5};
+        request.maxShortEdge = 240;
+        const auto expected = AVFoundationExporter::transformComposition(
+            track, request.rotation, request.cropRect, request.maxShortEdge);
+        const ProbedFile file = exported(request, format);
+        const auto video = file.streamsOf("video").at(0);
+        EXPECT_EQ(video.number("width"), expected.renderWidth);
+        EXPECT_EQ(video.number("height"), expected.renderHeight);
+        EXPECT_EQ(file.streamsOf("audio").size(), m_asset->tracks(MediaType::audio).size());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Sample, RealMedia, testing::ValuesIn(samplesThat(true)), testName);
+
+class UnfitMedia : public testing::TestWithParam<Sample> {};
+
+TEST_P(UnfitMedia, isToldInASentence) {
+    const Sample& sample = GetParam();
+    const TemporaryFolder folder;
+    ExportRequest request = requestFor(pathOfSample(sample), 1);
+    request.outputURL = urlOf(folder / "out.mp4");
+    try {
+        AVFoundationExporter::run(request, {}, {});
+        FAIL() << "no error";
+    } catch (const AVFoundationExporter::ExportError& error) {
+        EXPECT_EQ(sample.expectation, "no video track");
+        EXPECT_EQ(error.kind(), AVFoundationExporter::ExportError::Kind::noVideoTrack);
+    } catch (const media::Error& error) {
+        EXPECT_NE(sample.expectation, "no video track");
+        EXPECT_THAT(error.what(), testing::EndsWith("."));
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sample, UnfitMedia, testing::ValuesIn(samplesThat(false)), testName);
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealMedia);
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(UnfitMedia);
+
+TEST(RealMediaCollection, isThere) {
+    if (!testsupport::sampleMedia("manifest.json"))
+        GTEST_SKIP() << "sample media are not here";
+    EXPECT_GT(samplesThat(true).size(), 50U);
+    EXPECT_GT(samplesThat(false).size(), 5U);
+}
+
+} // namespace
+} // namespace brisklet
