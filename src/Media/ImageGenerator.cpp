@@ -69,11 +69,12 @@ TimedImage ImageGenerator::image(Time time, std::stop_token stop) {
     const bool isExact = earliest == latest;
     VideoReader& reader =
         d->readerFor(isExact ? VideoReader::Detail::full : VideoReader::Detail::thumbnail);
+    bool isThere = true;
     if (isExact)
         reader.seek(ticks, stop);
     else
-        reader.seekNear(earliest, latest, stop);
-    const DecodedFrame* frame = reader.peek(stop);
+        isThere = reader.seekNear(earliest, latest, stop);
+    const DecodedFrame* frame = isThere ? reader.peek(stop) : nullptr;
     if (!frame)
         throw Error("There is no picture at this time.");
     return {d->renderer.render(*frame->frame, d->maximumWidth, d->maximumHeight), frame->time};

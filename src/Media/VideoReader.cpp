@@ -64,11 +64,13 @@ public:
         m_target = kNoTarget;
     }
 
-    void seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop) {
+    bool seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop) {
         m_target = latest;
         m_bestTicks = kNoTarget;
-        if (!(isAheadNearby(earliest) && !hasKeyFrameWithin(earliest, latest)))
-            reposition(latest, stop);
+        const std::int64_t middle = earliest + (latest - earliest) / 2;
+        const bool hasKeyFrameAtHand = hasKeyFrameWithin(earliest, middle);
+        if (hasKeyFrameAtHand || hasKeyFrameWithin(earliest, latest) || !isAheadNearby(earliest))
+            reposition(hasKeyFrameAtHand ? middle : latest, stop);
         fill(1, stop);
         while (!m_queue.empty() && m_queue.front().ticks < earliest) {
             fill(2, stop);
@@ -77,6 +79,10 @@ public:
             m_queue.pop_front();
         }
         m_target = kNoTarget;
+        // A frame from before the window is on show in it unless a later one should have been.
+        return !m_queue.empty() &&
+               (m_queue.front().ticks >= earliest || m_queue.front().ticks >= m_bestTicks) &&
+               (m_queue.front().ticks <= latest || isFirst(m_queue.front()));
     }
 
     const DecodedFrame* peek(const std::stop_token& stop) {
@@ -103,6 +109,10 @@ private:
             m_decoder->context().flags2 |= AV_CODEC_FLAG2_FAST;
         }
         m_hasNewParameters = false;
+    }
+
+    [[nodiscard]] bool isFirst(const DecodedFrame& frame) const {
+        return frame.ticks <= m_track.facts.startTime.comparisonTicks();
     }
 
     /// The dts of the last key frame that the container's index knows at or before `ticks`.
@@ -234,13 +244,14 @@ private:
     /// On the way to a target: whether a later picture, already read, will be shown at or before
     /// it, so that this one is not the picture there.
     [[nodiscard]] bool isUnneeded(const AVPacket& packet) {
-        if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE ||
-            m_track.lacksPresentationTimes || !canSkipNonReference(m_track.parameters->codec_id))
+        if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE || m_track.lacksPresentationTimes)
             return false;
         const std::int64_t ticks =
             ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).comparisonTicks();
         if (ticks <= m_target)
             m_bestTicks = std::max(m_bestTicks, ticks);
+        if (!canSkipNonReference(m_track.parameters->codec_id))
+            return false;
         if (ticks >= m_bestTicks)
             return false;
         m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
@@ -314,9 +325,9 @@ void VideoReader::seek(std::int64_t ticks, const std::stop_token& stop) {
     d->seek(ticks, stop);
 }
 
-void VideoReader::seekNear(std::int64_t earliest, std::int64_t latest,
+bool VideoReader::seekNear(std::int64_t earliest, std::int64_t latest,
                            const std::stop_token& stop) {
-    d->seekNear(earliest, latest, stop);
+    return d->seekNear(earliest, latest, stop);
 }
 
 std::optional<DecodedFrame> VideoReader::next(const std::stop_token& stop) {

@@ -54,9 +54,11 @@ public:
     /// reader stays usable; its position is then unspecified until the next seek).
     void seek(std::int64_t ticks, const std::stop_token& stop = {});
 
-    /// Moves to a frame between the two ticks (both included) that is cheap to decode: a key frame
-    /// where there is one, otherwise the first frame in the window.
-    void seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop = {});
+    /// Moves to a frame that stands for the window from `earliest` to `latest` (both included) and
+    /// is cheap to decode: the last key frame up to its middle, or else one behind it, or else the
+    /// first frame in it; where no frame begins in it, the one that is on show throughout. False
+    /// if the pictures there do not decode: next() then returns one from elsewhere.
+    bool seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop = {});
 
     /// The next frame in presentation order; none after the last. Packets that do not decode are
     /// passed over. A new reader starts at the first frame. Throws Error when reading fails.

@@ -106,6 +106,7 @@ void VideoPipeline::encodeStage() {
         // The source's choice of picture types is not the encoder's.
         frame.pict_type = AV_PICTURE_TYPE_NONE;
         m_durations[scheduled->pts] = scheduled->duration;
+        m_latestPts = scheduled->pts;
         m_encoder->send(&frame);
         drainEncoder();
     }
@@ -123,6 +124,10 @@ void VideoPipeline::drainEncoder() {
             packet->duration = entry->second;
             m_durations.erase(entry);
         }
+        // x265 leaves the decoding times of a stream shorter than its reordering undefined. True
+        // ones go before the first picture by no more than what has been handed in.
+        if (packet->dts > packet->pts || packet->dts < -m_latestPts)
+            packet->dts = packet->pts;
         m_output.packets.push(std::move(packet));
     }
 }

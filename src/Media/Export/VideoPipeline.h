@@ -49,6 +49,7 @@ private:
     PacketStream m_output;
     /// Encode thread: how long each picture inside the encoder is shown, by its pts.
     std::map<std::int64_t, std::int64_t> m_durations;
+    std::int64_t m_latestPts = 0;
 };
 
 } // namespace media
