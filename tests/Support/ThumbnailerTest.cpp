@@ -86,7 +86,7 @@ TEST(Thumbnailer, leavesOutWhatCannotBeMade) {
     EXPECT_TRUE(testsupport::await(Thumbnailer::filmstrip(asset, infinity, 12)).isEmpty());
 }
 
-TEST(Thumbnailer, goesOnPastPicturesThatCannotBeDecoded) {
+TEST(Thumbnailer, givesFewerImagesWherePicturesCannotBeDecoded) {
     const Fixture video = makeFixture({.codec = testsupport::VideoCodec::mjpeg,
                                        .container = "mov",
                                        .duration = 24,
@@ -104,7 +104,7 @@ TEST(Thumbnailer, goesOnPastPicturesThatCannotBeDecoded) {
 
     const QList<QImage> images = filmstripOf(damaged, 12);
     ASSERT_GE(images.size(), 9);
-    ASSERT_LE(images.size(), 12);
+    ASSERT_LT(images.size(), 12);
     std::vector<int> numbers;
     for (const QImage& image : images) {
         // A picture that is partly damaged may show, with no number that can be read.
