@@ -231,6 +231,16 @@ TEST_F(ExportSessionTest, letsThePictureStandWhereOnlySoundIsLeft) {
     EXPECT_NEAR(videoEnd(after), 1, kMillisecond);
 }
 
+TEST_F(ExportSessionTest, letsTheLastPictureStandBeyondTheEndOfEverything) {
+    const Fixture fixture = makeFixture({});
+    const auto output = exported(fixture.path, 3, 6);
+    const auto frames = readNumberedFrames(output);
+    EXPECT_EQ(frames.size(), 30U);
+    EXPECT_EQ(frames.back().number, fixture.frames.back().number);
+    EXPECT_NEAR(videoEnd(output), 3, kMillisecond);
+    EXPECT_EQ(testsupport::warningsWhilePlaying(output), "");
+}
+
 TEST_F(ExportSessionTest, keepsEveryAudioTrackWithItsLanguageChannelsAndRate) {
     const Fixture fixture = makeFixture({.container = "mkv",
                                          .audioTracks = 3,
