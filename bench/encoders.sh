@@ -48,10 +48,10 @@ table() {
     echo
 }
 
-h264=(medium:16 faster:16 veryfast:16 superfast:16 superfast:17 superfast:17.7 superfast:18
+h264=(medium:16 faster:16 veryfast:16 superfast:16 superfast:16.5 superfast:17 superfast:17.7
     ultrafast:14 ultrafast:16)
-hevc=(medium:18 fast:18 superfast:16 superfast:17 superfast:18 ultrafast:14 ultrafast:15
-    ultrafast:16 ultrafast:17 ultrafast:18)
+hevc=(medium:18 fast:18 superfast:12 superfast:14 superfast:16 ultrafast:10 ultrafast:11
+    ultrafast:12 ultrafast:14 ultrafast:16)
 
 printMachine
 noise=(-f lavfi -i "testsrc2=size=1920x1080:rate=30,noise=alls=10:allf=t")

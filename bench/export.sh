@@ -4,7 +4,7 @@
 source "$(dirname "$0")/common.sh"
 
 source=$(minuteFile)
-h264=(-c:v libx264 -preset superfast -crf 17.7)
+h264=(-c:v libx264 -preset superfast -crf 16.6)
 aac=(-c:a aac -b:a 256k)
 
 brisklet() {

@@ -69,17 +69,17 @@ void AVFoundationExporter::run(const ExportRequest& request,
     const auto asset = media::Asset::open(pathOf(request.sourceURL), stop);
     media::Composition toExport = composition(asset, request);
     const auto rendering = videoComposition(toExport.videoTrack->source, request);
-    const std::shared_ptr<media::ExportSession> session = makeSession(std::move(toExport), request);
+    std::shared_ptr<media::ExportSession> session = makeSession(std::move(toExport), request);
     session->setVideoComposition(rendering);
 
     // An older file at the output is not removed here: the session replaces it in one step when
     // the new one is complete, so an export that fails or is cancelled loses nothing.
-    const ProgressWatcher watcher(*session, onProgress);
     try {
+        const ProgressWatcher watcher(*session, onProgress);
         session->run(stop);
     } catch (const media::Cancelled&) {
         // Its encoders may be in the middle of a large picture; nobody has to wait for that.
-        startWorker([session] {});
+        startWorker([session = std::move(session)] {});
         throw;
     }
 }

@@ -77,7 +77,7 @@ int renderLength(double length) {
 media::Time frameDuration(float nominalFrameRate) {
     const float rate = std::round(nominalFrameRate > 0 ? nominalFrameRate : kFallbackFrameRate);
     constexpr auto kLimit = static_cast<float>(std::numeric_limits<std::int32_t>::max());
-    if (!std::isfinite(nominalFrameRate) || rate >= kLimit)
+    if (!std::isfinite(rate) || rate >= kLimit)
         qFatal("A frame rate of %g cannot be exported", static_cast<double>(nominalFrameRate));
     // Less than half a frame a second rounds to none at all, and a canvas without a frame rate
     // cannot be filled.

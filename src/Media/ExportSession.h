@@ -17,10 +17,10 @@ enum class FileType { mpeg4, quickTimeMovie };
 struct EncoderSettings {
     /// H.264 for 8-bit standard-range sources (libx264).
     std::string h264Preset = "superfast";
-    double h264Crf = 17.7;
+    double h264Crf = 16.6;
     /// HEVC Main 10 for deeper or HDR sources (libx265).
     std::string hevcPreset = "ultrafast";
-    double hevcCrf = 16;
+    double hevcCrf = 11;
 };
 
 /// Turns a composition into a file: demux → decode → transform → encode → mux, each stage on its

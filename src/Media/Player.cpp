@@ -216,9 +216,8 @@ void Player::Private::setPlaying(bool isPlaying) {
         auto access = transport();
         const Time time = access->time(now());
         access->isPlaying = isPlaying;
-        if (isPlaying)
-            access->hasEnded = false;
-        else
+        access->hasEnded = false;
+        if (!isPlaying)
             access->lastEnd = {};
         access->holdClock(time);
         access->videoWake.raise();

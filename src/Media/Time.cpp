@@ -85,7 +85,7 @@ Time operator+(Time a, Time b) {
 }
 
 Time operator-(Time a, Time b) {
-    return a + Time{-b.value, b.timescale};
+    return a + Time{saturated(-Wide{b.value}), b.timescale};
 }
 
 std::partial_ordering operator<=>(Time a, Time b) {

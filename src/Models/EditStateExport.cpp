@@ -40,8 +40,8 @@ void EditState::presentExportPanel() {
 QCoro::Task<> EditState::askForOutput() {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const auto panels = m_filePanels;
-    const std::optional<QUrl> url =
-        co_await panels->saveMovie(proposalFor(*videoURL(), ExportSettings::shared().format()));
+    auto panel = panels->saveMovie(proposalFor(*videoURL(), ExportSettings::shared().format()));
+    const std::optional<QUrl> url = co_await panel;
     const auto self = weak.lock();
     if (self && url)
         self->exportTo(*url);

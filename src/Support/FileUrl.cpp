@@ -34,7 +34,9 @@ std::filesystem::path pathOf(const QUrl& url) {
 }
 
 QString displayName(const QUrl& url) {
-    return textOf(pathOf(url).filename());
+    const std::filesystem::path path = pathOf(url);
+    // A folder may well be given with a slash at its end.
+    return textOf(path.has_filename() ? path.filename() : path.parent_path().filename());
 }
 
 QString displayBaseName(const QUrl& url) {

@@ -55,6 +55,7 @@ TEST(FileUrl, readsLeadingSlashesAsAPathAndNotAsAHost) {
 
 TEST(FileUrl, namesFilesByTheirLastComponent) {
     EXPECT_EQ(displayName(urlOf("/tmp/My Holiday.MOV")), QStringLiteral("My Holiday.MOV"));
+    EXPECT_EQ(displayName(urlOf("/tmp/My Videos/")), QStringLiteral("My Videos"));
     EXPECT_EQ(displayBaseName(urlOf("/tmp/My Holiday.v2.MOV")), QStringLiteral("My Holiday.v2"));
     EXPECT_EQ(displayBaseName(urlOf("/tmp/holiday")), QStringLiteral("holiday"));
 }

@@ -166,6 +166,7 @@ Demuxer::Status Demuxer::read(AVPacket& packet, const std::stop_token& stop) {
         }
         if (stop.stop_requested())
             throw Cancelled();
+        checkSource();
         if (result == AVERROR_EOF || result == AVERROR_INVALIDDATA || m_ioContext->eof_reached) {
             if (result != AVERROR_INVALIDDATA || m_ioContext->eof_reached)
                 return Status::endOfFile;
@@ -179,6 +180,15 @@ Demuxer::Status Demuxer::read(AVPacket& packet, const std::stop_token& stop) {
         check(result);
     }
     return Status::endOfFile;
+}
+
+void Demuxer::checkSource() const {
+    // libav takes every failed read for the end of the file.
+    const int error = m_ioContext->error;
+    if (error < 0 && error != AVERROR_EOF && error != AVERROR_EXIT)
+        check(error);
+    if (m_io->file->size() < m_io->file->openedSize())
+        throw Error("The file was cut short while it was being read.");
 }
 
 bool Demuxer::seek(int streamIndex, std::int64_t timestamp, const std::stop_token& stop) {

@@ -46,6 +46,9 @@ public:
     void reopen(const std::stop_token& stop = {});
 
 private:
+    /// Throws Error if the file could not be read, or has become shorter since it was opened.
+    void checkSource() const;
+
     struct Io;
     std::unique_ptr<Io> m_io;
     IoContextPtr m_ioContext;

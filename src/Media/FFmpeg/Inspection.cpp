@@ -20,10 +20,6 @@ constexpr double kDurationSlack = 0.25;
 /// How far before the claimed end the tail is read.
 constexpr double kTailSeconds = 2;
 
-Time containerTime(std::int64_t timestamp, AVRational timeBase) {
-    return {timestamp * timeBase.num, timeBase.den};
-}
-
 /// Where packets of each stream end, in container time.
 using Ends = std::map<int, Time>;
 
@@ -133,7 +129,7 @@ Time findOrigin(const AVFormatContext& context, const std::optional<Time>& first
         if (!counts || stream.index == pictureStream || !timestamp ||
             (stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
             continue;
-        const Time start = containerTime(*timestamp, stream.time_base);
+        const Time start = timeOf(*timestamp, stream.time_base);
         if (!origin || start < *origin)
             origin = start;
     }
@@ -145,14 +141,14 @@ std::optional<Time> containerEnd(const AVFormatContext& context) {
     if (context.duration == AV_NOPTS_VALUE || context.duration <= 0)
         return std::nullopt;
     const std::int64_t start = context.start_time != AV_NOPTS_VALUE ? context.start_time : 0;
-    return containerTime(start + context.duration, AV_TIME_BASE_Q);
+    return timeOf(av_sat_add64(start, context.duration), AV_TIME_BASE_Q);
 }
 
 /// The stream's end as the container states it, in container time.
 std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& stream) {
     if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0) {
         const std::int64_t start = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;
-        return containerTime(start + stream.duration, stream.time_base);
+        return timeOf(av_sat_add64(start, stream.duration), stream.time_base);
     }
     return containerEnd(context);
 }
@@ -169,7 +165,7 @@ bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
         if (count == 0 || !end)
             return false;
         const AVIndexEntry* last = avformat_index_get_entry(stream, count - 1);
-        const Time lastTime = containerTime(last->timestamp, stream->time_base);
+        const Time lastTime = timeOf(last->timestamp, stream->time_base);
         return last->pos + last->size <= file.size() && (*end - lastTime).seconds() < kTailSeconds;
     });
 }
@@ -182,7 +178,7 @@ Ends readEnds(Demuxer& demuxer, const std::stop_token& stop) {
         const std::int64_t start = packet->pts != AV_NOPTS_VALUE ? packet->pts : packet->dts;
         if (start != AV_NOPTS_VALUE && !(packet->flags & AV_PKT_FLAG_DISCARD)) {
             const AVStream& stream = *demuxer.context().streams[packet->stream_index];
-            const Time end = containerTime(start + packet->duration, stream.time_base);
+            const Time end = timeOf(av_sat_add64(start, packet->duration), stream.time_base);
             const auto [entry, isNew] = ends.try_emplace(packet->stream_index, end);
             if (!isNew && entry->second < end)
                 entry->second = end;
@@ -247,8 +243,8 @@ void describeChapters(SourceInfo& info, const AVFormatContext& context) {
     for (unsigned i = 0; i < context.nb_chapters; ++i) {
         const AVChapter& chapter = *context.chapters[i];
         SourceChapter result;
-        result.range.start = containerTime(chapter.start, chapter.time_base) - info.origin;
-        result.range.end = containerTime(chapter.end, chapter.time_base) - info.origin;
+        result.range.start = timeOf(chapter.start, chapter.time_base) - info.origin;
+        result.range.end = timeOf(chapter.end, chapter.time_base) - info.origin;
         if (const auto* title = av_dict_get(chapter.metadata, "title", nullptr, 0))
             result.title = title->value;
         info.chapters.push_back(std::move(result));
@@ -283,14 +279,14 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;
         if (first.timestamp != AV_NOPTS_VALUE)
-            firstPicture = containerTime(first.timestamp, video->timeBase);
+            firstPicture = timeOf(first.timestamp, video->timeBase);
     }
     info.origin = findOrigin(context, firstPicture, pictureStream);
     for (SourceTrack& track : info.tracks) {
         const auto start = presentationStart(context, *context.streams[track.facts.streamIndex]);
         const bool isPicture = track.facts.streamIndex == pictureStream && firstPicture;
         track.facts.startTime = (isPicture ? *firstPicture
-                                 : start   ? containerTime(*start, track.timeBase)
+                                 : start   ? timeOf(*start, track.timeBase)
                                            : info.origin) -
                                 info.origin;
     }

@@ -193,6 +193,11 @@ void Muxer::writeHeader(std::int64_t expectedPackets) {
                   metadataBytes(m_context->metadata) +
                   static_cast<std::int64_t>(m_context->nb_streams) * 4096 +
                   static_cast<std::int64_t>(m_context->nb_chapters) * 1024;
+    for (unsigned i = 0; i < m_context->nb_streams; ++i)
+        m_roomBytes += metadataBytes(m_context->streams[i]->metadata);
+    // A title stands both in the chapter list and in the chapter track.
+    for (unsigned i = 0; i < m_context->nb_chapters; ++i)
+        m_roomBytes += 2 * metadataBytes(m_context->chapters[i]->metadata);
     m_roomBytes = std::min<std::int64_t>(m_roomBytes, std::numeric_limits<int>::max());
     checkIo(av_opt_set_int(m_context->priv_data, "moov_size", m_roomBytes, 0));
     if (hasNamedEntries(m_context->metadata))

@@ -55,11 +55,15 @@ std::shared_ptr<const SourceFile> SourceFile::open(const std::filesystem::path& 
         ::close(descriptor);
         throw Error("The file is empty.");
     }
-    return std::make_shared<const SourceFile>(descriptor, path, status.st_dev, status.st_ino);
+    return std::make_shared<const SourceFile>(descriptor, path, status);
 }
 
-SourceFile::SourceFile(int descriptor, std::filesystem::path path, dev_t device, ino_t inode)
-    : m_descriptor(descriptor), m_path(std::move(path)), m_device(device), m_inode(inode) {}
+SourceFile::SourceFile(int descriptor, std::filesystem::path path, const struct stat& status)
+    : m_descriptor(descriptor),
+      m_path(std::move(path)),
+      m_device(status.st_dev),
+      m_inode(status.st_ino),
+      m_openedSize(status.st_size) {}
 
 SourceFile::~SourceFile() {
     ::close(m_descriptor);

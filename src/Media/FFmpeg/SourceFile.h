@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 namespace media::ffmpeg {
@@ -17,7 +18,7 @@ public:
     /// Never blocks on pipes and devices: they are refused.
     static std::shared_ptr<const SourceFile> open(const std::filesystem::path& path);
 
-    SourceFile(int descriptor, std::filesystem::path path, dev_t device, ino_t inode);
+    SourceFile(int descriptor, std::filesystem::path path, const struct stat& status);
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
     ~SourceFile();
@@ -26,6 +27,10 @@ public:
 
     /// The size now, in bytes; it may change while the file is open.
     [[nodiscard]] std::int64_t size() const;
+
+    /// The size when it was opened, in bytes.
+    [[nodiscard]] std::int64_t openedSize() const { return m_openedSize; }
+
     /// Up to `count` bytes at `offset`; 0 at the end, a negative errno on failure.
     [[nodiscard]] std::int64_t read(std::int64_t offset, std::uint8_t* buffer,
                                     std::int64_t count) const;
@@ -37,6 +42,7 @@ private:
     std::filesystem::path m_path;
     dev_t m_device;
     ino_t m_inode;
+    std::int64_t m_openedSize;
 };
 
 } // namespace media::ffmpeg

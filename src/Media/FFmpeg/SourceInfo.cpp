@@ -2,18 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 #include <string_view>
 
 namespace media::ffmpeg {
-
-namespace {
-
-/// A timestamp in seconds as a Time; the timescale is the time base's denominator.
-Time timeOf(std::int64_t timestamp, AVRational timeBase) {
-    return {timestamp * timeBase.num, timeBase.den};
-}
-
-} // namespace
 
 const SourceTrack& SourceInfo::track(int streamIndex) const {
     for (const SourceTrack& track : tracks) {
@@ -32,6 +24,13 @@ bool isBareBitstream(const AVInputFormat& format) {
     constexpr std::string_view kBitstreams[] = {"mpegvideo", "h264", "hevc", "m4v",   "h263",
                                                 "h261",      "obu",  "vc1",  "dirac", "cavsvideo"};
     return std::ranges::find(kBitstreams, std::string_view(format.name)) != std::end(kBitstreams);
+}
+
+Time timeOf(std::int64_t timestamp, AVRational timeBase) {
+    // A quarter of the range leaves room for the sums of a few such times.
+    constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max() / 4;
+    const std::int64_t most = kMost / std::max(1, timeBase.num);
+    return {std::clamp(timestamp, -most, most) * timeBase.num, timeBase.den};
 }
 
 Time assetTime(const SourceInfo& info, const SourceTrack& track, std::int64_t timestamp) {

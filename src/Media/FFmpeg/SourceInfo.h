@@ -55,6 +55,10 @@ bool statesPresentationTimes(const AVInputFormat& format);
 /// bitstreams without a container).
 bool isBareBitstream(const AVInputFormat& format);
 
+/// A timestamp as a Time. One that no time can hold, as only damaged files have it, is the nearest
+/// that one can.
+Time timeOf(std::int64_t timestamp, AVRational timeBase);
+
 /// A timestamp of a stream on the asset's time line.
 Time assetTime(const SourceInfo& info, const SourceTrack& track, std::int64_t timestamp);
 /// The timestamp of a stream at a time on the asset's time line, rounded to the nearest.

@@ -1,4 +1,5 @@
 #include "Media/Error.h"
+#include "Support/Workers.h"
 #include "Tools/cli/Arguments.h"
 #include "Tools/cli/Commands.h"
 #include "Tools/cli/Interruption.h"
@@ -43,6 +44,8 @@ int perform(const Work& command) {
         run(command, interruption.token());
         return kDone;
     } catch (const media::Cancelled&) {
+        // Encoders may still be winding down, and must not outlive main().
+        brisklet::waitForWorkers();
         return kInterrupted;
     } catch (const std::exception& error) {
         // Whoever interrupts is not interested in what else went wrong because of it.
