@@ -2,9 +2,11 @@
 
 #include <QCoroFuture>
 #include <QCoroTask>
+#include <QCoroTimer>
 #include <QFuture>
 #include <QPromise>
 
+#include <chrono>
 #include <exception>
 #include <functional>
 #include <memory>
@@ -36,6 +38,9 @@ struct Outcome {
 template<typename Result>
 QCoro::Task<Result> await(std::shared_ptr<Outcome<Result>> outcome) {
     QFuture<void> finished = outcome->promise.future();
+    // Even work that is done already is awaited through the event loop: whoever starts an operation
+    // goes on before any of its effects.
+    co_await QCoro::sleepFor(std::chrono::milliseconds(0));
     co_await finished;
     if (outcome->error)
         std::rethrow_exception(std::exchange(outcome->error, nullptr));
