@@ -21,6 +21,8 @@ constexpr std::int64_t kNoTarget = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t kNearTicks = 2 * kComparisonTimescale;
 /// The first step back when a container lands behind the frame that was asked for.
 constexpr std::int64_t kFirstStepBackTicks = kComparisonTimescale / 2;
+/// How much later than it is decoded a key frame may be shown.
+constexpr std::int64_t kLongestReorderTicks = kComparisonTimescale / 5;
 
 /// Whether "non-reference" means in this codec that no other picture depends on it.
 bool canSkipNonReference(AVCodecID codec) {
@@ -59,7 +61,7 @@ public:
         m_target = ticks;
         m_bestTicks = kNoTarget;
         if (!isAheadNearby(ticks))
-            reposition(ticks, stop);
+            reposition(ticks, ticks, stop);
         advanceTo(ticks, stop);
         m_target = kNoTarget;
     }
@@ -69,8 +71,11 @@ public:
         m_bestTicks = kNoTarget;
         const std::int64_t middle = earliest + (latest - earliest) / 2;
         const bool hasKeyFrameAtHand = hasKeyFrameWithin(earliest, middle);
+        // The index knows decoding times; its container goes by when a key frame is shown.
+        const std::int64_t goal =
+            hasKeyFrameAtHand ? std::min(middle + kLongestReorderTicks, latest) : latest;
         if (hasKeyFrameAtHand || hasKeyFrameWithin(earliest, latest) || !isAheadNearby(earliest))
-            reposition(hasKeyFrameAtHand ? middle : latest, stop);
+            reposition(goal, latest, stop);
         fill(1, stop);
         while (!m_queue.empty() && m_queue.front().ticks < earliest) {
             fill(2, stop);
@@ -151,13 +156,15 @@ private:
     }
 
     void startIfNew(const std::stop_token& stop) {
+        const std::int64_t first = m_track.facts.startTime.comparisonTicks();
         if (!m_isPositioned)
-            reposition(m_track.facts.startTime.comparisonTicks(), stop);
+            reposition(first, first, stop);
     }
 
-    /// Starts decoding at a random-access point whose first picture is shown at or before `ticks`,
-    /// or at the track's first picture.
-    void reposition(std::int64_t ticks, const std::stop_token& stop) {
+    /// Starts decoding at the last random-access point that the container knows at or before
+    /// `ticks`, or, where its first picture is shown after `latest`, at an earlier one; at the
+    /// track's first picture where there is none.
+    void reposition(std::int64_t ticks, std::int64_t latest, const std::stop_token& stop) {
         m_isPositioned = true;
         const std::int64_t first = m_track.facts.startTime.comparisonTicks();
         const bool canSeek = !ffmpeg::isBareBitstream(*m_asset->info().format);
@@ -169,7 +176,7 @@ private:
             restart();
             m_awaitsKeyFrame = decodesWithoutReferences(m_track.parameters->codec_id);
             fill(1, stop);
-            if (!m_queue.empty() && m_queue.front().ticks <= std::max(ticks, first))
+            if (!m_queue.empty() && m_queue.front().ticks <= std::max(latest, first))
                 return;
             if (ticks - back <= first)
                 break;
