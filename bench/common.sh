@@ -99,7 +99,7 @@ minute() {
     clip=$(generated footage.mkv footage)
     ffmpeg -stream_loop -1 -i "$clip" -f lavfi -i "sine=frequency=440:sample_rate=48000" \
         -t 60 -vf format=yuv420p,setparams=color_primaries=bt709:color_trc=bt709:colorspace=bt709 \
-        -c:v libx264 -preset medium -crf 21 -g 250 -c:a aac -b:a 128k -ac 2 -f mp4 "$1"
+        -c:v libx264 -preset medium -crf 21 -g 250 -keyint_min 250 -sc_threshold 0 -c:a aac -b:a 128k -ac 2 -f mp4 "$1"
 }
 
 # The same minute 120 times.
