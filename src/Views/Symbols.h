@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QRectF>
+
+class QPainter;
+
+namespace brisklet {
+
+/// The program's own symbols: one hand, one grid of 24 units, one line weight.
+enum class Symbol {
+    play,
+    pause,
+    speaker,
+    speakerSlashed,
+    rotateLeft,
+    crop,
+    film,
+    chevronLeft,
+    chevronRight,
+    chevronDown,
+};
+
+/// Draws `symbol` in one colour, as large as fits into `rect`, centred, sharp on the device that
+/// `painter` paints on. Main thread.
+void paintSymbol(QPainter& painter, Symbol symbol, const QRectF& rect, const QColor& color);
+
+/// The symbol on a square of `side` points, for a screen of `devicePixelRatio`. Kept for the next
+/// time. Main thread.
+QPixmap symbolPixmap(Symbol symbol, qreal side, const QColor& color, qreal devicePixelRatio);
+
+} // namespace brisklet
