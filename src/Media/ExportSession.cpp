@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/Export/AudioPipeline.h"
+#include "Media/Export/ExportProof.h"
 #include "Media/Export/OutputFile.h"
 #include "Media/Export/VideoPipeline.h"
 #include "Media/FFmpeg/Muxer.h"
@@ -74,13 +75,15 @@ public:
 
     /// Runs all stages until the media are written, or until one fails or is stopped.
     void writeMedia(const std::stop_token& stop, std::atomic<double>& progress);
-    /// Waits for all stages, completes the file and gives it its name. Throws what went wrong.
+    /// Waits for all stages, completes the file, proves it and gives it its name. Throws what went
+    /// wrong.
     void complete(const std::stop_token& stop);
     /// Removes the temporary file; the stages, told to stop, wind down by themselves.
     void abandon();
 
 private:
     void muxStage(std::atomic<double>& progress);
+    [[nodiscard]] ExportPlan plan() const;
     void report(const AVPacket& packet, AVRational timeBase, std::atomic<double>& progress) const;
 
     Time m_duration;
@@ -134,9 +137,17 @@ void ExportRun::writeMedia(const std::stop_token& stop, std::atomic<double>& pro
 void ExportRun::complete(const std::stop_token& stop) {
     m_stages.join();
     m_muxer.finish();
+    proveExport(m_file.reader(), plan(), stop);
     if (stop.stop_requested())
         throw Cancelled();
     m_file.commit();
+}
+
+ExportPlan ExportRun::plan() const {
+    ExportPlan plan{{{MediaType::video, m_video.scheduledFrames()}}, m_duration};
+    for (const auto& sound : m_sounds)
+        plan.tracks.push_back({MediaType::audio, sound->packets()});
+    return plan;
 }
 
 void ExportRun::abandon() {

@@ -129,6 +129,21 @@ TEST_F(ExportedFile, exportsRightWhereTheRoomForTheIndexIsTooSmall) {
     }
 }
 
+/// A track's own length sums up decoding times, which pictures in another order and of unequal
+/// length do not fill.
+TEST_F(ExportedFile, statesTheSameLengthEverywhere) {
+    for (const bool isVariable : {false, true}) {
+        const Fixture fixture = makeFixture({.hasVariableFrameRate = isVariable});
+        for (const FileType type : {FileType::mpeg4, FileType::quickTimeMovie}) {
+            const auto file = probe(exported(fixture.path, 0.515, 2.83, type));
+            constexpr double kLength = 1389.0 / 600;
+            EXPECT_NEAR(file.format.number("duration").value(), kLength, 1e-5);
+            EXPECT_NEAR(file.streamsOf("video").at(0).number("duration").value(), kLength, 1e-5);
+            EXPECT_NEAR(file.streamsOf("audio").at(0).number("duration").value(), kLength, 1e-4);
+        }
+    }
+}
+
 TEST_F(ExportedFile, keepsTheColourTagsAndInventsNone) {
     struct Tags {
         const char *name, *primaries, *transfer, *matrix, *range, *location, *format;

@@ -132,6 +132,7 @@ void AudioPipeline::drainEncoder() {
         ffmpeg::PacketPtr packet = ffmpeg::makePacket();
         if (!m_encoder->receive(*packet))
             return;
+        ++m_packets;
         m_output.packets.push(std::move(packet));
     }
 }

@@ -26,6 +26,9 @@ public:
 
     [[nodiscard]] std::int64_t expectedPackets() const;
 
+    /// How many packets the track has, once run() has returned.
+    [[nodiscard]] std::int64_t packets() const { return m_packets; }
+
     [[nodiscard]] PacketStream& output() { return m_output; }
 
 private:
@@ -43,6 +46,7 @@ private:
     /// The length of the range in samples, and how many have been taken and encoded.
     std::int64_t m_wantedSamples = 0;
     std::int64_t m_encodedSamples = 0;
+    std::int64_t m_packets = 0;
     /// Samples that do not yet fill one of the encoder's frames.
     ffmpeg::FramePtr m_partial;
 };

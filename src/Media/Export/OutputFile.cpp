@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/SourceFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -120,6 +121,19 @@ void OutputFile::startWriteback() {
     // Advice only: a file system that does not know it writes when it likes.
     ::sync_file_range(m_descriptor, m_writebackEnd, m_size - m_writebackEnd, SYNC_FILE_RANGE_WRITE);
     m_writebackEnd = m_size;
+}
+
+std::shared_ptr<const ffmpeg::SourceFile> OutputFile::reader() const {
+    struct stat status = {};
+    const int descriptor = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
+    if (descriptor < 0)
+        throwWriteError(errno);
+    if (::fstat(descriptor, &status) != 0) {
+        const int code = errno;
+        ::close(descriptor);
+        throwWriteError(code);
+    }
+    return std::make_shared<const ffmpeg::SourceFile>(descriptor, m_temporary, status);
 }
 
 void OutputFile::commit() {

@@ -2,8 +2,13 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 
 namespace media {
+
+namespace ffmpeg {
+class SourceFile;
+}
 
 /// A file that appears under its final name only when it is complete.
 ///
@@ -27,6 +32,9 @@ public:
     [[nodiscard]] std::int64_t position() const { return m_position; }
 
     [[nodiscard]] std::int64_t size() const { return m_size; }
+
+    /// What has been written so far, opened for reading. Throws Error.
+    [[nodiscard]] std::shared_ptr<const ffmpeg::SourceFile> reader() const;
 
     /// Removes the temporary file at once; what is written from now on goes nowhere.
     void discard();

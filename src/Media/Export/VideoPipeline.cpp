@@ -23,6 +23,18 @@ VideoReader::Options readerOptions() {
     return options;
 }
 
+/// How long a run of pictures the proof of a finished file may have to decode: those after the
+/// last key frame. Pixels.
+constexpr double kHevcTailPixels = 8 * 1920.0 * 1080;
+constexpr double kH264TailPixels = 48 * 1920.0 * 1080;
+
+/// The same in seconds, for one stream.
+double tailSeconds(const AVCodecContext& encoder) {
+    const double pixels = static_cast<double>(encoder.width) * encoder.height;
+    const double most = encoder.codec_id == AV_CODEC_ID_HEVC ? kHevcTailPixels : kH264TailPixels;
+    return std::max(most / pixels, 2.0) / std::max(av_q2d(encoder.framerate), 1.0);
+}
+
 int evenAtLeastTwo(int side) {
     return std::max(2, side - side % 2);
 }
@@ -43,11 +55,12 @@ VideoPipeline::VideoPipeline(const Composition& composition,
         videoComposition
             ? FrameSchedule::constantRate(m_reader, track.range, videoComposition->frameDuration)
             : FrameSchedule::sourceTiming(m_reader, track, source.timeBase.den);
-    openEncoder(source, settings, videoComposition);
+    openEncoder(source, settings, videoComposition, track.range.duration());
 }
 
 void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& settings,
-                                const std::optional<VideoComposition>& videoComposition) {
+                                const std::optional<VideoComposition>& videoComposition,
+                                Time duration) {
     const AssetTrack& facts = track.facts;
     ffmpeg::VideoEncoding encoding;
     encoding.timeBase = m_schedule->timeBase();
@@ -75,15 +88,17 @@ void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderS
     output.format = m_encoder->context().pix_fmt;
     m_transform.emplace(toCanvas, natural, output);
     m_output.timeBase = encoding.timeBase;
+    const Time tail = Time::fromSeconds(tailSeconds(m_encoder->context()), encoding.timeBase.den);
+    if (duration.seconds() > 2 * tail.seconds())
+        m_tailStart = (duration - tail).rescaled(encoding.timeBase.den).value;
 }
 
 void VideoPipeline::decodeStage() {
-    bool isEmpty = true;
     while (auto frame = m_schedule->next(m_stop)) {
-        isEmpty = false;
+        ++m_scheduledFrames;
         m_decoded.push(std::move(*frame));
     }
-    if (isEmpty)
+    if (m_scheduledFrames == 0)
         throw Error("Not one picture of this range can be decoded.");
     m_decoded.finish();
 }
@@ -104,7 +119,7 @@ void VideoPipeline::encodeStage() {
         AVFrame& frame = *scheduled->frame;
         frame.pts = scheduled->pts;
         // The source's choice of picture types is not the encoder's.
-        frame.pict_type = AV_PICTURE_TYPE_NONE;
+        frame.pict_type = beginsTail(*scheduled) ? AV_PICTURE_TYPE_I : AV_PICTURE_TYPE_NONE;
         m_durations[scheduled->pts] = scheduled->duration;
         m_latestPts = scheduled->pts;
         m_encoder->send(&frame);
@@ -112,7 +127,15 @@ void VideoPipeline::encodeStage() {
     }
     m_encoder->send(nullptr);
     drainEncoder();
+    pushLast();
     m_output.packets.finish();
+}
+
+bool VideoPipeline::beginsTail(const ScheduledFrame& frame) {
+    if (!m_tailStart || frame.pts < *m_tailStart)
+        return false;
+    m_tailStart.reset();
+    return true;
 }
 
 void VideoPipeline::drainEncoder() {
@@ -128,8 +151,21 @@ void VideoPipeline::drainEncoder() {
         // ones go before the first picture by no more than what has been handed in.
         if (packet->dts > packet->pts || packet->dts < -m_latestPts)
             packet->dts = packet->pts;
-        m_output.packets.push(std::move(packet));
+        m_end = std::max(m_end, packet->pts + packet->duration);
+        if (m_held)
+            m_output.packets.push(std::move(m_held));
+        m_held = std::move(packet);
     }
+}
+
+void VideoPipeline::pushLast() {
+    if (!m_held)
+        return;
+    // A track's length in the file is a sum of decoding times, which end before the presentation
+    // does where pictures are reordered. The last one to be decoded makes up for it.
+    m_held->dts = m_held->pts;
+    m_held->duration = m_end - m_held->pts;
+    m_output.packets.push(std::move(m_held));
 }
 
 } // namespace media

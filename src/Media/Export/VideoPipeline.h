@@ -31,12 +31,18 @@ public:
 
     [[nodiscard]] std::int64_t expectedPackets() const { return m_schedule->expectedFrames(); }
 
+    /// How many pictures the file is to have, once decodeStage() has returned.
+    [[nodiscard]] std::int64_t scheduledFrames() const { return m_scheduledFrames; }
+
     [[nodiscard]] PacketStream& output() { return m_output; }
 
 private:
     void openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& settings,
-                     const std::optional<VideoComposition>& videoComposition);
+                     const std::optional<VideoComposition>& videoComposition, Time duration);
+    /// Once: for the first picture of the tail.
+    bool beginsTail(const ScheduledFrame& frame);
     void drainEncoder();
+    void pushLast();
 
     std::stop_token m_stop;
     VideoReader m_reader;
@@ -44,12 +50,20 @@ private:
     std::optional<PictureTransform> m_transform;
     std::optional<ffmpeg::Encoder> m_encoder;
 
+    /// Decode thread.
+    std::int64_t m_scheduledFrames = 0;
     BoundedQueue<ScheduledFrame> m_decoded;
     BoundedQueue<ScheduledFrame> m_transformed;
     PacketStream m_output;
     /// Encode thread: how long each picture inside the encoder is shown, by its pts.
     std::map<std::int64_t, std::int64_t> m_durations;
     std::int64_t m_latestPts = 0;
+    /// Encode thread: the latest packet, kept until it is known not to be the last, and when the
+    /// last picture's turn is over.
+    ffmpeg::PacketPtr m_held;
+    std::int64_t m_end = 0;
+    /// Encode thread: from when on the last key frame is due, until it has been asked for.
+    std::optional<std::int64_t> m_tailStart;
 };
 
 } // namespace media

@@ -92,6 +92,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         context->codec_tag = MKTAG('h', 'v', 'c', '1');
         setOption(*context, "preset", settings.hevcPreset);
         setOption(*context, "crf", std::to_string(settings.hevcCrf));
+        setOption(*context, "forced-idr", "1");
         std::string parameters = "log-level=none";
         if (std::min(encoding.width, encoding.height) < 64)
             parameters += ":ctu=16";

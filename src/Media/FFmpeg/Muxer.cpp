@@ -180,6 +180,8 @@ int Muxer::addStream(const AVCodecContext& encoder, const SourceTrack& source,
     copyEntries(&stream->metadata, source.metadata.get());
     if (encoder.codec_type == AVMEDIA_TYPE_VIDEO) {
         setDisplayMatrix(*stream, transform);
+        // The edit lists count in this: milliseconds, the default, would round the cut.
+        check(av_opt_set_int(m_context->priv_data, "movie_timescale", encoder.time_base.den, 0));
         attach(*stream, source.dynamicRange);
     }
     if (m_type == FileType::quickTimeMovie)

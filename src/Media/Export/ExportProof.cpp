@@ -1,0 +1,166 @@
+#include "Media/Export/ExportProof.h"
+
+#include "Media/Error.h"
+#include "Media/FFmpeg/Decoder.h"
+#include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/SourceInfo.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <span>
+
+namespace media {
+
+namespace {
+
+/// Index and edit list round to ticks of their own; seconds.
+constexpr double kRounding = 0.002;
+
+[[noreturn]] void fail() {
+    throw Error("The new file was damaged while it was written.");
+}
+
+void require(bool condition) {
+    if (!condition)
+        fail();
+}
+
+/// The streams that make tracks; chapters and time codes are none.
+std::vector<AVStream*> mediaStreams(const AVFormatContext& context) {
+    std::vector<AVStream*> streams;
+    for (AVStream* stream : std::span(context.streams, context.nb_streams)) {
+        const AVMediaType type = stream->codecpar->codec_type;
+        if (type == AVMEDIA_TYPE_VIDEO || type == AVMEDIA_TYPE_AUDIO)
+            streams.push_back(stream);
+    }
+    return streams;
+}
+
+void checkTrack(AVStream& stream, const ExportPlan::Track& plan, std::int64_t fileSize) {
+    const bool isVideo = stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO;
+    require(isVideo == (plan.type == MediaType::video));
+    require(stream.nb_frames == plan.samples);
+    const int count = avformat_index_get_entries_count(&stream);
+    require(count > 0);
+    for (int i = 0; i < count; ++i) {
+        const AVIndexEntry& entry = *avformat_index_get_entry(&stream, i);
+        require(entry.pos >= 0 && entry.size > 0 && entry.pos + entry.size <= fileSize);
+    }
+}
+
+/// Decodes the pictures at the two ends of the video track.
+class EndsReader {
+public:
+    EndsReader(ffmpeg::Demuxer& demuxer, const AVStream& stream, const std::stop_token& stop)
+        : m_demuxer(demuxer),
+          m_stream(stream),
+          m_stop(stop),
+          m_decoder(*stream.codecpar, stream.time_base) {
+        // How smooth the edges of blocks are proves nothing.
+        m_decoder.context().skip_loop_filter = AVDISCARD_ALL;
+    }
+
+    void checkFirst() {
+        while (!receive()) {
+            if (m_isDraining)
+                fail();
+            feed(std::nullopt);
+        }
+        requireIntact();
+        require(m_frame->pts == 0);
+    }
+
+    /// `end`: when the last picture's turn is over; the stream's time base.
+    void checkLast(std::int64_t end) {
+        const std::int64_t last = lastTimestamp();
+        require(last < end && m_demuxer.seek(m_stream.index, last, m_stop));
+        m_decoder.flush();
+        m_isDraining = false;
+        std::int64_t latest = AV_NOPTS_VALUE;
+        for (;;) {
+            if (receive()) {
+                requireIntact();
+                latest = std::max(latest, m_frame->pts);
+            } else if (m_isDraining) {
+                break;
+            } else {
+                feed(last);
+            }
+        }
+        require(latest == last);
+    }
+
+private:
+    /// Of the pictures from the last key frame on, the one that is shown last.
+    std::int64_t lastTimestamp() {
+        require(m_demuxer.seek(m_stream.index, m_stream.start_time + m_stream.duration, m_stop));
+        std::int64_t last = AV_NOPTS_VALUE;
+        while (m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::packet) {
+            last = std::max(last, m_packet->pts);
+            av_packet_unref(m_packet.get());
+        }
+        require(last != AV_NOPTS_VALUE);
+        return last;
+    }
+
+    bool receive() { return m_decoder.receive(*m_frame) == ffmpeg::Decoder::Status::frame; }
+
+    /// Hands in the next packet; on the way to the picture `wanted` no picture that no other needs.
+    void feed(std::optional<std::int64_t> wanted) {
+        if (m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::endOfFile) {
+            m_isDraining = true;
+            m_decoder.send(nullptr);
+            return;
+        }
+        m_decoder.context().skip_frame =
+            wanted && m_packet->pts != *wanted ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+        m_decoder.send(m_packet.get());
+        av_packet_unref(m_packet.get());
+    }
+
+    void requireIntact() const {
+        require(m_decoder.errorCount() == 0 && m_frame->decode_error_flags == 0 &&
+                !(m_frame->flags & AV_FRAME_FLAG_CORRUPT));
+    }
+
+    ffmpeg::Demuxer& m_demuxer;
+    const AVStream& m_stream;
+    std::stop_token m_stop;
+    ffmpeg::Decoder m_decoder;
+    ffmpeg::PacketPtr m_packet = ffmpeg::makePacket();
+    ffmpeg::FramePtr m_frame = ffmpeg::makeFrame();
+    bool m_isDraining = false;
+};
+
+void check(const std::shared_ptr<const ffmpeg::SourceFile>& file, const ExportPlan& plan,
+           const std::stop_token& stop) {
+    ffmpeg::Demuxer demuxer(file, nullptr, stop);
+    const std::vector<AVStream*> streams = mediaStreams(demuxer.context());
+    require(streams.size() == plan.tracks.size());
+    for (std::size_t i = 0; i < streams.size(); ++i)
+        checkTrack(*streams[i], plan.tracks[i], file->size());
+
+    AVStream& video = *streams.front();
+    const double start = static_cast<double>(video.start_time) * av_q2d(video.time_base);
+    const double duration = static_cast<double>(video.duration) * av_q2d(video.time_base);
+    require(std::abs(start) < kRounding);
+    require(std::abs(duration - plan.duration.seconds()) < kRounding);
+    demuxer.selectOnly({video.index});
+    EndsReader reader(demuxer, video, stop);
+    reader.checkFirst();
+    reader.checkLast(video.start_time + video.duration);
+}
+
+} // namespace
+
+void proveExport(const std::shared_ptr<const ffmpeg::SourceFile>& file, const ExportPlan& plan,
+                 const std::stop_token& stop) {
+    try {
+        check(file, plan, stop);
+    } catch (const Error&) {
+        fail();
+    }
+}
+
+} // namespace media
