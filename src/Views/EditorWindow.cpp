@@ -3,7 +3,7 @@
 #include "Models/EditState.h"
 #include "Support/FileUrl.h"
 #include "Support/TimeFormatting.h"
-#include "Views/ExportProgressDialog.h"
+#include "Views/ExportProgressView.h"
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
 
@@ -179,7 +179,7 @@ void EditorWindow::showExport() {
     const std::optional<double> progress = m_state->exportProgress();
     if (progress) {
         if (!m_exportDialog) {
-            m_exportDialog = new ExportProgressDialog(m_state, this);
+            m_exportDialog = new ExportProgressView(m_state, this);
             m_exportDialog->open();
         }
         m_exportDialog->setProgress(*progress);

@@ -14,7 +14,7 @@ class QToolButton;
 namespace brisklet {
 
 class EditState;
-class ExportProgressDialog;
+class ExportProgressView;
 class PlayerContainerView;
 
 /// One window that edits one video: the picture, a play button, the position and the range, and
@@ -57,7 +57,7 @@ private:
     QToolButton* m_playButton;
     QLabel* m_position;
     QLabel* m_range;
-    QPointer<ExportProgressDialog> m_exportDialog;
+    QPointer<ExportProgressView> m_exportDialog;
     QPointer<QMessageBox> m_alert;
     QPointer<QMessageBox> m_closeQuestion;
     std::optional<QUrl> m_toLoad;

@@ -89,6 +89,16 @@ QColor accent(const QPalette& palette) {
                    kSymbolContrast);
 }
 
+QColor accentFill(const QPalette& palette) {
+    const QColor ink = onAccentFill(palette);
+    const QColor away = luminance(ink) > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+    return legible(palette.color(QPalette::Active, QPalette::Highlight), away, ink, kTextContrast);
+}
+
+QColor onAccentFill(const QPalette& palette) {
+    return palette.color(QPalette::Active, QPalette::HighlightedText);
+}
+
 QColor red(const QPalette& palette) {
     const QColor plain = isDark(palette) ? QColor(0xff, 0x5b, 0x52) : QColor(0xd0, 0x1c, 0x1f);
     return legible(plain, palette.color(QPalette::WindowText), palette.color(QPalette::Window),

@@ -16,6 +16,9 @@ QColor secondary(const QPalette& palette);
 QColor quaternary(const QPalette& palette);
 /// What is switched on. Made as light or dark as a symbol on the window needs it.
 QColor accent(const QPalette& palette);
+/// The same as a fill, and what is written on it at 4.5:1.
+QColor accentFill(const QPalette& palette);
+QColor onAccentFill(const QPalette& palette);
 /// What takes something away, such as the sound.
 QColor red(const QPalette& palette);
 

@@ -6,7 +6,7 @@
 #include "Support/FileUrl.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/TemporaryFolder.h"
-#include "Views/ExportProgressDialog.h"
+#include "Views/ExportProgressView.h"
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
 
@@ -79,7 +79,7 @@ protected:
         if (!loadAndWait({.duration = 30, .width = 640, .height = 480}))
             return false;
         m_state->exportTo(urlOf(m_folder / "out.mp4"));
-        return pumpUntil([this] { return visibleChild<ExportProgressDialog>() != nullptr; });
+        return pumpUntil([this] { return visibleChild<ExportProgressView>() != nullptr; });
     }
 
     testsupport::TemporaryFolder m_folder;
@@ -176,13 +176,13 @@ TEST_F(EditorWindowTest, opensAndExportsByCommands) {
 
 TEST_F(EditorWindowTest, showsTheProgressAndCancels) {
     ASSERT_TRUE(startLongExport());
-    auto* dialog = visibleChild<ExportProgressDialog>();
+    auto* dialog = visibleChild<ExportProgressView>();
     EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
     auto* bar = dialog->findChild<QProgressBar*>();
     ASSERT_TRUE(pumpUntil([bar] { return bar->value() > 0; }));
     QTest::mouseClick(dialog->findChild<QPushButton*>(), Qt::LeftButton);
     ASSERT_TRUE(pumpUntil([this] { return !m_state->exportProgress(); }));
-    EXPECT_EQ(visibleChild<ExportProgressDialog>(), nullptr);
+    EXPECT_EQ(visibleChild<ExportProgressView>(), nullptr);
     EXPECT_EQ(visibleChild<QMessageBox>(), nullptr);
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
 }

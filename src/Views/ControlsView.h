@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+class QHBoxLayout;
+class QMenu;
+
+namespace brisklet {
+
+class EditState;
+class ExportButton;
+class FlatButton;
+class TabularLabel;
+
+/// The row of controls under the timeline: play, mute, rotate, crop, the size of the crop, and the
+/// export button with the menu of formats and resolutions. Shows the model and the shared export
+/// settings, and keeps no state of its own. Its keys (Space, M, R, K) work while its window is
+/// active and no other control wants them. Main thread.
+class ControlsView final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ControlsView(std::shared_ptr<EditState> state, QWidget* parent = nullptr);
+    ~ControlsView() override;
+
+    /// How far the buttons' frames stand from the left edge: what lights up around the first one
+    /// reaches beyond its frame. Points.
+    static int leftInset();
+
+    [[nodiscard]] FlatButton& playButton() const { return *m_playButton; }
+
+    [[nodiscard]] FlatButton& muteButton() const { return *m_muteButton; }
+
+    [[nodiscard]] FlatButton& rotateButton() const { return *m_rotateButton; }
+
+    [[nodiscard]] FlatButton& cropButton() const { return *m_cropButton; }
+
+    [[nodiscard]] TabularLabel& cropSize() const { return *m_cropSize; }
+
+    [[nodiscard]] ExportButton& exportButton() const { return *m_exportButton; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildLayout();
+    void buildMenu();
+    void addFormats(QMenu& menu);
+    void addResolutions(QMenu& menu);
+    void addKeys();
+    void observe();
+
+    void toggleMute();
+    void toggleCrop();
+
+    void showPlayState();
+    void showMute();
+    void showRotation();
+    void showCrop();
+    void showExport();
+    void showFonts();
+
+    std::shared_ptr<EditState> m_state;
+    FlatButton* m_playButton;
+    FlatButton* m_muteButton;
+    FlatButton* m_rotateButton;
+    FlatButton* m_cropButton;
+    TabularLabel* m_cropSize;
+    ExportButton* m_exportButton;
+};
+
+} // namespace brisklet

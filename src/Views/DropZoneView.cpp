@@ -1,0 +1,102 @@
+#include "Views/DropZoneView.h"
+
+#include "Models/EditState.h"
+#include "Views/Symbols.h"
+#include "Views/Theme.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPen>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+constexpr int kSpacing = 16;
+constexpr int kPadding = 24;
+constexpr int kSymbolSide = 48;
+constexpr qreal kBorderRadius = 12;
+constexpr qreal kBorderWidth = 2;
+/// Points on, points off.
+constexpr qreal kDash = 8;
+constexpr float kLitOpacity = 0.08F;
+
+class FilmSymbol final : public QWidget {
+public:
+    FilmSymbol() { setFixedSize(kSymbolSide, kSymbolSide); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        paintSymbol(painter, Symbol::film, rect(), theme::secondary(palette()));
+    }
+};
+
+QPen borderPen(const QColor& color) {
+    QPen pen(color, kBorderWidth, Qt::CustomDashLine, Qt::FlatCap, Qt::MiterJoin);
+    // A pen counts its dashes in widths.
+    pen.setDashPattern({kDash / kBorderWidth, kDash / kBorderWidth});
+    return pen;
+}
+
+} // namespace
+
+DropZoneView::DropZoneView(std::shared_ptr<EditState> state, QWidget* parent)
+    : QWidget(parent), m_symbol(new FilmSymbol), m_invitation(new QLabel(tr("Drop a video here"))) {
+    auto* button = new QPushButton(tr("Open Video…"));
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this,
+            [model = std::move(state)] { model->presentOpenPanel(); });
+
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(2 * kPadding, 2 * kPadding, 2 * kPadding, 2 * kPadding);
+    stack->setSpacing(kSpacing);
+    stack->addStretch();
+    stack->addWidget(m_symbol, 0, Qt::AlignHCenter);
+    stack->addWidget(m_invitation, 0, Qt::AlignHCenter);
+    stack->addWidget(button, 0, Qt::AlignHCenter);
+    stack->addStretch();
+    showFonts();
+}
+
+void DropZoneView::setLit(bool isLit) {
+    if (m_isLit == isLit)
+        return;
+    m_isLit = isLit;
+    update();
+}
+
+void DropZoneView::paintEvent(QPaintEvent* /*event*/) {
+    constexpr qreal kInset = kPadding + kBorderWidth / 2;
+    const QRectF border = QRectF(rect()).adjusted(kInset, kInset, -kInset, -kInset);
+    const QColor accent = theme::accent(palette());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (m_isLit) {
+        QColor fill = accent;
+        fill.setAlphaF(kLitOpacity);
+        painter.setBrush(fill);
+    }
+    painter.setPen(borderPen(m_isLit ? accent : theme::quaternary(palette())));
+    painter.drawRoundedRect(border, kBorderRadius, kBorderRadius);
+}
+
+void DropZoneView::showFonts() {
+    m_invitation->setFont(theme::titleFont(font()));
+    QPalette secondary;
+    secondary.setColor(QPalette::WindowText, theme::secondary(palette()));
+    m_invitation->setPalette(secondary);
+}
+
+void DropZoneView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
+        showFonts();
+}
+
+} // namespace brisklet

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QToolButton>
+
+namespace brisklet {
+
+/// One button of two parts: the label, which does what it says, and a chevron at its right end,
+/// which opens the menu. The menu opens with the Down key too. Main thread.
+class ExportButton final : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit ExportButton(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+    /// Where a click opens the menu.
+    [[nodiscard]] QRect menuRect() const;
+
+    /// Opens the menu and returns.
+    void popUpMenu();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void paintFill(QPainter& painter) const;
+    [[nodiscard]] bool isMenuOpen() const;
+};
+
+} // namespace brisklet
