@@ -1,5 +1,6 @@
 #include "Views/ErrorAlert.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 
 namespace brisklet {
