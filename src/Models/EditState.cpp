@@ -69,6 +69,7 @@ void EditState::setMuted(bool muted) {
 }
 
 void EditState::load(const QUrl& url) {
+    ++m_openCount;
     loadAsset(url);
 }
 
@@ -104,6 +105,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
         const auto self = weak.lock();
         if (!self)
             co_return;
+        --self->m_openCount;
         if (!failure.isEmpty()) {
             self->m_errorMessage = failure;
             co_return;

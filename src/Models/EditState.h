@@ -5,6 +5,7 @@
 #include "Media/Geometry.h"
 #include "Player/PlayerController.h"
 #include "Support/FilePanels.h"
+#include "Support/OpenBridge.h"
 
 #include <QCoroTask>
 #include <QImage>
@@ -31,7 +32,9 @@ namespace brisklet {
 /// Times are seconds from the start of the file. The crop is in fractions of the picture as
 /// displayed after rotation, origin top left, y downward. The rotation is clockwise, one of 0, 90,
 /// 180 and 270 degrees.
-class EditState final : public QObject, public std::enable_shared_from_this<EditState> {
+class EditState final : public QObject,
+                        public OpenTarget,
+                        public std::enable_shared_from_this<EditState> {
     Q_OBJECT
 
 public:
@@ -93,7 +96,11 @@ public:
 
     /// Starts loading and returns; a load cannot be cancelled. The old video stays until the new
     /// one is ready; a failure changes nothing but errorMessage().
-    void load(const QUrl& url);
+    void load(const QUrl& url) override;
+
+    /// No video, and no load of one under way.
+    [[nodiscard]] bool isEmpty() const override { return !videoURL() && m_openCount == 0; }
+
     /// Lets the user pick one movie, and loads it.
     void presentOpenPanel();
 
@@ -175,6 +182,8 @@ private:
     std::optional<std::stop_source> m_exportTask;
     /// Ends the work of pending loads with the object: nobody is left to see its result.
     std::stop_source m_loads;
+    /// Loads that have neither published their video nor failed.
+    int m_openCount = 0;
 };
 
 } // namespace brisklet

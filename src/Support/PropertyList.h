@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+namespace brisklet {
+
+/// Writes an XML property list as text in the standard layout: one element a line, a tab for each
+/// level below the root dictionary, keys in the order in which they are written. The calls are the
+/// document: every value inside a dictionary follows a call of key(). Usable on any thread.
+class PropertyList final {
+public:
+    /// Opens the document and its root dictionary.
+    PropertyList();
+
+    PropertyList& key(QStringView name);
+    PropertyList& string(QStringView value);
+    PropertyList& boolean(bool value);
+    PropertyList& integer(int value);
+    PropertyList& emptyDictionary();
+    PropertyList& emptyArray();
+    PropertyList& beginDictionary();
+    PropertyList& endDictionary();
+    PropertyList& beginArray();
+    PropertyList& endArray();
+
+    /// An array of this one string.
+    PropertyList& singleString(QStringView value);
+
+    /// Closes the root dictionary and gives the document; no line feed follows its last line.
+    [[nodiscard]] QString finish();
+
+private:
+    PropertyList& line(QStringView element);
+
+    QString m_text;
+    int m_level = 0;
+};
+
+} // namespace brisklet
