@@ -28,6 +28,11 @@ CommandLine CommandLine::parse(std::span<const char* const> arguments) {
     CommandLine result;
     bool takesOptions = true;
     for (const std::string_view argument : arguments) {
+        // Wherever it stands.
+        if (argument == "--install-quick-action") {
+            result.installsQuickAction = true;
+            continue;
+        }
         const bool isOption = takesOptions && argument.size() > 1 && argument.front() == '-';
         if (argument.empty())
             continue;
@@ -49,8 +54,9 @@ std::string usage() {
     return "Usage: brisklet [VIDEO...]\n"
            "Trims videos. Each VIDEO opens in a window of its own.\n"
            "\n"
-           "  --help     print this and exit\n"
-           "  --version  print the version and exit\n";
+           "  --install-quick-action  add \"Trim Video\" to the menus of file managers and exit\n"
+           "  --help                  print this and exit\n"
+           "  --version               print the version and exit\n";
 }
 
 } // namespace brisklet

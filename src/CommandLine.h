@@ -15,6 +15,8 @@ struct CommandLine {
     std::vector<QUrl> files;
     bool wantsHelp = false;
     bool wantsVersion = false;
+    /// Installs the Quick Action instead of opening a window.
+    bool installsQuickAction = false;
     /// The first argument that is no option of the program.
     std::optional<std::string> unknownOption;
 

@@ -1,10 +1,12 @@
 #include "BriskletApp.h"
 #include "CommandLine.h"
+#include "Platform/QuickActionInstallation.h"
 #include "Support/Workers.h"
 
 #include <QApplication>
 
 #include <cstdio>
+#include <exception>
 #include <span>
 
 namespace {
@@ -14,6 +16,17 @@ constexpr int kWrongUsage = 2;
 std::span<const char* const> argumentsOf(int argc, char** argv) {
     const std::span<const char* const> all(argv, argc > 0 ? static_cast<std::size_t>(argc) : 0);
     return all.empty() ? all : all.subspan(1);
+}
+
+int installQuickAction() {
+    try {
+        brisklet::QuickActionInstallation::install();
+    } catch (const std::exception& error) {
+        std::printf("Quick Action install failed: %s\n", error.what());
+        return 1;
+    }
+    std::puts("Installed Trim Video Quick Action");
+    return 0;
 }
 
 void setUpApplication() {
@@ -27,8 +40,10 @@ void setUpApplication() {
 
 int main(int argc, char** argv) {
     using brisklet::CommandLine;
-    // These two need no display. Options of Qt's own are still among the arguments here.
+    // These need no display. Options of Qt's own are still among the arguments here.
     const CommandLine everything = CommandLine::parse(argumentsOf(argc, argv));
+    if (everything.installsQuickAction)
+        return installQuickAction();
     if (everything.wantsHelp) {
         std::fputs(brisklet::usage().c_str(), stdout);
         return 0;

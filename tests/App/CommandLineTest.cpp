@@ -46,6 +46,14 @@ TEST(CommandLine, knowsItsOptions) {
     EXPECT_EQ(parse({"a.mov", "--frobnicate", "--other"}).unknownOption, "--frobnicate");
 }
 
+TEST(CommandLine, findsTheQuickActionWhereverItStands) {
+    EXPECT_FALSE(parse({"a.mov"}).installsQuickAction);
+    EXPECT_FALSE(parse({"--install-quick-action=yes"}).installsQuickAction);
+    const CommandLine line = parse({"a.mov", "--", "--install-quick-action"});
+    EXPECT_TRUE(line.installsQuickAction);
+    EXPECT_EQ(line.files.size(), 1U);
+}
+
 TEST(CommandLine, takesWhatFollowsTwoDashesAsFiles) {
     const CommandLine line = parse({"--", "--help", "-"});
     EXPECT_FALSE(line.wantsHelp);

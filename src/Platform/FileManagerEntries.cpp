@@ -1,0 +1,189 @@
+#include "Platform/FileManagerEntries.h"
+
+#include "Platform/MimeTypes.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <array>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+namespace brisklet::FileManagerEntries {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Stands in every file that this program wrote, and tells it from those of others.
+constexpr const char* kMark = "# Written by Brisklet, which replaces and removes this file.";
+/// No entry of this program is anywhere near this long.
+constexpr qint64 kLongestEntry = 65536;
+
+/// One argument of an Exec line, which is quoted twice there: by the rules of the line, and by
+/// those of all texts in the file.
+QByteArray quotedForDesktopEntry(const fs::path& program) {
+    QByteArray quoted = "\"";
+    for (const char letter : program.string()) {
+        if (letter == '"' || letter == '`' || letter == '$')
+            quoted += "\\\\";
+        else if (letter == '\\')
+            quoted += "\\\\\\";
+        else if (letter == '%')
+            quoted += '%';
+        quoted += letter;
+    }
+    return quoted + '"';
+}
+
+QByteArray quotedForShell(const fs::path& program) {
+    QByteArray name = QByteArray::fromStdString(program.string());
+    name.replace("'", "'\\''");
+    return "'" + name + "'";
+}
+
+QByteArray mimeTypeList() {
+    return movieMimeTypes().join(u';').toLatin1() + ';';
+}
+
+QByteArray dolphinServiceMenu(const fs::path& program) {
+    return QByteArray(kMark) +
+           "\n[Desktop Entry]\n"
+           "Type=Service\n"
+           "ServiceTypes=KonqPopupMenu/Plugin\n"
+           "MimeType=" +
+           mimeTypeList() +
+           "\nActions=trimVideo;\n"
+           "X-KDE-Priority=TopLevel\n"
+           "\n[Desktop Action trimVideo]\n"
+           "Name=Trim Video\n"
+           "Icon=com.quorvan.brisklet\n"
+           "Exec=" +
+           quotedForDesktopEntry(program) + " %F\n";
+}
+
+QByteArray thunarSendTo(const fs::path& program) {
+    return QByteArray(kMark) +
+           "\n[Desktop Entry]\n"
+           "Type=Application\n"
+           "Name=Trim Video\n"
+           "Icon=com.quorvan.brisklet\n"
+           "Exec=" +
+           quotedForDesktopEntry(program) + " %F\nMimeType=" + mimeTypeList() + "\n";
+}
+
+QByteArray nemoAction(const fs::path& program) {
+    // As addresses in quotation marks, names need no other protection.
+    return QByteArray(kMark) +
+           "\n[Nemo Action]\n"
+           "Active=true\n"
+           "Name=Trim Video\n"
+           "Comment=Open the selected videos in Brisklet\n"
+           "Icon-Name=com.quorvan.brisklet\n"
+           "Exec=" +
+           quotedForShell(program) +
+           " %U\n"
+           "Quote=double\n"
+           "Selection=notnone\n"
+           "Mimetypes=" +
+           mimeTypeList() + "\n";
+}
+
+QByteArray nautilusScript(const fs::path& program) {
+    // Scripts are offered for all files; what is known to be no video is left out here.
+    return QByteArray("#!/bin/sh\n") + kMark +
+           "\n"
+           "for file do\n"
+           "    shift\n"
+           "    case $(xdg-mime query filetype \"$file\" 2>/dev/null) in\n"
+           "        ''|video/*|application/mxf|application/vnd.ms-asf) set -- \"$@\" \"$file\" ;;\n"
+           "    esac\n"
+           "done\n"
+           "[ $# -gt 0 ] && exec " +
+           quotedForShell(program) + " -- \"$@\"\n";
+}
+
+struct Entry {
+    const char* place;
+    QByteArray (*content)(const fs::path& program);
+    bool isExecutable;
+};
+
+/// Dolphin starts only those menus of the user's that are marked as executable.
+constexpr std::array kEntries = {
+    Entry{"kio/servicemenus/com.quorvan.brisklet.trim-video.desktop", dolphinServiceMenu, true},
+    Entry{"nautilus/scripts/Trim Video", nautilusScript, true},
+    Entry{"nemo/actions/com.quorvan.brisklet.trim-video.nemo_action", nemoAction, false},
+    Entry{"Thunar/sendto/com.quorvan.brisklet.trim-video.desktop", thunarSendTo, false}};
+
+QString textOf(const fs::path& path) {
+    return QFile::decodeName(path.string().c_str());
+}
+
+/// Whether a name is free for us: nothing there, or a file that we wrote.
+bool isFree(const fs::path& path) {
+    std::error_code ignored;
+    const fs::file_status status = fs::symlink_status(path, ignored);
+    if (!fs::exists(status))
+        return true;
+    QFile file(textOf(path));
+    return fs::is_regular_file(status) && file.open(QIODevice::ReadOnly) &&
+           file.read(kLongestEntry).contains(kMark);
+}
+
+[[noreturn]] void fail(const char* what, const fs::path& path, const std::string& reason) {
+    throw std::runtime_error("“" + path.string() + "” couldn't be " + what + ": " + reason);
+}
+
+void write(const fs::path& path, const QByteArray& content, bool isExecutable) {
+    std::error_code error;
+    fs::create_directories(path.parent_path(), error);
+    if (error)
+        fail("written", path, error.message());
+    auto permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup |
+                       QFileDevice::ReadOther;
+    if (isExecutable)
+        permissions |= QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
+    QSaveFile file(textOf(path));
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.write(content) == content.size() &&
+                           file.setPermissions(permissions) && file.commit();
+    if (!isWritten)
+        fail("written", path, file.errorString().toStdString());
+}
+
+} // namespace
+
+fs::path dataFolder() {
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))
+        .toStdString();
+}
+
+void install(const fs::path& dataFolder, const fs::path& program) {
+    for (const Entry& entry : kEntries) {
+        const fs::path path = dataFolder / entry.place;
+        if (isFree(path))
+            write(path, entry.content(program), entry.isExecutable);
+    }
+}
+
+void uninstall(const fs::path& dataFolder) {
+    for (const Entry& entry : kEntries) {
+        const fs::path path = dataFolder / entry.place;
+        if (!isFree(path))
+            continue;
+        std::error_code error;
+        const bool isRemoved = fs::remove(path, error);
+        if (error && error != std::errc::not_a_directory)
+            fail("removed", path, error.message());
+        // Only folders that are empty now can be removed this way.
+        fs::path folder = fs::path(entry.place).parent_path();
+        for (; isRemoved && !folder.empty(); folder = folder.parent_path())
+            fs::remove(dataFolder / folder, error);
+    }
+}
+
+} // namespace brisklet::FileManagerEntries

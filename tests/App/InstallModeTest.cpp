@@ -1,0 +1,69 @@
+#include "TestSupport/Process.h"
+#include "TestSupport/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testsupport::runProcess;
+
+class InstallModeTest : public testing::Test {
+protected:
+    /// Without a display, a session bus and the user's own folders.
+    testsupport::ProcessResult install() {
+        return runProcess({BRISKLET_APP, "--install-quick-action"},
+                          {.additionalEnvironment = {"QT_QPA_PLATFORM=xcb", "DISPLAY=:987",
+                                                     "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere",
+                                                     "HOME=" + m_home.path().string(),
+                                                     "XDG_DATA_HOME=" + dataFolder().string()}});
+    }
+
+    fs::path dataFolder() const { return m_home / "data"; }
+
+    fs::path workflow() const {
+        return m_home / "Library/Services/Trim Video.workflow/Contents/document.wflow";
+    }
+
+    testsupport::TemporaryFolder m_home;
+};
+
+std::string contentOf(const fs::path& path) {
+    std::ostringstream content;
+    content << std::ifstream(path).rdbuf();
+    return content.str();
+}
+
+TEST_F(InstallModeTest, printsOneLineAndWorksTwice) {
+    const auto first = install();
+    EXPECT_EQ(first.exitStatus, 0);
+    EXPECT_EQ(first.output, "Installed Trim Video Quick Action\n");
+    EXPECT_EQ(first.errors, "");
+    const std::string written = contentOf(workflow());
+    EXPECT_FALSE(written.empty());
+    const auto second = install();
+    EXPECT_EQ(second.exitStatus, 0);
+    EXPECT_EQ(second.output, "Installed Trim Video Quick Action\n");
+    EXPECT_NE(contentOf(workflow()), written);
+}
+
+TEST_F(InstallModeTest, addsItselfToTheFileManagers) {
+    install();
+    const std::string script = contentOf(dataFolder() / "nautilus/scripts/Trim Video");
+    EXPECT_NE(script.find(fs::canonical(BRISKLET_APP).string()), std::string::npos) << script;
+}
+
+TEST_F(InstallModeTest, saysWhyItFailed) {
+    std::ofstream(m_home / "Library") << "no folder";
+    const auto result = install();
+    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.output,
+              "Quick Action install failed: “Contents” couldn't be made: Not a directory\n");
+}
+
+} // namespace
