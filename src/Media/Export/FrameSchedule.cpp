@@ -77,10 +77,57 @@ private:
     bool m_hasStarted = false;
 };
 
+/// The source picture at a tick that never decreases.
+class PictureSource {
+public:
+    PictureSource(VideoReader& reader, FrameSchedule::Neighbours neighbours)
+        : m_reader(reader), m_keepsNeighbours(neighbours == FrameSchedule::Neighbours::decoded) {}
+
+    /// Null without any picture.
+    const DecodedFrame* moveTo(std::int64_t ticks, const std::stop_token& stop) {
+        if (!m_keepsNeighbours) {
+            m_reader.seek(ticks, stop);
+            return m_reader.peek(stop);
+        }
+        if (!m_current)
+            begin(ticks, stop);
+        for (const DecodedFrame* following = m_reader.peek(stop);
+             following && following->ticks <= ticks; following = m_reader.peek(stop)) {
+            m_previous = std::move(m_current);
+            m_current = m_reader.next(stop);
+        }
+        return m_current ? &*m_current : nullptr;
+    }
+
+    void addNeighbours(ScheduledFrame& frame, const std::stop_token& stop) {
+        if (!m_keepsNeighbours)
+            return;
+        if (m_previous)
+            frame.previous = ffmpeg::referenced(*m_previous->frame);
+        if (const DecodedFrame* following = m_reader.peek(stop))
+            frame.following = ffmpeg::referenced(*following->frame);
+    }
+
+private:
+    void begin(std::int64_t ticks, const std::stop_token& stop) {
+        m_reader.seek(ticks, stop);
+        if (const DecodedFrame* first = m_reader.peek(stop))
+            m_reader.seek(first->ticks - 1, stop);
+        m_current = m_reader.next(stop);
+    }
+
+    VideoReader& m_reader;
+    bool m_keepsNeighbours;
+    /// Only with neighbours: the following one is the reader's next.
+    std::optional<DecodedFrame> m_previous;
+    std::optional<DecodedFrame> m_current;
+};
+
 class ConstantRate final : public FrameSchedule {
 public:
-    ConstantRate(VideoReader& reader, const TimeRange& range, Time frameDuration)
-        : m_reader(reader),
+    ConstantRate(VideoReader& reader, const TimeRange& range, Time frameDuration,
+                 Neighbours neighbours)
+        : m_source(reader, neighbours),
           m_start(range.start),
           m_frameDuration(frameDuration),
           m_timescale(timescaleFor(frameDuration.timescale)),
@@ -97,8 +144,7 @@ public:
         if (m_number >= expectedFrames())
             return std::nullopt;
         const Time offset{m_frameDuration.value * m_number, m_frameDuration.timescale};
-        m_reader.seek((m_start + offset).comparisonTicks(), stop);
-        const DecodedFrame* source = m_reader.peek(stop);
+        const DecodedFrame* source = m_source.moveTo((m_start + offset).comparisonTicks(), stop);
         if (!source)
             return std::nullopt;
         ScheduledFrame result;
@@ -106,13 +152,15 @@ public:
         result.duration = std::min(m_step, std::max<std::int64_t>(m_duration - result.pts, 1));
         result.isRepeat = m_shownTicks == source->ticks;
         result.frame = ffmpeg::referenced(*source->frame);
+        if (source->frame->interlaced_frame && !result.isRepeat)
+            m_source.addNeighbours(result, stop);
         m_shownTicks = source->ticks;
         ++m_number;
         return result;
     }
 
 private:
-    VideoReader& m_reader;
+    PictureSource m_source;
     Time m_start;
     Time m_frameDuration;
     std::int32_t m_timescale;
@@ -131,9 +179,11 @@ std::unique_ptr<FrameSchedule> FrameSchedule::sourceTiming(VideoReader& reader,
     return std::make_unique<SourceTiming>(reader, track, sourceTimescale);
 }
 
-std::unique_ptr<FrameSchedule>
-FrameSchedule::constantRate(VideoReader& reader, const TimeRange& range, Time frameDuration) {
-    return std::make_unique<ConstantRate>(reader, range, frameDuration);
+std::unique_ptr<FrameSchedule> FrameSchedule::constantRate(VideoReader& reader,
+                                                           const TimeRange& range,
+                                                           Time frameDuration,
+                                                           Neighbours neighbours) {
+    return std::make_unique<ConstantRate>(reader, range, frameDuration, neighbours);
 }
 
 } // namespace media

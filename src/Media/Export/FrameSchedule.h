@@ -18,6 +18,10 @@ struct ScheduledFrame {
     std::int64_t duration = 0;
     /// The same source picture as the one before.
     bool isRepeat = false;
+    /// Of interlaced pictures of a constant rate: the pictures before and after in the source;
+    /// null at its ends.
+    ffmpeg::FramePtr previous;
+    ffmpeg::FramePtr following;
 };
 
 /// Decides which source pictures an export has, and when each is shown. Use from one thread.
@@ -27,9 +31,12 @@ public:
     /// shows from 0, the last until the end of the range.
     static std::unique_ptr<FrameSchedule>
     sourceTiming(VideoReader& reader, const CompositionTrack& track, std::int32_t sourceTimescale);
-    /// A frame every `frameDuration` from 0, each the source's frame at that time of the range.
+    enum class Neighbours { none, decoded };
+
+    /// A frame every `frameDuration` from 0, each the source's frame at that time of the range;
+    /// with its neighbours if they are asked for, for which every picture has to be decoded.
     static std::unique_ptr<FrameSchedule> constantRate(VideoReader& reader, const TimeRange& range,
-                                                       Time frameDuration);
+                                                       Time frameDuration, Neighbours neighbours);
 
     virtual ~FrameSchedule() = default;
 

@@ -1,6 +1,7 @@
 #include "Media/Export/VideoPipeline.h"
 
 #include "Media/Error.h"
+#include "Media/Export/Deinterlacer.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
@@ -51,10 +52,14 @@ VideoPipeline::VideoPipeline(const Composition& composition,
       m_output(kPacketsWaiting, stop) {
     const CompositionTrack& track = *composition.videoTrack;
     const ffmpeg::SourceTrack& source = composition.asset->info().track(track.source.streamIndex);
-    m_schedule =
-        videoComposition
-            ? FrameSchedule::constantRate(m_reader, track.range, videoComposition->frameDuration)
-            : FrameSchedule::sourceTiming(m_reader, track, source.timeBase.den);
+    if (videoComposition) {
+        m_deinterlaces = source.isInterlaced();
+        m_schedule = FrameSchedule::constantRate(
+            m_reader, track.range, videoComposition->frameDuration,
+            m_deinterlaces ? FrameSchedule::Neighbours::decoded : FrameSchedule::Neighbours::none);
+    } else {
+        m_schedule = FrameSchedule::sourceTiming(m_reader, track, source.timeBase.den);
+    }
     openEncoder(source, settings, videoComposition, track.range.duration());
 }
 
@@ -80,6 +85,7 @@ void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderS
             encoding.frameRate = track.averageFrameRate;
         // Without a video composition pixels stay what they are, whatever their shape.
         natural = {static_cast<double>(facts.codedWidth), static_cast<double>(facts.codedHeight)};
+        encoding.fieldOrder = track.fieldOrder;
     }
     m_encoder = ffmpeg::Encoder::forVideo(track, encoding, settings);
     PictureTransform::Output output;
@@ -87,6 +93,8 @@ void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderS
     output.height = encoding.height;
     output.format = m_encoder->context().pix_fmt;
     m_transform.emplace(toCanvas, natural, output);
+    if (m_encoder->context().flags & AV_CODEC_FLAG_INTERLACED_DCT)
+        m_fieldTransform.emplace(natural, output);
     m_output.timeBase = encoding.timeBase;
     const Time tail = Time::fromSeconds(tailSeconds(m_encoder->context()), encoding.timeBase.den);
     if (duration.seconds() > 2 * tail.seconds())
@@ -107,11 +115,24 @@ void VideoPipeline::transformStage() {
     ffmpeg::FramePtr last;
     while (auto scheduled = m_decoded.pop()) {
         if (!scheduled->isRepeat || !last)
-            last = m_transform->apply(*scheduled->frame);
+            last = transformed(*scheduled);
         scheduled->frame = ffmpeg::referenced(*last);
+        scheduled->previous.reset();
+        scheduled->following.reset();
         m_transformed.push(std::move(*scheduled));
     }
     m_transformed.finish();
+}
+
+ffmpeg::FramePtr VideoPipeline::transformed(const ScheduledFrame& scheduled) {
+    const AVFrame& frame = *scheduled.frame;
+    if (m_deinterlaces) {
+        return m_transform->apply(
+            *Deinterlacer::apply(frame, scheduled.previous.get(), scheduled.following.get()));
+    }
+    if (m_fieldTransform && frame.interlaced_frame && frame.format != m_encoder->context().pix_fmt)
+        return m_fieldTransform->apply(frame);
+    return m_transform->apply(frame);
 }
 
 void VideoPipeline::encodeStage() {

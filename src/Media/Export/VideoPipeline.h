@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Media/Export/FieldTransform.h"
 #include "Media/Export/FrameSchedule.h"
 #include "Media/Export/PacketStream.h"
 #include "Media/ExportSession.h"
@@ -39,6 +40,8 @@ public:
 private:
     void openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& settings,
                      const std::optional<VideoComposition>& videoComposition, Time duration);
+    /// What the encoder gets of a source picture.
+    ffmpeg::FramePtr transformed(const ScheduledFrame& scheduled);
     /// Once: for the first picture of the tail.
     bool beginsTail(const ScheduledFrame& frame);
     void drainEncoder();
@@ -48,6 +51,9 @@ private:
     VideoReader m_reader;
     std::unique_ptr<FrameSchedule> m_schedule;
     std::optional<PictureTransform> m_transform;
+    /// Where interlaced pictures stay so.
+    std::optional<FieldTransform> m_fieldTransform;
+    bool m_deinterlaces = false;
     std::optional<ffmpeg::Encoder> m_encoder;
 
     /// Decode thread.

@@ -58,6 +58,11 @@ CodecContextPtr makeContext(const char* encoderName) {
     return CodecContextPtr(allocated(avcodec_alloc_context3(codec)));
 }
 
+/// Whether the field of the first line is shown first.
+bool isTopFirst(AVFieldOrder order) {
+    return order == AV_FIELD_TT || order == AV_FIELD_BT;
+}
+
 } // namespace
 
 bool needsDeepColor(const SourceTrack& track) {
@@ -88,6 +93,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
     context->pix_fmt = isDeep ? AV_PIX_FMT_YUV420P10 : AV_PIX_FMT_YUV420P;
     context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     copyColor(*context, *track.parameters);
+    context->field_order = encoding.fieldOrder;
     if (isHevc) {
         context->codec_tag = MKTAG('h', 'v', 'c', '1');
         setOption(*context, "preset", settings.hevcPreset);
@@ -99,6 +105,11 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         parameters += x265Parameters(track.dynamicRange);
         setOption(*context, "x265-params", parameters);
     } else {
+        // Pairs of lines of both fields are coded together, in pairs of macroblocks.
+        if (encoding.fieldOrder != AV_FIELD_PROGRESSIVE && encoding.height % 4 == 0) {
+            context->flags |= AV_CODEC_FLAG_INTERLACED_DCT;
+            setOption(*context, "x264-params", isTopFirst(encoding.fieldOrder) ? "tff=1" : "bff=1");
+        }
         setOption(*context, "preset", settings.h264Preset);
         setOption(*context, "crf", std::to_string(settings.h264Crf));
     }

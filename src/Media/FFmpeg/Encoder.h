@@ -20,6 +20,7 @@ struct VideoEncoding {
     /// A hint for the encoder's rate control; frames may come at any time.
     AVRational frameRate{30, 1};
     AVRational sampleAspectRatio{1, 1};
+    AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
 };
 
 /// Whether a track's pictures need more than 8 bits or HDR signalling, that is HEVC Main 10.

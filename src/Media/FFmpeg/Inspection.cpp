@@ -103,6 +103,14 @@ private:
     int m_packetsWithoutPts = 0;
 };
 
+/// By a picture, and where that has no fields, as some of a stream that has them, by the container.
+AVFieldOrder fieldOrderOf(const AVCodecParameters& parameters, const AVFrame& picture) {
+    if (picture.interlaced_frame)
+        return picture.top_field_first ? AV_FIELD_TT : AV_FIELD_BB;
+    return parameters.field_order == AV_FIELD_UNKNOWN ? AV_FIELD_PROGRESSIVE
+                                                      : parameters.field_order;
+}
+
 /// When a stream is first seen or heard; its time base. Matroska's times count the samples that an
 /// Opus decoder drops at the beginning, those of other containers do not.
 std::optional<std::int64_t> presentationStart(const AVFormatContext& context,
@@ -275,6 +283,7 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
         const FirstPictures first = reader.read(stop);
         video->dynamicRange =
             describeDynamicRange(*context.streams[video->facts.streamIndex], reader.picture());
+        video->fieldOrder = fieldOrderOf(*video->parameters, reader.picture());
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;

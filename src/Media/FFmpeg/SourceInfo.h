@@ -16,7 +16,8 @@ struct SourceTrack {
     CodecParametersPtr parameters;
     AVRational averageFrameRate{0, 1};
     AVRational sampleAspectRatio{0, 1};
-    /// Of the first video track.
+    /// Of the first video track; never "unknown".
+    AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
     HighDynamicRange dynamicRange;
     DictionaryPtr metadata;
     int disposition = 0;
@@ -26,6 +27,8 @@ struct SourceTrack {
     /// Only pictures that others refer to come without a presentation time: theirs is the decoding
     /// time of the next such picture, which the demuxer can fill in.
     bool needsGeneratedTimes = false;
+
+    [[nodiscard]] bool isInterlaced() const { return fieldOrder != AV_FIELD_PROGRESSIVE; }
 };
 
 struct SourceChapter {
