@@ -1,0 +1,86 @@
+#include "Views/CropPainting.h"
+
+#include "Views/Theme.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace brisklet {
+
+namespace {
+
+constexpr double kDimming = 0.5;
+constexpr double kOutlineWidth = 2;
+constexpr double kHandleOutlineWidth = 1;
+constexpr double kHandleOutline = 0.4;
+constexpr double kFocusWidth = 2;
+
+QColor blackOf(double opacity) {
+    return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
+}
+
+} // namespace
+
+CropPainting::CropPainting(QPainter& painter, const CropGeometry& geometry,
+                           const QRectF& cropViewRect, const QPalette& palette)
+    : m_painter(painter),
+      m_geometry(geometry),
+      m_grid(painter),
+      m_crop(m_grid.rect(cropViewRect)),
+      m_palette(palette) {}
+
+double CropPainting::reach(const CropGeometry& geometry) {
+    // One more: edges may have been put on the pixels of the screen.
+    return std::max((geometry.handleSize + kHandleOutlineWidth) / 2, kOutlineWidth + kFocusWidth) +
+           1;
+}
+
+void CropPainting::paint(Focus focus) {
+    m_painter.setPen(Qt::NoPen);
+    paintDimming();
+    paintBorder(0, kOutlineWidth, Qt::white);
+    if (focus == Focus::shown)
+        paintBorder(kOutlineWidth, kFocusWidth, theme::accentFill(m_palette));
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    for (const CropHandle handle : kCropHandles)
+        paintHandle(handle);
+}
+
+void CropPainting::paintDimming() {
+    QPainterPath around;
+    around.setFillRule(Qt::OddEvenFill);
+    around.addRect(m_grid.rect(m_geometry.videoRect));
+    around.addRect(m_crop);
+    m_painter.fillPath(around, blackOf(kDimming));
+}
+
+void CropPainting::paintBorder(double inset, double width, const QColor& color) {
+    const double distance = inset > 0 ? m_grid.thickness(inset) : 0;
+    const double line = m_grid.thickness(width);
+    const QRectF outer = m_crop.adjusted(distance, distance, -distance, -distance);
+    const QRectF inner = outer.adjusted(line, line, -line, -line);
+    if (outer.isEmpty())
+        return;
+    QPainterPath border;
+    border.setFillRule(Qt::OddEvenFill);
+    border.addRect(outer);
+    if (!inner.isEmpty())
+        border.addRect(inner);
+    m_painter.fillPath(border, color);
+}
+
+void CropPainting::paintHandle(CropHandle handle) {
+    const QPointF middle = m_grid.point(CropGeometry::position(handle, m_crop));
+    const double radius = m_geometry.handleSize / 2;
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(Qt::white);
+    m_painter.drawEllipse(middle, radius, radius);
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.setPen(QPen(blackOf(kHandleOutline), kHandleOutlineWidth));
+    m_painter.drawEllipse(middle, radius, radius);
+    m_painter.setPen(Qt::NoPen);
+}
+
+} // namespace brisklet
