@@ -1,0 +1,169 @@
+#include "Views/ContentView.h"
+
+#include "Models/EditState.h"
+#include "Views/DropZoneView.h"
+#include "Views/EditorView.h"
+#include "Views/ErrorAlert.h"
+#include "Views/ExportProgressView.h"
+#include "Views/Theme.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QStackedLayout>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+constexpr qreal kDragFrameInset = 4;
+constexpr qreal kDragFrameRadius = 10;
+constexpr qreal kDragFrameWidth = 3;
+
+/// What a sandboxed application offers instead of names: the key of a transfer that the document
+/// portal keeps. The second is the name that older toolkits use for the same.
+QByteArray transferKey(const QMimeData& data) {
+    for (const QString& type : {QStringLiteral("application/vnd.portal.filetransfer"),
+                                QStringLiteral("application/vnd.portal.files")}) {
+        if (data.hasFormat(type)) {
+            const QByteArray key = data.data(type);
+            // Some toolkits send the final zero byte too.
+            return key.left(key.indexOf('\0') < 0 ? key.size() : key.indexOf('\0'));
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
+    : QWidget(parent),
+      m_state(std::move(state)),
+      m_faces(new QStackedLayout(this)),
+      m_dropZone(new DropZoneView(m_state)),
+      m_editor(new EditorView(m_state)) {
+    setAcceptDrops(true);
+    m_faces->addWidget(m_dropZone);
+    m_faces->addWidget(m_editor);
+    observe();
+    showFace();
+    showExport();
+    showError();
+}
+
+ContentView::~ContentView() {
+    // An export may keep the model for a while; this view no longer listens to it.
+    m_state->disconnect(this);
+}
+
+QWidget* ContentView::attachedSheet() const {
+    if (m_alert)
+        return m_alert;
+    return m_exportSheet;
+}
+
+void ContentView::observe() {
+    const EditState* state = m_state.get();
+    connect(state, &EditState::videoURLChanged, this, &ContentView::showFace);
+    connect(state, &EditState::exportProgressChanged, this, &ContentView::showExport);
+    connect(state, &EditState::errorMessageChanged, this, &ContentView::showError);
+}
+
+void ContentView::showFace() {
+    if (m_state->videoURL())
+        m_faces->setCurrentWidget(m_editor);
+    else
+        m_faces->setCurrentWidget(m_dropZone);
+}
+
+void ContentView::showExport() {
+    const std::optional<double> progress = m_state->exportProgress();
+    if (!progress) {
+        delete m_exportSheet;
+        return;
+    }
+    if (!m_exportSheet) {
+        m_exportSheet = new ExportProgressView(m_state, this);
+        m_exportSheet->open();
+    }
+    m_exportSheet->setProgress(*progress);
+}
+
+void ContentView::showError() {
+    const auto& message = m_state->errorMessage();
+    if (!message) {
+        if (m_alert)
+            m_alert->close();
+        return;
+    }
+    if (!m_alert) {
+        m_alert = new ErrorAlert(this);
+        connect(m_alert, &QDialog::finished, this, [this] { m_state->clearErrorMessage(); });
+    }
+    m_alert->setMessage(*message);
+    m_alert->open();
+}
+
+bool ContentView::isDroppable(const QMimeData& mimeData) const {
+    return mimeData.hasUrls() || (m_fileTransfer && !transferKey(mimeData).isEmpty());
+}
+
+void ContentView::setDragOver(bool isDragOver) {
+    m_isDragOver = isDragOver;
+    m_dropZone->setLit(isDragOver);
+    update();
+}
+
+void ContentView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!isDroppable(*event->mimeData()))
+        return;
+    // Whatever the other side proposes, its file stays where it is.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setDragOver(true);
+}
+
+void ContentView::dragLeaveEvent(QDragLeaveEvent* event) {
+    QWidget::dragLeaveEvent(event);
+    setDragOver(false);
+}
+
+void ContentView::dropEvent(QDropEvent* event) {
+    setDragOver(false);
+    const QMimeData& mimeData = *event->mimeData();
+    const QList<QUrl> urls = mimeData.urls();
+    const QByteArray key = m_fileTransfer ? transferKey(mimeData) : QByteArray();
+    if (urls.isEmpty() && key.isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The names that a sandboxed application knows its files by may mean nothing outside.
+    if (!key.isEmpty())
+        loadTransferred(key);
+    else
+        m_state->load(urls.first());
+}
+
+void ContentView::loadTransferred(const QByteArray& key) {
+    m_fileTransfer(key, [weak = std::weak_ptr(m_state)](const QList<QUrl>& files) {
+        const auto state = weak.lock();
+        if (state && !files.isEmpty())
+            state->load(files.first());
+    });
+}
+
+void ContentView::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (!m_isDragOver || m_faces->currentWidget() == m_dropZone)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme::accent(palette()), kDragFrameWidth));
+    const QRectF frame = QRectF(rect()).adjusted(kDragFrameInset, kDragFrameInset, -kDragFrameInset,
+                                                 -kDragFrameInset);
+    painter.drawRoundedRect(frame, kDragFrameRadius, kDragFrameRadius);
+}
+
+} // namespace brisklet

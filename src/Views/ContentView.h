@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QPointer>
+#include <QUrl>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QMimeData;
+class QStackedLayout;
+
+namespace brisklet {
+
+class DropZoneView;
+class EditState;
+class ErrorAlert;
+class ExportProgressView;
+
+/// All that one editor window contains: the drop zone while it is empty, else the editor. Takes
+/// dropped files on either, shows the model's error message as an alert and a running export as a
+/// sheet. Main thread.
+class ContentView final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Asks the desktop for the files behind the key of a transfer that a sandboxed application
+    /// began, and calls `done` with them, or with none, on the main thread, now or later.
+    using FileTransfer =
+        std::function<void(const QByteArray& key, std::function<void(const QList<QUrl>&)> done)>;
+
+    explicit ContentView(std::shared_ptr<EditState> state, QWidget* parent = nullptr);
+    ~ContentView() override;
+
+    [[nodiscard]] const std::shared_ptr<EditState>& state() const { return m_state; }
+
+    /// Without one, drops that carry only such a key are refused.
+    void setFileTransfer(FileTransfer transfer) { m_fileTransfer = std::move(transfer); }
+
+    /// While an export or an alert keeps the window: the sheet or alert over it, else null.
+    [[nodiscard]] QWidget* attachedSheet() const;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void observe();
+
+    void showFace();
+    void showExport();
+    void showError();
+
+    [[nodiscard]] bool isDroppable(const QMimeData& mimeData) const;
+    void setDragOver(bool isDragOver);
+    void loadTransferred(const QByteArray& key);
+
+    std::shared_ptr<EditState> m_state;
+    FileTransfer m_fileTransfer;
+    QStackedLayout* m_faces;
+    DropZoneView* m_dropZone;
+    QWidget* m_editor;
+    QPointer<ExportProgressView> m_exportSheet;
+    QPointer<ErrorAlert> m_alert;
+    bool m_isDragOver = false;
+};
+
+} // namespace brisklet

@@ -1,0 +1,48 @@
+#include "Views/EditorView.h"
+
+#include "Views/ControlsView.h"
+#include "Views/TimelineView.h"
+#include "Views/VideoArea.h"
+
+#include <algorithm>
+
+namespace brisklet {
+
+namespace {
+
+/// Around the rows and between them, points.
+constexpr int kPadding = 12;
+constexpr int kSpacing = 12;
+constexpr int kStripHeight = 56;
+constexpr int kHandleWidth = 12;
+
+} // namespace
+
+EditorView::EditorView(const std::shared_ptr<EditState>& state, QWidget* parent)
+    : QWidget(parent),
+      m_videoArea(new VideoArea(state, this)),
+      m_timeline(new TimelineView(state, kStripHeight, kHandleWidth, this)),
+      m_controls(new ControlsView(state, this)) {}
+
+QSize EditorView::minimumSizeHint() const {
+    return {m_controls->minimumSizeHint().width() + 2 * kPadding,
+            m_timeline->sizeHint().height() + m_controls->sizeHint().height() + 2 * kPadding +
+                2 * kSpacing};
+}
+
+void EditorView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int rowWidth = width() - 2 * kPadding;
+    const int controlsHeight = m_controls->sizeHint().height();
+    const int timelineHeight = m_timeline->sizeHint().height();
+    const int controlsTop = height() - kPadding - controlsHeight;
+    const int timelineTop = controlsTop - kSpacing - timelineHeight;
+    m_videoArea->setGeometry(kPadding, kPadding, rowWidth,
+                             std::max(0, timelineTop - kSpacing - kPadding));
+    m_timeline->setGeometry(kPadding, timelineTop, rowWidth, timelineHeight);
+    // The frames of the buttons align with the rows above, not what lights up around them.
+    const int inset = ControlsView::leftInset();
+    m_controls->setGeometry(kPadding - inset, controlsTop, rowWidth + inset, controlsHeight);
+}
+
+} // namespace brisklet

@@ -1,0 +1,101 @@
+#include "Views/VideoArea.h"
+
+#include "Models/EditState.h"
+#include "Views/CropOverlayView.h"
+#include "Views/PlayerContainerView.h"
+#include "Views/PlayerLayerView.h"
+
+#include <QPainter>
+#include <QPaintEvent>
+#include <QPainterPath>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+constexpr int kCornerRadius = 8;
+constexpr int kCropHandleSize = 12;
+
+/// Covers what of a corner lies outside the rounding, with the colour of the window: cheaper than
+/// clipping each frame of the video.
+class Corner final : public QWidget {
+public:
+    /// `center` is where in the widget the rounding has its centre.
+    Corner(QPoint center, QWidget* parent) : QWidget(parent), m_center(center) {
+        setFixedSize(kCornerRadius, kCornerRadius);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainterPath outside;
+        outside.addRect(rect());
+        QPainterPath circle;
+        circle.addEllipse(QPointF(m_center), kCornerRadius, kCornerRadius);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(outside - circle, palette().color(QPalette::Window));
+    }
+
+private:
+    QPoint m_center;
+};
+
+} // namespace
+
+QRectF fittedPicture(media::Size picture, QSizeF area) {
+    const media::Size shown =
+        picture.width == 0 && picture.height == 0 ? media::Size{16, 9} : picture;
+    const media::Rect fitted = media::fitAspect(shown, {0, 0, area.width(), area.height()});
+    return {fitted.x, fitted.y, fitted.width, fitted.height};
+}
+
+VideoArea::VideoArea(std::shared_ptr<EditState> state, QWidget* parent)
+    : QWidget(parent),
+      m_state(std::move(state)),
+      m_player(new PlayerContainerView(m_state->playerController().player(), this)),
+      m_cropOverlay(new CropOverlayView(m_state, kCropHandleSize, this)) {
+    constexpr std::array kCenters{QPoint(kCornerRadius, kCornerRadius), QPoint(0, kCornerRadius),
+                                  QPoint(0, 0), QPoint(kCornerRadius, 0)};
+    for (std::size_t i = 0; i < m_corners.size(); ++i)
+        m_corners[i] = new Corner(kCenters[i], this);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+
+    const EditState* model = m_state.get();
+    connect(model, &EditState::displaySizeChanged, this, &VideoArea::layOut);
+    connect(model, &EditState::rotationChanged, this, &VideoArea::showRotation);
+    showRotation();
+}
+
+VideoArea::~VideoArea() {
+    m_state->disconnect(this);
+}
+
+void VideoArea::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    layOut();
+}
+
+void VideoArea::showRotation() {
+    m_player->layerView().setRotation(m_state->rotation());
+    layOut();
+}
+
+void VideoArea::layOut() {
+    const QRectF picture = fittedPicture(m_state->rotatedDisplaySize(), size());
+    m_player->setGeometry(picture.toAlignedRect().intersected(rect()));
+    m_cropOverlay->setGeometry(rect());
+    m_cropOverlay->setVideoRect(picture);
+    m_corners[0]->move(0, 0);
+    m_corners[1]->move(width() - kCornerRadius, 0);
+    m_corners[2]->move(width() - kCornerRadius, height() - kCornerRadius);
+    m_corners[3]->move(0, height() - kCornerRadius);
+}
+
+void VideoArea::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), Qt::black);
+}
+
+} // namespace brisklet

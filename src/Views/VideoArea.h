@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Media/Geometry.h"
+
+#include <QRectF>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+namespace brisklet {
+
+class CropOverlayView;
+class EditState;
+class PlayerContainerView;
+
+/// Where a picture of `picture` pixels stands in an area of `area` points: whole, centred, as large
+/// as possible. A picture of unknown size (0 × 0) stands as 16:9.
+QRectF fittedPicture(media::Size picture, QSizeF area);
+
+/// The picture on black with round corners, and the crop over it. Main thread.
+class VideoArea final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit VideoArea(std::shared_ptr<EditState> state, QWidget* parent = nullptr);
+    ~VideoArea() override;
+
+    [[nodiscard]] PlayerContainerView& player() const { return *m_player; }
+
+    [[nodiscard]] CropOverlayView& cropOverlay() const { return *m_cropOverlay; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void layOut();
+    void showRotation();
+
+    std::shared_ptr<EditState> m_state;
+    PlayerContainerView* m_player;
+    CropOverlayView* m_cropOverlay;
+    /// Top left, top right, bottom right, bottom left.
+    std::array<QWidget*, 4> m_corners{};
+};
+
+} // namespace brisklet
