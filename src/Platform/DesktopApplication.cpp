@@ -1,0 +1,110 @@
+#include "Platform/DesktopApplication.h"
+
+#include "Platform/ApplicationAdaptor.h"
+
+#include <QCoreApplication>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QStringList>
+
+#include <stdexcept>
+
+namespace brisklet {
+
+namespace {
+
+const QString& interfaceName() {
+    static const QString name = QStringLiteral("org.freedesktop.Application");
+    return name;
+}
+
+/// How often the owner may change while a request looks for one to take it.
+constexpr int kMostAttempts = 20;
+/// The owner answers from its event loop, which is never busy for anywhere near this long.
+constexpr int kAnswerTimeoutMs = 20000;
+
+} // namespace
+
+DesktopApplication::DesktopApplication(QDBusConnection bus, const QString& name, QObject* parent)
+    : QObject(parent),
+      m_bus(std::move(bus)),
+      m_name(name),
+      m_path(u'/' + QString(name).replace(u'.', u'/').replace(u'-', u'_')) {
+    new ApplicationAdaptor(this);
+}
+
+DesktopApplication::~DesktopApplication() {
+    if (m_isOwner)
+        m_bus.unregisterService(m_name);
+    m_bus.unregisterObject(m_path);
+}
+
+DesktopApplication::Role DesktopApplication::claim(const QList<QUrl>& files,
+                                                   const QVariantMap& platformData) {
+    // The object stands before the name does, so the first call after that finds it.
+    if (!m_bus.isConnected() || !m_bus.registerObject(m_path, this))
+        return Role::alone;
+    for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
+        m_isOwner = m_bus.registerService(m_name);
+        if (m_isOwner)
+            return Role::owner;
+        if (handOver(files, platformData)) {
+            m_bus.unregisterObject(m_path);
+            return Role::handedOver;
+        }
+        if (!m_bus.isConnected())
+            break;
+    }
+    return Role::alone;
+}
+
+bool DesktopApplication::handOver(const QList<QUrl>& files, const QVariantMap& platformData) {
+    const QString owner = ownerOfName();
+    if (owner.isEmpty())
+        return false;
+    // To the process and not to the name: what one owner did not take while it ended must not
+    // reach the next one in addition to a second attempt.
+    QDBusMessage call = QDBusMessage::createMethodCall(owner, m_path, interfaceName(),
+                                                       files.isEmpty() ? QStringLiteral("Activate")
+                                                                       : QStringLiteral("Open"));
+    if (!files.isEmpty()) {
+        QStringList uris;
+        for (const QUrl& file : files)
+            uris << QString::fromLatin1(file.toEncoded());
+        call << uris;
+    }
+    call << platformData;
+    const QDBusMessage reply = m_bus.call(call, QDBus::Block, kAnswerTimeoutMs);
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return true;
+    if (ownerOfName() == owner)
+        throw std::runtime_error("Brisklet is running already, but it doesn't answer.");
+    return false;
+}
+
+QString DesktopApplication::ownerOfName() const {
+    const QDBusReply<QString> owner = m_bus.interface()->serviceOwner(m_name);
+    return owner.isValid() ? owner.value() : QString();
+}
+
+void DesktopApplication::release() {
+    if (!m_isOwner)
+        return;
+    m_isOwner = false;
+    // The bus answers after it has passed on everything that was sent to the name before; those
+    // calls wait in the event queue by now.
+    m_bus.unregisterService(m_name);
+    QCoreApplication::sendPostedEvents(this);
+}
+
+QVariantMap DesktopApplication::launchData() {
+    QVariantMap data;
+    if (const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN"); !token.isEmpty())
+        data.insert(QStringLiteral("activation-token"), QString::fromUtf8(token));
+    if (const QByteArray id = qgetenv("DESKTOP_STARTUP_ID"); !id.isEmpty())
+        data.insert(QStringLiteral("desktop-startup-id"), QString::fromUtf8(id));
+    return data;
+}
+
+} // namespace brisklet

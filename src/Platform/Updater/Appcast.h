@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+#include <vector>
+
+namespace brisklet {
+
+/// One release in a feed.
+struct AppcastItem {
+    /// What is compared, and what people are shown.
+    QString version;
+    QString shortVersion;
+    /// The oldest release of the system that it runs on; empty for all.
+    QString minimumSystemVersion;
+    /// Plain text.
+    QString releaseNotes;
+    QUrl packageUrl;
+    /// Of the package, in bytes; positive.
+    qint64 length = 0;
+    /// Ed25519 over the whole package: 64 bytes.
+    QByteArray signature;
+};
+
+/// Reads the releases for Linux out of an RSS feed. Entries that lack what an update needs are left
+/// out. Throws std::runtime_error with a sentence for the user where the document is no feed.
+std::vector<AppcastItem> parseAppcast(const QByteArray& document);
+
+/// The newest release that is newer than `currentVersion` and runs on `systemVersion`; none where
+/// there is no such one.
+std::optional<AppcastItem> newestUpdate(const std::vector<AppcastItem>& items,
+                                        const QString& currentVersion,
+                                        const QString& systemVersion);
+
+} // namespace brisklet

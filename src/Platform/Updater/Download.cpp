@@ -1,0 +1,124 @@
+#include "Platform/Updater/Download.h"
+
+#include <QCoreApplication>
+#include <QHostAddress>
+#include <QNetworkAccessManager>
+#include <QNetworkRequest>
+#include <QTimer>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+constexpr int kMostRedirections = 5;
+
+bool isThisMachine(const QString& host) {
+    return host == u"localhost" || QHostAddress(host).isLoopback();
+}
+
+} // namespace
+
+bool isSafeAddress(const QUrl& url) {
+    if (!url.isValid() || url.host().isEmpty())
+        return false;
+    return url.scheme() == u"https" || (url.scheme() == u"http" && isThisMachine(url.host()));
+}
+
+Download::Download(QNetworkAccessManager& network, const QUrl& url, QIODevice& into, Limits limits,
+                   QObject* parent)
+    : QObject(parent), m_url(url), m_into(into), m_limits(limits) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, manager = QPointer<QNetworkAccessManager>(&network)] {
+            if (manager && !m_isFinished)
+                start(*manager);
+        },
+        Qt::QueuedConnection);
+    if (limits.duration)
+        QTimer::singleShot(*limits.duration, this,
+                           [this] { finish(tr("The server took too long.")); });
+}
+
+Download::~Download() {
+    cancel();
+    // This may be the reply's own signal that ends the download.
+    if (m_reply)
+        m_reply->deleteLater();
+}
+
+void Download::cancel() {
+    m_isFinished = true;
+    if (m_reply) {
+        m_reply->disconnect(this);
+        m_reply->abort();
+    }
+}
+
+void Download::start(QNetworkAccessManager& network) {
+    if (!isSafeAddress(m_url)) {
+        finish(tr("“%1” is not a secure address.").arg(m_url.toDisplayString()));
+        return;
+    }
+    QNetworkRequest request(m_url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::UserVerifiedRedirectPolicy);
+    request.setMaximumRedirectsAllowed(kMostRedirections);
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setHeader(QNetworkRequest::UserAgentHeader,
+                      QStringLiteral("Brisklet/") + QCoreApplication::applicationVersion());
+    request.setTransferTimeout(static_cast<int>(m_limits.silence.count()));
+    m_reply = network.get(request);
+    // Whatever the server sends at once, no more than this waits in memory.
+    m_reply->setReadBufferSize(256 * 1024);
+    connect(m_reply, &QNetworkReply::redirected, this, &Download::follow);
+    connect(m_reply, &QNetworkReply::readyRead, this, &Download::take);
+    connect(m_reply, &QNetworkReply::finished, this, &Download::complete);
+}
+
+void Download::follow(const QUrl& target) {
+    if (isSafeAddress(target))
+        Q_EMIT m_reply->redirectAllowed();
+    else
+        finish(tr("The server leads to “%1”, which is not a secure address.")
+                   .arg(target.toDisplayString()));
+}
+
+void Download::take() {
+    if (m_isFinished)
+        return;
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const QByteArray bytes = m_reply->readAll();
+    // What comes with a redirection or a refusal is no part of the file.
+    if (status != 200)
+        return;
+    m_received += bytes.size();
+    if (m_received > m_limits.most)
+        finish(tr("The server sends more than it should."));
+    else if (m_into.write(bytes) != bytes.size())
+        finish(tr("The download can't be stored: %1").arg(m_into.errorString()));
+    else
+        Q_EMIT progressed(m_received);
+}
+
+void Download::complete() {
+    take();
+    if (m_isFinished)
+        return;
+    if (m_reply->error() != QNetworkReply::NoError)
+        finish(m_reply->errorString());
+    else
+        finish({});
+}
+
+void Download::finish(const QString& failure) {
+    if (std::exchange(m_isFinished, true))
+        return;
+    if (m_reply)
+        m_reply->abort();
+    Q_EMIT finished(failure);
+}
+
+} // namespace brisklet

@@ -1,0 +1,32 @@
+#include "Platform/Updater/PackageSignature.h"
+
+#include <QFile>
+
+#include <sodium.h>
+
+namespace brisklet {
+
+namespace {
+
+const unsigned char* bytesOf(const QByteArray& array) {
+    return reinterpret_cast<const unsigned char*>(array.constData());
+}
+
+} // namespace
+
+bool isSigned(const QString& file, const QByteArray& signature, const QByteArray& publicKey) {
+    if (signature.size() != qsizetype{crypto_sign_BYTES} ||
+        publicKey.size() != qsizetype{crypto_sign_PUBLICKEYBYTES} || sodium_init() < 0)
+        return false;
+    QFile package(file);
+    if (!package.open(QIODevice::ReadOnly) || package.size() == 0)
+        return false;
+    // Mapped, so that the package need not fit into memory beside everything else.
+    const uchar* content = package.map(0, package.size());
+    return content != nullptr &&
+           crypto_sign_verify_detached(bytesOf(signature), content,
+                                       static_cast<unsigned long long>(package.size()),
+                                       bytesOf(publicKey)) == 0;
+}
+
+} // namespace brisklet

@@ -1,0 +1,293 @@
+#include "Platform/Updater/Updater.h"
+
+#include "Platform/Updater/Download.h"
+#include "Platform/Updater/PackageSignature.h"
+
+#include <QDir>
+#include <QFile>
+#include <QNetworkAccessManager>
+#include <QSettings>
+
+#include <exception>
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr qint64 kLongestFeed = 1024 * 1024;
+constexpr auto kFeedDuration = 60s;
+constexpr qint64 kLongestPackage = qint64{1024} * 1024 * 1024;
+constexpr qint64 kSecondsADay = 24 * 60 * 60;
+/// Looking at the clock this often notices a day that passed in sleep.
+constexpr auto kClockInterval = 1h;
+/// The first look, well after the window stands.
+constexpr auto kFirstLook = 10s;
+
+QString skippedKey() {
+    return QStringLiteral("skippedVersion");
+}
+
+QString lastCheckKey() {
+    return QStringLiteral("lastCheck");
+}
+
+QString automaticKey() {
+    return QStringLiteral("automaticChecks");
+}
+
+QString hasRunKey() {
+    return QStringLiteral("hasRunBefore");
+}
+
+/// A name that is nothing but a name, whatever the address says.
+QString fileNameOf(const QUrl& url) {
+    QString name;
+    for (const QChar letter : url.fileName()) {
+        const bool isPlain = letter.unicode() < 128 && (letter.isLetterOrNumber() ||
+                                                        QStringLiteral("._-+~").contains(letter));
+        name += isPlain ? letter : QChar(u'_');
+    }
+    while (name.startsWith(u'.'))
+        name.remove(0, 1);
+    return name.isEmpty() ? QStringLiteral("brisklet-update") : name;
+}
+
+} // namespace
+
+Updater::Updater(UpdaterConfiguration configuration, UpdateDriver& driver, bool startingUpdater,
+                 QObject* parent)
+    : QObject(parent),
+      m_configuration(std::move(configuration)),
+      m_driver(driver),
+      m_isStarted(startingUpdater && !m_configuration.feed.isEmpty()) {
+    if (!m_isStarted)
+        return;
+    m_daily.setTimerType(Qt::VeryCoarseTimer);
+    connect(&m_daily, &QTimer::timeout, this, [this] {
+        m_daily.setInterval(kClockInterval);
+        begin();
+    });
+    m_daily.start(kFirstLook);
+}
+
+Updater::~Updater() {
+    delete std::exchange(m_download, nullptr);
+}
+
+void Updater::begin() {
+    QSettings& settings = *m_configuration.settings;
+    if (settings.contains(automaticKey())) {
+        checkIfDue(QDateTime::currentDateTimeUtc());
+        return;
+    }
+    // Nobody is asked on the first day with a new program.
+    if (!settings.value(hasRunKey()).toBool()) {
+        settings.setValue(hasRunKey(), true);
+        m_daily.stop();
+        return;
+    }
+    m_daily.stop();
+    m_driver.askForAutomaticChecks([self = QPointer(this)](bool allowed) {
+        if (!self)
+            return;
+        self->m_configuration.settings->setValue(automaticKey(), allowed);
+        if (allowed)
+            self->m_daily.start(kFirstLook);
+    });
+}
+
+bool Updater::canCheckForUpdates() const {
+    return m_state == State::idle && !m_configuration.feed.isEmpty();
+}
+
+void Updater::checkForUpdates() {
+    if (canCheckForUpdates())
+        check(Mode::byCommand);
+}
+
+void Updater::checkIfDue(const QDateTime& now) {
+    const QSettings& settings = *m_configuration.settings;
+    if (!canCheckForUpdates() || !settings.value(automaticKey()).toBool())
+        return;
+    const QDateTime last = settings.value(lastCheckKey()).toDateTime();
+    // A clock that was set back must not end the checks for ever.
+    const bool isRecent = last.isValid() && last <= now && last.secsTo(now) < kSecondsADay;
+    if (isRecent)
+        return;
+    m_configuration.settings->setValue(lastCheckKey(), now);
+    check(Mode::byItself);
+}
+
+void Updater::check(Mode mode) {
+    m_mode = mode;
+    setState(State::checking);
+    if (mode == Mode::byCommand)
+        m_driver.showChecking([self = QPointer(this)] {
+            if (self && self->m_state == State::checking)
+                self->goIdle();
+        });
+    m_feed.close();
+    m_feed.setData(QByteArray());
+    m_feed.open(QIODevice::WriteOnly);
+    startDownload(m_configuration.feed, m_feed, kLongestFeed, true);
+}
+
+void Updater::startDownload(const QUrl& url, QIODevice& into, qint64 most, bool isFeed) {
+    Download::Limits limits{.most = most};
+    if (isFeed)
+        limits.duration = kFeedDuration;
+    m_download = new Download(network(), url, into, limits, this);
+    if (isFeed) {
+        connect(m_download, &Download::finished, this, &Updater::feedArrived);
+        return;
+    }
+    connect(m_download, &Download::finished, this, &Updater::packageArrived);
+    connect(m_download, &Download::progressed, this,
+            [this](qint64 bytes) { m_driver.showDownloaded(bytes); });
+}
+
+QNetworkAccessManager& Updater::network() {
+    if (m_network == nullptr)
+        m_network = new QNetworkAccessManager(this);
+    return *m_network;
+}
+
+void Updater::feedArrived(const QString& failure) {
+    if (!failure.isEmpty()) {
+        fail(tr("Couldn't check for updates: %1").arg(failure));
+        return;
+    }
+    std::optional<AppcastItem> update;
+    try {
+        update = newestUpdate(parseAppcast(m_feed.data()), m_configuration.currentVersion,
+                              m_configuration.systemVersion);
+    } catch (const std::exception& error) {
+        fail(tr("Couldn't check for updates: %1").arg(QString::fromUtf8(error.what())));
+        return;
+    }
+    const bool isByItself = m_mode == Mode::byItself;
+    const bool isSkipped =
+        update && isByItself &&
+        m_configuration.settings->value(skippedKey()).toString() == update->version;
+    if (update && !isSkipped) {
+        offer(*update);
+        return;
+    }
+    goIdle();
+    if (!isByItself)
+        m_driver.showUpToDate(m_configuration.currentVersion);
+}
+
+void Updater::offer(const AppcastItem& item) {
+    endDownload();
+    setState(State::offering);
+    m_driver.showUpdate(item, m_configuration.currentVersion,
+                        [self = QPointer(this), item](UpdateChoice choice) {
+                            if (self && self->m_state == State::offering)
+                                self->answered(item, choice);
+                        });
+}
+
+void Updater::answered(const AppcastItem& item, UpdateChoice choice) {
+    QSettings& settings = *m_configuration.settings;
+    if (choice == UpdateChoice::skipThisVersion)
+        settings.setValue(skippedKey(), item.version);
+    else
+        settings.remove(skippedKey());
+    if (choice == UpdateChoice::install)
+        downloadPackage(item);
+    else
+        goIdle();
+}
+
+void Updater::downloadPackage(const AppcastItem& item) {
+    m_item = item;
+    m_mode = Mode::byCommand;
+    const QDir folder(m_configuration.downloadFolder);
+    m_package = std::make_unique<QFile>(folder.filePath(fileNameOf(item.packageUrl)) +
+                                        QStringLiteral(".part"));
+    setState(State::downloading);
+    if (item.length > kLongestPackage) {
+        fail(tr("The update is too large."));
+        return;
+    }
+    if (!folder.mkpath(QStringLiteral(".")) ||
+        !m_package->open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        fail(tr("The update can't be stored: %1").arg(m_package->errorString()));
+        return;
+    }
+    m_driver.showDownload(item, [self = QPointer(this)] {
+        if (self && self->m_state == State::downloading)
+            self->goIdle();
+    });
+    startDownload(item.packageUrl, *m_package, item.length, false);
+}
+
+void Updater::packageArrived(const QString& failure) {
+    if (!failure.isEmpty()) {
+        fail(tr("The update couldn't be downloaded: %1").arg(failure));
+        return;
+    }
+    const bool isStored = m_package->flush() && m_package->error() == QFileDevice::NoError;
+    m_package->close();
+    if (!isStored)
+        fail(tr("The update can't be stored: %1").arg(m_package->errorString()));
+    else if (m_package->size() != m_item.length)
+        fail(tr("The update is incomplete. It hasn't been installed."));
+    else if (!isSigned(m_package->fileName(), m_item.signature, m_configuration.publicKey))
+        fail(tr("The update isn't genuine: its signature is wrong. It hasn't been installed."));
+    else
+        openChecked();
+}
+
+void Updater::openChecked() {
+    QString name = m_package->fileName();
+    name.chop(QStringLiteral(".part").size());
+    QFile::remove(name);
+    if (!m_package->rename(name)) {
+        fail(tr("The update can't be stored: %1").arg(m_package->errorString()));
+        return;
+    }
+    m_package.reset();
+    goIdle();
+    if (!m_driver.openPackage(name))
+        m_driver.showFailure(tr("There is no program to install the update with. "
+                                "It is here: %1")
+                                 .arg(name));
+}
+
+void Updater::endDownload() {
+    if (m_download == nullptr)
+        return;
+    m_download->cancel();
+    std::exchange(m_download, nullptr)->deleteLater();
+}
+
+void Updater::fail(const QString& message) {
+    const bool isShown = m_mode == Mode::byCommand;
+    goIdle();
+    if (isShown)
+        m_driver.showFailure(message);
+}
+
+void Updater::goIdle() {
+    endDownload();
+    if (m_package) {
+        m_package->remove();
+        m_package.reset();
+    }
+    m_driver.dismiss();
+    setState(State::idle);
+}
+
+void Updater::setState(State state) {
+    const bool could = canCheckForUpdates();
+    m_state = state;
+    if (could != canCheckForUpdates())
+        Q_EMIT canCheckForUpdatesChanged();
+}
+
+} // namespace brisklet

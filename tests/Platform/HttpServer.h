@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QTcpServer>
+#include <QUrl>
+
+namespace testsupport {
+
+/// What the server says to one request.
+struct HttpAnswer {
+    QByteArray body;
+    QByteArray status = "200 OK";
+    /// Full lines, each with its line end.
+    QByteArray headers;
+    /// The body is sent again and again, without a length.
+    bool isEndless = false;
+    /// Headers are sent, and then nothing.
+    bool isSilent = false;
+};
+
+/// A web server on this machine, for one test. Answers from the event loop.
+class HttpServer final : public QTcpServer {
+public:
+    HttpServer();
+
+    /// The address of a path ("/feed.xml").
+    QUrl url(const QString& path) const;
+
+    QMap<QString, HttpAnswer> answers;
+    int requestCount = 0;
+
+private:
+    void serve();
+    void answer(QTcpSocket* socket);
+};
+
+} // namespace testsupport

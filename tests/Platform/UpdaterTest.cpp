@@ -1,0 +1,391 @@
+#include "Platform/Updater/Updater.h"
+
+#include "HttpServer.h"
+#include "QtSupport/EventPump.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sodium.h>
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+using namespace brisklet;
+using testsupport::HttpServer;
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+
+/// Remembers what the user would see, and answers as the test says.
+class FakeDriver final : public UpdateDriver {
+public:
+    void askForAutomaticChecks(std::function<void(bool)> answer) override {
+        automaticAnswer = std::move(answer);
+    }
+
+    void showChecking(std::function<void()> cancelChecking) override {
+        cancel = std::move(cancelChecking);
+        ++checkingCount;
+    }
+
+    void showUpToDate(const QString& /*currentVersion*/) override { isUpToDate = true; }
+
+    void showUpdate(const AppcastItem& item, const QString& /*currentVersion*/,
+                    std::function<void(UpdateChoice)> answer) override {
+        offered = item;
+        choose = std::move(answer);
+    }
+
+    void showDownload(const AppcastItem& /*item*/, std::function<void()> cancelDownload) override {
+        cancel = std::move(cancelDownload);
+    }
+
+    void showDownloaded(qint64 bytes) override { downloaded = bytes; }
+
+    void showFailure(const QString& message) override { failure = message; }
+
+    void dismiss() override {}
+
+    bool openPackage(const QString& file) override {
+        opened = file;
+        return true;
+    }
+
+    void forget() {
+        automaticAnswer = {};
+        checkingCount = 0;
+        isUpToDate = false;
+        offered.reset();
+        downloaded = 0;
+        failure.clear();
+        opened.clear();
+    }
+
+    bool isSettled() const { return isUpToDate || offered || !failure.isEmpty(); }
+
+    std::function<void(bool)> automaticAnswer;
+    std::function<void()> cancel;
+    std::function<void(UpdateChoice)> choose;
+    int checkingCount = 0;
+    bool isUpToDate = false;
+    std::optional<AppcastItem> offered;
+    qint64 downloaded = 0;
+    QString failure;
+    QString opened;
+};
+
+class UpdaterTest : public testing::Test {
+protected:
+    UpdaterTest() {
+        EXPECT_GE(sodium_init(), 0);
+        crypto_sign_keypair(bytes(m_publicKey), bytes(m_secretKey));
+        m_configuration = {
+            .feed = m_server.url(QStringLiteral("/feed.xml")),
+            .publicKey = m_publicKey,
+            .currentVersion = QStringLiteral("1.2"),
+            .systemVersion = QStringLiteral("12"),
+            .downloadFolder = m_folder.filePath(QStringLiteral("updates")),
+            .settings = std::make_shared<QSettings>(
+                m_folder.filePath(QStringLiteral("updates.ini")), QSettings::IniFormat)};
+        m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")] = {.body = m_package};
+        serveFeed(item("1.3"));
+    }
+
+    static unsigned char* bytes(QByteArray& array) {
+        return reinterpret_cast<unsigned char*>(array.data());
+    }
+
+    QByteArray signatureOf(QByteArray package) {
+        QByteArray signature(crypto_sign_BYTES, '\0');
+        crypto_sign_detached(bytes(signature), nullptr, bytes(package),
+                             static_cast<unsigned long long>(package.size()), bytes(m_secretKey));
+        return signature.toBase64();
+    }
+
+    QByteArray enclosure(qint64 length, const QByteArray& signature) const {
+        return "<enclosure url=\"" +
+               m_server.url(QStringLiteral("/brisklet_1.3_amd64.deb")).toEncoded() +
+               "\" length=\"" + QByteArray::number(length) + "\" sparkle:edSignature=\"" +
+               signature + "\" type=\"application/vnd.debian.binary-package\"/>";
+    }
+
+    QByteArray item(const QByteArray& version, const QByteArray& more = {}) {
+        return "<item><sparkle:version>" + version + "</sparkle:version>" +
+               "<sparkle:shortVersionString>" + version + " beta</sparkle:shortVersionString>" +
+               "<description><![CDATA[<h1>New</h1><p>Faster &amp; <b>smaller</b></p>]]>"
+               "</description>" +
+               more + enclosure(m_package.size(), signatureOf(m_package)) + "</item>";
+    }
+
+    void serveFeed(const QByteArray& items) {
+        m_server.answers[QStringLiteral("/feed.xml")] = {
+            .body = "<?xml version=\"1.0\"?><rss version=\"2.0\" "
+                    "xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\">"
+                    "<channel><title>Brisklet</title>" +
+                    items + "</channel></rss>"};
+    }
+
+    /// What a check by command comes to.
+    void check() {
+        m_updater = std::make_unique<Updater>(m_configuration, m_driver, false);
+        m_updater->checkForUpdates();
+        EXPECT_EQ(m_driver.checkingCount, 1);
+        ASSERT_TRUE(pumpUntil([this] { return m_driver.isSettled(); }));
+    }
+
+    /// What choosing to install comes to.
+    void install() {
+        check();
+        ASSERT_TRUE(m_driver.offered);
+        m_driver.choose(UpdateChoice::install);
+        ASSERT_TRUE(pumpUntil(
+            [this] { return !m_driver.opened.isEmpty() || !m_driver.failure.isEmpty(); }));
+    }
+
+    void expectNothingChanged() {
+        EXPECT_EQ(m_driver.opened, QString());
+        EXPECT_TRUE(
+            QDir(m_configuration.downloadFolder).entryList(QDir::Files | QDir::Hidden).isEmpty());
+        EXPECT_TRUE(m_updater->canCheckForUpdates());
+    }
+
+    QByteArray m_publicKey = QByteArray(crypto_sign_PUBLICKEYBYTES, '\0');
+    QByteArray m_secretKey = QByteArray(crypto_sign_SECRETKEYBYTES, '\0');
+    QByteArray m_package = QByteArray("a package ").repeated(100000);
+    QTemporaryDir m_folder;
+    HttpServer m_server;
+    FakeDriver m_driver;
+    UpdaterConfiguration m_configuration;
+    std::unique_ptr<Updater> m_updater;
+};
+
+TEST_F(UpdaterTest, offersDownloadsChecksAndOpensANewerRelease) {
+    install();
+    EXPECT_EQ(m_driver.failure, QString());
+    EXPECT_EQ(m_driver.offered->shortVersion, QStringLiteral("1.3 beta"));
+    EXPECT_EQ(m_driver.offered->releaseNotes, QStringLiteral("New\nFaster & smaller"));
+    EXPECT_EQ(m_driver.downloaded, m_package.size());
+    EXPECT_TRUE(m_driver.opened.endsWith(QStringLiteral("/brisklet_1.3_amd64.deb")));
+    QFile package(m_driver.opened);
+    ASSERT_TRUE(package.open(QIODevice::ReadOnly));
+    EXPECT_EQ(package.readAll(), m_package);
+    EXPECT_TRUE(m_updater->canCheckForUpdates());
+}
+
+TEST_F(UpdaterTest, takesTheNewestReleaseThatRunsHere) {
+    serveFeed(item("1.2.1") + item("1.10") + item("1.9") +
+              item("2.0", "<sparkle:minimumSystemVersion>13</sparkle:minimumSystemVersion>"));
+    check();
+    ASSERT_TRUE(m_driver.offered);
+    EXPECT_EQ(m_driver.offered->version, QStringLiteral("1.10"));
+}
+
+TEST_F(UpdaterTest, saysWhenThereIsNothingNewer) {
+    serveFeed(item("1.2") + item("1.1.9") + item("1.2b1"));
+    check();
+    EXPECT_TRUE(m_driver.isUpToDate);
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, refusesAFeedThatIsNoFeed) {
+    for (const char* body : {"", "<html><body>Hello</body></html>", "<rss><channel><item>",
+                             "<rss version=\"2.0\"></rss>", "\x01\x02\x03"}) {
+        m_driver.failure.clear();
+        m_driver.checkingCount = 0;
+        m_server.answers[QStringLiteral("/feed.xml")] = {.body = body};
+        check();
+        EXPECT_EQ(m_driver.failure,
+                  QStringLiteral("Couldn't check for updates: The update feed is damaged."));
+        expectNothingChanged();
+    }
+}
+
+TEST_F(UpdaterTest, refusesAFeedThatExpandsWithoutEnd) {
+    QByteArray document = "<?xml version=\"1.0\"?><!DOCTYPE rss [<!ENTITY a \"aaaaaaaaaa\">";
+    for (char name = 'b'; name < 'm'; ++name) {
+        const QByteArray former = QByteArray("&") + static_cast<char>(name - 1) + ';';
+        document += QByteArray("<!ENTITY ") + name + " \"" + former.repeated(10) + "\">";
+    }
+    document += "]><rss><channel><item><description>&l;</description></item></channel></rss>";
+    m_server.answers[QStringLiteral("/feed.xml")] = {.body = document};
+    check();
+    EXPECT_EQ(m_driver.failure,
+              QStringLiteral("Couldn't check for updates: The update feed is damaged."));
+}
+
+TEST_F(UpdaterTest, refusesAHugeAndAnEndlessFeed) {
+    m_server.answers[QStringLiteral("/feed.xml")] = {.body = QByteArray(2 << 20, ' ')};
+    check();
+    EXPECT_EQ(m_driver.failure, QStringLiteral("Couldn't check for updates: The server sends "
+                                               "more than it should."));
+    m_driver.failure.clear();
+    m_driver.checkingCount = 0;
+    m_server.answers[QStringLiteral("/feed.xml")] = {.body = QByteArray(65536, ' '),
+                                                     .isEndless = true};
+    check();
+    EXPECT_EQ(m_driver.failure, QStringLiteral("Couldn't check for updates: The server sends "
+                                               "more than it should."));
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, canBeCancelledWhileAServerSaysNothing) {
+    m_server.answers[QStringLiteral("/feed.xml")] = {.isSilent = true};
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, false);
+    m_updater->checkForUpdates();
+    EXPECT_FALSE(m_updater->canCheckForUpdates());
+    ASSERT_TRUE(pumpUntil([this] { return m_server.requestCount == 1; }));
+    m_driver.cancel();
+    EXPECT_TRUE(m_updater->canCheckForUpdates());
+    pumpPending();
+    EXPECT_FALSE(m_driver.isSettled());
+}
+
+TEST_F(UpdaterTest, refusesPlainHttpToOtherMachines) {
+    m_configuration.feed = QUrl(QStringLiteral("http://updates.invalid/feed.xml"));
+    check();
+    EXPECT_EQ(m_driver.failure,
+              QStringLiteral("Couldn't check for updates: “http://updates.invalid/feed.xml” is "
+                             "not a secure address."));
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, refusesARedirectionToPlainHttp) {
+    m_server.answers[QStringLiteral("/feed.xml")] = {
+        .status = "302 Found", .headers = "Location: http://updates.invalid/feed.xml\r\n"};
+    check();
+    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("not a secure address")))
+        << m_driver.failure.toStdString();
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, followsASafeRedirectionAndNoEndlessOne) {
+    m_server.answers[QStringLiteral("/moved.xml")] = m_server.answers[QStringLiteral("/feed.xml")];
+    m_server.answers[QStringLiteral("/feed.xml")] = {.status = "302 Found",
+                                                     .headers = "Location: /moved.xml\r\n"};
+    check();
+    EXPECT_TRUE(m_driver.offered);
+    m_driver.forget();
+    m_server.answers[QStringLiteral("/feed.xml")].headers = "Location: /feed.xml\r\n";
+    check();
+    EXPECT_TRUE(m_driver.failure.startsWith(QStringLiteral("Couldn't check for updates: ")));
+}
+
+TEST_F(UpdaterTest, saysThatThereIsNoSuchFeed) {
+    m_server.answers.clear();
+    check();
+    EXPECT_TRUE(m_driver.failure.startsWith(QStringLiteral("Couldn't check for updates: ")));
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, refusesAPackageOfAnotherLength) {
+    m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].body.chop(1);
+    install();
+    EXPECT_EQ(m_driver.failure,
+              QStringLiteral("The update is incomplete. It hasn't been installed."));
+    expectNothingChanged();
+    m_driver.forget();
+    m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].body += "..";
+    install();
+    EXPECT_EQ(m_driver.failure, QStringLiteral("The update couldn't be downloaded: The server "
+                                               "sends more than it should."));
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, refusesAPackageThatWasChanged) {
+    m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].body[500000] = '!';
+    install();
+    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("isn't genuine")));
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, refusesAPackageOfAnotherKey) {
+    crypto_sign_keypair(bytes(m_publicKey), bytes(m_secretKey));
+    serveFeed(item("1.3"));
+    install();
+    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("isn't genuine")));
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, leavesOutReleasesWithoutASignature) {
+    serveFeed("<item><sparkle:version>1.3</sparkle:version>" + enclosure(m_package.size(), "bm8=") +
+              "</item>");
+    check();
+    EXPECT_TRUE(m_driver.isUpToDate);
+}
+
+TEST_F(UpdaterTest, leavesNothingBehindWhenTheDownloadIsCancelled) {
+    m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].isSilent = true;
+    check();
+    m_driver.choose(UpdateChoice::install);
+    ASSERT_TRUE(pumpUntil([this] { return m_server.requestCount == 2; }));
+    m_driver.cancel();
+    pumpPending();
+    EXPECT_EQ(m_driver.failure, QString());
+    expectNothingChanged();
+}
+
+TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {
+    serveFeed(item("1.2"));
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
+    const QDateTime noon(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC);
+    m_updater->checkIfDue(noon);
+    EXPECT_TRUE(m_updater->canCheckForUpdates()) << "The user has not agreed.";
+    m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
+    m_updater->checkIfDue(noon);
+    EXPECT_FALSE(m_updater->canCheckForUpdates());
+    ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    m_updater->checkIfDue(noon.addSecs(23 * 3600));
+    EXPECT_TRUE(m_updater->canCheckForUpdates());
+    m_updater->checkIfDue(noon.addSecs(24 * 3600));
+    EXPECT_FALSE(m_updater->canCheckForUpdates());
+    ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    EXPECT_EQ(m_server.requestCount, 2);
+    EXPECT_FALSE(m_driver.isSettled()) << "What a check by itself finds not to be there is silent.";
+}
+
+TEST_F(UpdaterTest, keepsTheFailureOfACheckByItselfToItself) {
+    m_server.answers.clear();
+    m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
+    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC));
+    ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    EXPECT_FALSE(m_driver.isSettled());
+}
+
+TEST_F(UpdaterTest, offersASkippedReleaseOnlyByCommand) {
+    check();
+    m_driver.choose(UpdateChoice::skipThisVersion);
+    m_driver.forget();
+    m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
+    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC));
+    ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    EXPECT_FALSE(m_driver.offered);
+    check();
+    EXPECT_TRUE(m_driver.offered);
+    m_driver.choose(UpdateChoice::remindLater);
+    m_driver.forget();
+    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 3), QTime(12, 0), Qt::UTC));
+    ASSERT_TRUE(pumpUntil([this] { return m_driver.offered.has_value(); }));
+}
+
+TEST_F(UpdaterTest, doesNothingWithoutAFeed) {
+    m_configuration.feed = QUrl();
+    Updater updater(m_configuration, m_driver, true);
+    EXPECT_FALSE(updater.canCheckForUpdates());
+    EXPECT_FALSE(updater.isStarted());
+    updater.checkForUpdates();
+    pumpPending();
+    EXPECT_EQ(m_driver.checkingCount, 0);
+}
+
+TEST_F(UpdaterTest, neverStartsByItselfWhenItIsNotTold) {
+    EXPECT_FALSE(Updater(m_configuration, m_driver, false).isStarted());
+    EXPECT_TRUE(Updater(m_configuration, m_driver, true).isStarted());
+}
+
+} // namespace
