@@ -53,6 +53,8 @@ QPalette darkPalette() {
 
 Appearance::Appearance(QDBusConnection bus, QObject* parent)
     : QObject(parent), m_bus(std::move(bus)) {
+    // Qt finds no slot with a parameter of this type until somebody has used the type.
+    qRegisterMetaType<QDBusVariant>();
     m_bus.connect(QLatin1String(kService), QLatin1String(kPath), QLatin1String(kInterface),
                   QStringLiteral("SettingChanged"), this,
                   SLOT(settingChanged(QString, QString, QDBusVariant)));

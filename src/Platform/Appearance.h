@@ -17,8 +17,7 @@ public:
     explicit Appearance(QDBusConnection bus, QObject* parent = nullptr);
 
 private:
-    Q_SLOT void settingChanged(const QString& group, const QString& key,
-                               const QDBusVariant& value);
+    Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
     void ask();
     void apply(uint scheme);
 
