@@ -109,7 +109,7 @@ TEST_F(ExportedFile, writesTheIndexBeforeTheMedia) {
 TEST_F(ExportedFile, exportsRightWhereTheRoomForTheIndexIsTooSmall) {
     constexpr double kRate = 300;
     const auto source = cachedMedia(
-        "burst.mkv",
+        "burst.mp4",
         {"-f", "lavfi", "-i", "testsrc2=s=64x48:r=300:d=10.5", "-vf",
          "settb=1/90000,setpts='if(lt(N,100),N*54000,5400000+(N-100)*300)'", "-fps_mode",
          "passthrough", "-enc_time_base", "1:90000", "-preset", "ultrafast"});
@@ -124,7 +124,7 @@ TEST_F(ExportedFile, exportsRightWhereTheRoomForTheIndexIsTooSmall) {
             ASSERT_NEAR(times[i], static_cast<double>(i) / kRate, 2 * kMillisecond);
         EXPECT_EQ(testsupport::warningsWhilePlaying(output), "");
         // What was reserved is marked as free; no byte is left unaccounted for.
-        EXPECT_NO_THROW(static_cast<void>(testsupport::boxesIn(contentsOf(output))));
+        EXPECT_EQ(testsupport::boxesIn(contentsOf(output)).back().type, "moov");
         EXPECT_TRUE(testsupport::findBox(contentsOf(output), {"moov", "trak"}));
     }
 }
@@ -140,6 +140,9 @@ TEST_F(ExportedFile, statesTheSameLengthEverywhere) {
             EXPECT_NEAR(file.format.number("duration").value(), kLength, 1e-5);
             EXPECT_NEAR(file.streamsOf("video").at(0).number("duration").value(), kLength, 1e-5);
             EXPECT_NEAR(file.streamsOf("audio").at(0).number("duration").value(), kLength, 1e-4);
+            const auto picture = file.streamsOf("video").at(0);
+            EXPECT_NEAR(picture.number("avg_frame_rate").value(),
+                        picture.number("nb_frames").value() / kLength, 0.01);
         }
     }
 }

@@ -172,6 +172,8 @@ void VideoPipeline::drainEncoder() {
         // ones go before the first picture by no more than what has been handed in.
         if (packet->dts > packet->pts || packet->dts < -m_latestPts)
             packet->dts = packet->pts;
+        if (!m_held)
+            m_firstDts = packet->dts;
         m_end = std::max(m_end, packet->pts + packet->duration);
         if (m_held)
             m_output.packets.push(std::move(m_held));
@@ -182,10 +184,14 @@ void VideoPipeline::drainEncoder() {
 void VideoPipeline::pushLast() {
     if (!m_held)
         return;
-    // A track's length in the file is a sum of decoding times, which end before the presentation
-    // does where pictures are reordered. The last one to be decoded makes up for it.
-    m_held->dts = m_held->pts;
-    m_held->duration = m_end - m_held->pts;
+    // A track's length in the file, and with it its frame rate, is a sum of distances between
+    // decoding times: pictures of unequal length that are reordered do not fill it. The last
+    // picture to be decoded takes the difference, but none longer than the track is shown.
+    AVPacket& last = *m_held;
+    last.dts = std::max(last.dts, last.pts + m_firstDts);
+    const bool isShownLast = last.pts + last.duration == m_end;
+    last.duration =
+        std::max<std::int64_t>({m_end + m_firstDts - last.dts, 1, isShownLast ? last.duration : 1});
     m_output.packets.push(std::move(m_held));
 }
 

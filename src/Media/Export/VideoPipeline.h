@@ -67,6 +67,8 @@ private:
     /// Encode thread: the latest packet, kept until it is known not to be the last, and when the
     /// last picture's turn is over.
     ffmpeg::PacketPtr m_held;
+    /// Not above 0.
+    std::int64_t m_firstDts = 0;
     std::int64_t m_end = 0;
     /// Encode thread: from when on the last key frame is due, until it has been asked for.
     std::optional<std::int64_t> m_tailStart;

@@ -259,6 +259,22 @@ void describeChapters(SourceInfo& info, const AVFormatContext& context) {
     }
 }
 
+/// Time codes stand with the picture, with a track of their own or with the whole file.
+std::string findTimecode(const AVFormatContext& context, int pictureStream) {
+    const auto of = [](const AVDictionary* metadata) -> std::string {
+        const AVDictionaryEntry* entry = av_dict_get(metadata, "timecode", nullptr, 0);
+        return entry ? entry->value : "";
+    };
+    std::string code = pictureStream >= 0 ? of(context.streams[pictureStream]->metadata) : "";
+    if (code.empty())
+        code = of(context.metadata);
+    for (unsigned i = 0; i < context.nb_streams && code.empty(); ++i) {
+        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_DATA)
+            code = of(context.streams[i]->metadata);
+    }
+    return code;
+}
+
 } // namespace
 
 SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
@@ -300,6 +316,7 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
                                 info.origin;
     }
     describeChapters(info, context);
+    info.timecode = findTimecode(context, pictureStream);
     info.duration = info.tracks.empty() ? Time{0, 1} : findDuration(demuxer, file, info, stop);
     return info;
 }

@@ -2,15 +2,20 @@
 
 #include "Media/Export/OutputFile.h"
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/SourceFile.h"
+#include "Media/FFmpeg/Timecode.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
 #include <string_view>
+#include <string>
 #include <utility>
 
 extern "C" {
+#include <libavutil/avstring.h>
+#include <libavutil/intreadwrite.h>
 #include <libavutil/opt.h>
 }
 
@@ -31,13 +36,27 @@ bool belongsToTheOldFile(std::string_view key) {
     constexpr std::array<std::string_view, 7> kKeys = {
         "major_brand", "minor_version", "compatible_brands", "encoder", "vendor_id",
         "timecode",    "rotate"};
-    return std::ranges::find(kKeys, key) != kKeys.end();
+    // libav's dictionaries do not tell capitals apart.
+    return std::ranges::any_of(kKeys, [&](const std::string_view old) {
+        return std::ranges::equal(key, old, {}, [](char c) { return av_tolower(c); });
+    });
+}
+
+/// Some readers hand an entry out a second time under its language ("title-eng").
+bool isRepeatedUnderLanguage(const AVDictionary* source, const AVDictionaryEntry& entry) {
+    constexpr std::size_t kSuffix = 4;
+    const std::string_view key(entry.key);
+    if (key.size() <= kSuffix || key[key.size() - kSuffix] != '-')
+        return false;
+    const std::string base(key.substr(0, key.size() - kSuffix));
+    const AVDictionaryEntry* plain = av_dict_get(source, base.c_str(), nullptr, 0);
+    return plain && std::string_view(plain->value) == entry.value;
 }
 
 void copyEntries(AVDictionary** target, const AVDictionary* source) {
     const AVDictionaryEntry* entry = nullptr;
     while ((entry = av_dict_get(source, "", entry, AV_DICT_IGNORE_SUFFIX))) {
-        if (belongsToTheOldFile(entry->key))
+        if (belongsToTheOldFile(entry->key) || isRepeatedUnderLanguage(source, *entry))
             continue;
         check(av_dict_set(target, entry->key, entry->value, 0));
     }
@@ -84,6 +103,16 @@ void useQuickTimeLanguage(AVDictionary*& metadata) {
         check(av_dict_set(&metadata, "language", code->second, 0));
 }
 
+/// Readers that know no titles of tracks show the handler's name.
+void nameHandlerByTitle(AVDictionary*& metadata) {
+    const AVDictionaryEntry* title = av_dict_get(metadata, "title", nullptr, 0);
+    const AVDictionaryEntry* handler = av_dict_get(metadata, "handler_name", nullptr, 0);
+    const std::string_view name(handler ? handler->value : "");
+    // The latter two are what libav calls handlers without a name.
+    if (title && (name.empty() || name == "SoundHandler" || name == "VideoHandler"))
+        check(av_dict_set(&metadata, "handler_name", title->value, 0));
+}
+
 void setDisplayMatrix(AVStream& stream, const AffineTransform& transform) {
     if (transform == AffineTransform{})
         return;
@@ -127,7 +156,7 @@ struct Muxer::Io {
 };
 
 Muxer::Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range)
-    : m_type(type), m_io(new Io{file}) {
+    : m_type(type), m_info(info), m_range(range), m_io(new Io{file}) {
     silenceLog();
     auto* buffer = static_cast<unsigned char*>(allocated(av_malloc(kWriteBufferBytes)));
     m_ioContext.reset(allocated(avio_alloc_context(buffer, kWriteBufferBytes, 1, m_io.get(),
@@ -139,17 +168,17 @@ Muxer::Muxer(OutputFile& file, FileType type, const SourceInfo& info, const Time
     m_context->pb = m_ioContext.get();
     m_context->flags |= AVFMT_FLAG_CUSTOM_IO;
     copyEntries(&m_context->metadata, info.metadata.get());
-    addChapters(info, range);
+    addChapters();
 }
 
 Muxer::~Muxer() = default;
 
-void Muxer::addChapters(const SourceInfo& info, const TimeRange& range) {
-    for (const SourceChapter& chapter : info.chapters) {
+void Muxer::addChapters() {
+    for (const SourceChapter& chapter : m_info.chapters) {
         const Time start =
-            std::max(chapter.range.start, range.start, [](Time a, Time b) { return a < b; });
+            std::max(chapter.range.start, m_range.start, [](Time a, Time b) { return a < b; });
         const Time end =
-            std::min(chapter.range.end, range.end, [](Time a, Time b) { return a < b; });
+            std::min(chapter.range.end, m_range.end, [](Time a, Time b) { return a < b; });
         if (!(start < end))
             continue;
         auto* result = static_cast<AVChapter*>(allocated(av_mallocz(sizeof(AVChapter))));
@@ -162,8 +191,8 @@ void Muxer::addChapters(const SourceInfo& info, const TimeRange& range) {
         constexpr std::int32_t kMilliseconds = 1000;
         result->id = count;
         result->time_base = {1, kMilliseconds};
-        result->start = (start - range.start).rescaled(kMilliseconds).value;
-        result->end = (end - range.start).rescaled(kMilliseconds).value;
+        result->start = (start - m_range.start).rescaled(kMilliseconds).value;
+        result->end = (end - m_range.start).rescaled(kMilliseconds).value;
         if (!chapter.title.empty())
             check(av_dict_set(&result->metadata, "title", chapter.title.c_str(), 0));
     }
@@ -178,15 +207,24 @@ int Muxer::addStream(const AVCodecContext& encoder, const SourceTrack& source,
     stream->sample_aspect_ratio = encoder.sample_aspect_ratio;
     stream->disposition = source.disposition & AV_DISPOSITION_DEFAULT;
     copyEntries(&stream->metadata, source.metadata.get());
+    nameHandlerByTitle(stream->metadata);
     if (encoder.codec_type == AVMEDIA_TYPE_VIDEO) {
         setDisplayMatrix(*stream, transform);
         // The edit lists count in this: milliseconds, the default, would round the cut.
         check(av_opt_set_int(m_context->priv_data, "movie_timescale", encoder.time_base.den, 0));
         attach(*stream, source.dynamicRange);
+        addTimecode(*stream, source);
     }
     if (m_type == FileType::quickTimeMovie)
         useQuickTimeLanguage(stream->metadata);
     return stream->index;
+}
+
+void Muxer::addTimecode(AVStream& stream, const SourceTrack& source) const {
+    const std::string code =
+        timecodeAt(m_info.timecode, source.averageFrameRate, m_range.start, stream.avg_frame_rate);
+    if (!code.empty())
+        check(av_dict_set(&stream.metadata, "timecode", code.c_str(), 0));
 }
 
 void Muxer::writeHeader(std::int64_t expectedPackets) {
@@ -205,9 +243,8 @@ void Muxer::writeHeader(std::int64_t expectedPackets) {
     if (hasNamedEntries(m_context->metadata))
         checkIo(av_opt_set(m_context->priv_data, "movflags", "+use_metadata_tags", 0));
     checkIo(avformat_write_header(m_context.get(), nullptr));
-    // After the room the muxer has begun the media box: an empty box and its own header, 8 bytes
-    // each.
-    m_roomPosition = avio_tell(m_ioContext.get()) - 16 - m_roomBytes;
+    // The index is written at the very end, with all that is known by then.
+    check(av_dict_set(&m_context->metadata, "encoder", "Brisklet " BRISKLET_VERSION, 0));
 }
 
 void Muxer::write(AVPacket& packet, int stream, AVRational timeBase) {
@@ -228,8 +265,14 @@ void Muxer::finish() {
 }
 
 void Muxer::turnReservedRoomIntoFreeBox() {
+    // The room follows the file's first box.
+    avio_flush(m_ioContext.get());
+    std::array<std::uint8_t, 4> size = {};
+    const auto wanted = static_cast<std::int64_t>(size.size());
+    if (m_io->file.reader()->read(0, size.data(), wanted) != wanted)
+        check(AVERROR(EIO));
     const std::int64_t end = avio_tell(m_ioContext.get());
-    avio_seek(m_ioContext.get(), m_roomPosition, SEEK_SET);
+    avio_seek(m_ioContext.get(), AV_RB32(size.data()), SEEK_SET);
     avio_wb32(m_ioContext.get(), static_cast<unsigned>(m_roomBytes));
     avio_wl32(m_ioContext.get(), MKTAG('f', 'r', 'e', 'e'));
     avio_seek(m_ioContext.get(), end, SEEK_SET);

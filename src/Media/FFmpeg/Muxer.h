@@ -14,7 +14,8 @@ namespace media::ffmpeg {
 /// one pass: room for it is kept free from the start. Use from one thread at a time.
 class Muxer {
 public:
-    /// Container metadata is taken from `info`. `file` must outlive the muxer.
+    /// Metadata, chapters and time code are those of `info`, cut to the range. `file` and `info`
+    /// must outlive the muxer.
     Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range);
     Muxer(const Muxer&) = delete;
     Muxer& operator=(const Muxer&) = delete;
@@ -38,15 +39,17 @@ public:
 private:
     struct Io;
 
-    void addChapters(const SourceInfo& info, const TimeRange& range);
+    void addChapters();
+    void addTimecode(AVStream& stream, const SourceTrack& source) const;
     void checkIo(int result);
     void turnReservedRoomIntoFreeBox();
 
     FileType m_type;
+    const SourceInfo& m_info;
+    TimeRange m_range;
     std::unique_ptr<Io> m_io;
     IoContextPtr m_ioContext;
     OutputContextPtr m_context;
-    std::int64_t m_roomPosition = 0;
     std::int64_t m_roomBytes = 0;
     std::int64_t m_expectedPackets = 0;
     std::int64_t m_writtenPackets = 0;

@@ -46,6 +46,8 @@ struct SourceInfo {
     std::vector<SourceTrack> tracks;
     DictionaryPtr metadata;
     std::vector<SourceChapter> chapters;
+    /// The label of the first picture, "hh:mm:ss:ff"; empty if the file has no time code.
+    std::string timecode;
 
     /// The track of that stream; aborts if there is none.
     [[nodiscard]] const SourceTrack& track(int streamIndex) const;
