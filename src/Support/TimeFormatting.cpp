@@ -1,9 +1,24 @@
 #include "Support/TimeFormatting.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 
 namespace brisklet {
+
+namespace {
+
+/// 0 to 60 with two digits before the full stop and one after it, in every locale. A number in the
+/// middle of two goes to the even one, as C's own formatting has it and Qt's has not.
+QString inTenths(double seconds) {
+    std::array<char, 16> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), seconds, std::chars_format::fixed, 1);
+    return QString::fromLatin1(text.data(), end.ptr - text.data()).rightJustified(4, u'0');
+}
+
+} // namespace
 
 QString formatTime(double seconds) {
     constexpr double kTwoToThe63 = 9223372036854775808.0;
@@ -14,11 +29,10 @@ QString formatTime(double seconds) {
     const auto whole = static_cast<std::int64_t>(time);
     const auto hours = static_cast<long long>(whole / 3600);
     const auto minutes = static_cast<int>(whole % 3600 / 60);
-    const double rest = std::fmod(time, 60);
-    // QString's own formatting knows no locale: the decimal separator is always a full stop.
+    const QString rest = inTenths(std::fmod(time, 60));
     if (whole < 3600)
-        return QString::asprintf("%02d:%04.1f", minutes, rest);
-    return QString::asprintf("%lld:%02d:%04.1f", hours, minutes, rest);
+        return QString::asprintf("%02d:", minutes) + rest;
+    return QString::asprintf("%lld:%02d:", hours, minutes) + rest;
 }
 
 } // namespace brisklet

@@ -33,6 +33,13 @@ TEST(TimeFormatting, roundsTheSecondsWithoutCarryingIntoTheMinutes) {
     EXPECT_EQ(formatTime(3599.99), QStringLiteral("59:60.0"));
 }
 
+TEST(TimeFormatting, roundsTheMiddleOfTwoTenthsToTheEvenOne) {
+    EXPECT_EQ(formatTime(2.25), QStringLiteral("00:02.2"));
+    EXPECT_EQ(formatTime(2.75), QStringLiteral("00:02.8"));
+    EXPECT_EQ(formatTime(0.05), QStringLiteral("00:00.1")) << "in binary it is a little more";
+    EXPECT_EQ(formatTime(3600.25), QStringLiteral("1:00:00.2"));
+}
+
 TEST(TimeFormatting, readsNegativeTimesAndNaNAsZero) {
     EXPECT_EQ(formatTime(-3), QStringLiteral("00:00.0"));
     EXPECT_EQ(formatTime(-std::numeric_limits<double>::infinity()), QStringLiteral("00:00.0"));
