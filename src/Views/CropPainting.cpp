@@ -33,17 +33,16 @@ CropPainting::CropPainting(QPainter& painter, const CropGeometry& geometry,
 
 double CropPainting::reach(const CropGeometry& geometry) {
     // One more: edges may have been put on the pixels of the screen.
-    return std::max((geometry.handleSize + kHandleOutlineWidth) / 2, kOutlineWidth + kFocusWidth) +
-           1;
+    return std::max(geometry.handleSize / 2, kOutlineWidth) + kFocusWidth + 1;
 }
 
 void CropPainting::paint(Focus focus) {
     m_painter.setPen(Qt::NoPen);
     paintDimming();
     paintBorder(0, kOutlineWidth, Qt::white);
-    if (focus == Focus::shown)
-        paintBorder(kOutlineWidth, kFocusWidth, theme::accentFill(m_palette));
     m_painter.setRenderHint(QPainter::Antialiasing);
+    if (focus == Focus::shown)
+        paintFocus();
     for (const CropHandle handle : kCropHandles)
         paintHandle(handle);
 }
@@ -71,8 +70,21 @@ void CropPainting::paintBorder(double inset, double width, const QColor& color) 
     m_painter.fillPath(border, color);
 }
 
+void CropPainting::paintFocus() {
+    const QColor color = theme::accentFill(m_palette);
+    paintBorder(kOutlineWidth, kFocusWidth, color);
+    const double radius = m_geometry.handleSize / 2 + kFocusWidth;
+    m_painter.setBrush(color);
+    for (const CropHandle handle : kCropHandles)
+        m_painter.drawEllipse(middleOf(handle), radius, radius);
+}
+
+QPointF CropPainting::middleOf(CropHandle handle) const {
+    return m_grid.point(CropGeometry::position(handle, m_crop));
+}
+
 void CropPainting::paintHandle(CropHandle handle) {
-    const QPointF middle = m_grid.point(CropGeometry::position(handle, m_crop));
+    const QPointF middle = middleOf(handle);
     const double radius = m_geometry.handleSize / 2;
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(Qt::white);

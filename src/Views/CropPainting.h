@@ -27,7 +27,9 @@ private:
     void paintDimming();
     /// A border of `width` points, `inset` points inside the crop.
     void paintBorder(double inset, double width, const QColor& color);
+    void paintFocus();
     void paintHandle(CropHandle handle);
+    [[nodiscard]] QPointF middleOf(CropHandle handle) const;
 
     QPainter& m_painter;
     const CropGeometry& m_geometry;

@@ -120,11 +120,17 @@ void TimelineMarker::announceValue() {
     }
 }
 
+bool TimelineMarker::takesKeys() const {
+    // A handle that got the focus only because a window must give it to something would surprise
+    // with a range that changes; the playhead does what the arrows do everywhere.
+    return m_role == Role::playhead || m_isFocusShown;
+}
+
 bool TimelineMarker::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         // The arrows step frames for the window; while a marker has the focus they are its own.
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (TimelineMove::of(key->key(), key->modifiers())) {
+        if (takesKeys() && TimelineMove::of(key->key(), key->modifiers())) {
             event->accept();
             return true;
         }
@@ -134,7 +140,7 @@ bool TimelineMarker::event(QEvent* event) {
 
 void TimelineMarker::keyPressEvent(QKeyEvent* event) {
     const auto move = TimelineMove::of(event->key(), event->modifiers());
-    if (!move || !m_state->videoURL()) {
+    if (!move || !takesKeys() || !m_state->videoURL()) {
         QWidget::keyPressEvent(event);
         return;
     }
@@ -168,7 +174,8 @@ void TimelineMarker::focusInEvent(QFocusEvent* event) {
     const Qt::FocusReason reason = event->reason();
     // A window or a menu that gives the focus back leaves it as visible as it was.
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-        m_isFocusShown = isKeyboardReason(reason);
+        m_isFocusShown = isKeyboardReason(reason) ||
+                         (reason == Qt::OtherFocusReason && m_role != Role::playhead);
     Q_EMIT focusShownChanged();
     QWidget::focusInEvent(event);
 }

@@ -50,7 +50,8 @@ public:
     /// Moves there, as near as the limits allow, like a drag.
     void setValue(double seconds);
 
-    /// Whether the focus is to be shown: it came by the keyboard, or the keyboard was used since.
+    /// Whether the focus is to be shown: it came by the keyboard or was given to this handle, or a
+    /// key was used since.
     [[nodiscard]] bool isFocusShown() const { return hasFocus() && m_isFocusShown; }
 
     /// Tells assistive technology of a new value.
@@ -67,6 +68,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    [[nodiscard]] bool takesKeys() const;
     void apply(const TimelineMove& move);
 
     std::shared_ptr<EditState> m_state;

@@ -1,0 +1,279 @@
+#include "Views/TimelineMarker.h"
+
+#include "Views/TimelineStage.h"
+
+#include <QAccessible>
+#include <QKeySequence>
+#include <QShortcut>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+using namespace brisklet;
+using testsupport::keepPicture;
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+using Kind = TimelineMove::Kind;
+using Role = TimelineMarker::Role;
+
+constexpr double kFrame = 1.0 / 30;
+
+TEST(TimelineMove, standsBehindTheKeysOfASlider) {
+    struct Case {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        std::optional<TimelineMove> move;
+    };
+
+    for (const Case& each : {Case{Qt::Key_Left, {}, TimelineMove{Kind::byFrames, -1}},
+                             {Qt::Key_Right, {}, TimelineMove{Kind::byFrames, 1}},
+                             {Qt::Key_Right, Qt::KeypadModifier, TimelineMove{Kind::byFrames, 1}},
+                             {Qt::Key_Down, {}, TimelineMove{Kind::byFrames, -1}},
+                             {Qt::Key_Up, {}, TimelineMove{Kind::byFrames, 1}},
+                             {Qt::Key_Left, Qt::ShiftModifier, TimelineMove{Kind::byFrames, -10}},
+                             {Qt::Key_PageUp, {}, TimelineMove{Kind::bySeconds, 1}},
+                             {Qt::Key_PageDown, {}, TimelineMove{Kind::bySeconds, -1}},
+                             {Qt::Key_PageUp, Qt::ShiftModifier, TimelineMove{Kind::bySeconds, 10}},
+                             {Qt::Key_Home, {}, TimelineMove{Kind::toMinimum}},
+                             {Qt::Key_End, {}, TimelineMove{Kind::toMaximum}},
+                             {Qt::Key_Left, Qt::ControlModifier, std::nullopt},
+                             {Qt::Key_Left, Qt::AltModifier, std::nullopt},
+                             {Qt::Key_Space, {}, std::nullopt}})
+        EXPECT_EQ(TimelineMove::of(each.key, each.modifiers), each.move) << each.key;
+}
+
+class TimelineMarkerTest : public TimelineStage {
+protected:
+    void SetUp() override { ASSERT_TRUE(loadAndWait(kTenSeconds)); }
+
+    void focus(Role role) {
+        marker(role).setFocus(Qt::TabFocusReason);
+        ASSERT_TRUE(marker(role).hasFocus());
+    }
+
+    /// To the window, as a real key press.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(m_window.windowHandle(), key, modifiers);
+    }
+
+    bool waitForTime(double seconds) {
+        return pumpUntil([&] { return qAbs(state().currentTime() - seconds) < 1e-3; });
+    }
+
+    QAccessibleInterface& accessible(Role role) {
+        return *QAccessible::queryAccessibleInterface(&marker(role));
+    }
+};
+
+TEST_F(TimelineMarkerTest, isReachedByTabInTheOrderOfReading) {
+    focus(Role::trimStart);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(marker(Role::playhead).hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(marker(Role::trimEnd).hasFocus());
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(marker(Role::playhead).hasFocus());
+}
+
+TEST_F(TimelineMarkerTest, movesTheStartByKeys) {
+    focus(Role::trimStart);
+    press(Qt::Key_Right);
+    EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
+    EXPECT_DOUBLE_EQ(state().currentTime(), kFrame);
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_DOUBLE_EQ(state().trimStart(), 11 * kFrame);
+    press(Qt::Key_Left);
+    EXPECT_NEAR(state().trimStart(), 10 * kFrame, 1e-12);
+    press(Qt::Key_PageUp);
+    EXPECT_NEAR(state().trimStart(), 1 + 10 * kFrame, 1e-12);
+    press(Qt::Key_End);
+    EXPECT_EQ(state().trimStart(), 10 - 0.1);
+    press(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_EQ(state().trimStart(), 10 - 0.1);
+    press(Qt::Key_Home);
+    EXPECT_EQ(state().trimStart(), 0);
+    press(Qt::Key_Left);
+    EXPECT_EQ(state().trimStart(), 0);
+}
+
+TEST_F(TimelineMarkerTest, movesTheEndByKeys) {
+    state().setTrimStart(4);
+    focus(Role::trimEnd);
+    press(Qt::Key_Left);
+    EXPECT_DOUBLE_EQ(state().trimEnd(), 10 - kFrame);
+    press(Qt::Key_PageDown);
+    EXPECT_DOUBLE_EQ(state().trimEnd(), 9 - kFrame);
+    press(Qt::Key_Home);
+    EXPECT_EQ(state().trimEnd(), 4 + 0.1);
+    press(Qt::Key_End);
+    EXPECT_EQ(state().trimEnd(), 10);
+    EXPECT_EQ(state().trimStart(), 4);
+}
+
+TEST_F(TimelineMarkerTest, movesThePlayheadByKeys) {
+    focus(Role::playhead);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(state().currentTime(), 1);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(waitForTime(1 + kFrame));
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_TRUE(waitForTime(1 + 11 * kFrame));
+    press(Qt::Key_Left);
+    EXPECT_TRUE(waitForTime(1 + 10 * kFrame));
+    press(Qt::Key_End);
+    EXPECT_EQ(state().currentTime(), 10);
+    press(Qt::Key_Home);
+    EXPECT_EQ(state().currentTime(), 0);
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_EQ(state().trimEnd(), 10);
+}
+
+TEST_F(TimelineMarkerTest, takesItsKeysFromTheShortcutsOfTheWindow) {
+    const QShortcut step(QKeySequence(Qt::Key_Right), &m_window);
+    const QShortcut play(QKeySequence(Qt::Key_Space), &m_window);
+    const QSignalSpy steps(&step, &QShortcut::activated);
+    const QSignalSpy plays(&play, &QShortcut::activated);
+    focus(Role::trimStart);
+    press(Qt::Key_Right);
+    EXPECT_EQ(steps.count(), 0);
+    EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
+    press(Qt::Key_Space);
+    EXPECT_EQ(plays.count(), 1);
+    marker(Role::trimStart).clearFocus();
+    press(Qt::Key_Right);
+    EXPECT_EQ(steps.count(), 1);
+    EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
+}
+
+TEST_F(TimelineMarkerTest, movesBackToTheLeftInEveryLanguage) {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    pumpPending();
+    focus(Role::trimStart);
+    press(Qt::Key_Right);
+    EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
+    EXPECT_EQ(view().startLabel().x(), 0);
+    m_pointer.click(at(2));
+    EXPECT_DOUBLE_EQ(state().currentTime(), 2);
+    keepPicture(m_window, QStringLiteral("timeline-rtl"));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(TimelineMarkerTest, showsTheFocusThatCameByTheKeyboard) {
+    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+    const QImage before = m_window.grab().toImage();
+    for (const Role role : {Role::trimStart, Role::playhead, Role::trimEnd}) {
+        focus(role);
+        EXPECT_TRUE(marker(role).isFocusShown());
+        EXPECT_FALSE(m_window.grab().toImage() == before);
+        keepPicture(m_window, QStringLiteral("focus-%1").arg(static_cast<int>(role)));
+    }
+    marker(Role::trimEnd).clearFocus();
+    EXPECT_TRUE(m_window.grab().toImage() == before);
+}
+
+TEST_F(TimelineMarkerTest, leavesTheFocusAloneWhenTheMouseIsUsed) {
+    QWidget other(&m_window);
+    other.setFocusPolicy(Qt::TabFocus);
+    other.show();
+    other.setFocus(Qt::TabFocusReason);
+    m_pointer.click(at(4));
+    EXPECT_TRUE(other.hasFocus());
+    m_pointer.drag(leadingHandle(), at(2));
+    EXPECT_TRUE(other.hasFocus());
+}
+
+TEST_F(TimelineMarkerTest, leavesAWindowWithoutAFocusToThePlayhead) {
+    EXPECT_EQ(m_window.focusWidget(), &marker(Role::playhead));
+    EXPECT_FALSE(marker(Role::playhead).isFocusShown());
+}
+
+TEST_F(TimelineMarkerTest, leavesTheRangeAloneWhereTheWindowPutTheFocusOnAHandle) {
+    marker(Role::trimStart).clearFocus();
+    marker(Role::trimStart).setFocus(Qt::ActiveWindowFocusReason);
+    ASSERT_TRUE(marker(Role::trimStart).hasFocus());
+    const QShortcut step(QKeySequence(Qt::Key_Right), &m_window);
+    const QSignalSpy steps(&step, &QShortcut::activated);
+    press(Qt::Key_Right);
+    EXPECT_EQ(steps.count(), 1);
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+}
+
+TEST_F(TimelineMarkerTest, givesTheFocusToThePlayheadWhenTheMouseTakesOver) {
+    focus(Role::trimStart);
+    m_pointer.click(at(4));
+    EXPECT_TRUE(marker(Role::playhead).hasFocus());
+    EXPECT_FALSE(marker(Role::playhead).isFocusShown());
+    press(Qt::Key_PageUp);
+    EXPECT_DOUBLE_EQ(state().currentTime(), 5);
+    EXPECT_TRUE(marker(Role::playhead).isFocusShown());
+    EXPECT_EQ(state().trimStart(), 0);
+}
+
+TEST_F(TimelineMarkerTest, takesTheFocusThatIsGivenToTheTimeline) {
+    view().setFocus(Qt::OtherFocusReason);
+    EXPECT_TRUE(marker(Role::playhead).hasFocus());
+    EXPECT_FALSE(marker(Role::playhead).isFocusShown());
+}
+
+TEST_F(TimelineMarkerTest, isASliderForAssistiveTechnology) {
+    state().setTrimStart(2.25);
+    state().setTrimEnd(7);
+    state().seek(5.3);
+
+    struct Case {
+        Role role;
+        QString name;
+        QString text;
+        double minimum;
+        double maximum;
+    };
+
+    for (const Case& each :
+         {Case{Role::trimStart, QStringLiteral("Trim start"), QStringLiteral("00:02.2"), 0, 6.9},
+          Case{Role::playhead, QStringLiteral("Playhead"), QStringLiteral("00:05.3"), 0, 10},
+          Case{Role::trimEnd, QStringLiteral("Trim end"), QStringLiteral("00:07.0"), 2.35, 10}}) {
+        QAccessibleInterface& slider = accessible(each.role);
+        EXPECT_EQ(slider.role(), QAccessible::Slider);
+        EXPECT_EQ(slider.text(QAccessible::Name), each.name);
+        EXPECT_EQ(slider.text(QAccessible::Value), each.text);
+        EXPECT_EQ(slider.text(QAccessible::Description), each.text);
+        EXPECT_TRUE(slider.state().focusable);
+        ASSERT_NE(slider.valueInterface(), nullptr);
+        EXPECT_DOUBLE_EQ(slider.valueInterface()->minimumValue().toDouble(), each.minimum);
+        EXPECT_DOUBLE_EQ(slider.valueInterface()->maximumValue().toDouble(), each.maximum);
+        EXPECT_DOUBLE_EQ(slider.valueInterface()->currentValue().toDouble(),
+                         marker(each.role).value());
+    }
+}
+
+TEST_F(TimelineMarkerTest, isMovedByAssistiveTechnologyWithinItsLimits) {
+    const auto set = [this](Role role, double value) {
+        accessible(role).valueInterface()->setCurrentValue(value);
+    };
+    set(Role::trimStart, 3);
+    EXPECT_EQ(state().trimStart(), 3);
+    EXPECT_EQ(state().currentTime(), 3);
+    set(Role::trimEnd, 1);
+    EXPECT_EQ(state().trimEnd(), 3.1);
+    set(Role::playhead, 99);
+    EXPECT_EQ(state().currentTime(), 10);
+}
+
+using EmptyTimelineMarkerTest = TimelineStage;
+
+TEST_F(EmptyTimelineMarkerTest, ignoresItsKeysWithoutAVideo) {
+    for (const Role role : {Role::trimStart, Role::playhead, Role::trimEnd}) {
+        marker(role).setFocus(Qt::TabFocusReason);
+        for (const Qt::Key key : {Qt::Key_Right, Qt::Key_PageUp, Qt::Key_End})
+            QTest::keyClick(m_window.windowHandle(), key);
+    }
+    EXPECT_EQ(state().trimEnd(), 0);
+    EXPECT_EQ(state().currentTime(), 0);
+}
+
+} // namespace
