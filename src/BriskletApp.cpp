@@ -1,28 +1,189 @@
 #include "BriskletApp.h"
 
+#include "ExportMonitor.h"
 #include "Models/EditState.h"
-#include "Platform/FileDialogPanels.h"
-#include "Views/EditorWindow.h"
+#include "Platform/Appearance.h"
+#include "Platform/FileTransferPortal.h"
+#include "Platform/Updater/UpdateDialogs.h"
+#include "Platform/Updater/Updater.h"
+#include "Platform/Updater/UpdaterSettings.h"
+#include "Support/OpenBridge.h"
+#include "Views/ContentView.h"
+#include "WindowRootView.h"
 
-#include <memory>
+#include <QApplication>
+
+#include <chrono>
+#include <functional>
 
 namespace brisklet {
 
-void BriskletApp::openWindows(const std::vector<QUrl>& files) {
-    for (const QUrl& file : files)
-        openWindow(file);
-    if (files.empty())
-        openWindow();
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The one under which the program is released; only that one looks for updates by itself.
+QString releasedApplicationId() {
+    return QStringLiteral("com.quorvan.brisklet");
 }
 
-EditorWindow* BriskletApp::openWindow(const std::optional<QUrl>& file) {
-    const auto state = std::make_shared<EditState>();
-    auto* window = new EditorWindow(state);
-    state->setFilePanels(std::make_shared<FileDialogPanels>(window));
-    if (file)
-        window->loadWhenShown(*file);
+/// The bus delivers the call that it started the program for at once.
+constexpr auto kLongestWaitForBusCall = 5s;
+
+/// Wayland gives the keyboard to a window only against the token of the start that asks for it. Qt
+/// takes it from here when a window is activated next.
+void useActivationToken(const QVariantMap& platformData) {
+    const QString token = platformData.value(QStringLiteral("activation-token")).toString();
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+}
+
+} // namespace
+
+BriskletApp::BriskletApp(const QString& applicationId, QObject* parent)
+    : QObject(parent),
+      m_updateDriver(std::make_unique<UpdateDialogs>()),
+      m_updater(std::make_unique<Updater>(builtInUpdaterConfiguration(), *m_updateDriver,
+                                          applicationId == releasedApplicationId())) {
+    QApplication::setQuitOnLastWindowClosed(false);
+    connect(qApp, &QApplication::lastWindowClosed, this, &BriskletApp::lastWindowClosed);
+    m_busCall.setSingleShot(true);
+    connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
+    OpenBridge::requestWindow = [self = QPointer(this)] {
+        if (self)
+            self->openWindow();
+    };
+}
+
+BriskletApp::~BriskletApp() {
+    OpenBridge::requestWindow = {};
+    // Those too that are closed and wait for their end: they refer to what ends here.
+    for (const auto& window : m_windows)
+        delete window;
+}
+
+QString BriskletApp::builtInApplicationId() {
+    return QStringLiteral(BRISKLET_APPLICATION_ID);
+}
+
+bool BriskletApp::launch(const LaunchRequest& request, const std::optional<QDBusConnection>& bus) {
+    m_bus = bus;
+    if (!joinSession(request))
+        return false;
+    finishLaunching();
+    if (request.isStartedByBus && request.files.isEmpty()) {
+        m_busCall.start(kLongestWaitForBusCall);
+        return true;
+    }
+    // Without a window yet, the first one takes the first file and asks for the next.
+    const auto requestWindow = std::exchange(OpenBridge::requestWindow, nullptr);
+    AppDelegate::open(request.files);
+    OpenBridge::requestWindow = requestWindow;
+    openWindow();
+    return true;
+}
+
+bool BriskletApp::joinSession(const LaunchRequest& request) {
+    if (!m_bus)
+        return true;
+    m_session = std::make_unique<DesktopApplication>(*m_bus, releasedApplicationId());
+    connect(m_session.get(), &DesktopApplication::filesOpened, this, &BriskletApp::open);
+    connect(m_session.get(), &DesktopApplication::activated, this, &BriskletApp::activate);
+    connect(m_session.get(), &DesktopApplication::actionActivated, this,
+            &BriskletApp::activateAction);
+    return m_session->claim(request.files, request.platformData) !=
+           DesktopApplication::Role::handedOver;
+}
+
+void BriskletApp::finishLaunching() {
+    m_delegate.applicationDidFinishLaunching();
+    if (!m_bus || !m_bus->isConnected())
+        return;
+    new Appearance(*m_bus, this);
+    m_exportMonitor = new ExportMonitor(*m_bus, this);
+}
+
+WindowRootView* BriskletApp::openWindow() {
+    m_busCall.stop();
+    auto* window = new WindowRootView(*m_updater, m_focusedValues);
+    m_windows.removeAll(nullptr);
+    m_windows.append(window);
+    connect(window, &WindowRootView::newWindowRequested, this, [this] { openWindow(); });
+    connect(window, &WindowRootView::quitRequested, this, &BriskletApp::quit);
+    if (m_exportMonitor != nullptr)
+        m_exportMonitor->watch(window);
+    if (m_bus && m_bus->isConnected())
+        window->content().setFileTransfer([bus = *m_bus](const QByteArray& key, auto done) {
+            retrieveTransferredFiles(bus, key, std::move(done));
+        });
     window->show();
     return window;
+}
+
+QList<WindowRootView*> BriskletApp::windows() const {
+    QList<WindowRootView*> windows;
+    for (const auto& window : m_windows) {
+        if (window && window->isVisible())
+            windows << window;
+    }
+    return windows;
+}
+
+void BriskletApp::quit() {
+    for (WindowRootView* window : windows())
+        window->close();
+}
+
+void BriskletApp::open(const QList<QUrl>& files, const QVariantMap& platformData) {
+    if (files.isEmpty()) {
+        activate(platformData);
+        return;
+    }
+    useActivationToken(platformData);
+    QList<WindowRootView*> taken;
+    for (WindowRootView* window : windows()) {
+        if (!window->state()->isEmpty())
+            taken << window;
+    }
+    AppDelegate::open(files);
+    for (WindowRootView* window : windows()) {
+        if (!window->state()->isEmpty() && !taken.contains(window))
+            window->bringToFront();
+    }
+}
+
+void BriskletApp::activate(const QVariantMap& platformData) {
+    useActivationToken(platformData);
+    const QList<WindowRootView*> open = windows();
+    if (open.isEmpty()) {
+        openWindow();
+        return;
+    }
+    const auto focused = m_focusedValues.editState();
+    const auto isFocused = [&focused](WindowRootView* window) {
+        return window->state() == focused;
+    };
+    const auto found = std::ranges::find_if(open, isFocused);
+    (found != open.end() ? *found : open.first())->bringToFront();
+}
+
+void BriskletApp::activateAction(const QString& action, const QVariantMap& platformData) {
+    if (action != u"new-window")
+        return;
+    useActivationToken(platformData);
+    openWindow()->bringToFront();
+}
+
+void BriskletApp::lastWindowClosed() {
+    if (!AppDelegate::applicationShouldTerminateAfterLastWindowClosed())
+        return;
+    // A file that another start hands over at this moment still gets its window.
+    if (m_session)
+        m_session->release();
+    if (windows().isEmpty())
+        QCoreApplication::quit();
+    else if (m_session)
+        m_session->reclaim();
 }
 
 } // namespace brisklet

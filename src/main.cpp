@@ -4,12 +4,15 @@
 #include "Support/Workers.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 
 #include <cstdio>
 #include <exception>
 #include <span>
 
 namespace {
+
+using brisklet::CommandLine;
 
 constexpr int kWrongUsage = 2;
 
@@ -31,15 +34,37 @@ int installQuickAction() {
 
 void setUpApplication() {
     QApplication::setApplicationName(QStringLiteral("brisklet"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Brisklet"));
     QApplication::setApplicationVersion(QStringLiteral(BRISKLET_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("com.quorvan.brisklet"));
+}
+
+/// Reads what the launcher says about this start, and keeps it from the programs that this one
+/// starts.
+brisklet::LaunchRequest launchRequest() {
+    brisklet::LaunchRequest request;
+    request.platformData = brisklet::DesktopApplication::launchData();
+    request.isStartedByBus = qEnvironmentVariableIsSet("DBUS_STARTER_ADDRESS");
+    qunsetenv("DBUS_STARTER_ADDRESS");
+    qunsetenv("DBUS_STARTER_BUS_TYPE");
+    return request;
+}
+
+int run(brisklet::LaunchRequest request, const CommandLine& commandLine) {
+    request.files = {commandLine.files.begin(), commandLine.files.end()};
+    try {
+        brisklet::BriskletApp app;
+        if (app.launch(request, QDBusConnection::sessionBus()))
+            return QApplication::exec();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brisklet: %s\n", error.what());
+        return 1;
+    }
+    return 0;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    using brisklet::CommandLine;
     // These need no display. Options of Qt's own are still among the arguments here.
     const CommandLine everything = CommandLine::parse(argumentsOf(argc, argv));
     if (everything.installsQuickAction)
@@ -53,6 +78,7 @@ int main(int argc, char** argv) {
         return 0;
     }
 
+    const brisklet::LaunchRequest request = launchRequest();
     QApplication application(argc, argv);
     setUpApplication();
     const CommandLine commandLine = CommandLine::parse(argumentsOf(argc, argv));
@@ -61,8 +87,7 @@ int main(int argc, char** argv) {
                      commandLine.unknownOption->c_str(), brisklet::usage().c_str());
         return kWrongUsage;
     }
-    brisklet::BriskletApp::openWindows(commandLine.files);
-    const int status = QApplication::exec();
+    const int status = run(request, commandLine);
     brisklet::waitForWorkers();
     return status;
 }

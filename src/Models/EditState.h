@@ -88,6 +88,9 @@ public:
     /// Silences the player at once and leaves the sound out of exports.
     void setMuted(bool muted);
 
+    /// For failures that happen around the window; those of loads and exports come by themselves.
+    void setErrorMessage(const QString& message) { m_errorMessage = message; }
+
     void clearErrorMessage() { m_errorMessage = std::nullopt; }
 
     /// Who asks the user for files; without one the panels do not appear. `panels` must outlive
@@ -136,6 +139,9 @@ Q_SIGNALS:
     void rotationChanged();
     void exportProgressChanged();
     void errorMessageChanged();
+    /// The end of an export that was not cancelled, with the file or with the error message.
+    void exportFinished(const QUrl& outputURL);
+    void exportFailed(const QString& message);
 
 private:
     struct LoadedVideo;

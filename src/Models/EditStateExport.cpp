@@ -84,11 +84,14 @@ QCoro::Task<> EditState::runExport(std::shared_ptr<EditState> state, ExportReque
                 self->exportProgressed(fraction, stop);
         });
     };
+    const QUrl outputURL = request.outputURL;
+    bool isFinished = false;
     std::optional<QString> failure;
     try {
         const AVFoundationExporter exporter;
         auto task = exporter.exportVideo(std::move(request), onProgress, stop);
         co_await task;
+        isFinished = true;
     } catch (const media::Cancelled&) {
         // The user asked for it.
         failure.reset();
@@ -101,6 +104,10 @@ QCoro::Task<> EditState::runExport(std::shared_ptr<EditState> state, ExportReque
     // An observer of the line above may have started the next export already.
     if (!state->m_exportProgress.value())
         state->m_exportTask.reset();
+    if (isFinished)
+        Q_EMIT state->exportFinished(outputURL);
+    if (failure)
+        Q_EMIT state->exportFailed(*failure);
 }
 
 void EditState::exportProgressed(double fraction, const std::stop_token& stop) {

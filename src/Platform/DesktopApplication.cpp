@@ -98,6 +98,10 @@ void DesktopApplication::release() {
     QCoreApplication::sendPostedEvents(this);
 }
 
+void DesktopApplication::reclaim() {
+    m_isOwner = m_bus.registerService(m_name);
+}
+
 QVariantMap DesktopApplication::launchData() {
     QVariantMap data;
     if (const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN"); !token.isEmpty())

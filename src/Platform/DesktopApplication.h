@@ -40,6 +40,9 @@ public:
     /// this returns: the owner looks then whether it still may end.
     void release();
 
+    /// Takes the name again after release(), unless another process has it by now.
+    void reclaim();
+
     /// What the launcher put into the environment of this start, for platformData. To be asked
     /// before QApplication exists, which takes it away.
     static QVariantMap launchData();

@@ -1,65 +1,102 @@
-#include "BriskletApp.h"
+#include "AppFixture.h"
 
-#include "Models/EditState.h"
-#include "QtSupport/EventPump.h"
-#include "Support/FileUrl.h"
-#include "TestSupport/Fixture.h"
+#include "Platform/Updater/Updater.h"
+#include "Support/OpenBridge.h"
 #include "TestSupport/Process.h"
-#include "Views/EditorWindow.h"
 
 #include <QApplication>
+#include <QTimer>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <vector>
 
+namespace brisklet {
 namespace {
 
-using namespace brisklet;
-using testsupport::makeFixture;
+using testsupport::pumpPending;
 using testsupport::pumpUntil;
 using testsupport::runProcess;
 
-std::vector<EditorWindow*> windows() {
-    std::vector<EditorWindow*> result;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* window = qobject_cast<EditorWindow*>(widget))
-            result.push_back(window);
-    }
-    return result;
-}
-
-class BriskletAppTest : public testing::Test {
+class BriskletAppTest : public AppFixture {
 protected:
-    ~BriskletAppTest() override {
-        for (EditorWindow* window : windows())
-            delete window;
+    /// The videos of the windows, in the order in which the windows were opened; waits for them.
+    std::vector<QUrl> shownVideos() {
+        EXPECT_TRUE(pumpUntil([this] {
+            for (const WindowRootView* window : m_app->windows()) {
+                if (!window->state()->videoURL())
+                    return false;
+            }
+            return true;
+        }));
+        std::vector<QUrl> result;
+        for (const WindowRootView* window : m_app->windows())
+            result.push_back(window->state()->videoURL().value_or(QUrl()));
+        return result;
     }
 };
 
 TEST_F(BriskletAppTest, opensOneEmptyWindowWithoutFiles) {
-    BriskletApp::openWindows({});
-    ASSERT_EQ(windows().size(), 1U);
-    EXPECT_TRUE(windows().front()->isVisible());
-    EXPECT_EQ(windows().front()->state()->videoURL(), std::nullopt);
+    EXPECT_TRUE(m_app->launch({}, std::nullopt));
+    ASSERT_EQ(m_app->windows().size(), 1);
+    EXPECT_TRUE(m_app->windows().first()->isVisible());
+    EXPECT_EQ(m_app->windows().first()->state()->videoURL(), std::nullopt);
 }
 
-TEST_F(BriskletAppTest, opensAWindowForEachFile) {
-    const QUrl one = urlOf(makeFixture({.duration = 1}).path);
-    const QUrl other = urlOf(makeFixture({.duration = 2}).path);
-    BriskletApp::openWindows({one, other, one});
-    ASSERT_EQ(windows().size(), 3U);
-    ASSERT_TRUE(pumpUntil([] {
-        for (const EditorWindow* window : windows()) {
-            if (!window->state()->videoURL())
-                return false;
-        }
-        return true;
-    }));
-    int ones = 0;
-    for (const EditorWindow* window : windows())
-        ones += window->state()->videoURL() == one ? 1 : 0;
-    EXPECT_EQ(ones, 2);
+TEST_F(BriskletAppTest, opensAWindowForEachFileInOrder) {
+    EXPECT_TRUE(m_app->launch({.files = {video(1), video(2), video(1)}}, std::nullopt));
+    EXPECT_EQ(m_app->windows().size(), 3);
+    EXPECT_THAT(shownVideos(), testing::ElementsAre(video(1), video(2), video(1)));
+}
+
+TEST_F(BriskletAppTest, putsLaterFilesIntoTheEmptyWindowFirst) {
+    EXPECT_TRUE(m_app->launch({}, std::nullopt));
+    for (const double seconds : {1, 2, 3})
+        OpenBridge::open(video(seconds));
+    EXPECT_EQ(m_app->windows().size(), 3);
+    EXPECT_THAT(shownVideos(), testing::ElementsAre(video(1), video(2), video(3)));
+}
+
+TEST_F(BriskletAppTest, usesAWindowAgainWhoseFileCouldNotBeOpened) {
+    EXPECT_TRUE(m_app->launch({.files = {urlOf(m_folder / "missing.mov")}}, std::nullopt));
+    WindowRootView* window = m_app->windows().first();
+    ASSERT_TRUE(pumpUntil([window] { return window->state()->errorMessage().has_value(); }));
+    OpenBridge::open(video(1));
+    EXPECT_EQ(m_app->windows().size(), 1);
+    ASSERT_TRUE(pumpUntil([window] { return window->state()->videoURL().has_value(); }));
+}
+
+TEST_F(BriskletAppTest, endsWithItsLastWindow) {
+    EXPECT_TRUE(m_app->launch({.files = {video(1), video(2)}}, std::nullopt));
+    bool hasClosedOne = false;
+    QTimer closing;
+    QObject::connect(&closing, &QTimer::timeout, m_app.get(), [&] {
+        ASSERT_FALSE(m_app->windows().isEmpty()) << "The program outlives its last window.";
+        // Each turn of the event loop is another chance to end too early.
+        hasClosedOne = hasClosedOne || m_app->windows().size() == 1;
+        m_app->windows().first()->close();
+    });
+    closing.start(0);
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(hasClosedOne);
+    EXPECT_TRUE(m_app->windows().isEmpty());
+}
+
+TEST_F(BriskletAppTest, asksTheWindowsThatExportBeforeItQuits) {
+    WindowRootView* exporting = openWindow();
+    openWindow();
+    ASSERT_TRUE(startLongExport(*exporting));
+    m_app->quit();
+    ASSERT_EQ(m_app->windows().size(), 1);
+    QMessageBox* question = visibleQuestion(*exporting);
+    ASSERT_NE(question, nullptr);
+    clickRole(*question, QMessageBox::AcceptRole);
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+}
+
+TEST_F(BriskletAppTest, neverLooksForUpdatesByItselfUnderAnotherIdentifier) {
+    for (const char* identifier : {"com.quorvan.brisklet.devel", "com.quorvan.Brisklet", ""})
+        EXPECT_FALSE(BriskletApp(QString::fromLatin1(identifier)).updater().isStarted());
 }
 
 TEST(Program, printsHelpAndVersionWithoutADisplay) {
@@ -81,3 +118,4 @@ TEST(Program, refusesAnUnknownOption) {
 }
 
 } // namespace
+} // namespace brisklet

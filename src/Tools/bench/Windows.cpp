@@ -3,8 +3,8 @@
 #include "Support/FileUrl.h"
 #include "Tools/bench/Benchmarks.h"
 #include "Tools/bench/Waiting.h"
-#include "Views/EditorWindow.h"
 #include "Views/PlayerLayerView.h"
+#include "WindowRootView.h"
 
 #include <QApplication>
 
@@ -29,7 +29,7 @@ double cpuSeconds() {
 /// The program's own window, shown and painted, that closes at the end.
 class ShownWindow {
 public:
-    ShownWindow() : m_window(BriskletApp::openWindow()) {
+    ShownWindow() : m_window(m_app.openWindow()) {
         bool isPainted = false;
         const PaintWatch watch(*m_window, [&] { isPainted = true; });
         waitUntil([&] { return isPainted; });
@@ -37,8 +37,6 @@ public:
 
     ShownWindow(const ShownWindow&) = delete;
     ShownWindow& operator=(const ShownWindow&) = delete;
-
-    ~ShownWindow() { delete m_window; }
 
     [[nodiscard]] EditState& state() const { return *m_window->state(); }
 
@@ -59,7 +57,8 @@ public:
     }
 
 private:
-    EditorWindow* m_window;
+    BriskletApp m_app;
+    WindowRootView* m_window;
 };
 
 } // namespace

@@ -1,0 +1,194 @@
+#include "AppCommands.h"
+
+#include "FocusedValues.h"
+#include "Models/EditState.h"
+#include "Platform/QuickActionInstallation.h"
+#include "Platform/Updater/Updater.h"
+#include "Support/PlaybackSettings.h"
+#include "Support/QuickAction.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include <exception>
+
+namespace brisklet {
+
+AppCommands::AppCommands(Updater& updater, FocusedValues& focusedValues, QObject* parent)
+    : QObject(parent), m_updater(updater), m_focusedValues(focusedValues) {
+    makeApplicationActions();
+    makeFileActions();
+    makeClipActions();
+    connect(&m_focusedValues, &FocusedValues::editStateChanged, this, &AppCommands::observe);
+    connect(&m_updater, &Updater::canCheckForUpdatesChanged, this, &AppCommands::enable);
+    connect(&QuickAction::shared(), &QuickAction::isInstalledChanged, this,
+            &AppCommands::showQuickAction);
+    showQuickAction();
+    observe();
+}
+
+AppCommands::~AppCommands() = default;
+
+QAction* AppCommands::add(const QString& title, const QKeySequence& key) {
+    auto* action = new QAction(title, this);
+    // The keys of a window's commands are for that window alone: not for its dialogs and menus.
+    action->setShortcut(key);
+    action->setAutoRepeat(false);
+    action->setMenuRole(QAction::NoRole);
+    return action;
+}
+
+void AppCommands::makeApplicationActions() {
+    m_about = add(tr("About Brisklet"));
+    m_about->setMenuRole(QAction::AboutRole);
+    connect(m_about, &QAction::triggered, this, &AppCommands::showAbout);
+    m_checkForUpdates = add(tr("Check for Updates…"));
+    m_checkForUpdates->setMenuRole(QAction::ApplicationSpecificRole);
+    connect(m_checkForUpdates, &QAction::triggered, &m_updater, &Updater::checkForUpdates);
+    m_quickAction = add({});
+    m_quickAction->setMenuRole(QAction::ApplicationSpecificRole);
+    connect(m_quickAction, &QAction::triggered, this, &AppCommands::toggleQuickAction);
+    m_quit = add(tr("Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    m_quit->setMenuRole(QAction::QuitRole);
+    connect(m_quit, &QAction::triggered, this, &AppCommands::quitRequested);
+}
+
+void AppCommands::makeFileActions() {
+    m_newWindow = add(tr("New Window"), QKeySequence(Qt::CTRL | Qt::Key_N));
+    connect(m_newWindow, &QAction::triggered, this, &AppCommands::newWindowRequested);
+    m_open = add(tr("Open Video…"), QKeySequence(Qt::CTRL | Qt::Key_O));
+    connect(m_open, &QAction::triggered, this, [this] {
+        if (const auto state = m_focusedValues.editState())
+            state->presentOpenPanel();
+    });
+    m_export = add(tr("Export…"), QKeySequence(Qt::CTRL | Qt::Key_E));
+    connect(m_export, &QAction::triggered, this, [this] {
+        if (const auto state = m_focusedValues.editState())
+            state->presentExportPanel();
+    });
+    m_close = add(tr("Close Video"), QKeySequence(Qt::Key_Escape));
+    connect(m_close, &QAction::triggered, this, &AppCommands::closeKeyWindow);
+}
+
+void AppCommands::makeClipActions() {
+    m_trimStart = add(tr("Set Trim Start at Playhead"), QKeySequence(Qt::Key_BracketLeft));
+    connect(m_trimStart, &QAction::triggered, this, [this] {
+        if (const auto state = m_focusedValues.editState())
+            state->setTrimStartToPlayhead();
+    });
+    m_trimEnd = add(tr("Set Trim End at Playhead"), QKeySequence(Qt::Key_BracketRight));
+    connect(m_trimEnd, &QAction::triggered, this, [this] {
+        if (const auto state = m_focusedValues.editState())
+            state->setTrimEndToPlayhead();
+    });
+    m_previousFrame = add(tr("Previous Frame"), QKeySequence(Qt::Key_Left));
+    connect(m_previousFrame, &QAction::triggered, this, [this] { stepFrames(-1); });
+    m_nextFrame = add(tr("Next Frame"), QKeySequence(Qt::Key_Right));
+    connect(m_nextFrame, &QAction::triggered, this, [this] { stepFrames(1); });
+    // A key held down goes on stepping.
+    m_previousFrame->setAutoRepeat(true);
+    m_nextFrame->setAutoRepeat(true);
+
+    PlaybackSettings& settings = PlaybackSettings::shared();
+    m_loop = add(tr("Loop Playback"), QKeySequence(Qt::Key_L));
+    m_loop->setCheckable(true);
+    m_loop->setChecked(settings.isLoopEnabled());
+    connect(m_loop, &QAction::triggered, &settings, &PlaybackSettings::setLoopEnabled);
+    connect(&settings, &PlaybackSettings::isLoopEnabledChanged, m_loop,
+            [this, &settings] { m_loop->setChecked(settings.isLoopEnabled()); });
+}
+
+void AppCommands::fill(QMenuBar& menuBar) {
+    QMenu* application = menuBar.addMenu(tr("&Brisklet"));
+    application->addActions({m_about, m_checkForUpdates});
+    application->addSeparator();
+    application->addAction(m_quickAction);
+    application->addSeparator();
+    application->addAction(m_quit);
+    QMenu* file = menuBar.addMenu(tr("&File"));
+    file->addActions({m_newWindow, m_open, m_export, m_close});
+    QMenu* clip = menuBar.addMenu(tr("&Clip"));
+    clip->addActions({m_trimStart, m_trimEnd});
+    clip->addSeparator();
+    clip->addActions({m_previousFrame, m_nextFrame});
+    clip->addSeparator();
+    clip->addAction(m_loop);
+}
+
+void AppCommands::observe() {
+    if (const auto before = m_observed.lock())
+        before->disconnect(this);
+    const auto state = m_focusedValues.editState();
+    m_observed = state;
+    if (state) {
+        connect(state.get(), &EditState::videoURLChanged, this, &AppCommands::enable);
+        connect(state.get(), &EditState::exportProgressChanged, this, &AppCommands::enable);
+    }
+    enable();
+}
+
+void AppCommands::enable() {
+    const auto state = m_focusedValues.editState();
+    const bool hasVideo = state && state->videoURL();
+    const bool isExporting = state && state->exportProgress();
+    m_checkForUpdates->setEnabled(m_updater.canCheckForUpdates());
+    m_open->setEnabled(state != nullptr);
+    m_close->setEnabled(!isExporting);
+    for (QAction* action : {m_export, m_trimStart, m_trimEnd, m_previousFrame, m_nextFrame})
+        action->setEnabled(hasVideo);
+}
+
+void AppCommands::showQuickAction() {
+    m_quickAction->setText(QuickAction::shared().isInstalled() ? tr("Remove Finder Quick Action")
+                                                               : tr("Install Finder Quick Action"));
+}
+
+void AppCommands::stepFrames(int count) {
+    const auto state = m_focusedValues.editState();
+    if (!state)
+        return;
+    const PlayerController& controller = state->playerController();
+    media::Player& player = *controller.player();
+    player.pause();
+    player.step(count);
+    // The time shown follows at once, not only when the player reports next.
+    if (const auto onTick = controller.onTick)
+        onTick(player.currentTime().seconds());
+}
+
+void AppCommands::toggleQuickAction() {
+    try {
+        if (QuickAction::shared().isInstalled())
+            QuickActionInstallation::uninstall();
+        else
+            QuickActionInstallation::install();
+    } catch (const std::exception& error) {
+        if (const auto state = m_focusedValues.editState())
+            state->setErrorMessage(
+                tr("Couldn't update the Quick Action: %1").arg(QString::fromUtf8(error.what())));
+    }
+}
+
+void AppCommands::showAbout() {
+    auto* box = new QMessageBox(QApplication::activeWindow());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::NonModal);
+    box->setWindowTitle(tr("About Brisklet"));
+    box->setIconPixmap(QApplication::windowIcon().pixmap(64));
+    box->setText(tr("Brisklet %1").arg(QApplication::applicationVersion()));
+    box->setInformativeText(tr("Trims, crops and turns videos, exact to the frame.\n\n"
+                               "Free software under the GNU General Public License, "
+                               "version 3 or later."));
+    box->show();
+}
+
+void AppCommands::closeKeyWindow() {
+    if (QWidget* window = QApplication::activeWindow())
+        window->close();
+}
+
+} // namespace brisklet

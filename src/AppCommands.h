@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+
+#include <memory>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace brisklet {
+
+class EditState;
+class FocusedValues;
+class Updater;
+
+/// The commands of one menu bar. They act on the model of the active editor window, whichever it is
+/// at that moment, and keep no state of their own: what is enabled follows that model at once.
+/// Main thread.
+class AppCommands final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both outlive this.
+    AppCommands(Updater& updater, FocusedValues& focusedValues, QObject* parent = nullptr);
+    ~AppCommands() override;
+
+    /// Puts the menus into a menu bar, which must not outlive this.
+    void fill(QMenuBar& menuBar);
+
+Q_SIGNALS:
+    void newWindowRequested();
+    void quitRequested();
+
+private:
+    void makeApplicationActions();
+    void makeFileActions();
+    void makeClipActions();
+    QAction* add(const QString& title, const QKeySequence& key = {});
+
+    void observe();
+    void enable();
+    void showQuickAction();
+
+    void stepFrames(int count);
+    void toggleQuickAction();
+    static void showAbout();
+    static void closeKeyWindow();
+
+    Updater& m_updater;
+    FocusedValues& m_focusedValues;
+    std::weak_ptr<EditState> m_observed;
+
+    QAction* m_about = nullptr;
+    QAction* m_checkForUpdates = nullptr;
+    QAction* m_quickAction = nullptr;
+    QAction* m_quit = nullptr;
+    QAction* m_newWindow = nullptr;
+    QAction* m_open = nullptr;
+    QAction* m_export = nullptr;
+    QAction* m_close = nullptr;
+    QAction* m_trimStart = nullptr;
+    QAction* m_trimEnd = nullptr;
+    QAction* m_previousFrame = nullptr;
+    QAction* m_nextFrame = nullptr;
+    QAction* m_loop = nullptr;
+};
+
+} // namespace brisklet

@@ -1,0 +1,22 @@
+#include "AppDelegate.h"
+
+#include "EscapeMonitor.h"
+#include "Support/OpenBridge.h"
+
+#include <QCoreApplication>
+
+namespace brisklet {
+
+void AppDelegate::applicationDidFinishLaunching() {
+    if (m_escapeMonitor != nullptr)
+        return;
+    m_escapeMonitor = new EscapeMonitor(this);
+    QCoreApplication::instance()->installEventFilter(m_escapeMonitor);
+}
+
+void AppDelegate::open(const QList<QUrl>& files) {
+    for (const QUrl& file : files)
+        OpenBridge::open(file);
+}
+
+} // namespace brisklet

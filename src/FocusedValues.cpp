@@ -1,0 +1,14 @@
+#include "FocusedValues.h"
+
+#include "Models/EditState.h"
+
+namespace brisklet {
+
+void FocusedValues::setEditState(const std::shared_ptr<EditState>& state) {
+    if (m_editState.lock() == state)
+        return;
+    m_editState = state;
+    Q_EMIT editStateChanged();
+}
+
+} // namespace brisklet

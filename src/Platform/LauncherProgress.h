@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDBusConnection>
+
+#include <optional>
+
+namespace brisklet {
+
+/// Shows a progress on the program's entry in the desktop's taskbar, where that listens. Main
+/// thread.
+class LauncherProgress final {
+public:
+    explicit LauncherProgress(QDBusConnection bus);
+
+    /// The fraction done, 0 to 1; none hides it.
+    void show(std::optional<double> fraction);
+
+private:
+    QDBusConnection m_bus;
+    std::optional<double> m_shown;
+};
+
+} // namespace brisklet

@@ -1,0 +1,90 @@
+#include "Platform/SleepInhibitor.h"
+
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QVariantMap>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+/// The portal's flag for suspending.
+constexpr uint kSuspend = 4;
+
+QDBusMessage screenSaverCall(const QString& method) {
+    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
+                                          QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                          QStringLiteral("org.freedesktop.ScreenSaver"), method);
+}
+
+} // namespace
+
+SleepInhibitor::SleepInhibitor(QDBusConnection bus, QObject* parent)
+    : QObject(parent), m_bus(std::move(bus)) {}
+
+SleepInhibitor::~SleepInhibitor() {
+    release();
+}
+
+void SleepInhibitor::inhibit(const QString& reason) {
+    m_isWanted = true;
+    // The answer to an earlier question still comes, and serves this one.
+    if (m_isAsked || m_release.type() != QDBusMessage::InvalidMessage)
+        return;
+    m_isAsked = true;
+    askPortal(reason);
+}
+
+void SleepInhibitor::release() {
+    m_isWanted = false;
+    if (m_release.type() != QDBusMessage::InvalidMessage)
+        m_bus.send(std::exchange(m_release, QDBusMessage()));
+}
+
+void SleepInhibitor::askPortal(const QString& reason) {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"),
+        QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.Inhibit"), QStringLiteral("Inhibit"));
+    call << QString() << kSuspend << QVariantMap{{QStringLiteral("reason"), reason}};
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, reason] {
+        watcher->deleteLater();
+        const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
+        if (reply.isError())
+            askScreenSaver(reason);
+        else
+            hold(QDBusMessage::createMethodCall(
+                QStringLiteral("org.freedesktop.portal.Desktop"), reply.value().path(),
+                QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close")));
+    });
+}
+
+void SleepInhibitor::askScreenSaver(const QString& reason) {
+    QDBusMessage call = screenSaverCall(QStringLiteral("Inhibit"));
+    call << QStringLiteral("com.quorvan.brisklet") << reason;
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        const QDBusPendingReply<uint> reply = *watcher;
+        if (reply.isError()) {
+            m_isAsked = false;
+            return;
+        }
+        QDBusMessage releasingCall = screenSaverCall(QStringLiteral("UnInhibit"));
+        releasingCall << reply.value();
+        hold(releasingCall);
+    });
+}
+
+void SleepInhibitor::hold(const QDBusMessage& releasingCall) {
+    m_isAsked = false;
+    m_release = releasingCall;
+    if (!m_isWanted)
+        release();
+}
+
+} // namespace brisklet

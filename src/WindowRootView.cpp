@@ -1,0 +1,135 @@
+#include "WindowRootView.h"
+
+#include "AppCommands.h"
+#include "FocusedValues.h"
+#include "Models/EditState.h"
+#include "Platform/FileDialogPanels.h"
+#include "Support/FileUrl.h"
+#include "Support/OpenBridge.h"
+#include "Views/ContentView.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+namespace brisklet {
+
+namespace {
+
+constexpr QSize kInitialSize(960, 680);
+constexpr QSize kSmallestSize(720, 480);
+
+} // namespace
+
+WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, QWidget* parent)
+    : QWidget(parent),
+      m_focusedValues(focusedValues),
+      m_state(std::make_shared<EditState>()),
+      m_commands(new AppCommands(updater, focusedValues, this)),
+      m_content(new ContentView(m_state)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setMinimumSize(kSmallestSize);
+    resize(kInitialSize);
+    m_state->setFilePanels(std::make_shared<FileDialogPanels>(this));
+    buildLayout();
+    connect(m_state.get(), &EditState::videoURLChanged, this, &WindowRootView::showTitle);
+    connect(m_state.get(), &EditState::exportProgressChanged, this,
+            &WindowRootView::closeAfterExport);
+    showTitle();
+}
+
+WindowRootView::~WindowRootView() {
+    // An export may keep the model for a while; this window no longer listens to it.
+    m_state->disconnect(this);
+    if (m_focusedValues.editState() == m_state)
+        m_focusedValues.setEditState(nullptr);
+}
+
+void WindowRootView::buildLayout() {
+    auto* menuBar = new QMenuBar;
+    m_commands->fill(*menuBar);
+    connect(m_commands, &AppCommands::newWindowRequested, this,
+            &WindowRootView::newWindowRequested);
+    connect(m_commands, &AppCommands::quitRequested, this, &WindowRootView::quitRequested);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->setMenuBar(menuBar);
+    layout->addWidget(m_content, 1);
+}
+
+void WindowRootView::bringToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void WindowRootView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!m_hasAppeared) {
+        m_hasAppeared = true;
+        appear();
+    }
+}
+
+void WindowRootView::appear() {
+    OpenBridge::registerState(m_state);
+    if (const auto url = OpenBridge::takePending())
+        m_state->load(*url);
+    // Where nothing else has the keyboard this window is about to get it.
+    if (!m_focusedValues.editState())
+        publish();
+}
+
+void WindowRootView::showTitle() {
+    const auto& url = m_state->videoURL();
+    setWindowTitle(url ? displayName(*url) : QStringLiteral("Brisklet"));
+}
+
+void WindowRootView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        publish();
+}
+
+void WindowRootView::publish() {
+    m_focusedValues.setEditState(m_state);
+}
+
+void WindowRootView::closeAfterExport() {
+    if (m_state->exportProgress())
+        return;
+    delete m_closeQuestion;
+    if (m_closesAfterExport)
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void WindowRootView::closeEvent(QCloseEvent* event) {
+    if (!m_state->exportProgress()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (!m_closesAfterExport && !m_closeQuestion)
+        askToStopExport();
+}
+
+void WindowRootView::askToStopExport() {
+    QWidget* sheet = m_content->attachedSheet();
+    m_closeQuestion = new QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"),
+                                      tr("Stop the export and close?"), QMessageBox::Cancel,
+                                      sheet != nullptr ? sheet : this);
+    m_closeQuestion->addButton(tr("Stop and Close"), QMessageBox::AcceptRole);
+    m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_closeQuestion, &QMessageBox::accepted, this, [this] {
+        m_closesAfterExport = true;
+        m_state->cancelExport();
+        if (!m_state->exportProgress())
+            close();
+    });
+    m_closeQuestion->open();
+}
+
+} // namespace brisklet

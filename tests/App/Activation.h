@@ -1,0 +1,18 @@
+#pragma once
+
+#include "QtSupport/EventPump.h"
+
+#include <QApplication>
+#include <QWidget>
+
+namespace testsupport {
+
+/// Shows a window and gives it the keyboard. QTest's own wait is content with the window that a
+/// dialog belongs to.
+inline bool showActive(QWidget& window) {
+    window.show();
+    window.activateWindow();
+    return pumpUntil([&window] { return QApplication::activeWindow() == &window; });
+}
+
+} // namespace testsupport

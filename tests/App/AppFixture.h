@@ -1,0 +1,84 @@
+#pragma once
+
+#include "Activation.h"
+#include "BriskletApp.h"
+#include "Models/EditState.h"
+#include "QtSupport/EventPump.h"
+#include "Support/FileUrl.h"
+#include "TestSupport/Fixture.h"
+#include "TestSupport/TemporaryFolder.h"
+#include "WindowRootView.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace brisklet {
+
+/// The program inside the test, without a session bus.
+class AppFixture : public testing::Test {
+protected:
+    ~AppFixture() override {
+        for (WindowRootView* window : m_app->windows())
+            window->state()->cancelExport();
+        testsupport::pumpUntil([this] {
+            for (WindowRootView* window : m_app->windows()) {
+                if (window->state()->exportProgress())
+                    return false;
+            }
+            return true;
+        });
+    }
+
+    static QUrl video(double seconds) {
+        return urlOf(testsupport::makeFixture({.duration = seconds}).path);
+    }
+
+    /// A window that has the keyboard.
+    WindowRootView* openWindow() {
+        WindowRootView* window = m_app->openWindow();
+        EXPECT_TRUE(testsupport::showActive(*window));
+        return window;
+    }
+
+    static bool loadAndWait(WindowRootView& window, const QUrl& url) {
+        window.state()->load(url);
+        return testsupport::pumpUntil([&] { return window.state()->videoURL() == url; });
+    }
+
+    /// Starts an export that takes long enough to look at.
+    bool startLongExport(WindowRootView& window) {
+        const auto source =
+            testsupport::makeFixture({.duration = 30, .width = 640, .height = 480}).path;
+        if (!loadAndWait(window, urlOf(source)))
+            return false;
+        window.state()->exportTo(urlOf(m_folder / "out.mp4"));
+        return window.state()->exportProgress().has_value();
+    }
+
+    static QMessageBox* visibleQuestion(const WindowRootView& window) {
+        for (auto* box : window.findChildren<QMessageBox*>()) {
+            if (box->isVisible())
+                return box;
+        }
+        return nullptr;
+    }
+
+    static void clickRole(QMessageBox& box, QMessageBox::ButtonRole role) {
+        for (QAbstractButton* button : box.buttons()) {
+            if (box.buttonRole(button) == role) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                return;
+            }
+        }
+        ADD_FAILURE() << "There is no such button.";
+    }
+
+    testsupport::TemporaryFolder m_folder;
+    std::unique_ptr<BriskletApp> m_app = std::make_unique<BriskletApp>();
+};
+
+} // namespace brisklet

@@ -1,0 +1,163 @@
+#include "AppFixture.h"
+
+#include "Views/ContentView.h"
+#include "Views/ControlsView.h"
+
+#include <QPointer>
+
+#include <filesystem>
+
+namespace brisklet {
+namespace {
+
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+
+class WindowRootViewTest : public AppFixture {
+protected:
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(m_window, key, modifiers);
+    }
+
+    QPointer<WindowRootView> m_window = openWindow();
+};
+
+TEST_F(WindowRootViewTest, isNoSmallerThanItsContentNeeds) {
+    EXPECT_EQ(m_window->minimumSize(), QSize(720, 480));
+    m_window->resize(10, 10);
+    EXPECT_GE(m_window->width(), 720);
+    EXPECT_GE(m_window->height(), 480);
+}
+
+TEST_F(WindowRootViewTest, isNamedAfterItsVideo) {
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("Brisklet"));
+    const QUrl url = video(1);
+    ASSERT_TRUE(loadAndWait(*m_window, url));
+    EXPECT_EQ(m_window->windowTitle(), displayName(url));
+    WindowRootView* second = openWindow();
+    EXPECT_EQ(second->windowTitle(), QStringLiteral("Brisklet"));
+    const QUrl other = video(2);
+    ASSERT_TRUE(loadAndWait(*second, other));
+    EXPECT_EQ(second->windowTitle(), displayName(other));
+    EXPECT_EQ(m_window->windowTitle(), displayName(url));
+}
+
+TEST_F(WindowRootViewTest, publishesTheModelOfTheActiveWindow) {
+    FocusedValues& values = m_app->focusedValues();
+    EXPECT_EQ(values.editState(), m_window->state());
+    QPointer<WindowRootView> second = openWindow();
+    EXPECT_EQ(values.editState(), second->state());
+    ASSERT_TRUE(testsupport::showActive(*m_window));
+    EXPECT_EQ(values.editState(), m_window->state());
+    delete m_window;
+    ASSERT_TRUE(testsupport::showActive(*second));
+    EXPECT_EQ(values.editState(), second->state());
+    delete second;
+    EXPECT_EQ(values.editState(), nullptr);
+}
+
+TEST_F(WindowRootViewTest, takesTheKeysOfCommandsAndControls) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(10)));
+    EditState& state = *m_window->state();
+    state.seek(2);
+    press(Qt::Key_BracketLeft);
+    EXPECT_DOUBLE_EQ(state.trimStart(), 2);
+    press(Qt::Key_M);
+    EXPECT_TRUE(state.isMuted());
+    press(Qt::Key_R);
+    EXPECT_EQ(state.rotation(), 270);
+    press(Qt::Key_Space);
+    ASSERT_TRUE(pumpUntil([&state] { return state.isPlaying(); }));
+    press(Qt::Key_Right);
+    ASSERT_TRUE(pumpUntil([&state] { return !state.isPlaying(); }));
+}
+
+TEST_F(WindowRootViewTest, ignoresTheEditingKeysWhileItIsEmpty) {
+    for (const Qt::Key key :
+         {Qt::Key_BracketLeft, Qt::Key_BracketRight, Qt::Key_Left, Qt::Key_Right})
+        press(key);
+    pumpPending();
+    EXPECT_EQ(m_window->state()->trimStart(), 0);
+    EXPECT_EQ(m_window->state()->currentTime(), 0);
+}
+
+TEST_F(WindowRootViewTest, opensAnotherWindowByItsKey) {
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(m_app->windows().size(), 2);
+}
+
+TEST_F(WindowRootViewTest, closesByEscapeAndEndsItsModel) {
+    const std::weak_ptr<EditState> state = m_window->state();
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(pumpUntil([this] { return m_window.isNull(); }));
+    pumpPending();
+    EXPECT_TRUE(state.expired());
+}
+
+TEST_F(WindowRootViewTest, keepsTheWindowWhenEscapeDismissesItsAlert) {
+    m_window->state()->load(urlOf(m_folder / "missing.mov"));
+    ASSERT_TRUE(pumpUntil([this] { return m_window->state()->errorMessage().has_value(); }));
+    QMessageBox* alert = visibleQuestion(*m_window);
+    ASSERT_NE(alert, nullptr);
+    ASSERT_TRUE(testsupport::showActive(*alert));
+    QTest::keyClick(alert, Qt::Key_Escape);
+    ASSERT_TRUE(pumpUntil([this] { return !m_window->state()->errorMessage(); }));
+    EXPECT_TRUE(m_window->isVisible());
+}
+
+TEST_F(WindowRootViewTest, keepsTheWindowAndTheExportWhenEscapeIsPressedOnItsSheet) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    QWidget* sheet = m_window->content().attachedSheet();
+    ASSERT_NE(sheet, nullptr);
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    pumpPending();
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(m_window->state()->exportProgress());
+}
+
+TEST_F(WindowRootViewTest, asksBeforeItStopsAnExportToClose) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    m_window->close();
+    EXPECT_TRUE(m_window->isVisible());
+    QMessageBox* question = visibleQuestion(*m_window);
+    ASSERT_NE(question, nullptr);
+    EXPECT_EQ(question->text(), QStringLiteral("Stop the export and close?"));
+    clickRole(*question, QMessageBox::RejectRole);
+    pumpPending();
+    EXPECT_TRUE(m_window->state()->exportProgress().has_value());
+    EXPECT_TRUE(m_window->isVisible());
+
+    m_window->close();
+    question = visibleQuestion(*m_window);
+    ASSERT_NE(question, nullptr);
+    clickRole(*question, QMessageBox::AcceptRole);
+    ASSERT_TRUE(pumpUntil([this] { return m_window.isNull(); }));
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
+}
+
+TEST_F(WindowRootViewTest, takesTheQuestionBackWhenTheExportEnds) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(1)));
+    m_window->state()->exportTo(urlOf(m_folder / "out.mp4"));
+    m_window->close();
+    ASSERT_NE(visibleQuestion(*m_window), nullptr);
+    ASSERT_TRUE(pumpUntil([this] { return !m_window->state()->exportProgress(); }));
+    pumpPending();
+    ASSERT_TRUE(m_window);
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_EQ(visibleQuestion(*m_window), nullptr);
+    EXPECT_TRUE(std::filesystem::exists(m_folder / "out.mp4"));
+}
+
+TEST_F(WindowRootViewTest, mayGoWhileItsVideoLoadsAndPlays) {
+    m_window->state()->load(video(10));
+    delete m_window;
+    m_window = openWindow();
+    ASSERT_TRUE(loadAndWait(*m_window, video(10)));
+    m_window->state()->togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return m_window->state()->isPlaying(); }));
+    delete m_window;
+    pumpPending();
+}
+
+} // namespace
+} // namespace brisklet
