@@ -34,21 +34,46 @@ struct FirstPictures {
 /// How many packets are looked at to learn whether a track states its presentation times.
 constexpr int kPacketsToJudge = 16;
 
+/// How many packets are read in search of the second one of a sound.
+constexpr int kPacketsForSound = 64;
+
+/// Whether the first packet only prepares the decoder, although the container counts its time.
+bool beginsWithSilentPacket(const AVFormatContext& context, const AVStream& stream) {
+    return stream.codecpar->codec_id == AV_CODEC_ID_VORBIS &&
+           std::string_view(context.iformat->name).starts_with("matroska");
+}
+
 /// Reads a track's packets until one picture has decoded and its habits are known.
 class FirstPicturesReader {
 public:
     FirstPicturesReader(Demuxer& demuxer, const SourceTrack& track)
-        : m_demuxer(demuxer), m_track(track), m_decoder(*track.parameters, track.timeBase, 1) {}
+        : m_demuxer(demuxer), m_track(track), m_decoder(*track.parameters, track.timeBase, 1) {
+        const AVFormatContext& context = demuxer.context();
+        for (unsigned i = 0; i < context.nb_streams; ++i) {
+            if (beginsWithSilentPacket(context, *context.streams[i]))
+                m_soundTimes[context.streams[i]->index];
+        }
+    }
 
     FirstPictures read(const std::stop_token& stop) {
         const bool mustJudge = !statesPresentationTimes(*m_demuxer.context().iformat);
-        while (!m_timestamp || (mustJudge && m_packets < kPacketsToJudge)) {
+        for (int read = 0; !m_timestamp || (mustJudge && m_packets < kPacketsToJudge) ||
+                           (isAwaitingSound() && read < kPacketsForSound);
+             ++read) {
             if (!readPacket(stop))
                 break;
         }
         if (!m_timestamp)
             throw Error("Not one picture in this file can be decoded.");
         return judged();
+    }
+
+    /// When the second packet of a stream is presented; its time base. Known of Vorbis only.
+    [[nodiscard]] std::optional<std::int64_t> secondPacket(int stream) const {
+        const auto entry = m_soundTimes.find(stream);
+        if (entry == m_soundTimes.end() || entry->second.size() < 2)
+            return std::nullopt;
+        return entry->second[1];
     }
 
     /// The first picture, once read() has returned.
@@ -59,6 +84,7 @@ private:
     bool readPacket(const std::stop_token& stop) {
         const bool hasPacket = m_demuxer.read(*m_packet, stop) == Demuxer::Status::packet;
         if (hasPacket && m_packet->stream_index != m_track.facts.streamIndex) {
+            noteSound();
             av_packet_unref(m_packet.get());
             return true;
         }
@@ -76,6 +102,17 @@ private:
         }
         av_packet_unref(m_packet.get());
         return hasPacket;
+    }
+
+    void noteSound() {
+        const auto entry = m_soundTimes.find(m_packet->stream_index);
+        if (entry != m_soundTimes.end() && entry->second.size() < 2)
+            entry->second.push_back(m_packet->pts);
+    }
+
+    [[nodiscard]] bool isAwaitingSound() const {
+        return std::ranges::any_of(m_soundTimes,
+                                   [](const auto& entry) { return entry.second.size() < 2; });
     }
 
     [[nodiscard]] FirstPictures judged() const {
@@ -99,6 +136,8 @@ private:
     FramePtr m_frame = makeFrame();
     std::optional<std::int64_t> m_timestamp;
     std::int64_t m_firstDts = AV_NOPTS_VALUE;
+    /// The first two times of each stream whose first packet is silent.
+    std::map<int, std::vector<std::int64_t>> m_soundTimes;
     int m_packets = 0;
     int m_packetsWithoutPts = 0;
 };
@@ -111,29 +150,48 @@ AVFieldOrder fieldOrderOf(const AVCodecParameters& parameters, const AVFrame& pi
                                                       : parameters.field_order;
 }
 
-/// When a stream is first seen or heard; its time base. Matroska's times count the samples that an
-/// Opus decoder drops at the beginning, those of other containers do not.
-std::optional<std::int64_t> presentationStart(const AVFormatContext& context,
-                                              const AVStream& stream) {
-    if (stream.start_time == AV_NOPTS_VALUE)
-        return std::nullopt;
-    const AVCodecParameters& parameters = *stream.codecpar;
-    if (parameters.codec_id != AV_CODEC_ID_OPUS ||
-        !std::string_view(context.iformat->name).starts_with("matroska"))
-        return stream.start_time;
-    return stream.start_time +
-           av_rescale_q(parameters.initial_padding, {1, parameters.sample_rate}, stream.time_base);
+/// Where the container's times are not those of presentation: by stream, in its time base.
+using CorrectedStarts = std::map<int, std::int64_t>;
+
+/// When a stream is first seen or heard; its time base.
+std::optional<std::int64_t> presentationStart(const AVStream& stream,
+                                              const CorrectedStarts& corrected) {
+    if (const auto entry = corrected.find(stream.index); entry != corrected.end())
+        return entry->second;
+    return stream.start_time == AV_NOPTS_VALUE ? std::nullopt : std::optional(stream.start_time);
+}
+
+/// Matroska's times count the samples that an Opus decoder drops at the beginning and a first
+/// packet of Vorbis, of which nothing is heard; those of other containers do not.
+CorrectedStarts correctedStarts(const AVFormatContext& context, const FirstPicturesReader* reader) {
+    CorrectedStarts starts;
+    if (!std::string_view(context.iformat->name).starts_with("matroska"))
+        return starts;
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        const AVStream& stream = *context.streams[i];
+        const AVCodecParameters& parameters = *stream.codecpar;
+        if (stream.start_time == AV_NOPTS_VALUE)
+            continue;
+        if (parameters.codec_id == AV_CODEC_ID_OPUS)
+            starts[stream.index] =
+                stream.start_time + av_rescale_q(parameters.initial_padding,
+                                                 {1, parameters.sample_rate}, stream.time_base);
+        const auto second = reader ? reader->secondPacket(stream.index) : std::nullopt;
+        if (second && *second != AV_NOPTS_VALUE)
+            starts[stream.index] = *second;
+    }
+    return starts;
 }
 
 /// The origin of the asset's time line: the earliest start of any audio or video stream.
-Time findOrigin(const AVFormatContext& context, const std::optional<Time>& firstPicture,
-                int pictureStream) {
+Time findOrigin(const AVFormatContext& context, const CorrectedStarts& corrected,
+                const std::optional<Time>& firstPicture, int pictureStream) {
     std::optional<Time> origin = firstPicture;
     for (unsigned i = 0; i < context.nb_streams; ++i) {
         const AVStream& stream = *context.streams[i];
         const AVMediaType type = stream.codecpar->codec_type;
         const bool counts = type == AVMEDIA_TYPE_AUDIO || type == AVMEDIA_TYPE_VIDEO;
-        const auto timestamp = presentationStart(context, stream);
+        const auto timestamp = presentationStart(stream, corrected);
         if (!counts || stream.index == pictureStream || !timestamp ||
             (stream.disposition & AV_DISPOSITION_ATTACHED_PIC))
             continue;
@@ -292,23 +350,25 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
 
     std::optional<Time> firstPicture;
     int pictureStream = -1;
+    std::optional<FirstPicturesReader> reader;
     const auto video = std::ranges::find(info.tracks, MediaType::video,
                                          [](const SourceTrack& track) { return track.facts.type; });
     if (video != info.tracks.end()) {
-        FirstPicturesReader reader(demuxer, *video);
-        const FirstPictures first = reader.read(stop);
+        reader.emplace(demuxer, *video);
+        const FirstPictures first = reader->read(stop);
         video->dynamicRange =
-            describeDynamicRange(*context.streams[video->facts.streamIndex], reader.picture());
-        video->fieldOrder = fieldOrderOf(*video->parameters, reader.picture());
+            describeDynamicRange(*context.streams[video->facts.streamIndex], reader->picture());
+        video->fieldOrder = fieldOrderOf(*video->parameters, reader->picture());
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;
         if (first.timestamp != AV_NOPTS_VALUE)
             firstPicture = timeOf(first.timestamp, video->timeBase);
     }
-    info.origin = findOrigin(context, firstPicture, pictureStream);
+    const CorrectedStarts corrected = correctedStarts(context, reader ? &*reader : nullptr);
+    info.origin = findOrigin(context, corrected, firstPicture, pictureStream);
     for (SourceTrack& track : info.tracks) {
-        const auto start = presentationStart(context, *context.streams[track.facts.streamIndex]);
+        const auto start = presentationStart(*context.streams[track.facts.streamIndex], corrected);
         const bool isPicture = track.facts.streamIndex == pictureStream && firstPicture;
         track.facts.startTime = (isPicture ? *firstPicture
                                  : start   ? timeOf(*start, track.timeBase)
