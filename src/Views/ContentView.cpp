@@ -45,8 +45,10 @@ ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
       m_dropZone(new DropZoneView(m_state)),
       m_editor(new EditorView(m_state)) {
     setAcceptDrops(true);
-    m_faces->addWidget(m_dropZone);
-    m_faces->addWidget(m_editor);
+    for (QWidget* face : std::initializer_list<QWidget*>{m_dropZone, m_editor}) {
+        face->setFocusPolicy(Qt::ClickFocus);
+        m_faces->addWidget(face);
+    }
     observe();
     showFace();
     showExport();
@@ -72,10 +74,14 @@ void ContentView::observe() {
 }
 
 void ContentView::showFace() {
-    if (m_state->videoURL())
-        m_faces->setCurrentWidget(m_editor);
-    else
-        m_faces->setCurrentWidget(m_dropZone);
+    QWidget* face = m_editor;
+    if (!m_state->videoURL())
+        face = m_dropZone;
+    if (m_faces->currentWidget() == face)
+        return;
+    m_faces->setCurrentWidget(face);
+    // No control has the keyboard until the user gives it to one: keys are the window's.
+    face->setFocus(Qt::OtherFocusReason);
 }
 
 void ContentView::showExport() {

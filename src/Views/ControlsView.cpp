@@ -11,9 +11,11 @@
 #include <QActionGroup>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QShortcut>
+#include <QWidgetAction>
 
 #include <utility>
 
@@ -36,6 +38,20 @@ protected:
         QPainter(this).fillRect(rect(), theme::quaternary(palette()));
     }
 };
+
+/// The title of a group of entries; the style's own separators leave it no room.
+void addTitle(QMenu& menu, const QString& title) {
+    constexpr QMargins kMargins(10, 6, 10, 2);
+    auto* label = new QLabel(title);
+    label->setFont(theme::captionFont(menu.font()));
+    label->setContentsMargins(kMargins);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    auto* action = new QWidgetAction(&menu);
+    action->setText(title);
+    action->setDefaultWidget(label);
+    action->setEnabled(false);
+    menu.addAction(action);
+}
 
 void describe(FlatButton& button, const QString& help) {
     button.setToolTip(help);
@@ -115,7 +131,7 @@ void ControlsView::buildMenu() {
 }
 
 void ControlsView::addFormats(QMenu& menu) {
-    menu.addSection(tr("Format"));
+    addTitle(menu, tr("Format"));
     auto* group = new QActionGroup(&menu);
     for (const ExportFormat format : kAllExportFormats) {
         QAction* action = menu.addAction(rawValue(format));
@@ -132,7 +148,8 @@ void ControlsView::addFormats(QMenu& menu) {
 }
 
 void ControlsView::addResolutions(QMenu& menu) {
-    menu.addSection(tr("Resolution"));
+    menu.addSeparator();
+    addTitle(menu, tr("Resolution"));
     auto* group = new QActionGroup(&menu);
     for (const ExportResolution resolution : kAllExportResolutions) {
         QAction* action = menu.addAction(label(resolution));

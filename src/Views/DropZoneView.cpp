@@ -1,7 +1,7 @@
 #include "Views/DropZoneView.h"
 
 #include "Models/EditState.h"
-#include "Views/Symbols.h"
+#include "Views/SymbolView.h"
 #include "Views/Theme.h"
 
 #include <QEvent>
@@ -20,22 +20,12 @@ namespace {
 constexpr int kSpacing = 16;
 constexpr int kPadding = 24;
 constexpr int kSymbolSide = 48;
+constexpr QSize kButtonSize(128, 30);
 constexpr qreal kBorderRadius = 12;
 constexpr qreal kBorderWidth = 2;
 /// Points on, points off.
 constexpr qreal kDash = 8;
 constexpr float kLitOpacity = 0.08F;
-
-class FilmSymbol final : public QWidget {
-public:
-    FilmSymbol() { setFixedSize(kSymbolSide, kSymbolSide); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        paintSymbol(painter, Symbol::film, rect(), theme::secondary(palette()));
-    }
-};
 
 QPen borderPen(const QColor& color) {
     QPen pen(color, kBorderWidth, Qt::CustomDashLine, Qt::FlatCap, Qt::MiterJoin);
@@ -47,8 +37,11 @@ QPen borderPen(const QColor& color) {
 } // namespace
 
 DropZoneView::DropZoneView(std::shared_ptr<EditState> state, QWidget* parent)
-    : QWidget(parent), m_symbol(new FilmSymbol), m_invitation(new QLabel(tr("Drop a video here"))) {
+    : QWidget(parent),
+      m_symbol(new SymbolView(Symbol::film, kSymbolSide)),
+      m_invitation(new QLabel(tr("Drop a video here"))) {
     auto* button = new QPushButton(tr("Open Video…"));
+    button->setMinimumSize(kButtonSize);
     button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this,
             [model = std::move(state)] { model->presentOpenPanel(); });
@@ -91,6 +84,7 @@ void DropZoneView::showFonts() {
     QPalette secondary;
     secondary.setColor(QPalette::WindowText, theme::secondary(palette()));
     m_invitation->setPalette(secondary);
+    m_symbol->setPalette(secondary);
 }
 
 void DropZoneView::changeEvent(QEvent* event) {

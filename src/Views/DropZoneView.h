@@ -9,6 +9,7 @@ class QLabel;
 namespace brisklet {
 
 class EditState;
+class SymbolView;
 
 /// What an empty window shows: the invitation to drop a video, and a button to open one. Lights up
 /// while something that can be dropped is over the window. Main thread.
@@ -29,7 +30,7 @@ protected:
 private:
     void showFonts();
 
-    QWidget* m_symbol;
+    SymbolView* m_symbol;
     QLabel* m_invitation;
     bool m_isLit = false;
 };

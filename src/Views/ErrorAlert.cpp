@@ -1,11 +1,23 @@
 #include "Views/ErrorAlert.h"
 
-#include <QAbstractButton>
+#include "Views/SymbolView.h"
+#include "Views/Theme.h"
+
+#include <QEvent>
 #include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 namespace brisklet {
 
 namespace {
+
+constexpr int kSymbolSide = 36;
+constexpr int kSpacing = 12;
+constexpr int kPadding = 24;
+/// Of the message, points: about sixty letters to the line.
+constexpr int kTextWidth = 340;
+constexpr int kButtonWidth = 96;
 
 /// The same text, but with places to break a line inside words of more than a line's length: the
 /// name of a file can have 255 letters and no space.
@@ -24,23 +36,61 @@ QString withBreaksInLongWords(const QString& text) {
     return result;
 }
 
+QLabel* plainLabel() {
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignHCenter);
+    label->setFixedWidth(kTextWidth);
+    return label;
+}
+
 } // namespace
 
-ErrorAlert::ErrorAlert(QWidget* window) : QMessageBox(window) {
+ErrorAlert::ErrorAlert(QWidget* window)
+    : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint),
+      m_symbol(new SymbolView(Symbol::exclamationTriangle, kSymbolSide)),
+      m_title(plainLabel()),
+      m_text(plainLabel()) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setIcon(QMessageBox::Warning);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Something Went Wrong"));
-    setText(tr("Something Went Wrong"));
-    setStandardButtons(QMessageBox::Ok);
-    button(QMessageBox::Ok)->setText(tr("OK"));
-    setEscapeButton(QMessageBox::Ok);
+    m_title->setText(windowTitle());
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* button = new QPushButton(tr("OK"));
+    button->setMinimumWidth(kButtonWidth);
+    button->setDefault(true);
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
+    stack->setSpacing(kSpacing);
+    stack->setSizeConstraint(QLayout::SetFixedSize);
+    stack->addWidget(m_symbol, 0, Qt::AlignHCenter);
+    stack->addWidget(m_title, 0, Qt::AlignHCenter);
+    stack->addWidget(m_text, 0, Qt::AlignHCenter);
+    stack->addWidget(button, 0, Qt::AlignHCenter);
+    showLook();
 }
 
 void ErrorAlert::setMessage(const QString& message) {
-    setInformativeText(withBreaksInLongWords(message));
-    for (QLabel* label : findChildren<QLabel*>())
-        label->setTextFormat(Qt::PlainText);
+    m_message = message;
+    m_text->setText(withBreaksInLongWords(message));
+    setAccessibleDescription(message);
+}
+
+void ErrorAlert::showLook() {
+    m_title->setFont(theme::headlineFont(font()));
+    QPalette red;
+    red.setColor(QPalette::WindowText, theme::red(palette()));
+    m_symbol->setPalette(red);
+}
+
+void ErrorAlert::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
+        showLook();
 }
 
 } // namespace brisklet

@@ -39,6 +39,8 @@ QString fileOf(Symbol symbol) {
         return QStringLiteral(":/symbols/chevron.compact.right.svg");
     case Symbol::chevronDown:
         return QStringLiteral(":/symbols/chevron.down.svg");
+    case Symbol::exclamationTriangle:
+        return QStringLiteral(":/symbols/exclamationmark.triangle.svg");
     }
     return {};
 }

@@ -20,6 +20,7 @@ enum class Symbol {
     chevronLeft,
     chevronRight,
     chevronDown,
+    exclamationTriangle,
 };
 
 /// Draws `symbol` in one colour, as large as fits into `rect`, centred, sharp on the device that

@@ -141,12 +141,19 @@ TEST_F(ControlsViewTest, offersFormatsThenResolutionsThenTheReset) {
     for (const QAction* action : menu().actions())
         texts << (action->isSeparator() && action->text().isEmpty() ? QStringLiteral("-")
                                                                     : action->text());
-    const QStringList wanted{QStringLiteral("Format"),   QStringLiteral("MP4"),
-                             QStringLiteral("MOV"),      QStringLiteral("Resolution"),
-                             QStringLiteral("Original"), QStringLiteral("2160p"),
-                             QStringLiteral("1440p"),    QStringLiteral("1080p"),
-                             QStringLiteral("720p"),     QStringLiteral("480p"),
-                             QStringLiteral("-"),        QStringLiteral("Reset to Defaults")};
+    const QStringList wanted{QStringLiteral("Format"),
+                             QStringLiteral("MP4"),
+                             QStringLiteral("MOV"),
+                             QStringLiteral("-"),
+                             QStringLiteral("Resolution"),
+                             QStringLiteral("Original"),
+                             QStringLiteral("2160p"),
+                             QStringLiteral("1440p"),
+                             QStringLiteral("1080p"),
+                             QStringLiteral("720p"),
+                             QStringLiteral("480p"),
+                             QStringLiteral("-"),
+                             QStringLiteral("Reset to Defaults")};
     EXPECT_EQ(texts, wanted);
 }
 

@@ -87,7 +87,7 @@ TEST(ControlLabels, nameFormatAndCapOfTheExport) {
 }
 
 TEST(Symbols, areDrawnInTheColourAskedFor) {
-    for (int number = 0; number <= static_cast<int>(Symbol::chevronDown); ++number) {
+    for (int number = 0; number <= static_cast<int>(Symbol::exclamationTriangle); ++number) {
         const QImage image =
             symbolPixmap(static_cast<Symbol>(number), 18, QColor(10, 200, 30), 2).toImage();
         ASSERT_EQ(image.size(), QSize(36, 36));

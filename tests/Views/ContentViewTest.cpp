@@ -1,0 +1,276 @@
+#include "Views/ContentView.h"
+
+#include "Models/EditStateFixture.h"
+#include "TestSupport/TemporaryFolder.h"
+#include "Views/CropOverlayView.h"
+#include "Views/DropZoneView.h"
+#include "Views/EditorView.h"
+#include "Views/ErrorAlert.h"
+#include "Views/ExportProgressView.h"
+#include "Views/PlayerContainerView.h"
+#include "Views/PlayerLayerView.h"
+#include "Views/VideoArea.h"
+
+#include <QDragEnterEvent>
+#include <QDragLeaveEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+
+#include <fstream>
+#include <memory>
+
+namespace brisklet {
+namespace {
+
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+
+class ContentViewTest : public EditStateFixture {
+protected:
+    ContentViewTest() {
+        m_content->resize(960, 640);
+        m_content->show();
+        m_content->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_content.get()));
+    }
+
+    ~ContentViewTest() override {
+        state().cancelExport();
+        pumpUntil([this] { return !state().exportProgress(); });
+    }
+
+    template<typename T>
+    T* shown() const {
+        for (T* child : m_content->findChildren<T*>()) {
+            if (child->isVisible())
+                return child;
+        }
+        return nullptr;
+    }
+
+    /// Drops as another program does: over the window first, then let go.
+    bool drop(const QMimeData& data) {
+        const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter({10, 10}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_content.get(), &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent drop({10, 10}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        drop.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(m_content.get(), &drop);
+        m_dropAction = drop.dropAction();
+        return drop.isAccepted();
+    }
+
+    bool drop(const QList<QUrl>& urls) {
+        QMimeData data;
+        data.setUrls(urls);
+        return drop(data);
+    }
+
+    bool hasVideo(const std::filesystem::path& path) {
+        return pumpUntil([this, &path] { return state().videoURL() == urlOf(path); });
+    }
+
+    /// Starts an export that takes long enough to look at.
+    bool startLongExport() {
+        if (!loadAndWait(testsupport::Recipe{.duration = 30, .width = 640, .height = 480}))
+            return false;
+        state().exportTo(urlOf(m_folder / "out.mp4"));
+        return pumpUntil([this] { return shown<ExportProgressView>() != nullptr; });
+    }
+
+    QRect areaOfPlayer() const { return shown<VideoArea>()->player().geometry(); }
+
+    testsupport::TemporaryFolder m_folder;
+    /// What the last drop told the other side to do with its file.
+    Qt::DropAction m_dropAction = Qt::IgnoreAction;
+    std::unique_ptr<ContentView> m_content = std::make_unique<ContentView>(m_state);
+};
+
+TEST_F(ContentViewTest, invitesADropUntilAVideoIsLoaded) {
+    EXPECT_NE(shown<DropZoneView>(), nullptr);
+    EXPECT_EQ(shown<EditorView>(), nullptr);
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    EXPECT_EQ(shown<DropZoneView>(), nullptr);
+    EXPECT_NE(shown<EditorView>(), nullptr);
+}
+
+TEST_F(ContentViewTest, opensAVideoByTheButtonOfTheDropZone) {
+    const auto video = testsupport::makeFixture(kTenSeconds).path;
+    m_panels->toOpen = urlOf(video);
+    auto* button = shown<QPushButton>();
+    EXPECT_EQ(button->text(), QStringLiteral("Open Video…"));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(hasVideo(video));
+}
+
+TEST_F(ContentViewTest, loadsOnlyTheFirstOfThreeDroppedFiles) {
+    const auto first = testsupport::makeFixture({.duration = 10}).path;
+    const auto second = testsupport::makeFixture({.duration = 4}).path;
+    const auto third = testsupport::makeFixture({.duration = 2}).path;
+    EXPECT_TRUE(drop({urlOf(first), urlOf(second), urlOf(third)}));
+    ASSERT_TRUE(hasVideo(first));
+    ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
+    EXPECT_EQ(state().videoURL(), urlOf(first));
+}
+
+TEST_F(ContentViewTest, replacesTheVideoByADroppedOne) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    const auto other = testsupport::makeFixture({.duration = 4}).path;
+    EXPECT_TRUE(drop({urlOf(other)}));
+    EXPECT_TRUE(hasVideo(other));
+}
+
+TEST_F(ContentViewTest, refusesADropOfNothing) {
+    EXPECT_FALSE(drop(QList<QUrl>()));
+    QMimeData text;
+    text.setText(QStringLiteral("not a file"));
+    EXPECT_FALSE(drop(text));
+}
+
+TEST_F(ContentViewTest, leavesTheDraggedFileWhereItIs) {
+    EXPECT_TRUE(drop({urlOf(testsupport::makeFixture(kTenSeconds).path)}));
+    EXPECT_EQ(m_dropAction, Qt::CopyAction);
+}
+
+TEST_F(ContentViewTest, lightsTheDropZoneUpWhileAFileIsOverIt) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.mov"))});
+    const auto* zone = shown<DropZoneView>();
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_content.get(), &enter);
+    EXPECT_TRUE(zone->isLit());
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(m_content.get(), &leave);
+    EXPECT_FALSE(zone->isLit());
+}
+
+TEST_F(ContentViewTest, loadsTheFileBehindATransferOfASandboxedProgram) {
+    const auto video = testsupport::makeFixture(kTenSeconds).path;
+    QMimeData data;
+    data.setData(QStringLiteral("application/vnd.portal.filetransfer"), QByteArray("4711\0", 5));
+    EXPECT_FALSE(drop(data)) << "nobody can say what the key stands for";
+    QByteArray asked;
+    m_content->setFileTransfer([&](const QByteArray& key, const auto& done) {
+        asked = key;
+        done({urlOf(video)});
+    });
+    EXPECT_TRUE(drop(data));
+    EXPECT_EQ(asked, "4711");
+    EXPECT_TRUE(hasVideo(video));
+}
+
+TEST_F(ContentViewTest, tellsThatADroppedTextIsNoVideoAndKeepsItsFace) {
+    const auto notes = m_folder / "notes.txt";
+    std::ofstream(notes) << "not a video";
+    EXPECT_TRUE(drop({urlOf(notes)}));
+    ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
+    const QPointer<ErrorAlert> alert = shown<ErrorAlert>();
+    EXPECT_EQ(alert->windowTitle(), QStringLiteral("Something Went Wrong"));
+    EXPECT_EQ(alert->message(), state().errorMessage());
+    EXPECT_TRUE(alert->message().startsWith(QStringLiteral("Couldn't open “notes.txt”: ")));
+    EXPECT_EQ(alert->windowModality(), Qt::WindowModal);
+    auto* button = alert->findChild<QPushButton*>();
+    EXPECT_EQ(button->text(), QStringLiteral("OK"));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(pumpUntil([&alert] { return !alert; }));
+    EXPECT_FALSE(state().errorMessage());
+    EXPECT_NE(shown<DropZoneView>(), nullptr);
+    EXPECT_FALSE(state().videoURL());
+}
+
+TEST_F(ContentViewTest, keepsTheVideoWhenAnotherFileCannotBeLoaded) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    const auto before = state().videoURL();
+    drop({urlOf(m_folder / "missing.mov")});
+    ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
+    QTest::keyClick(shown<ErrorAlert>(), Qt::Key_Escape);
+    EXPECT_TRUE(pumpUntil([this] { return !state().errorMessage(); }));
+    EXPECT_NE(shown<EditorView>(), nullptr);
+    EXPECT_EQ(state().videoURL(), before);
+}
+
+TEST_F(ContentViewTest, showsALongNameInAnAlertNoWiderThanTheOthers) {
+    state().load(urlOf(m_folder / (std::string(250, 'x') + ".mov")));
+    ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
+    EXPECT_LT(shown<ErrorAlert>()->width(), 480);
+}
+
+TEST_F(ContentViewTest, laysAPictureOfUnknownSizeOutAsSixteenByNine) {
+    EXPECT_EQ(fittedPicture({0, 0}, {1600, 1600}), QRectF(0, 350, 1600, 900));
+    EXPECT_EQ(fittedPicture({0, 0}, {3200, 900}), QRectF(800, 0, 1600, 900));
+}
+
+TEST_F(ContentViewTest, fitsThePictureWholeAndCentred) {
+    EXPECT_EQ(fittedPicture({1080, 1920}, {1000, 960}), QRectF(230, 0, 540, 960));
+    EXPECT_EQ(fittedPicture({400, 300}, {800, 800}), QRectF(0, 100, 800, 600));
+}
+
+TEST_F(ContentViewTest, turnsThePictureWithinTheFittedRectangle) {
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 2, .width = 320, .height = 240}));
+    const auto* area = shown<VideoArea>();
+    for (int turn = 0; turn < 4; ++turn) {
+        const media::Size shownSize = state().rotatedDisplaySize();
+        const QRectF fitted = fittedPicture(shownSize, area->size());
+        EXPECT_EQ(areaOfPlayer(), fitted.toAlignedRect());
+        EXPECT_EQ(area->cropOverlay().videoRect(), fitted);
+        EXPECT_EQ(area->cropOverlay().geometry(), area->rect());
+        EXPECT_EQ(area->player().layerView().rotation(), state().rotation());
+        // The picture, once it has come in the new size, fills the rectangle.
+        EXPECT_TRUE(pumpUntil([&] {
+            const QRectF picture = area->player().layerView().videoRect();
+            return picture.width() >= fitted.width() - 2 && picture.height() >= fitted.height() - 2;
+        }));
+        state().rotateLeft();
+    }
+}
+
+TEST_F(ContentViewTest, keepsTheExportSheetUntilTheExportHasEnded) {
+    ASSERT_TRUE(startLongExport());
+    const QPointer<ExportProgressView> sheet = shown<ExportProgressView>();
+    EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(m_content->attachedSheet(), sheet);
+    auto* bar = sheet->findChild<QProgressBar*>();
+    EXPECT_EQ(bar->width(), 260);
+    ASSERT_TRUE(pumpUntil([bar] { return bar->value() > 0; }));
+
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    sheet->close();
+    QTest::mouseClick(m_content.get(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    pumpPending();
+    ASSERT_TRUE(sheet);
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_TRUE(state().exportProgress());
+
+    auto* cancel = sheet->findChild<QPushButton*>();
+    EXPECT_EQ(cancel->text(), QStringLiteral("Cancel"));
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    EXPECT_TRUE(pumpUntil([&sheet] { return !sheet; }));
+    EXPECT_FALSE(state().exportProgress());
+    EXPECT_EQ(m_content->attachedSheet(), nullptr);
+    EXPECT_EQ(shown<ErrorAlert>(), nullptr);
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
+}
+
+TEST_F(ContentViewTest, givesTheKeyboardToNoControlBeforeTheUserDoes) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    EXPECT_EQ(m_content->focusWidget(), shown<EditorView>());
+    QTest::keyClick(m_content.get(), Qt::Key_R);
+    EXPECT_EQ(state().rotation(), 270);
+}
+
+TEST_F(ContentViewTest, mayGoWhileItsVideoPlaysAndExports) {
+    ASSERT_TRUE(startLongExport());
+    m_content.reset();
+    EXPECT_TRUE(state().exportProgress());
+    state().togglePlayback();
+    pumpPending();
+}
+
+} // namespace
+} // namespace brisklet
