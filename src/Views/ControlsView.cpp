@@ -45,7 +45,9 @@ void addTitle(QMenu& menu, const QString& title) {
     auto* label = new QLabel(title);
     label->setFont(theme::captionFont(menu.font()));
     label->setContentsMargins(kMargins);
-    label->setForegroundRole(QPalette::PlaceholderText);
+    QPalette secondary;
+    secondary.setColor(QPalette::WindowText, theme::secondary(menu.palette()));
+    label->setPalette(secondary);
     auto* action = new QWidgetAction(&menu);
     action->setText(title);
     action->setDefaultWidget(label);
