@@ -1,6 +1,5 @@
 #include "Media/PictureRenderer.h"
 
-#include "Media/Pixels/BgrxPacking.h"
 #include "Media/Pixels/CanvasPainter.h"
 #include "Media/Pixels/RecentlyUsed.h"
 
@@ -13,14 +12,27 @@ using namespace pixels;
 
 namespace {
 
-struct ImageSize {
-    int width = 1;
-    int height = 1;
-    friend bool operator==(const ImageSize&, const ImageSize&) = default;
-};
+AVColorSpace matrixOf(const AVFrame& frame) {
+    if (frame.colorspace != AVCOL_SPC_UNSPECIFIED && frame.colorspace != AVCOL_SPC_RESERVED)
+        return frame.colorspace;
+    return frame.height < 720 ? AVCOL_SPC_SMPTE170M : AVCOL_SPC_BT709;
+}
 
-/// A picture of `natural` size in no more than the pixels given (0: any number), never enlarged.
-ImageSize fitted(Size natural, int maxWidth, int maxHeight) {
+PreviewPicture::Kind kindOf(Family family) {
+    switch (family) {
+    case Family::grey:
+        return PreviewPicture::Kind::grey;
+    case Family::rgb:
+        return PreviewPicture::Kind::rgb;
+    case Family::yuv:
+        break;
+    }
+    return PreviewPicture::Kind::yuv;
+}
+
+} // namespace
+
+ImageSize fittedSize(Size natural, int maxWidth, int maxHeight) {
     double scale = 1;
     if (maxWidth > 0)
         scale = std::min(scale, maxWidth / natural.width);
@@ -33,38 +45,29 @@ ImageSize fitted(Size natural, int maxWidth, int maxHeight) {
     return {side(natural.width, maxWidth), side(natural.height, maxHeight)};
 }
 
-AVColorSpace matrixOf(const AVFrame& frame) {
-    if (frame.colorspace != AVCOL_SPC_UNSPECIFIED && frame.colorspace != AVCOL_SPC_RESERVED)
-        return frame.colorspace;
-    return frame.height < 720 ? AVCOL_SPC_SMPTE170M : AVCOL_SPC_BT709;
-}
-
-} // namespace
-
 class PictureRenderer::Private {
 public:
+    enum class Chroma { everywhere, asTheSource };
+
     explicit Private(const AssetTrack& track)
         : m_naturalSize(track.naturalSize), m_upright(track.preferredTransform) {}
 
-    ImagePtr render(const AVFrame& frame, int maxWidth, int maxHeight);
+    PreviewPicturePtr render(const AVFrame& frame, int maxWidth, int maxHeight, Chroma chroma);
 
 private:
     struct Key {
         PlanarFormat picture;
         ImageSize image;
+        int chromaShift = 0;
         friend bool operator==(const Key&, const Key&) = default;
     };
 
     std::unique_ptr<CanvasPainter> painterFor(const Key& key) const;
-    std::array<ConstPlane, 3> upright(const PlanarPicture& picture, ImageSize size);
 
     Size m_naturalSize;
     AffineTransform m_upright;
     PlanarReader m_reader;
     RecentlyUsed<Key, CanvasPainter> m_painters{4};
-    std::array<PlaneBuffer, 3> m_planes;
-    /// Chroma of a grey line.
-    std::vector<std::uint8_t> m_neutral;
 };
 
 std::unique_ptr<CanvasPainter> PictureRenderer::Private::painterFor(const Key& key) const {
@@ -78,61 +81,33 @@ std::unique_ptr<CanvasPainter> PictureRenderer::Private::painterFor(const Key& k
     const CanvasFormat canvas{.width = key.image.width,
                               .height = key.image.height,
                               .depth = 8,
-                              .chromaShift = 0,
-                              .chromaLocation = AVCHROMA_LOC_LEFT,
+                              .chromaShift = key.chromaShift,
+                              .chromaLocation =
+                                  key.chromaShift > 0 ? AVCHROMA_LOC_TOPLEFT : AVCHROMA_LOC_LEFT,
                               .filter = Filter::cubic,
                               .dithers = true};
     return std::make_unique<CanvasPainter>(key.picture, mapping, canvas);
 }
 
-/// The picture's planes at the image's size; grey has only the first.
-std::array<ConstPlane, 3> PictureRenderer::Private::upright(const PlanarPicture& picture,
-                                                            ImageSize size) {
-    const Key key{picture.format, size};
-    CanvasPainter& painter = m_painters.get(key, [&] { return painterFor(key); });
-    std::array<ConstPlane, 3> planes;
-    std::array<Plane, 3> canvas;
-    for (unsigned index = 0; index < 3; ++index) {
-        if (index > 0 && picture.format.family == Family::grey)
-            break;
-        if (const auto unchanged = painter.unchanged(picture, index)) {
-            planes[index] = *unchanged;
-            continue;
-        }
-        canvas[index] = m_planes[index].reserve(size.width, size.height, 8);
-        planes[index] = canvas[index];
-    }
-    painter.paint(picture, canvas);
-    return planes;
-}
-
-ImagePtr PictureRenderer::Private::render(const AVFrame& frame, int maxWidth, int maxHeight) {
+PreviewPicturePtr PictureRenderer::Private::render(const AVFrame& frame, int maxWidth,
+                                                   int maxHeight, Chroma chroma) {
     const PlanarPicture picture = m_reader.read(frame);
+    const PlanarFormat& format = picture.format;
     const Size oriented =
         m_upright.apply(Rect{0, 0, m_naturalSize.width, m_naturalSize.height}).size();
-    const ImageSize size = fitted(oriented, maxWidth, maxHeight);
-    auto planes = upright(picture, size);
-    if (picture.format.family == Family::grey) {
-        m_neutral.assign(static_cast<std::size_t>(size.width), 128);
-        planes[1] = planes[2] = {m_neutral.data(), 0, size.width, size.height};
-    }
-
-    auto image = std::make_shared<Image>();
-    image->width = size.width;
-    image->height = size.height;
-    image->stride = 4 * size.width;
-    image->pixels.resize(static_cast<std::size_t>(image->stride) *
-                         static_cast<std::size_t>(size.height));
-    const YuvToRgb toRgb(matrixOf(frame), picture.format.isFullRange);
-    for (int y = 0; y < size.height; ++y) {
-        std::uint8_t* out = image->pixels.data() + std::ptrdiff_t{y} * image->stride;
-        if (picture.format.family == Family::rgb)
-            packLine(planes[0].line(y), planes[1].line(y), planes[2].line(y), out, size.width);
-        else
-            toRgb.convertLine(planes[0].line(y), planes[1].line(y), planes[2].line(y), out,
-                              size.width);
-    }
-    return image;
+    const ImageSize size = fittedSize(oriented, maxWidth, maxHeight);
+    const bool isCoarse = chroma == Chroma::asTheSource && format.family == Family::yuv &&
+                          format.chromaShiftX > 0 && format.chromaShiftY > 0;
+    const Key key{format, size, isCoarse ? 1 : 0};
+    auto preview =
+        std::make_shared<PreviewPicture>(PreviewPicture::Format{.width = size.width,
+                                                                .height = size.height,
+                                                                .kind = kindOf(format.family),
+                                                                .chromaShift = key.chromaShift,
+                                                                .matrix = matrixOf(frame),
+                                                                .isFullRange = format.isFullRange});
+    m_painters.get(key, [&] { return painterFor(key); }).paint(picture, preview->planes());
+    return preview;
 }
 
 PictureRenderer::PictureRenderer(const AssetTrack& track) : d(std::make_unique<Private>(track)) {}
@@ -140,7 +115,11 @@ PictureRenderer::PictureRenderer(const AssetTrack& track) : d(std::make_unique<P
 PictureRenderer::~PictureRenderer() = default;
 
 ImagePtr PictureRenderer::render(const AVFrame& frame, int maxWidth, int maxHeight) {
-    return d->render(frame, maxWidth, maxHeight);
+    return d->render(frame, maxWidth, maxHeight, Private::Chroma::everywhere)->image();
+}
+
+PreviewPicturePtr PictureRenderer::preview(const AVFrame& frame, int maxWidth, int maxHeight) {
+    return d->render(frame, maxWidth, maxHeight, Private::Chroma::asTheSource);
 }
 
 } // namespace media

@@ -3,10 +3,22 @@
 #include "Media/Asset.h"
 #include "Media/FFmpeg/Handles.h"
 #include "Media/Image.h"
+#include "Media/PreviewPicture.h"
 
 #include <memory>
 
 namespace media {
+
+/// Width and height in pixels.
+struct ImageSize {
+    int width = 1;
+    int height = 1;
+    friend bool operator==(const ImageSize&, const ImageSize&) = default;
+};
+
+/// The size of an upright picture of `natural` size that is scaled to fit into maxWidth × maxHeight
+/// pixels (0 leaves a side free), never enlarged; at least 1 × 1.
+ImageSize fittedSize(Size natural, int maxWidth, int maxHeight);
 
 /// Turns decoded frames of one track into upright screen pictures: colour matrix and range
 /// applied, pixel aspect ratio resampled to square pixels, transparency over black. Keeps its
@@ -21,6 +33,9 @@ public:
     /// The picture scaled to fit into maxWidth × maxHeight pixels (0 leaves a side free), never
     /// enlarged; at least 1 × 1. Throws Error if the frame's pixel format cannot be converted.
     [[nodiscard]] ImagePtr render(const AVFrame& frame, int maxWidth, int maxHeight);
+
+    /// The same in the form in which many are kept: chroma is as coarse as that of the source.
+    [[nodiscard]] PreviewPicturePtr preview(const AVFrame& frame, int maxWidth, int maxHeight);
 
 private:
     class Private;

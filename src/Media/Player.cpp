@@ -24,6 +24,10 @@ using playback::Transport;
 /// Stands in for a duration that is not known: ten years.
 constexpr Time kUnknownDuration{std::int64_t{315'360'000} * kComparisonTimescale,
                                 kComparisonTimescale};
+/// How long a seek may take before something else is shown meanwhile.
+constexpr std::chrono::milliseconds kPatience{50};
+/// Seeks that follow one another faster tell a direction.
+constexpr std::chrono::milliseconds kLongestPauseInDrag{500};
 /// Observers are not called more often than this.
 constexpr std::chrono::milliseconds kShortestInterval{1};
 
@@ -39,6 +43,11 @@ std::int64_t clampedTicks(Time time, Time last) {
 /// The earliest and the latest frame time that a seek accepts.
 playback::SeekRequest seekRequest(Time target, Time before, Time after, Time duration) {
     return {clampedTicks(target - before, duration), clampedTicks(target + after, duration)};
+}
+
+Size pictureSize(const PlayerItem* item) {
+    const auto tracks = item ? item->asset()->tracks(MediaType::video) : std::vector<AssetTrack>();
+    return tracks.empty() ? Size{1, 1} : orientedSize(tracks.front());
 }
 
 Time clamped(Time time, Time duration) {
@@ -75,6 +84,7 @@ public:
     void seek(Time time, Time before, Time after, std::function<void(bool)> done);
     void step(int count);
     void setVideoSink(VideoSink* sink);
+    void setPointsOfInterest(const std::vector<Time>& times);
     Token addObserver(Time interval, std::function<void(Time)> handler);
     void removeObserver(Token token);
 
@@ -107,7 +117,9 @@ private:
         }
     };
 
-    static StaleWork beginJump(Transport& transport, Time target, playback::SeekRequest request);
+    StaleWork beginJump(Transport& transport, Time target, playback::SeekRequest request);
+    [[nodiscard]] bool mayGoOn(const Transport& transport, playback::SeekRequest request) const;
+    static void noteDirection(Transport& transport, playback::SeekRequest request);
     void abandonSeek();
     void finishSeek(std::uint64_t generation);
 
@@ -181,10 +193,16 @@ void Player::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item)
         auto access = transport();
         const Time duration = item ? item->asset()->duration() : Time{};
         access->duration = duration.isNumeric() ? duration : kUnknownDuration;
+        access->pictureSize = pictureSize(item.get());
         access->item.swap(item);
         access->immediate.reset();
+        access->seek.reset();
+        access->decodingAt.reset();
+        access->direction = 0;
         std::swap(access->shown, shown);
+        m_playback.cache.begin(access->item.get());
         stale = beginJump(*access, access->item ? Time{} : Time::invalid(), {});
+        access->direction = 0;
     }
     stale.stop();
 }
@@ -192,18 +210,41 @@ void Player::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item)
 /// Everything that holds for the time before is void; the threads turn to the new one.
 Player::Private::StaleWork Player::Private::beginJump(Transport& transport, Time target,
                                                       playback::SeekRequest request) {
+    const bool goesOn = mayGoOn(transport, request);
+    noteDirection(transport, request);
     ++transport.generation;
+    if (!transport.seek)
+        transport.substituteAt = now() + kPatience;
     transport.seek = request;
     transport.steps.clear();
+    transport.step.reset();
     transport.upcoming.clear();
     transport.isPictureReady = false;
+    transport.passing.reset();
+    m_playback.cache.setFocus(request.earliest);
     transport.hasEnded = false;
     for (playback::TickObserver& observer : transport.observers)
         observer.isDue = false;
     transport.holdClock(target);
     transport.videoWake.raise();
-    return {std::exchange(transport.videoWork, std::stop_source()),
-            std::exchange(transport.audioWork, std::stop_source())};
+    StaleWork stale;
+    if (!goesOn)
+        stale.video = std::exchange(transport.videoWork, std::stop_source());
+    stale.audio = std::exchange(transport.audioWork, std::stop_source());
+    return stale;
+}
+
+/// Whether what the video thread is at may be finished: the frame is at hand, or lies ahead where
+/// decoding is under way to an older target.
+bool Player::Private::mayGoOn(const Transport& transport, playback::SeekRequest request) const {
+    const bool isAhead = transport.decodingAt && request.earliest >= *transport.decodingAt;
+    return isAhead || m_playback.cache.find(request.earliest, transport.imageSize());
+}
+
+void Player::Private::noteDirection(Transport& transport, playback::SeekRequest request) {
+    const std::int64_t from = transport.seek ? transport.seek->earliest : transport.shown.begin;
+    const bool isDrag = now() - transport.lastJump < kLongestPauseInDrag;
+    transport.direction = !isDrag ? 0 : request.earliest < from ? -1 : 1;
 }
 
 void Player::Private::setPlaying(bool isPlaying) {
@@ -267,6 +308,8 @@ void Player::Private::step(int count) {
         return;
     access->hasEnded = false;
     access->steps.push_back(count);
+    access->direction = count < 0 ? -1 : 1;
+    access->presenterWake.raise();
     access->videoWake.raise();
 }
 
@@ -276,6 +319,20 @@ void Player::Private::setVideoSink(VideoSink* sink) {
     access->sink = sink;
     access->isRedeliveryWanted = sink != nullptr;
     access->presenterWake.raise();
+}
+
+void Player::Private::setPointsOfInterest(const std::vector<Time>& times) {
+    std::vector<std::int64_t> ticks;
+    auto access = transport();
+    for (const Time time : times) {
+        if (access->item && isTime(time))
+            ticks.push_back(clampedTicks(time, access->duration));
+    }
+    if (ticks == m_playback.cache.pointsOfInterest())
+        return;
+    m_playback.cache.setPointsOfInterest(std::move(ticks));
+    ++access->interests;
+    access->videoWake.raise();
 }
 
 Player::Token Player::Private::addObserver(Time interval, std::function<void(Time)> handler) {
@@ -470,7 +527,13 @@ void Player::setPreviewSize(int pixelWidth, int pixelHeight) {
     d->assertOwner();
     auto access = d->transport();
     access->previewSize = {std::max(pixelWidth, 0), std::max(pixelHeight, 0)};
+    access->presenterWake.raise();
     access->videoWake.raise();
+}
+
+void Player::setPointsOfInterest(const std::vector<Time>& times) {
+    d->assertOwner();
+    d->setPointsOfInterest(times);
 }
 
 Player::Token Player::addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace media {
 
@@ -67,7 +68,8 @@ public:
     [[nodiscard]] float rate() const;
 
     /// Moves to `time`, clamped to the item; keeps the rate. A zero tolerance shows the frame at
-    /// exactly that time. A later seek replaces an earlier one that is still on its way. `done`
+    /// exactly that time; until it is decoded a nearer one than that on show may stand in for it,
+    /// under its own time. A later seek replaces an earlier one that is still on its way. `done`
     /// (may be empty) runs when the frame has been handed to the sink (true) or the seek was
     /// replaced (false).
     void seek(Time time, Time toleranceBefore, Time toleranceAfter,
@@ -87,6 +89,11 @@ public:
     /// into it, never enlarged; 0 × 0 asks for full size. A paused player delivers its frame again.
     void setVideoSink(VideoSink* sink);
     void setPreviewSize(int pixelWidth, int pixelHeight);
+
+    /// Times of the current item that are likely to be gone to, such as the ends of a selection:
+    /// frames around them are made ready when there is nothing else to do, and kept longer. A new
+    /// item has none.
+    void setPointsOfInterest(const std::vector<Time>& times);
 
     /// Calls `handler` with the current time every `interval` of playback and whenever the time
     /// jumps. An owner that falls behind gets one call for several intervals.

@@ -58,16 +58,24 @@ public:
     ~Private() { m_asset->demuxers().giveBack(std::move(m_demuxer)); }
 
     void seek(std::int64_t ticks, const std::stop_token& stop) {
-        m_target = ticks;
-        m_bestTicks = kNoTarget;
-        if (!isAheadNearby(ticks))
-            reposition(ticks, ticks, stop);
+        approach(ticks, ticks, stop);
         advanceTo(ticks, stop);
         m_target = kNoTarget;
     }
 
+    void approach(std::int64_t ticks, std::int64_t completeFrom, const std::stop_token& stop) {
+        m_target = ticks;
+        m_completeFrom = completeFrom;
+        m_bestTicks = kNoTarget;
+        if (!isAheadNearby(ticks))
+            reposition(ticks, ticks, stop);
+    }
+
+    [[nodiscard]] bool isCompleteFrom(std::int64_t ticks) const { return ticks >= m_gaplessFrom; }
+
     bool seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop) {
         m_target = latest;
+        m_completeFrom = latest;
         m_bestTicks = kNoTarget;
         const std::int64_t middle = earliest + (latest - earliest) / 2;
         const bool hasKeyFrameAtHand = hasKeyFrameWithin(earliest, middle);
@@ -259,7 +267,7 @@ private:
             m_bestTicks = std::max(m_bestTicks, ticks);
         if (!canSkipNonReference(m_track.parameters->codec_id))
             return false;
-        if (ticks >= m_bestTicks)
+        if (ticks >= m_bestTicks || ticks >= m_completeFrom)
             return false;
         m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
         return true;
@@ -317,6 +325,8 @@ private:
     /// pictures read so far.
     std::int64_t m_target = kNoTarget;
     std::int64_t m_bestTicks = kNoTarget;
+    /// No picture from this tick on is left out on that way.
+    std::int64_t m_completeFrom = kNoTarget;
     /// Pictures before this tick may have been left out of the run being decoded; a later target
     /// before it, after a seek that was given up, needs a new run.
     std::int64_t m_gaplessFrom = kNoTarget;
@@ -330,6 +340,15 @@ VideoReader::~VideoReader() = default;
 
 void VideoReader::seek(std::int64_t ticks, const std::stop_token& stop) {
     d->seek(ticks, stop);
+}
+
+void VideoReader::approach(std::int64_t ticks, std::int64_t completeFrom,
+                           const std::stop_token& stop) {
+    d->approach(ticks, completeFrom, stop);
+}
+
+bool VideoReader::isCompleteFrom(std::int64_t ticks) const {
+    return d->isCompleteFrom(ticks);
 }
 
 bool VideoReader::seekNear(std::int64_t earliest, std::int64_t latest,

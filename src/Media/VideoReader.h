@@ -54,6 +54,15 @@ public:
     /// reader stays usable; its position is then unspecified until the next seek).
     void seek(std::int64_t ticks, const std::stop_token& stop = {});
 
+    /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
+    /// frame at `ticks` or one before it, from which the others follow. Frames before
+    /// `completeFrom` may be left out on the way, those from there on are all given out as long as
+    /// isCompleteFrom() says so.
+    void approach(std::int64_t ticks, std::int64_t completeFrom, const std::stop_token& stop = {});
+
+    /// Whether no frame between one given out at `ticks` and the next frame was left out.
+    [[nodiscard]] bool isCompleteFrom(std::int64_t ticks) const;
+
     /// Moves to a frame that stands for the window from `earliest` to `latest` (both included) and
     /// is cheap to decode: the last key frame up to its middle, or else one behind it, or else the
     /// first frame in it; where no frame begins in it, the one that is on show throughout. False

@@ -151,7 +151,8 @@ void CanvasPainter::paintPlane(Step& step, ConstPlane in, Plane out) const {
 }
 
 void CanvasPainter::softenChromaEdges(const Step& step, Plane out) const {
-    // A chroma sample that the picture shares with the black beside it has half of each.
+    // A chroma sample that the picture shares with the black beside it has half of each; the last
+    // one of an odd canvas has only the picture.
     if (!step.isSubsampled)
         return;
     const int depth = m_canvas.depth;
@@ -163,11 +164,11 @@ void CanvasPainter::softenChromaEdges(const Step& step, Plane out) const {
     };
     if (m_columns.first % 2 != 0)
         soften(part(out, 0, 0, 1, out.height, depth));
-    if (m_columns.end % 2 != 0)
+    if (m_columns.end % 2 != 0 && m_columns.end < m_canvas.width)
         soften(part(out, out.width - 1, 0, 1, out.height, depth));
     if (m_rows.first % 2 != 0)
         soften(part(out, 0, 0, out.width, 1, depth));
-    if (m_rows.end % 2 != 0)
+    if (m_rows.end % 2 != 0 && m_rows.end < m_canvas.height)
         soften(part(out, 0, out.height - 1, out.width, 1, depth));
 }
 

@@ -15,7 +15,7 @@ struct CanvasFormat {
     int width = 0;
     int height = 0;
     int depth = 8;
-    /// For canvases of YUV; 0 or 1, where width and height are even if 1.
+    /// For canvases of YUV; 0 or 1. Planes of odd canvases have one more half sample.
     int chromaShift = 0;
     AVChromaLocation chromaLocation = AVCHROMA_LOC_LEFT;
     Filter filter = Filter::spline36;

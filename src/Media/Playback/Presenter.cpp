@@ -12,6 +12,8 @@ using std::chrono::milliseconds;
 constexpr nanoseconds kLate = milliseconds(20);
 /// How long the clock waits for a sound device before the picture goes on without.
 constexpr milliseconds kSoundPatience{1000};
+/// Between two looks for something to show in place of the frame that a seek is on its way to.
+constexpr milliseconds kShortestWait{1};
 /// Nothing to wait for but a wake.
 constexpr std::chrono::hours kIdle{1};
 
@@ -34,6 +36,10 @@ void Presenter::work(const std::stop_token& stop) {
     Access access = m_playback.transport.lock();
     while (!stop.stop_requested()) {
         const SteadyTime now = std::chrono::steady_clock::now();
+        if (const std::optional<Find> found = find(*access, now)) {
+            prepare(access, *found);
+            continue;
+        }
         const Round round = look(*access, now);
         if (round.isEmpty())
             access->presenterWake.wait(access, stop, nextLook(*access, now));
@@ -90,7 +96,7 @@ void Presenter::takeDueFrames(Transport& transport, SteadyTime now, Round& round
     const nanoseconds time = toNanoseconds(transport.time(now));
     bool isAny = false;
     while (!transport.upcoming.empty() &&
-           dueTime(transport.upcoming.front().source->ticks) <= time) {
+           dueTime(transport.upcoming.front().time.comparisonTicks()) <= time) {
         if (isAny)
             ++transport.statistics.dropped;
         isAny = true;
@@ -99,7 +105,7 @@ void Presenter::takeDueFrames(Transport& transport, SteadyTime now, Round& round
     }
     if (!isAny)
         return;
-    if (time - dueTime(transport.shown.source->ticks) > kLate)
+    if (time - dueTime(transport.shown.time.comparisonTicks()) > kLate)
         ++transport.statistics.late;
     ++transport.statistics.shown;
     transport.videoWake.raise();
@@ -129,6 +135,8 @@ void Presenter::finish(Transport& transport, SteadyTime now, Round& round) {
 }
 
 SteadyTime Presenter::nextLook(const Transport& transport, SteadyTime now) {
+    if (transport.seek)
+        return std::max(transport.substituteAt, now + kShortestWait);
     if (!transport.isRunningWanted() || !transport.isPictureReady)
         return now + kIdle;
     const PlaybackClock& clock = transport.clock;
@@ -136,8 +144,8 @@ SteadyTime Presenter::nextLook(const Transport& transport, SteadyTime now) {
         return transport.readySince + kSoundPatience;
     SteadyTime next = clock.whenReaches(toNanoseconds(transport.duration), now);
     if (!transport.upcoming.empty())
-        next = std::min(next,
-                        clock.whenReaches(dueTime(transport.upcoming.front().source->ticks), now));
+        next = std::min(next, clock.whenReaches(
+                                  dueTime(transport.upcoming.front().time.comparisonTicks()), now));
     for (const TickObserver& observer : transport.observers)
         next =
             std::min(next, clock.whenReaches(observer.interval * (observer.lastInterval + 1), now));

@@ -25,8 +25,9 @@ struct PlaybackEvent {
     std::uint64_t endCount = 0;
 };
 
-/// Hands each frame to the sink when the clock comes to it, and reports the boundaries of the time
-/// observers and the end of the item. Lives on one thread of its own: the one that calls the sink.
+/// Hands each frame to the sink: after a jump as soon as the cache has it, while playing when the
+/// clock comes to it. Reports the boundaries of the time observers and the end of the item. Lives
+/// on one thread of its own: the one that calls the sink.
 class Presenter {
 public:
     using Report = std::function<void(const PlaybackEvent&)>;
@@ -46,6 +47,21 @@ private:
 
         [[nodiscard]] bool isEmpty() const { return !picture && events.empty(); }
     };
+
+    /// A frame of the cache that is to be shown at once.
+    struct Find {
+        enum class Purpose { seek, step, redraw, substitute };
+        Purpose purpose = Purpose::seek;
+        std::uint64_t generation = 0;
+        CachedFrame frame;
+    };
+
+    [[nodiscard]] std::optional<Find> find(Transport& transport, SteadyTime now) const;
+    [[nodiscard]] std::optional<CachedFrame> findSought(Transport& transport) const;
+    [[nodiscard]] std::optional<CachedFrame> findSubstitute(const Transport& transport) const;
+    [[nodiscard]] std::optional<CachedFrame> findStep(Transport& transport) const;
+    void prepare(Access& access, const Find& find);
+    static void arrive(Transport& transport, const Find& find);
 
     static Round look(Transport& transport, SteadyTime now);
     static void takeFrame(Transport& transport, SteadyTime now, Round& round);

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "Media/Guarded.h"
+#include "Media/Playback/FrameCache.h"
+#include "Media/Playback/FrameSource.h"
 #include "Media/Playback/PlaybackClock.h"
 #include "Media/Player.h"
-#include "Media/VideoReader.h"
 
 #include <deque>
 #include <functional>
@@ -14,22 +15,22 @@
 
 namespace media::playback {
 
-/// Largest size of the delivered frames in pixels; 0 leaves a side free.
-struct PreviewSize {
-    int width = 0;
-    int height = 0;
-    friend bool operator==(const PreviewSize&, const PreviewSize&) = default;
-};
-
 /// A frame and its picture, ready to be shown.
 struct ReadyFrame {
-    /// Kept so that it can be rendered in another size; null when there is nothing to show.
-    std::shared_ptr<const DecodedFrame> source;
+    /// null when there is nothing to show.
     ImagePtr image;
-    PreviewSize previewSize;
+    Time time;
+    /// The ticks that it stands for, as CachedFrame has them.
+    std::int64_t begin = 0;
+    std::int64_t end = 0;
 
-    [[nodiscard]] TimedImage timedImage() const { return {image, source ? source->time : Time{}}; }
+    [[nodiscard]] TimedImage timedImage() const { return {image, time}; }
+
+    [[nodiscard]] bool holds(std::int64_t ticks) const { return begin <= ticks && ticks < end; }
 };
+
+/// The frame with its picture as the screen takes it; takes about a millisecond.
+ReadyFrame readyFrame(const CachedFrame& frame);
 
 /// A frame that is to be shown at once, whatever the clock says.
 struct ImmediateFrame {
@@ -44,6 +45,24 @@ struct ImmediateFrame {
 struct SeekRequest {
     std::int64_t earliest = 0;
     std::int64_t latest = 0;
+    /// The clock is set to the time of the frame that was found.
+    bool movesClock = false;
+
+    [[nodiscard]] bool isExact() const { return earliest == latest; }
+};
+
+/// A step that is under way.
+struct StepProgress {
+    /// Frames to go; negative: backward.
+    int left = 0;
+    /// The ticks of the frame reached so far.
+    std::int64_t begin = 0;
+    std::int64_t end = 0;
+    /// That frame; none before the first.
+    std::optional<CachedFrame> frame;
+
+    /// The tick of the frame to go to next; none at either end of the track.
+    [[nodiscard]] std::optional<std::int64_t> nextTicks() const;
 };
 
 /// A periodic time observer as the presenter sees it.
@@ -59,8 +78,9 @@ struct TickObserver {
 /// What the owner of a player and the player's threads tell each other.
 ///
 /// The owner says what is wanted: an item, a position, whether to play. The video thread decodes
-/// frames for it, the presenter shows them by the clock and notices the end, the audio thread
-/// sounds the samples and drives the clock. Each wakes the next.
+/// frames for it into the cache, the presenter takes them from there, shows them at once after a
+/// jump and by the clock while playing, and notices the end; the audio thread sounds the samples
+/// and drives the clock. Each wakes the next.
 struct Transport {
     Wake videoWake;
     Wake audioWake;
@@ -76,19 +96,35 @@ struct Transport {
     std::uint64_t generation = 0;
     /// Changes whenever the clock is stopped or moved: sound for an older run is stale.
     std::uint64_t run = 0;
-    /// Not yet begun by the video thread.
+    /// Not yet arrived.
     std::optional<SeekRequest> seek;
     std::deque<int> steps;
+    /// The first of the steps, once begun.
+    std::optional<StepProgress> step;
     PreviewSize previewSize;
+    /// Of the item's picture, upright.
+    Size pictureSize{1, 1};
     /// Stop what the video or the audio thread is at.
     std::stop_source videoWork;
     std::stop_source audioWork;
+
+    /// Which way the picture was moved last (-1, 0, 1), and when.
+    int direction = 0;
+    SteadyTime lastJump;
+    /// Changes with the points of interest.
+    std::uint64_t interests = 0;
 
     // What has come of it.
 
     PlaybackClock clock;
     /// The frame for this generation has been handed on (or cannot be had): the clock may run.
     bool isPictureReady = false;
+    /// When something near is to be shown while a seek is on its way.
+    SteadyTime substituteAt;
+    /// The frame that decoding passed lately on that way.
+    std::shared_ptr<const CachedFrame> passing;
+    /// Where that decoding is, 1/600 s; none while there is none under way.
+    std::optional<std::int64_t> decodingAt;
     /// When playing became possible: how long the clock has waited for the sound.
     SteadyTime readySince;
     /// The item played to its end, which the owner has not yet been told of.
@@ -106,6 +142,8 @@ struct Transport {
     bool isRedeliveryWanted = false;
     /// Decoded ahead while playing, in order.
     std::deque<ReadyFrame> upcoming;
+    /// The tick of the frame that is to follow on those; CachedFrame::kForever at the end.
+    std::int64_t nextTicks = CachedFrame::kForever;
     std::optional<ImmediateFrame> immediate;
     /// The frame handed to the sink last.
     ReadyFrame shown;
@@ -114,6 +152,11 @@ struct Transport {
     std::vector<TickObserver> observers;
 
     [[nodiscard]] bool isRunningWanted() const { return item && isPlaying && !hasEnded; }
+
+    /// The size that frames are to have.
+    [[nodiscard]] ImageSize imageSize() const;
+    /// The frame on show has that size, or there is none.
+    [[nodiscard]] bool isShownInSize() const;
 
     /// The clock's time, not after the item's end; invalid without item.
     [[nodiscard]] Time time(SteadyTime now);
@@ -126,6 +169,8 @@ struct Transport {
 /// The transport of one player and what goes with it.
 struct Playback {
     Guarded<Transport> transport;
+    /// May be asked while the transport is locked, not the other way round.
+    FrameCache cache;
     /// The presenter has returned from the sink.
     std::condition_variable_any sinkIsFree;
 };

@@ -11,27 +11,19 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// Frames decoded ahead: enough to bridge what one frame takes longer than another, and no more
-/// than kAheadBytes of pictures beyond the first few.
-constexpr std::size_t kLeastAhead = 3;
-constexpr std::size_t kMostAhead = 8;
-constexpr std::size_t kAheadBytes = std::size_t{48} << 20;
-/// Further behind than this, decoding what lies between is given up.
-constexpr milliseconds kFarBehind{500};
+/// Further behind than this (1/600 s), decoding what lies between is given up.
+constexpr std::int64_t kFarBehindTicks = kComparisonTimescale / 2;
 /// However far behind, one frame in this time is shown.
 constexpr milliseconds kLongestFreeze{200};
+/// Frames that are kept on the way to a target: when it is approached backward more of them will
+/// be asked for.
+constexpr std::int64_t kMarginTicks = kComparisonTimescale / 2;
+constexpr std::int64_t kBackwardMarginTicks = 2 * kComparisonTimescale;
+/// A frame that is passed on the way is made ready for showing so long before it may be needed.
+constexpr milliseconds kHeadStart{10};
 
-std::int64_t ticksAt(nanoseconds time) {
-    return Time{time.count(), kNanoTimescale}.comparisonTicks();
-}
-
-bool hasRoom(const std::deque<ReadyFrame>& frames) {
-    if (frames.size() < kLeastAhead)
-        return true;
-    std::size_t bytes = 0;
-    for (const ReadyFrame& frame : frames)
-        bytes += frame.image ? frame.image->byteCount() : 0;
-    return frames.size() < kMostAhead && bytes < kAheadBytes;
+SteadyTime now() {
+    return std::chrono::steady_clock::now();
 }
 
 } // namespace
@@ -43,256 +35,284 @@ void VideoPlayback::work(const std::stop_token& stop) {
             auto access = m_playback.transport.lock();
             job = takeJob(*access);
             if (!job)
-                access->videoWake.wait(access, stop);
+                access->videoWake.wait(access, stop, nextLook(*access));
         }
         if (job)
             perform(*job);
     }
 }
 
-std::optional<VideoPlayback::Job> VideoPlayback::takeJob(Transport& transport) {
-    Job job;
-    // A frame on its way to the screen is where a step and all that is decoded next start from.
-    const bool mayGoOn = !transport.immediate;
-    if (transport.seek) {
-        job.kind = Job::Kind::seek;
-        job.seek = *std::exchange(transport.seek, std::nullopt);
-    } else if (mayGoOn && !transport.steps.empty()) {
-        job.kind = Job::Kind::step;
-        job.stepCount = transport.steps.front();
-        transport.steps.pop_front();
-    } else if (mayGoOn && isRedrawWanted(transport)) {
-        job.kind = Job::Kind::redraw;
-    } else if (mayGoOn && isAheadWanted(transport)) {
-        job.kind = Job::Kind::ahead;
-    } else {
-        return std::nullopt;
-    }
-    job.generation = transport.generation;
-    job.item = transport.item;
-    job.previewSize = transport.previewSize;
-    job.shown = transport.shown;
-    job.stop = transport.videoWork.get_token();
-    return job;
-}
-
-bool VideoPlayback::isRedrawWanted(const Transport& transport) const {
-    const bool isReplacedSoon = transport.isRunningWanted() && !m_isAtEnd;
-    return transport.shown.source && transport.shown.previewSize != transport.previewSize &&
-           !isReplacedSoon;
-}
-
-bool VideoPlayback::isAheadWanted(const Transport& transport) const {
-    if (!transport.isPictureReady || !m_reader || m_isAtEnd)
-        return false;
-    if (transport.isRunningWanted())
-        return hasRoom(transport.upcoming);
-    // Where playing has stopped, the frame at that time is owed even if decoding was behind.
-    return m_isRolling && transport.upcoming.empty();
-}
-
 void VideoPlayback::perform(const Job& job) {
     try {
         switch (job.kind) {
+        case Job::Kind::open:
+            return open(job);
         case Job::Kind::seek:
-            seek(job);
-            break;
         case Job::Kind::step:
-            step(job);
-            break;
+            return seek(job);
+        case Job::Kind::near:
+            return seekNear(job);
         case Job::Kind::redraw:
-            redraw(job);
-            break;
+            return redraw(job);
+        case Job::Kind::queue:
+            return queue(job);
         case Job::Kind::ahead:
-            decodeAhead(job);
-            break;
+            return decodeAhead(job);
+        case Job::Kind::prepare:
+            return prepare(job);
+        case Job::Kind::keepPassed:
+            m_source->keepOnePassed(job.previewSize);
+            return;
+        case Job::Kind::foresee:
+            return foresee(job);
         }
     } catch (const Cancelled&) {
         // Something newer is wanted, or the player is being closed.
     } catch (const std::exception&) {
-        // What cannot be decoded keeps the last picture on show.
-        m_isAtEnd = true;
+        giveUp(job);
     }
 }
 
 void VideoPlayback::open(const Job& job) {
-    if (m_item == job.item)
-        return;
-    m_reader.reset();
-    m_renderer.reset();
+    m_source.reset();
     m_item = job.item;
+    m_fill.reset();
+    m_notRedrawn.reset();
+    m_rollingGeneration = 0;
     if (!m_item)
         return;
-    const std::vector<AssetTrack> tracks = m_item->asset()->tracks(MediaType::video);
-    if (tracks.empty())
+    auto source = std::make_unique<FrameSource>(m_playback.cache, m_item);
+    if (!source->hasPicture())
         return;
-    m_renderer = std::make_unique<PictureRenderer>(tracks.front());
-    m_reader = std::make_unique<VideoReader>(m_item->asset(), tracks.front());
+    const double fps = m_item->asset()->tracks(MediaType::video).front().nominalFrameRate;
+    m_frameTicks = kComparisonTimescale / (fps > 0 ? fps : 25);
+    m_source = std::move(source);
+}
+
+/// What cannot be decoded keeps the last picture on show.
+void VideoPlayback::giveUp(const Job& job) {
+    switch (job.kind) {
+    case Job::Kind::open:
+    case Job::Kind::keepPassed:
+        break;
+    case Job::Kind::seek:
+    case Job::Kind::near:
+    case Job::Kind::step:
+        fail(job);
+        break;
+    case Job::Kind::redraw:
+        m_notRedrawn = job.target.earliest;
+        break;
+    case Job::Kind::queue:
+    case Job::Kind::ahead:
+    case Job::Kind::prepare: {
+        auto access = m_playback.transport.lock();
+        if (access->generation == job.generation)
+            access->nextTicks = CachedFrame::kForever;
+        break;
+    }
+    case Job::Kind::foresee:
+        m_framesToForesee = 0;
+        break;
+    }
+}
+
+std::int64_t VideoPlayback::margin(const Job& job) const {
+    const double room = framesInCache(m_playback.cache, job.imageSize) * m_frameTicks / 4;
+    return std::min(job.direction < 0 ? kBackwardMarginTicks : kMarginTicks,
+                    static_cast<std::int64_t>(std::min(room, 1e9)));
 }
 
 void VideoPlayback::seek(const Job& job) {
-    ReadyFrame ready = job.shown;
-    m_isAtEnd = false;
-    m_isRolling = false;
-    m_hasGap = false;
-    try {
-        open(job);
-        if (FramePtr frame = frameSought(job))
-            ready = render(std::move(frame), job.previewSize);
-    } catch (const Cancelled&) {
-        throw;
-    } catch (const std::exception&) {
-        m_isAtEnd = true;
-    }
-    const bool isExact = job.seek.earliest == job.seek.latest;
-    show(job, ready, isExact || !ready.source ? std::nullopt : std::optional(ready.source->time));
-}
-
-VideoPlayback::FramePtr VideoPlayback::frameSought(const Job& job) {
-    if (!m_reader)
-        return nullptr;
-    if (job.seek.earliest == job.seek.latest)
-        m_reader->seek(job.seek.earliest, job.stop);
-    else
-        m_reader->seekNear(job.seek.earliest, job.seek.latest, job.stop);
-    return nextFrame(job.stop);
-}
-
-void VideoPlayback::step(const Job& job) {
-    if (!m_reader || !job.shown.source)
+    if (!m_source) {
+        fail(job);
         return;
-    const FramePtr frame = job.stepCount > 0 ? stepForward(job) : stepBackward(job);
-    if (frame)
-        show(job, render(frame, job.previewSize), frame->time);
+    }
+    const std::int64_t ticks = job.target.earliest;
+    FrameSource::Goal goal{ticks, ticks, true};
+    goal.completeFrom -= std::min(margin(job), std::max<std::int64_t>(ticks, 0));
+    switch (m_source->advance(goal, job.previewSize, job.stop)) {
+    case FrameSource::Outcome::onTheWay:
+        publishProgress(job);
+        break;
+    case FrameSource::Outcome::nothing:
+        fail(job);
+        break;
+    case FrameSource::Outcome::arrived:
+    case FrameSource::Outcome::late: {
+        auto access = m_playback.transport.lock();
+        access->decodingAt.reset();
+        access->presenterWake.raise();
+        break;
+    }
+    }
 }
 
-VideoPlayback::FramePtr VideoPlayback::stepForward(const Job& job) {
-    if (std::exchange(m_hasGap, false)) {
-        m_playback.transport.lock()->upcoming.clear();
-        m_reader->seek(job.shown.source->ticks, job.stop);
-        m_reader->next(job.stop);
+/// Tells how far the way to a target has been gone, and from time to time shows it.
+void VideoPlayback::publishProgress(const Job& job) {
+    {
+        auto access = m_playback.transport.lock();
+        access->decodingAt = m_source->position();
+        if (!access->seek || now() + kHeadStart < access->substituteAt)
+            return;
     }
-    m_isRolling = false;
-    FramePtr frame;
-    for (int i = 0; i < job.stepCount; ++i) {
-        std::optional<ReadyFrame> ready = takeUpcoming(job);
-        FramePtr next = ready ? ready->source : nextFrame(job.stop);
-        if (!next)
-            break;
-        frame = std::move(next);
-    }
-    return frame;
-}
-
-VideoPlayback::FramePtr VideoPlayback::stepBackward(const Job& job) {
-    m_playback.transport.lock()->upcoming.clear();
-    m_isAtEnd = false;
-    m_isRolling = false;
-    m_hasGap = false;
-    FramePtr frame;
-    std::int64_t ticks = job.shown.source->ticks;
-    for (int i = 0; i > job.stepCount; --i) {
-        m_reader->seek(ticks - 1, job.stop);
-        FramePtr previous = nextFrame(job.stop);
-        if (!previous || previous->ticks >= ticks)
-            break;
-        ticks = previous->ticks;
-        frame = std::move(previous);
-    }
-    return frame;
-}
-
-std::optional<ReadyFrame> VideoPlayback::takeUpcoming(const Job& job) {
+    const auto passing = m_source->passing(job.previewSize);
     auto access = m_playback.transport.lock();
-    if (access->generation != job.generation || access->upcoming.empty())
-        return std::nullopt;
-    ReadyFrame frame = std::move(access->upcoming.front());
-    access->upcoming.pop_front();
-    return frame;
+    if (!access->seek || access->item != job.item)
+        return;
+    access->passing = passing;
+    access->substituteAt = std::min(access->substituteAt, now());
+    access->presenterWake.raise();
+}
+
+void VideoPlayback::seekNear(const Job& job) {
+    const auto ticks = m_source ? m_source->advanceNear(job.target.earliest, job.target.latest,
+                                                        job.previewSize, job.stop)
+                                : std::nullopt;
+    if (!ticks) {
+        fail(job);
+        return;
+    }
+    auto access = m_playback.transport.lock();
+    if (access->generation != job.generation || !access->seek)
+        return;
+    access->seek = SeekRequest{*ticks, *ticks, true};
+    access->presenterWake.raise();
+}
+
+/// Ends a jump to where there is no picture: the one on show stays.
+void VideoPlayback::fail(const Job& job) {
+    auto access = m_playback.transport.lock();
+    access->decodingAt.reset();
+    access->presenterWake.raise();
+    if (access->generation != job.generation)
+        return;
+    if (job.kind == Job::Kind::step) {
+        if (access->step)
+            access->step->left = 0;
+        return;
+    }
+    if (!access->seek)
+        return;
+    access->seek.reset();
+    access->nextTicks = CachedFrame::kForever;
+    access->isPictureReady = true;
+    access->readySince = access->lastJump = now();
+    access->immediate = ImmediateFrame{access->shown, true, job.generation};
+    access->audioWake.raise();
 }
 
 void VideoPlayback::redraw(const Job& job) {
-    ReadyFrame frame = job.shown;
-    try {
-        frame = render(job.shown.source, job.previewSize);
-    } catch (const std::exception&) {
-        frame.previewSize = job.previewSize;
+    const std::int64_t ticks = job.target.earliest;
+    switch (m_source->advance({ticks, ticks}, job.previewSize, job.stop)) {
+    case FrameSource::Outcome::onTheWay:
+        break;
+    case FrameSource::Outcome::nothing:
+        m_notRedrawn = ticks;
+        break;
+    case FrameSource::Outcome::arrived:
+    case FrameSource::Outcome::late:
+        // A picture that comes out in another size than it should is not drawn again and again.
+        if (!m_playback.cache.find(ticks, job.imageSize))
+            m_notRedrawn = ticks;
+        m_playback.transport.lock()->presenterWake.raise();
+        break;
     }
-    auto access = m_playback.transport.lock();
-    if (access->shown.source != frame.source || access->immediate)
-        return;
-    access->immediate = ImmediateFrame{std::move(frame), false, job.generation};
-    access->presenterWake.raise();
+}
+
+void VideoPlayback::queue(const Job& job) {
+    if (isTooLate(job.frame->end, job))
+        passOver(job, job.frame->end);
+    else
+        pushUpcoming(job, *job.frame);
 }
 
 void VideoPlayback::decodeAhead(const Job& job) {
-    FramePtr frame = nextFrame(job.stop);
-    if (!frame)
-        return;
-    nanoseconds time{0};
-    {
-        auto access = m_playback.transport.lock();
-        time = toNanoseconds(access->time(std::chrono::steady_clock::now()));
+    const std::int64_t ticks = job.target.earliest;
+    const bool mayDrop = now() - m_lastKept <= kLongestFreeze;
+    const FrameSource::Goal goal{ticks, ticks, false, mayDrop ? job.now : CachedFrame::kBeginning};
+    switch (m_source->advance(goal, job.previewSize, job.stop)) {
+    case FrameSource::Outcome::onTheWay:
+        break;
+    case FrameSource::Outcome::late:
+        passOver(job, m_source->arrivedEnd());
+        break;
+    case FrameSource::Outcome::arrived:
+        if (const auto frame = m_playback.cache.find(ticks, job.imageSize))
+            pushUpcoming(job, *frame);
+        break;
+    case FrameSource::Outcome::nothing:
+        giveUp(job);
+        break;
     }
-    if (isTooLate(*frame, time, job)) {
-        m_hasGap = true;
-        ++m_playback.transport.lock()->statistics.dropped;
-        if (time - toNanoseconds(frame->time) > kFarBehind)
-            skipTo(time, job);
-        return;
-    }
-    ReadyFrame ready = render(std::move(frame), job.previewSize);
-    m_lastKept = std::chrono::steady_clock::now();
+}
+
+/// Whether the frame after the one that ends then is to be shown already, so that showing this one
+/// would only make that one late too.
+bool VideoPlayback::isTooLate(std::int64_t end, const Job& job) const {
+    return end <= job.now && now() - m_lastKept <= kLongestFreeze;
+}
+
+void VideoPlayback::pushUpcoming(const Job& job, const CachedFrame& frame) {
+    ReadyFrame ready = readyFrame(frame);
+    m_lastKept = now();
     auto access = m_playback.transport.lock();
-    if (access->generation != job.generation)
+    if (access->generation != job.generation || !frame.holds(job.target.earliest) ||
+        access->immediate || !access->steps.empty())
         return;
-    m_isRolling = true;
+    m_rollingGeneration = job.generation;
+    access->nextTicks = ready.end;
     access->upcoming.push_back(std::move(ready));
     access->presenterWake.raise();
+    m_playback.cache.setFocus(job.now);
 }
 
-/// Whether the frame after this one is to be shown already, so that rendering this one would only
-/// make that one late too.
-bool VideoPlayback::isTooLate(const DecodedFrame& frame, nanoseconds time, const Job& job) {
-    if (toNanoseconds(frame.time) >= time ||
-        std::chrono::steady_clock::now() - m_lastKept > kLongestFreeze)
-        return false;
-    const DecodedFrame* following = m_reader->peek(job.stop);
-    return following && toNanoseconds(following->time) <= time;
-}
-
-void VideoPlayback::skipTo(nanoseconds time, const Job& job) {
-    m_reader->seek(ticksAt(time), job.stop);
-    // The search may itself have taken long: its frame is shown all the same.
+void VideoPlayback::passOver(const Job& job, std::int64_t end) {
+    auto access = m_playback.transport.lock();
+    if (access->generation != job.generation || access->immediate)
+        return;
+    ++access->statistics.dropped;
+    access->nextTicks = end;
+    if (job.now - end <= kFarBehindTicks)
+        return;
+    access->nextTicks = job.now;
+    // The search may itself take long: its frame is shown all the same.
     m_lastKept = {};
 }
 
-VideoPlayback::FramePtr VideoPlayback::nextFrame(const std::stop_token& stop) {
-    std::optional<DecodedFrame> frame = m_reader->next(stop);
-    if (!frame) {
-        m_isAtEnd = true;
-        return nullptr;
-    }
-    return std::make_shared<const DecodedFrame>(std::move(*frame));
+/// Brings decoding to where the frames at hand end, while those are being shown.
+void VideoPlayback::prepare(const Job& job) {
+    const std::int64_t ticks = job.target.earliest - 1;
+    m_source->advance({ticks, ticks, false, job.target.earliest}, job.previewSize, job.stop);
 }
 
-ReadyFrame VideoPlayback::render(FramePtr frame, PreviewSize size) {
-    ImagePtr image = m_renderer->render(*frame->frame, size.width, size.height);
-    return {std::move(frame), std::move(image), size};
-}
-
-/// Hands on the frame that completes a jump, unless a newer one has been asked for meanwhile.
-void VideoPlayback::show(const Job& job, ReadyFrame frame, std::optional<Time> newTime) {
-    auto access = m_playback.transport.lock();
-    if (access->generation != job.generation)
+void VideoPlayback::foresee(const Job& job) {
+    if (!m_fill)
+        m_fill = nextFill(m_playback.cache, {.focus = job.focus,
+                                             .direction = job.direction,
+                                             .lastTicks = job.lastTicks,
+                                             .frameTicks = m_frameTicks,
+                                             .size = job.imageSize});
+    if (!m_fill) {
+        m_framesToForesee = 0;
         return;
-    if (newTime)
-        access->holdClock(*newTime);
-    access->immediate = ImmediateFrame{std::move(frame), true, job.generation};
-    access->isPictureReady = true;
-    access->readySince = std::chrono::steady_clock::now();
-    access->audioWake.raise();
-    access->presenterWake.raise();
+    }
+    const std::int64_t ticks = m_fill->from;
+    switch (m_source->advance({ticks, ticks}, job.previewSize, job.stop)) {
+    case FrameSource::Outcome::onTheWay:
+        return;
+    case FrameSource::Outcome::nothing:
+        m_framesToForesee = 0;
+        m_fill.reset();
+        return;
+    case FrameSource::Outcome::arrived:
+    case FrameSource::Outcome::late:
+        break;
+    }
+    --m_framesToForesee;
+    m_fill->from = m_playback.cache.coveredUntil(m_source->arrivedEnd(), job.imageSize);
+    if (m_fill->from > m_fill->until)
+        m_fill.reset();
 }
 
 } // namespace media::playback

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Media/PictureRenderer.h"
+#include "Media/Playback/Foresight.h"
+#include "Media/Playback/FrameSource.h"
 #include "Media/Playback/Transport.h"
-#include "Media/VideoReader.h"
 
 #include <memory>
 #include <optional>
@@ -10,9 +10,10 @@
 
 namespace media::playback {
 
-/// Decodes and renders what a player shows: the frame of the newest seek or step at once, the
-/// frames after it ahead of the clock while playing. Lives on one thread of its own, which owns
-/// the reader and the renderer.
+/// Decodes what a player shows into its cache, frame by frame, and looks after each what is most
+/// urgent: the frame of a seek or step, then the one on show in a new size, then the frames ahead
+/// of the clock while playing; with nothing of that to do, what will likely be asked for next.
+/// Lives on one thread of its own, which owns the source.
 class VideoPlayback {
 public:
     explicit VideoPlayback(Playback& playback) : m_playback(playback) {}
@@ -20,55 +21,95 @@ public:
     void work(const std::stop_token& stop);
 
 private:
-    using FramePtr = std::shared_ptr<const DecodedFrame>;
+    using Access = Guarded<Transport>::Access;
 
     /// One piece of work, with what it needs of the transport.
     struct Job {
-        enum class Kind { seek, step, redraw, ahead };
-        Kind kind = Kind::ahead;
+        enum class Kind {
+            open,
+            seek,
+            near,
+            step,
+            redraw,
+            queue,
+            ahead,
+            prepare,
+            keepPassed,
+            foresee
+        };
+        Kind kind = Kind::open;
         std::uint64_t generation = 0;
         std::shared_ptr<const PlayerItem> item;
-        SeekRequest seek;
-        int stepCount = 0;
         PreviewSize previewSize;
-        ReadyFrame shown;
+        ImageSize imageSize;
+        /// The frame to decode; of near the window.
+        SeekRequest target;
+        int direction = 0;
+        /// The clock's time in ticks.
+        std::int64_t now = 0;
+        /// queue: the frame.
+        std::optional<CachedFrame> frame;
+        /// foresee: around what, and the item's end.
+        std::int64_t focus = 0;
+        std::int64_t lastTicks = 0;
         std::stop_token stop;
     };
 
     std::optional<Job> takeJob(Transport& transport);
-    [[nodiscard]] bool isRedrawWanted(const Transport& transport) const;
-    [[nodiscard]] bool isAheadWanted(const Transport& transport) const;
+    bool chooseSeek(Transport& transport, Job& job) const;
+    bool chooseStep(Transport& transport, Job& job) const;
+    bool chooseRedraw(Transport& transport, Job& job) const;
+    bool choosePlaying(const Transport& transport, Job& job) const;
+    bool chooseIdle(const Transport& transport, Job& job);
+    [[nodiscard]] bool isForesightDue(const Transport& transport, SteadyTime now) const;
+    [[nodiscard]] SteadyTime nextLook(const Transport& transport) const;
+
     void perform(const Job& job);
-
     void open(const Job& job);
+    void giveUp(const Job& job);
     void seek(const Job& job);
-    FramePtr frameSought(const Job& job);
-    void step(const Job& job);
-    FramePtr stepForward(const Job& job);
-    FramePtr stepBackward(const Job& job);
-    std::optional<ReadyFrame> takeUpcoming(const Job& job);
+    void seekNear(const Job& job);
+    void fail(const Job& job);
     void redraw(const Job& job);
+    void queue(const Job& job);
     void decodeAhead(const Job& job);
-    [[nodiscard]] bool isTooLate(const DecodedFrame& frame, nanoseconds time, const Job& job);
-    void skipTo(nanoseconds time, const Job& job);
+    void prepare(const Job& job);
+    void foresee(const Job& job);
 
-    FramePtr nextFrame(const std::stop_token& stop);
-    ReadyFrame render(FramePtr frame, PreviewSize size);
-    void show(const Job& job, ReadyFrame frame, std::optional<Time> newTime);
+    [[nodiscard]] std::int64_t margin(const Job& job) const;
+    void publishProgress(const Job& job);
+    [[nodiscard]] bool isTooLate(std::int64_t end, const Job& job) const;
+    void pushUpcoming(const Job& job, const CachedFrame& frame);
+    void passOver(const Job& job, std::int64_t end);
 
     Playback& m_playback;
 
     std::shared_ptr<const PlayerItem> m_item;
-    std::unique_ptr<VideoReader> m_reader;
-    std::unique_ptr<PictureRenderer> m_renderer;
-    /// There is nothing to decode after the frames that were handed on, or it cannot be decoded.
-    bool m_isAtEnd = false;
-    /// Frames are being decoded in a row, for playing.
-    bool m_isRolling = false;
-    /// Frames between the one on show and the next were left out.
-    bool m_hasGap = false;
+    /// null where there is no picture, or none that can be decoded.
+    std::unique_ptr<FrameSource> m_source;
+    double m_frameTicks = 0;
     /// When the last frame was decoded ahead and kept.
     SteadyTime m_lastKept;
+    /// Where frames were decoded ahead last; where playing stops one is owed.
+    std::uint64_t m_rollingGeneration = 0;
+    /// A frame that cannot be decoded in the size wanted now.
+    std::optional<std::int64_t> m_notRedrawn;
+
+    /// A state of things for which frames are foreseen.
+    struct Prospect {
+        std::uint64_t generation = 0;
+        std::uint64_t interests = 0;
+        std::int64_t focus = 0;
+        ImageSize size;
+        friend bool operator==(const Prospect&, const Prospect&) = default;
+    };
+
+    static Prospect prospectOf(const Transport& transport);
+
+    std::optional<FillRange> m_fill;
+    Prospect m_prospect;
+    /// How many frames more may be decoded for it, so that it comes to an end in any case.
+    int m_framesToForesee = 0;
 };
 
 } // namespace media::playback

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "Media/Guarded.h"
+#include "Media/PictureRenderer.h"
+#include "Media/PreviewPicture.h"
+#include "Media/Time.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace media::playback {
+
+/// A frame at preview size that is known to be "the frame at t" for every tick from `begin` up to,
+/// but without, `end` (1/600 s).
+struct CachedFrame {
+    /// The first frame of a track stands for everything before it, the last one for all after it.
+    static constexpr std::int64_t kBeginning = std::numeric_limits<std::int64_t>::min();
+    static constexpr std::int64_t kForever = std::numeric_limits<std::int64_t>::max();
+
+    std::int64_t begin = 0;
+    std::int64_t end = 0;
+    /// Its presentation time.
+    Time time;
+    PreviewPicturePtr picture;
+
+    [[nodiscard]] bool holds(std::int64_t ticks) const { return begin <= ticks && ticks < end; }
+
+    [[nodiscard]] ImageSize size() const {
+        return {picture->format().width, picture->format().height};
+    }
+};
+
+/// The frames of one player that were decoded lately, bounded in bytes. What goes first is what
+/// lies farthest from the playhead and from the few points of interest, of which each keeps a
+/// smaller neighbourhood. Frames of a size that is no longer wanted stay until they are replaced or
+/// go, since they are better than none. Usable from any thread.
+class FrameCache {
+public:
+    static constexpr std::size_t kDefaultBytes = std::size_t{192} << 20;
+    /// What the caches of all players together may hold; each takes an equal part at most.
+    static constexpr std::size_t kBytesOfAll = std::size_t{1280} << 20;
+
+    explicit FrameCache(std::size_t capacityBytes = kDefaultBytes);
+    FrameCache(const FrameCache&) = delete;
+    FrameCache& operator=(const FrameCache&) = delete;
+    ~FrameCache();
+
+    /// Forgets everything, and takes frames of `source` only from now on (any address that stands
+    /// for one).
+    void begin(const void* source);
+    /// Keeps a frame, in place of those that it overlaps; nothing if `source` has been replaced.
+    /// The frame itself stays even if it alone is beyond the bound.
+    void insert(const void* source, CachedFrame frame);
+
+    /// The playhead, and where it is likely to go.
+    void setFocus(std::int64_t ticks);
+    void setPointsOfInterest(std::vector<std::int64_t> ticks);
+    [[nodiscard]] std::vector<std::int64_t> pointsOfInterest() const;
+
+    /// The frame at `ticks` in this size.
+    [[nodiscard]] std::optional<CachedFrame> find(std::int64_t ticks, ImageSize size) const;
+    /// The frame that lies nearest to `ticks`, in whatever size.
+    [[nodiscard]] std::optional<CachedFrame> nearest(std::int64_t ticks) const;
+
+    /// From `ticks` on frames of this size follow one another without a gap up to the tick
+    /// returned, at which there is none (kForever: up to the end). `ticks` itself where there is
+    /// none at all.
+    [[nodiscard]] std::int64_t coveredUntil(std::int64_t ticks, ImageSize size) const;
+    /// The same backward: the earliest tick from which frames follow one another up to `ticks`
+    /// (kBeginning: the beginning); `ticks` + 1 where there is none at `ticks`.
+    [[nodiscard]] std::int64_t coveredFrom(std::int64_t ticks, ImageSize size) const;
+
+    [[nodiscard]] std::size_t byteCount() const;
+    /// The bound in force now, which depends on how many players there are.
+    [[nodiscard]] std::size_t capacityBytes() const;
+
+private:
+    using Frames = std::map<std::int64_t, CachedFrame>;
+
+    struct State {
+        const void* source = nullptr;
+        Frames frames;
+        std::size_t bytes = 0;
+        std::int64_t focus = 0;
+        std::vector<std::int64_t> points;
+
+        [[nodiscard]] double distance(std::int64_t ticks) const;
+        [[nodiscard]] const CachedFrame* at(std::int64_t ticks) const;
+        [[nodiscard]] const CachedFrame* at(std::int64_t ticks, ImageSize size) const;
+        Frames::iterator remove(Frames::iterator frame);
+    };
+
+    const std::size_t m_capacityBytes;
+    mutable Guarded<State> m_state;
+};
+
+} // namespace media::playback

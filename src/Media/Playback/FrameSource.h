@@ -1,0 +1,125 @@
+#pragma once
+
+#include "Media/PictureRenderer.h"
+#include "Media/Playback/FrameCache.h"
+#include "Media/Player.h"
+#include "Media/VideoReader.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace media::playback {
+
+/// Largest size of the delivered frames in pixels; 0 leaves a side free.
+struct PreviewSize {
+    int width = 0;
+    int height = 0;
+    friend bool operator==(const PreviewSize&, const PreviewSize&) = default;
+};
+
+/// Decodes the frames of one item, one at a time, and puts them into the cache at preview size.
+/// Use from one thread.
+class FrameSource {
+public:
+    /// Where decoding is to arrive.
+    struct Goal {
+        /// The frame at this tick.
+        std::int64_t ticks = 0;
+        /// Frames from this tick on are wanted too; others on the way may be left out.
+        std::int64_t completeFrom = 0;
+        /// The frames on the way can wait until there is time for them: the goal is urgent.
+        bool isUrgent = false;
+        /// A frame that ends at or before this tick need not be rendered: it is too late for it.
+        std::int64_t lateUntil = CachedFrame::kBeginning;
+    };
+
+    enum class Outcome {
+        /// One frame nearer.
+        onTheWay,
+        /// The frame is in the cache.
+        arrived,
+        /// Its time has passed; it is not in the cache.
+        late,
+        /// There is nothing there that decodes.
+        nothing,
+    };
+
+    /// Throws Error if the item has a picture that cannot be decoded. Both outlive the source.
+    FrameSource(FrameCache& cache, std::shared_ptr<const PlayerItem> item);
+
+    [[nodiscard]] const std::shared_ptr<const PlayerItem>& item() const { return m_item; }
+
+    /// Whether the item has a picture at all.
+    [[nodiscard]] bool hasPicture() const { return m_reader != nullptr; }
+
+    /// Decodes one frame on the way to the goal. A goal that lies ahead in the run of decoding that
+    /// is under way goes on with it, any other begins anew at a key frame. Throws Cancelled when
+    /// stopped (call it again to go on), Error when reading fails.
+    Outcome advance(const Goal& goal, PreviewSize size, const std::stop_token& stop);
+    /// Decodes the frame of the window (1/600 s, both included) that costs least and puts it into
+    /// the cache; gives its place there.
+    std::optional<std::int64_t> advanceNear(std::int64_t earliest, std::int64_t latest,
+                                            PreviewSize size, const std::stop_token& stop);
+
+    /// After `arrived` or `late`: where the frame after that one begins.
+    [[nodiscard]] std::int64_t arrivedEnd() const { return m_arrivedEnd; }
+
+    /// The next frame that advance() decodes, without moving, begins there.
+    [[nodiscard]] bool standsAt(std::int64_t ticks) const { return m_nextTicks == ticks; }
+
+    /// The tick of the frame decoded last.
+    [[nodiscard]] std::int64_t position() const { return m_position; }
+
+    /// The frame decoded last, whatever lies between it and the next; null without one.
+    [[nodiscard]] std::shared_ptr<const CachedFrame> passing(PreviewSize size);
+
+    /// Puts one of the frames that were passed on the way to an urgent goal into the cache; false
+    /// where none is left.
+    bool keepOnePassed(PreviewSize size);
+
+    [[nodiscard]] bool hasPassed() const { return !m_passed.empty(); }
+
+private:
+    /// A decoded frame with its place.
+    struct Decoded {
+        std::shared_ptr<const DecodedFrame> frame;
+        std::int64_t begin = 0;
+        std::int64_t end = 0;
+        bool isComplete = false;
+
+        [[nodiscard]] bool holds(std::int64_t ticks) const { return begin <= ticks && ticks < end; }
+    };
+
+    bool arriveAtKept(std::int64_t ticks, PreviewSize size);
+    std::optional<Decoded> decode(const Goal& goal, const std::stop_token& stop);
+    void pass(Decoded decoded, const Goal& goal, PreviewSize size);
+    void keep(const Decoded& decoded, PreviewSize size);
+    [[nodiscard]] CachedFrame rendered(const Decoded& decoded, PreviewSize size);
+
+    FrameCache& m_cache;
+    std::shared_ptr<const PlayerItem> m_item;
+    std::int64_t m_firstTicks = 0;
+    std::unique_ptr<VideoReader> m_reader;
+    std::unique_ptr<PictureRenderer> m_renderer;
+
+    /// What the reader is on its way to.
+    std::optional<std::int64_t> m_goal;
+    /// The next frame decoded is the first since the reader moved.
+    bool m_hasMoved = false;
+    /// Decoded, but its end was not found out yet.
+    std::shared_ptr<const DecodedFrame> m_unfinished;
+    std::int64_t m_nextTicks = CachedFrame::kBeginning;
+    std::int64_t m_position = CachedFrame::kBeginning;
+    std::int64_t m_arrivedEnd = 0;
+
+    /// The frame that was arrived at last, in case that it is wanted in another size.
+    std::optional<Decoded> m_arrived;
+    std::optional<Decoded> m_passing;
+    /// Not rendered yet, in order.
+    std::deque<Decoded> m_passed;
+    std::size_t m_passedBytes = 0;
+};
+
+} // namespace media::playback
