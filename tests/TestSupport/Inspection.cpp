@@ -159,14 +159,14 @@ void store(ProbedFile& file, std::string_view name, std::string value) {
 } // namespace
 
 std::vector<NumberedFrame> readNumberedFrames(const std::filesystem::path& path,
-                                              int videoTrackIndex) {
+                                              int videoTrackIndex, const std::string& filter) {
     const std::string index = std::to_string(videoTrackIndex);
     const std::string size = std::to_string(kReadWidth) + ":" + std::to_string(kReadHeight);
-    const ProcessResult result =
-        runProcessOrThrow({"ffmpeg", "-nostdin", "-hide_banner", "-nostats", "-v", "info",
-                           "-copyts", "-i", urlFor(path), "-map", "0:v:" + index, "-vf",
-                           "showinfo=checksum=0,scale=" + size + ":flags=area,format=gray",
-                           "-fps_mode", "passthrough", "-f", "rawvideo", "pipe:1"});
+    const ProcessResult result = runProcessOrThrow(
+        {"ffmpeg", "-nostdin", "-hide_banner", "-nostats", "-v", "info", "-copyts", "-i",
+         urlFor(path), "-map", "0:v:" + index, "-vf",
+         filter + ",showinfo=checksum=0,scale=" + size + ":flags=area,format=gray", "-fps_mode",
+         "passthrough", "-f", "rawvideo", "pipe:1"});
 
     const std::vector<double> times = videoFrameTimes(result.errors);
     constexpr std::size_t kPictureSize = std::size_t{kReadWidth} * kReadHeight;

@@ -20,9 +20,11 @@ struct NumberedFrame {
 };
 
 /// All pictures that a player of the file would show (edit lists and display matrix applied), in
-/// presentation order.
+/// presentation order. `filter` (of ffmpeg, such as "crop=192:144:8:8") makes upright and whole
+/// pictures of what the file shows where it does not.
 std::vector<NumberedFrame> readNumberedFrames(const std::filesystem::path& path,
-                                              int videoTrackIndex = 0);
+                                              int videoTrackIndex = 0,
+                                              const std::string& filter = "null");
 
 /// The number in a still picture; none when it shows none.
 std::optional<int> readStillNumber(const std::filesystem::path& path);

@@ -1,5 +1,5 @@
-#include "TestSupport/ClickTrack.h"
 #include "TestSupport/Fixture.h"
+#include "TestSupport/FrameRule.h"
 #include "TestSupport/Process.h"
 #include "TestSupport/TemporaryFolder.h"
 
@@ -22,76 +22,21 @@
 /// it, against the frame rule.
 namespace {
 
+using testsupport::ExpectedFrame;
 using testsupport::Fixture;
 using testsupport::HeardTrack;
 using testsupport::NumberedFrame;
 using testsupport::Recipe;
 using testsupport::VideoCodec;
+using Range = testsupport::KeptRange;
 
 constexpr double kTolerance = 0.001;
 constexpr int kCap = 96;
 
-/// A range to keep, in seconds as given to the tool.
-struct Range {
-    double start = 0;
-    double end = 0;
-
-    std::int64_t startTicks() const { return std::llround(start * 600); }
-
-    std::int64_t endTicks() const { return std::llround(end * 600); }
-
-    /// The start that the engine works with.
-    double startSeconds() const { return static_cast<double>(startTicks()) / 600; }
-
-    double ticksDuration() const { return static_cast<double>(endTicks() - startTicks()) / 600; }
-};
-
-std::ostream& operator<<(std::ostream& stream, const Range& range) {
-    return stream << "[" << range.start << ", " << range.end << ")";
-}
-
-struct ExpectedFrame {
-    int number = 0;
-    double seconds = 0;
-};
-
-/// The nearest 1/600 s to a frame's time. Frames of containers that count in milliseconds may lie
-/// half-way between two: those go up, also where the sum of their parts is a bit short of it.
-std::int64_t ticksOf(const NumberedFrame& frame) {
-    return static_cast<std::int64_t>(std::floor(frame.seconds * 600 + 0.5 + 1e-6));
-}
-
-/// The index of the frame that is shown at a time, both in ticks of 1/600 s. The first frame also
-/// stands for what comes before it, the last for what comes after.
-std::size_t frameAt(const Fixture& source, std::int64_t ticks) {
-    std::size_t index = 0;
-    while (index + 1 < source.frames.size() && ticksOf(source.frames[index + 1]) <= ticks)
-        ++index;
-    return index;
-}
-
-/// Without a video composition: every frame that is shown in the range, at its own time.
-std::vector<ExpectedFrame> expectedStraight(const Fixture& source, const Range& range) {
-    const double start = range.startSeconds();
-    const std::size_t first = frameAt(source, range.startTicks());
-    const std::size_t last = frameAt(source, range.endTicks() - 1);
-    std::vector<ExpectedFrame> expected = {{source.frames[first].number, 0}};
-    for (std::size_t index = first + 1; index <= last; ++index)
-        expected.push_back({source.frames[index].number, source.frames[index].seconds - start});
-    return expected;
-}
-
-/// With a video composition: the frame of each n-th part of a second.
-std::vector<ExpectedFrame> expectedAtRate(const Fixture& source, const Range& range, int rate) {
-    std::vector<ExpectedFrame> expected;
-    const std::int64_t length = range.endTicks() - range.startTicks();
-    for (std::int64_t n = 0; 600 * n < rate * length; ++n) {
-        const std::int64_t ticks =
-            range.startTicks() + std::llround(600 * static_cast<double>(n) / rate);
-        expected.push_back(
-            {source.frames[frameAt(source, ticks)].number, static_cast<double>(n) / rate});
-    }
-    return expected;
+std::string shown(const Range& range) {
+    std::ostringstream text;
+    text << '[' << range.start << ", " << range.end << ')';
+    return text.str();
 }
 
 void expectFrames(const std::vector<NumberedFrame>& exported,
@@ -110,18 +55,14 @@ bool hasNear(const std::vector<double>& times, double time) {
 
 /// All clicks that lie whole in the range are there and no others; those that its ends cut may be.
 void expectSound(const HeardTrack& exported, const HeardTrack& source, const Range& range) {
-    const double length = range.ticksDuration();
-    const auto isWhole = [&](double click) {
-        return click > 2 * kTolerance &&
-               click + testsupport::kClickDuration < length - 2 * kTolerance;
-    };
-    std::vector<double> places;
-    for (const double click : source.clicks)
-        places.push_back(click - range.startSeconds());
+    const double length = range.duration();
+    const auto places = testsupport::expectedClicks(source, range);
     for (const double place : places)
-        EXPECT_TRUE(!isWhole(place) || hasNear(exported.clicks, place)) << "no click at " << place;
+        EXPECT_TRUE(!isWholeClick(place, range) || hasNear(exported.clicks, place))
+            << "no click at " << place;
     for (const double click : exported.clicks)
-        EXPECT_TRUE(!isWhole(click) || hasNear(places, click)) << "a click at " << click;
+        EXPECT_TRUE(!isWholeClick(click, range) || hasNear(places, click))
+            << "a click at " << click;
 
     EXPECT_NEAR(exported.start, std::max(0.0, source.start - range.startSeconds()), kTolerance);
     // AAC is cut in whole frames of 1024 samples; what is too much at the end is for players with
@@ -145,9 +86,7 @@ std::uint32_t boxField(const std::string& file, const char* box, std::size_t off
     return value;
 }
 
-/// How long an exported MP4 file shows its picture, from the header of its first track. (ffprobe
-/// tells another number: the sum of the decoding steps, which with B-frames and an irregular first
-/// or last frame is not the length of the presentation.)
+/// How long an exported MP4 file shows its picture, from the header of its first track.
 double pictureDuration(const std::filesystem::path& path) {
     std::ifstream input(path, std::ios::binary);
     const std::string file{std::istreambuf_iterator<char>(input), {}};
@@ -246,14 +185,13 @@ protected:
 
 TEST_P(Exactness, keepsEveryFrameAndClickOfARange) {
     for (const Range& range : rangesOf(m_source, GetParam().variation)) {
-        SCOPED_TRACE(testing::Message() << m_source.path.filename() << ' ' << range);
+        SCOPED_TRACE(testing::Message() << m_source.path.filename() << ' ' << shown(range));
         const auto output = exported(range, {});
         if (HasFatalFailure())
             return;
         const auto expected = expectedStraight(m_source, range);
         expectFrames(testsupport::readNumberedFrames(output), expected);
-        // The header counts whole milliseconds, rounded up.
-        EXPECT_NEAR(pictureDuration(output), range.ticksDuration(), kTolerance + 1e-6);
+        EXPECT_NEAR(pictureDuration(output), range.duration(), kTolerance);
         expectEverySound(output, range);
         expectStillShows(range, expected.front().number);
     }
@@ -265,7 +203,7 @@ TEST_P(Exactness, showsTheFrameOfEachMomentUnderASizeCap) {
         ASSERT_EQ(rate, std::lround(GetParam().recipe.frameRate.value()));
     }
     for (const Range& range : rangesOf(m_source, GetParam().variation + 1000)) {
-        SCOPED_TRACE(testing::Message() << m_source.path.filename() << ' ' << range);
+        SCOPED_TRACE(testing::Message() << m_source.path.filename() << ' ' << shown(range));
         const auto output = exported(range, {"--max-short-edge", std::to_string(kCap)});
         if (HasFatalFailure())
             return;
