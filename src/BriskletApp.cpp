@@ -66,41 +66,35 @@ QString BriskletApp::builtInApplicationId() {
     return QStringLiteral(BRISKLET_APPLICATION_ID);
 }
 
-bool BriskletApp::launch(const LaunchRequest& request, const std::optional<QDBusConnection>& bus) {
-    m_bus = bus;
-    if (!joinSession(request))
-        return false;
-    finishLaunching();
-    if (request.isStartedByBus && request.files.isEmpty()) {
+QString BriskletApp::sessionName() {
+    return releasedApplicationId();
+}
+
+void BriskletApp::launch(const QList<QUrl>& files, DesktopApplication* session,
+                         EmptyStart emptyStart) {
+    m_session = session;
+    if (m_session != nullptr)
+        joinSession();
+    m_delegate.applicationDidFinishLaunching();
+    if (files.isEmpty() && emptyStart == EmptyStart::wait) {
         m_busCall.start(kLongestWaitForBusCall);
-        return true;
+        return;
     }
     // Without a window yet, the first one takes the first file and asks for the next.
     const auto requestWindow = std::exchange(OpenBridge::requestWindow, nullptr);
-    AppDelegate::open(request.files);
+    AppDelegate::open(files);
     OpenBridge::requestWindow = requestWindow;
     openWindow();
-    return true;
 }
 
-bool BriskletApp::joinSession(const LaunchRequest& request) {
-    if (!m_bus)
-        return true;
-    m_session = std::make_unique<DesktopApplication>(*m_bus, releasedApplicationId());
-    connect(m_session.get(), &DesktopApplication::filesOpened, this, &BriskletApp::open);
-    connect(m_session.get(), &DesktopApplication::activated, this, &BriskletApp::activate);
-    connect(m_session.get(), &DesktopApplication::actionActivated, this,
-            &BriskletApp::activateAction);
-    return m_session->claim(request.files, request.platformData) !=
-           DesktopApplication::Role::handedOver;
-}
-
-void BriskletApp::finishLaunching() {
-    m_delegate.applicationDidFinishLaunching();
-    if (!m_bus || !m_bus->isConnected())
+void BriskletApp::joinSession() {
+    connect(m_session, &DesktopApplication::filesOpened, this, &BriskletApp::open);
+    connect(m_session, &DesktopApplication::activated, this, &BriskletApp::activate);
+    connect(m_session, &DesktopApplication::actionActivated, this, &BriskletApp::activateAction);
+    if (!m_session->bus().isConnected())
         return;
-    new Appearance(*m_bus, this);
-    m_exportMonitor = new ExportMonitor(*m_bus, this);
+    new Appearance(m_session->bus(), this);
+    m_exportMonitor = new ExportMonitor(m_session->bus(), this);
 }
 
 WindowRootView* BriskletApp::openWindow() {
@@ -110,12 +104,13 @@ WindowRootView* BriskletApp::openWindow() {
     m_windows.append(window);
     connect(window, &WindowRootView::newWindowRequested, this, [this] { openWindow(); });
     connect(window, &WindowRootView::quitRequested, this, &BriskletApp::quit);
-    if (m_exportMonitor != nullptr)
+    if (m_exportMonitor != nullptr) {
         m_exportMonitor->watch(window);
-    if (m_bus && m_bus->isConnected())
-        window->content().setFileTransfer([bus = *m_bus](const QByteArray& key, auto done) {
-            retrieveTransferredFiles(bus, key, std::move(done));
-        });
+        window->content().setFileTransfer(
+            [bus = m_session->bus()](const QByteArray& key, auto done) {
+                retrieveTransferredFiles(bus, key, std::move(done));
+            });
+    }
     window->show();
     return window;
 }

@@ -4,7 +4,6 @@
 #include "FocusedValues.h"
 #include "Platform/DesktopApplication.h"
 
-#include <QDBusConnection>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -13,7 +12,6 @@
 #include <QVariantMap>
 
 #include <memory>
-#include <optional>
 
 namespace brisklet {
 
@@ -21,15 +19,6 @@ class ExportMonitor;
 class UpdateDriver;
 class Updater;
 class WindowRootView;
-
-/// What the program was asked for when it was started.
-struct LaunchRequest {
-    QList<QUrl> files;
-    /// The launcher's activation token, for a process that runs already.
-    QVariantMap platformData;
-    /// The session's bus started the program and says what for in a call of its own.
-    bool isStartedByBus = false;
-};
 
 /// The program: its windows, what they share, and its place in the desktop's session. Ends the
 /// event loop when the last window has been closed. Needs a QApplication, which it must not
@@ -46,11 +35,19 @@ public:
     /// The identifier that this program was built with.
     static QString builtInApplicationId();
 
-    /// Opens the windows that were asked for, at least one. False where another process of the
-    /// session has taken the request over: then there is nothing to run. Without a bus, or with one
-    /// that is not connected, the program is on its own. Throws std::runtime_error where the other
-    /// process does not answer.
-    bool launch(const LaunchRequest& request, const std::optional<QDBusConnection>& bus);
+    /// The name under which a session knows the program, whichever build it is.
+    static QString sessionName();
+
+    /// How a start without files begins.
+    enum class EmptyStart {
+        window, ///< With an empty window.
+        wait    ///< With nothing: the bus started the program, and says what for in its next call.
+    };
+
+    /// Opens a window for each file, or starts as told without files. `session` is the program's
+    /// place in the session, taken before, and outlives this; null where there is no session bus.
+    void launch(const QList<QUrl>& files, DesktopApplication* session = nullptr,
+                EmptyStart emptyStart = EmptyStart::window);
 
     /// Shows a new window, which takes a file that waits for one.
     WindowRootView* openWindow();
@@ -65,8 +62,7 @@ public:
     void quit();
 
 private:
-    bool joinSession(const LaunchRequest& request);
-    void finishLaunching();
+    void joinSession();
     void open(const QList<QUrl>& files, const QVariantMap& platformData);
     void activate(const QVariantMap& platformData);
     void activateAction(const QString& action, const QVariantMap& platformData);
@@ -76,8 +72,7 @@ private:
     FocusedValues m_focusedValues;
     std::unique_ptr<UpdateDriver> m_updateDriver;
     std::unique_ptr<Updater> m_updater;
-    std::optional<QDBusConnection> m_bus;
-    std::unique_ptr<DesktopApplication> m_session;
+    DesktopApplication* m_session = nullptr;
     ExportMonitor* m_exportMonitor = nullptr;
     /// Runs while a start by the bus waits for the call that says what for.
     QTimer m_busCall;

@@ -43,6 +43,10 @@ void ExportMonitor::update() {
     int count = 0;
     for (const auto& window : m_windows) {
         if (const auto progress = window->state()->exportProgress()) {
+            if (isLookedAt(window))
+                m_lookedAt = window;
+            else if (m_lookedAt == window)
+                m_lookedAt = nullptr;
             sum += *progress;
             ++count;
         }
@@ -57,7 +61,9 @@ void ExportMonitor::update() {
 }
 
 void ExportMonitor::announce(WindowRootView* window, const QString& title, const QString& text) {
-    if (window == nullptr || isLookedAt(window))
+    // The sheet over the window has just gone, and the keyboard is on its way back from it.
+    const bool isBetween = QApplication::activeWindow() == nullptr && m_lookedAt == window;
+    if (window == nullptr || isBetween || isLookedAt(window))
         return;
     m_notifications.show(title, text, [shown = QPointer(window)] {
         if (shown)

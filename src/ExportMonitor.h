@@ -33,6 +33,8 @@ private:
     DesktopNotifications m_notifications;
     LauncherProgress m_progress;
     QList<QPointer<WindowRootView>> m_windows;
+    /// The window that the user looked at when an export was heard of last.
+    QPointer<WindowRootView> m_lookedAt;
 };
 
 } // namespace brisklet

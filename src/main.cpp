@@ -1,5 +1,6 @@
 #include "BriskletApp.h"
 #include "CommandLine.h"
+#include "Platform/DesktopApplication.h"
 #include "Platform/QuickActionInstallation.h"
 #include "Support/Workers.h"
 
@@ -12,13 +13,19 @@
 
 namespace {
 
+using brisklet::BriskletApp;
 using brisklet::CommandLine;
+using brisklet::DesktopApplication;
 
 constexpr int kWrongUsage = 2;
 
 std::span<const char* const> argumentsOf(int argc, char** argv) {
     const std::span<const char* const> all(argv, argc > 0 ? static_cast<std::size_t>(argc) : 0);
     return all.empty() ? all : all.subspan(1);
+}
+
+QList<QUrl> filesOf(const CommandLine& commandLine) {
+    return {commandLine.files.begin(), commandLine.files.end()};
 }
 
 int installQuickAction() {
@@ -38,28 +45,45 @@ void setUpApplication() {
     QApplication::setDesktopFileName(QStringLiteral("com.quorvan.brisklet"));
 }
 
-/// Reads what the launcher says about this start, and keeps it from the programs that this one
-/// starts.
-brisklet::LaunchRequest launchRequest() {
-    brisklet::LaunchRequest request;
-    request.platformData = brisklet::DesktopApplication::launchData();
-    request.isStartedByBus = qEnvironmentVariableIsSet("DBUS_STARTER_ADDRESS");
+/// Whether the session's bus started this process; not to be passed on to others.
+bool takeStartedByBus() {
+    const bool isStartedByBus = qEnvironmentVariableIsSet("DBUS_STARTER_ADDRESS");
     qunsetenv("DBUS_STARTER_ADDRESS");
     qunsetenv("DBUS_STARTER_BUS_TYPE");
-    return request;
+    return isStartedByBus;
 }
 
-int run(brisklet::LaunchRequest request, const CommandLine& commandLine) {
-    request.files = {commandLine.files.begin(), commandLine.files.end()};
-    try {
-        brisklet::BriskletApp app;
-        if (app.launch(request, QDBusConnection::sessionBus()))
-            return QApplication::exec();
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "brisklet: %s\n", error.what());
-        return 1;
+/// Whether another process of the session has taken the files over.
+bool handOver(DesktopApplication& session, const CommandLine& commandLine,
+              const QVariantMap& launchData) {
+    return session.claim(filesOf(commandLine), launchData) == DesktopApplication::Role::handedOver;
+}
+
+int run(int& argc, char** argv, const CommandLine& everything) {
+    const QVariantMap launchData = DesktopApplication::launchData();
+    const bool isStartedByBus = takeStartedByBus();
+    DesktopApplication session(QDBusConnection::sessionBus(), BriskletApp::sessionName());
+    // What is unknown here may be an option of Qt's own, with an operand that is no file.
+    const bool isPlain = !everything.unknownOption;
+    if (isPlain && handOver(session, everything, launchData))
+        return 0;
+
+    const QApplication application(argc, argv);
+    setUpApplication();
+    const CommandLine commandLine = CommandLine::parse(argumentsOf(argc, argv));
+    if (commandLine.unknownOption) {
+        std::fprintf(stderr, "brisklet: unknown option \"%s\"\n%s",
+                     commandLine.unknownOption->c_str(), brisklet::usage().c_str());
+        return kWrongUsage;
     }
-    return 0;
+    if (!isPlain && handOver(session, commandLine, launchData))
+        return 0;
+    BriskletApp app;
+    app.launch(filesOf(commandLine), &session,
+               isStartedByBus ? BriskletApp::EmptyStart::wait : BriskletApp::EmptyStart::window);
+    const int status = QApplication::exec();
+    brisklet::waitForWorkers();
+    return status;
 }
 
 } // namespace
@@ -77,17 +101,10 @@ int main(int argc, char** argv) {
         std::puts("brisklet " BRISKLET_VERSION);
         return 0;
     }
-
-    const brisklet::LaunchRequest request = launchRequest();
-    QApplication application(argc, argv);
-    setUpApplication();
-    const CommandLine commandLine = CommandLine::parse(argumentsOf(argc, argv));
-    if (commandLine.unknownOption) {
-        std::fprintf(stderr, "brisklet: unknown option \"%s\"\n%s",
-                     commandLine.unknownOption->c_str(), brisklet::usage().c_str());
-        return kWrongUsage;
+    try {
+        return run(argc, argv, everything);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brisklet: %s\n", error.what());
+        return 1;
     }
-    const int status = run(request, commandLine);
-    brisklet::waitForWorkers();
-    return status;
 }

@@ -14,7 +14,8 @@ namespace brisklet {
 ///     Unclaimed ──claim──▶ Owner ──release──▶ Unclaimed
 ///
 /// Calls that arrive are delivered as signals from the event loop, in the order of arrival. Main
-/// thread.
+/// thread; may be made before the application object, so that a start that hands its request over
+/// needs no display.
 class DesktopApplication final : public QObject {
     Q_OBJECT
 
@@ -29,6 +30,8 @@ public:
     /// `name` is the program's well-known name; its object path follows from it.
     DesktopApplication(QDBusConnection bus, const QString& name, QObject* parent = nullptr);
     ~DesktopApplication() override;
+
+    [[nodiscard]] const QDBusConnection& bus() const { return m_bus; }
 
     /// Becomes the owner, or hands the request over: files to open, or none to come to the front.
     /// `platformData` carries the launcher's activation token. Blocks until the other process has

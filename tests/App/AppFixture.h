@@ -22,6 +22,11 @@ namespace brisklet {
 class AppFixture : public testing::Test {
 protected:
     ~AppFixture() override {
+        if (m_app)
+            stopExports();
+    }
+
+    void stopExports() {
         for (WindowRootView* window : m_app->windows())
             window->state()->cancelExport();
         testsupport::pumpUntil([this] {

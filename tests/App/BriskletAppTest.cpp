@@ -37,20 +37,20 @@ protected:
 };
 
 TEST_F(BriskletAppTest, opensOneEmptyWindowWithoutFiles) {
-    EXPECT_TRUE(m_app->launch({}, std::nullopt));
+    m_app->launch({});
     ASSERT_EQ(m_app->windows().size(), 1);
     EXPECT_TRUE(m_app->windows().first()->isVisible());
     EXPECT_EQ(m_app->windows().first()->state()->videoURL(), std::nullopt);
 }
 
 TEST_F(BriskletAppTest, opensAWindowForEachFileInOrder) {
-    EXPECT_TRUE(m_app->launch({.files = {video(1), video(2), video(1)}}, std::nullopt));
+    m_app->launch({video(1), video(2), video(1)});
     EXPECT_EQ(m_app->windows().size(), 3);
     EXPECT_THAT(shownVideos(), testing::ElementsAre(video(1), video(2), video(1)));
 }
 
 TEST_F(BriskletAppTest, putsLaterFilesIntoTheEmptyWindowFirst) {
-    EXPECT_TRUE(m_app->launch({}, std::nullopt));
+    m_app->launch({});
     for (const double seconds : {1, 2, 3})
         OpenBridge::open(video(seconds));
     EXPECT_EQ(m_app->windows().size(), 3);
@@ -58,7 +58,7 @@ TEST_F(BriskletAppTest, putsLaterFilesIntoTheEmptyWindowFirst) {
 }
 
 TEST_F(BriskletAppTest, usesAWindowAgainWhoseFileCouldNotBeOpened) {
-    EXPECT_TRUE(m_app->launch({.files = {urlOf(m_folder / "missing.mov")}}, std::nullopt));
+    m_app->launch({urlOf(m_folder / "missing.mov")});
     WindowRootView* window = m_app->windows().first();
     ASSERT_TRUE(pumpUntil([window] { return window->state()->errorMessage().has_value(); }));
     OpenBridge::open(video(1));
@@ -67,7 +67,7 @@ TEST_F(BriskletAppTest, usesAWindowAgainWhoseFileCouldNotBeOpened) {
 }
 
 TEST_F(BriskletAppTest, endsWithItsLastWindow) {
-    EXPECT_TRUE(m_app->launch({.files = {video(1), video(2)}}, std::nullopt));
+    m_app->launch({video(1), video(2)});
     bool hasClosedOne = false;
     QTimer closing;
     QObject::connect(&closing, &QTimer::timeout, m_app.get(), [&] {

@@ -97,7 +97,7 @@ TEST_F(WindowRootViewTest, closesByEscapeAndEndsItsModel) {
 TEST_F(WindowRootViewTest, keepsTheWindowWhenEscapeDismissesItsAlert) {
     m_window->state()->load(urlOf(m_folder / "missing.mov"));
     ASSERT_TRUE(pumpUntil([this] { return m_window->state()->errorMessage().has_value(); }));
-    QMessageBox* alert = visibleQuestion(*m_window);
+    QWidget* alert = m_window->content().attachedSheet();
     ASSERT_NE(alert, nullptr);
     ASSERT_TRUE(testsupport::showActive(*alert));
     QTest::keyClick(alert, Qt::Key_Escape);

@@ -1,0 +1,143 @@
+#include "AppFixture.h"
+
+#include "FakeDesktop.h"
+#include "Platform/SleepInhibitor.h"
+#include "QtSupport/PrivateBus.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+namespace brisklet {
+namespace {
+
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+
+class ExportMonitorTest : public AppFixture {
+protected:
+    void SetUp() override {
+        if (!m_bus.isRunning())
+            GTEST_SKIP() << "dbus-daemon is not here";
+        m_desktop = std::make_unique<Desktop>(m_bus);
+        m_session =
+            std::make_unique<DesktopApplication>(m_bus.connect(), BriskletApp::sessionName());
+        ASSERT_EQ(m_session->claim({}, {}), DesktopApplication::Role::owner);
+        m_app->launch({}, m_session.get());
+        m_window = m_app->windows().first();
+        m_other = openWindow();
+        ASSERT_TRUE(testsupport::showActive(*m_window));
+    }
+
+    bool waitForEnd() {
+        return pumpUntil([this] { return !m_window->state()->exportProgress(); });
+    }
+
+    struct Desktop {
+        explicit Desktop(const testsupport::PrivateBus& bus)
+            : screenSaver(bus.connect()), notifications(bus.connect()), launcher(bus.connect()) {}
+
+        testsupport::FakeScreenSaver screenSaver;
+        testsupport::FakeNotifications notifications;
+        testsupport::FakeLauncher launcher;
+    };
+
+    ~ExportMonitorTest() override {
+        stopExports();
+        m_app.reset();
+    }
+
+    testsupport::PrivateBus m_bus;
+    std::unique_ptr<DesktopApplication> m_session;
+    std::unique_ptr<Desktop> m_desktop;
+    QPointer<WindowRootView> m_window;
+    QPointer<WindowRootView> m_other;
+};
+
+TEST_F(ExportMonitorTest, keepsTheComputerAwakeWhileAnExportRuns) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    EXPECT_TRUE(pumpUntil([this] { return m_desktop->screenSaver.inhibitors == 1; }));
+    m_window->state()->cancelExport();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(pumpUntil([this] { return m_desktop->screenSaver.inhibitors == 0; }));
+    EXPECT_EQ(m_desktop->screenSaver.everInhibited, 1);
+    EXPECT_EQ(m_desktop->screenSaver.reason, QStringLiteral("A video is being exported."));
+}
+
+TEST_F(ExportMonitorTest, asksThePortalWhereThereIsOne) {
+    testsupport::FakePortal portal(m_bus.connect());
+    ASSERT_TRUE(startLongExport(*m_window));
+    EXPECT_TRUE(pumpUntil([&portal] { return portal.inhibitions == 1; }));
+    EXPECT_EQ(portal.flags, 4U);
+    m_window->state()->cancelExport();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(pumpUntil([&portal] { return portal.request.closings == 1; }));
+    EXPECT_EQ(m_desktop->screenSaver.everInhibited, 0);
+}
+
+TEST_F(ExportMonitorTest, letsTheComputerSleepThoughTheAnswerComesTooLate) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(1)));
+    // Starts and ends before the bus is heard again.
+    SleepInhibitor inhibitor(m_bus.connect());
+    inhibitor.inhibit(QStringLiteral("Reason"));
+    inhibitor.release();
+    EXPECT_TRUE(pumpUntil([this] {
+        return m_desktop->screenSaver.everInhibited == 1 && m_desktop->screenSaver.inhibitors == 0;
+    }));
+}
+
+TEST_F(ExportMonitorTest, showsTheProgressInTheTaskbar) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    EXPECT_TRUE(pumpUntil(
+        [this] { return m_desktop->launcher.isVisible && m_desktop->launcher.progress > 0; }));
+    EXPECT_EQ(m_desktop->launcher.entry,
+              QStringLiteral("application://com.quorvan.brisklet.desktop"));
+    m_window->state()->cancelExport();
+    EXPECT_TRUE(pumpUntil([this] { return !m_desktop->launcher.isVisible; }));
+}
+
+TEST_F(ExportMonitorTest, announcesTheEndInAWindowThatIsNotActive) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(1)));
+    m_window->state()->exportTo(urlOf(m_folder / "a <b>.mp4"));
+    ASSERT_TRUE(testsupport::showActive(*m_other));
+    ASSERT_TRUE(waitForEnd());
+    ASSERT_TRUE(pumpUntil([this] { return !m_desktop->notifications.titles.isEmpty(); }));
+    EXPECT_EQ(m_desktop->notifications.titles, QStringList{QStringLiteral("Export finished")});
+    EXPECT_EQ(m_desktop->notifications.texts, QStringList{QStringLiteral("a &lt;b&gt;.mp4")});
+    // The answer with the notification's number has to arrive before the click on it means it.
+    EXPECT_TRUE(pumpUntil([this] {
+        Q_EMIT m_desktop->notifications.ActionInvoked(7, QStringLiteral("default"));
+        return QApplication::activeWindow() == m_window;
+    }));
+}
+
+TEST_F(ExportMonitorTest, announcesAFailureToo) {
+    const auto copy = m_folder / "copy.mp4";
+    std::filesystem::copy_file(pathOf(video(1)), copy);
+    ASSERT_TRUE(loadAndWait(*m_window, urlOf(copy)));
+    m_window->state()->exportTo(urlOf(m_folder / "no such folder" / "out.mp4"));
+    ASSERT_TRUE(testsupport::showActive(*m_other));
+    ASSERT_TRUE(pumpUntil([this] { return !m_desktop->notifications.titles.isEmpty(); }));
+    EXPECT_EQ(m_desktop->notifications.titles, QStringList{QStringLiteral("Export failed")});
+    EXPECT_EQ(m_desktop->notifications.texts.first().toHtmlEscaped(),
+              m_window->state()->errorMessage()->toHtmlEscaped().toHtmlEscaped());
+}
+
+TEST_F(ExportMonitorTest, announcesNothingInTheWindowInFrontAndNoCancellation) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(1)));
+    m_window->state()->exportTo(urlOf(m_folder / "out.mp4"));
+    ASSERT_TRUE(waitForEnd());
+    ASSERT_TRUE(startLongExport(*m_window));
+    ASSERT_TRUE(testsupport::showActive(*m_other));
+    m_window->state()->cancelExport();
+    ASSERT_TRUE(waitForEnd());
+    // The signal of the taskbar was sent last: what was to be said is said by then.
+    EXPECT_TRUE(pumpUntil(
+        [this] { return m_desktop->launcher.wasVisible && !m_desktop->launcher.isVisible; }));
+    EXPECT_TRUE(m_desktop->notifications.titles.isEmpty());
+}
+
+} // namespace
+} // namespace brisklet

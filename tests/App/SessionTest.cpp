@@ -1,0 +1,237 @@
+#include "AppFixture.h"
+
+#include "PrivateDisplay.h"
+#include "QtSupport/PrivateBus.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+namespace brisklet {
+namespace {
+
+using testsupport::pumpUntil;
+
+QProcessEnvironment environmentOn(const testsupport::PrivateBus& bus, const QString& display) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
+                       display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
+    return environment;
+}
+
+/// Another start of the program, in this test's session.
+class OtherStart {
+public:
+    OtherStart(const QProcessEnvironment& environment, const QStringList& arguments,
+               const QString& folder = QStringLiteral("/")) {
+        m_process.setProcessEnvironment(environment);
+        m_process.setWorkingDirectory(folder);
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(BRISKLET_APP), arguments);
+    }
+
+    OtherStart(const OtherStart&) = delete;
+    OtherStart& operator=(const OtherStart&) = delete;
+
+    ~OtherStart() {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+
+    [[nodiscard]] bool hasEnded() const { return m_process.state() == QProcess::NotRunning; }
+
+    [[nodiscard]] int exitCode() const { return m_process.exitCode(); }
+
+private:
+    QProcess m_process;
+};
+
+/// The first process is the test itself.
+class SessionTest : public AppFixture {
+protected:
+    void SetUp() override {
+        if (!m_bus.isRunning())
+            GTEST_SKIP() << "dbus-daemon is not here";
+        m_session =
+            std::make_unique<DesktopApplication>(m_bus.connect(), BriskletApp::sessionName());
+        ASSERT_EQ(m_session->claim({}, {}), DesktopApplication::Role::owner);
+        m_app->launch({}, m_session.get());
+        ASSERT_TRUE(testsupport::showActive(*m_app->windows().first()));
+    }
+
+    /// Whether a start with these arguments ends as one does that has handed all over.
+    bool handsOver(const QStringList& arguments, const QString& folder = QStringLiteral("/")) {
+        const OtherStart start(environmentOn(m_bus, {}), arguments, folder);
+        return pumpUntil([&start] { return start.hasEnded(); }) && start.exitCode() == 0;
+    }
+
+    bool showVideos(qsizetype count) {
+        return pumpUntil([this, count] {
+            return m_app->windows().size() == count &&
+                   std::ranges::all_of(m_app->windows(), [](const WindowRootView* window) {
+                       return window->state()->videoURL().has_value();
+                   });
+        });
+    }
+
+    ~SessionTest() override {
+        stopExports();
+        m_app.reset();
+    }
+
+    testsupport::PrivateBus m_bus;
+    std::unique_ptr<DesktopApplication> m_session;
+};
+
+TEST_F(SessionTest, takesTheFilesOfALaterStart) {
+    ASSERT_TRUE(handsOver({video(1).toLocalFile(), video(2).toLocalFile()}));
+    ASSERT_TRUE(showVideos(2));
+    EXPECT_EQ(m_app->windows()[0]->state()->videoURL(), video(1));
+    EXPECT_EQ(m_app->windows()[1]->state()->videoURL(), video(2));
+}
+
+TEST_F(SessionTest, takesNamesThatAreNoTextFromTheFolderOfTheLaterStart) {
+    const auto name = m_folder / "caf\xe9 #1%.mp4";
+    std::filesystem::copy_file(pathOf(video(1)), name);
+    QProcess shell;
+    shell.setProcessEnvironment(environmentOn(m_bus, {}));
+    shell.setWorkingDirectory(QFile::decodeName(m_folder.path().c_str()));
+    shell.start(QStringLiteral("sh"), {QStringLiteral("-c"), QStringLiteral("exec \"$0\" *.mp4"),
+                                       QStringLiteral(BRISKLET_APP)});
+    ASSERT_TRUE(pumpUntil([&shell] { return shell.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(shell.exitCode(), 0);
+    ASSERT_TRUE(showVideos(1));
+    EXPECT_EQ(pathOf(*m_app->windows()[0]->state()->videoURL()), name);
+}
+
+TEST_F(SessionTest, opensNoOtherWindowForALaterStartWithoutFiles) {
+    ASSERT_TRUE(handsOver({}));
+    EXPECT_EQ(m_app->windows().size(), 1);
+}
+
+TEST_F(SessionTest, opensAWindowForTheAction) {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("com.quorvan.brisklet"), QStringLiteral("/com/quorvan/brisklet"),
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
+    message << QStringLiteral("new-window") << QVariantList() << QVariantMap();
+    m_bus.connect().asyncCall(message);
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().size() == 2; }));
+}
+
+TEST_F(SessionTest, usesTheTokenOfTheLaterStartToComeToTheFront) {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("com.quorvan.brisklet"), QStringLiteral("/com/quorvan/brisklet"),
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    message << QVariantMap{{QStringLiteral("activation-token"), QStringLiteral("a token")}};
+    m_bus.connect().asyncCall(message);
+    // Where the toolkit takes it from; this platform has no use for it.
+    EXPECT_TRUE(pumpUntil([] { return qgetenv("XDG_ACTIVATION_TOKEN") == "a token"; }));
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+}
+
+/// All processes are real ones, on a display of their own.
+class RealSessionTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!m_bus.isRunning() || !m_display.isRunning())
+            GTEST_SKIP() << "dbus-daemon, Xvfb or xdotool is not here";
+    }
+
+    std::unique_ptr<OtherStart> start(const QStringList& arguments) {
+        return std::make_unique<OtherStart>(environmentOn(m_bus, m_display.name()), arguments);
+    }
+
+    /// So many files with names of their own.
+    QStringList makeFiles(int count) {
+        const auto source = testsupport::makeFixture({.duration = 1}).path;
+        QStringList files;
+        for (int number = 0; number < count; ++number) {
+            const auto file = m_folder / ("video " + std::to_string(100 + number) + ".mp4");
+            std::filesystem::copy_file(source, file);
+            files << QFile::decodeName(file.c_str());
+        }
+        return files;
+    }
+
+    static QStringList namesOf(const QStringList& files) {
+        QStringList names;
+        for (const QString& file : files)
+            names << QFileInfo(file).fileName();
+        return names;
+    }
+
+    testsupport::TemporaryFolder m_folder;
+    testsupport::PrivateBus m_bus;
+    testsupport::PrivateDisplay m_display;
+};
+
+TEST_F(RealSessionTest, opensThreeFilesInThreeWindows) {
+    const QStringList files = makeFiles(3);
+    const auto program = start(files);
+    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }));
+    EXPECT_FALSE(program->hasEnded());
+}
+
+TEST_F(RealSessionTest, endsTwentyStartsAtOnceInOneProcessWithTwentyWindows) {
+    const QStringList files = makeFiles(20);
+    std::vector<std::unique_ptr<OtherStart>> starts;
+    for (const QString& file : files)
+        starts.push_back(start({file}));
+    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }))
+        << m_display.titles().join(u'\n').toStdString();
+    const auto running = [&starts] {
+        return std::ranges::count_if(starts, [](const auto& each) { return !each->hasEnded(); });
+    };
+    EXPECT_TRUE(pumpUntil([&running] { return running() == 1; }));
+    for (const auto& each : starts)
+        EXPECT_EQ(each->exitCode(), 0);
+}
+
+TEST_F(RealSessionTest, startsOnItsOwnWithoutABus) {
+    QProcessEnvironment environment = environmentOn(m_bus, m_display.name());
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                       QStringLiteral("unix:path=/nowhere"));
+    const QStringList files = makeFiles(1);
+    const OtherStart program(environment, files);
+    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }));
+}
+
+TEST_F(RealSessionTest, isStartedByTheBusForWhatItIsAsked) {
+    const QDir services(qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/dbus-1/services"));
+    ASSERT_TRUE(services.mkpath(QStringLiteral(".")));
+    QFile service(services.filePath(QStringLiteral("com.quorvan.brisklet.service")));
+    ASSERT_TRUE(service.open(QIODevice::WriteOnly));
+    service.write("[D-BUS Service]\nName=com.quorvan.brisklet\nExec=" BRISKLET_APP "\n");
+    service.close();
+    qputenv("DISPLAY", m_display.name().toLatin1());
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    const testsupport::PrivateBus bus;
+    const QStringList files = makeFiles(2);
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("com.quorvan.brisklet"), QStringLiteral("/com/quorvan/brisklet"),
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Open"));
+    QStringList uris;
+    for (const QString& file : files)
+        uris << QString::fromLatin1(QUrl::fromLocalFile(file).toEncoded());
+    message << uris << QVariantMap();
+    const QDBusPendingCall pending = bus.connect().asyncCall(message);
+    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }))
+        << m_display.titles().join(u'\n').toStdString();
+    EXPECT_FALSE(pending.isError());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    service.remove();
+}
+
+} // namespace
+} // namespace brisklet
