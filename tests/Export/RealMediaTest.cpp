@@ -1,4 +1,5 @@
 #include "Export/AVFoundationExporter.h"
+#include "Export/SampleReport.h"
 #include "Media/Error.h"
 #include "Media/ImageGenerator.h"
 #include "Support/FileUrl.h"
@@ -15,9 +16,11 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <cmath>
 #include <ostream>
+#include <string_view>
 
 /// Files that phones, cameras, screen recorders and broadcasters made. What can be shown of them
 /// can be exported; what cannot be shown is told in a sentence.
@@ -93,13 +96,36 @@ std::size_t audibleTracks(const std::filesystem::path& path) {
     return audible;
 }
 
-/// A second from the middle of what lasts longer.
+/// A second from the middle of what lasts longer; more for a report.
 ExportRequest requestFor(const std::filesystem::path& source, double duration) {
     ExportRequest request;
     request.sourceURL = urlOf(source);
+    if (SampleReport::isWanted()) {
+        constexpr double kReportedSeconds = 4;
+        request.endTime = std::min(duration, kReportedSeconds);
+        return request;
+    }
     request.startTime = duration > 2 ? duration * 0.4 : 0;
     request.endTime = std::min(duration, request.startTime + 1);
     return request;
+}
+
+/// RGB has no matrix of its own, and no range but one: the export states what it is made with.
+bool hasOwnMatrix(const media::AssetTrack& track) {
+    constexpr std::array<std::string_view, 4> kForeign = {"rgb", "bgr", "gbr", "pal"};
+    return std::ranges::none_of(kForeign, [&](const std::string_view name) {
+        return track.pixelFormat.find(name) != std::string::npos;
+    });
+}
+
+void expectColourOf(const media::AssetTrack& source, const std::filesystem::path& output) {
+    const auto exported = Asset::open(output)->tracks(MediaType::video).at(0);
+    EXPECT_EQ(exported.color.primaries, source.color.primaries);
+    EXPECT_EQ(exported.color.transfer, source.color.transfer);
+    if (hasOwnMatrix(source)) {
+        EXPECT_EQ(exported.color.matrix, source.color.matrix);
+        EXPECT_EQ(exported.color.range == "pc", source.color.range == "pc");
+    }
 }
 
 class RealMedia : public testing::TestWithParam<Sample> {
@@ -117,6 +143,7 @@ protected:
         AVFoundationExporter::run(request, {}, {});
 
         EXPECT_EQ(testsupport::warningsWhilePlaying(output), "");
+        expectColourOf(m_asset->tracks(MediaType::video).at(0), output);
         const auto frames = testsupport::readPackets(output);
         const auto first = std::ranges::min_element(frames, {}, &testsupport::ProbedPacket::pts);
         EXPECT_NE(first, frames.end());
@@ -128,8 +155,10 @@ protected:
         const double length = static_cast<double>(std::llround(request.endTime * 600) -
                                                   std::llround(request.startTime * 600)) /
                               600;
-        EXPECT_NEAR(file.format.number("duration").value_or(0), length, 0.03);
+        EXPECT_NEAR(file.format.number("duration").value_or(0), length, 0.002);
+        EXPECT_NEAR(file.streamsOf("video").at(0).number("duration").value_or(0), length, 0.002);
         EXPECT_NEAR(file.format.number("start_time").value_or(1), 0, 0.001);
+        SampleReport::add(GetParam().name, {m_source, output, length, !HasFailure()});
         return file;
     }
 

@@ -113,6 +113,16 @@ void nameHandlerByTitle(AVDictionary*& metadata) {
         check(av_dict_set(&metadata, "handler_name", title->value, 0));
 }
 
+/// In this the edit lists count. Milliseconds, the default, would round the cut; multiples of the
+/// picture's time base do not, and fine ones round the sound by next to nothing.
+int movieTimescale(AVRational videoTimeBase) {
+    constexpr int kFineEnough = 100'000;
+    int timescale = videoTimeBase.den;
+    while (timescale < kFineEnough)
+        timescale *= 2;
+    return timescale;
+}
+
 void setDisplayMatrix(AVStream& stream, const AffineTransform& transform) {
     if (transform == AffineTransform{})
         return;
@@ -210,8 +220,8 @@ int Muxer::addStream(const AVCodecContext& encoder, const SourceTrack& source,
     nameHandlerByTitle(stream->metadata);
     if (encoder.codec_type == AVMEDIA_TYPE_VIDEO) {
         setDisplayMatrix(*stream, transform);
-        // The edit lists count in this: milliseconds, the default, would round the cut.
-        check(av_opt_set_int(m_context->priv_data, "movie_timescale", encoder.time_base.den, 0));
+        check(av_opt_set_int(m_context->priv_data, "movie_timescale",
+                             movieTimescale(encoder.time_base), 0));
         attach(*stream, source.dynamicRange);
         addTimecode(*stream, source);
     }
