@@ -1,6 +1,7 @@
 #include "Media/ExportSession.h"
 
 #include "Media/Error.h"
+#include "Media/ProcessorDemand.h"
 #include "Media/Export/AudioPipeline.h"
 #include "Media/Export/ExportProof.h"
 #include "Media/Export/OutputFile.h"
@@ -244,6 +245,7 @@ void ExportSession::setVideoComposition(std::optional<VideoComposition> videoCom
 }
 
 void ExportSession::run(std::stop_token stop) {
+    const ProcessorDemand demand;
     d->state = State::exporting;
     try {
         if (stop.stop_requested())

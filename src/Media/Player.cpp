@@ -106,7 +106,7 @@ private:
         std::function<void(bool)> done;
     };
 
-    /// The work that a jump makes pointless.
+    /// The work that is pointless from now on.
     struct StaleWork {
         std::stop_source video;
         std::stop_source audio;
@@ -117,8 +117,7 @@ private:
         }
     };
 
-    StaleWork beginJump(Transport& transport, Time target, playback::SeekRequest request);
-    [[nodiscard]] bool mayGoOn(const Transport& transport, playback::SeekRequest request) const;
+    std::stop_source beginJump(Transport& transport, Time target, playback::SeekRequest request);
     static void noteDirection(Transport& transport, playback::SeekRequest request);
     void abandonSeek();
     void finishSeek(std::uint64_t generation);
@@ -197,20 +196,20 @@ void Player::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item)
         access->item.swap(item);
         access->immediate.reset();
         access->seek.reset();
-        access->decodingAt.reset();
         access->direction = 0;
         std::swap(access->shown, shown);
         m_playback.cache.begin(access->item.get());
-        stale = beginJump(*access, access->item ? Time{} : Time::invalid(), {});
+        stale.audio = beginJump(*access, access->item ? Time{} : Time::invalid(), {});
+        stale.video = std::exchange(access->videoWork, std::stop_source());
         access->direction = 0;
     }
     stale.stop();
 }
 
-/// Everything that holds for the time before is void; the threads turn to the new one.
-Player::Private::StaleWork Player::Private::beginJump(Transport& transport, Time target,
-                                                      playback::SeekRequest request) {
-    const bool goesOn = mayGoOn(transport, request);
+/// Everything that holds for the time before is void; the threads turn to the new one. Gives what
+/// stops the sound of before; the video thread looks after each frame what is wanted.
+std::stop_source Player::Private::beginJump(Transport& transport, Time target,
+                                            playback::SeekRequest request) {
     noteDirection(transport, request);
     ++transport.generation;
     if (!transport.seek)
@@ -227,18 +226,7 @@ Player::Private::StaleWork Player::Private::beginJump(Transport& transport, Time
         observer.isDue = false;
     transport.holdClock(target);
     transport.videoWake.raise();
-    StaleWork stale;
-    if (!goesOn)
-        stale.video = std::exchange(transport.videoWork, std::stop_source());
-    stale.audio = std::exchange(transport.audioWork, std::stop_source());
-    return stale;
-}
-
-/// Whether what the video thread is at may be finished: the frame is at hand, or lies ahead where
-/// decoding is under way to an older target.
-bool Player::Private::mayGoOn(const Transport& transport, playback::SeekRequest request) const {
-    const bool isAhead = transport.decodingAt && request.earliest >= *transport.decodingAt;
-    return isAhead || m_playback.cache.find(request.earliest, transport.imageSize());
+    return std::exchange(transport.audioWork, std::stop_source());
 }
 
 void Player::Private::noteDirection(Transport& transport, playback::SeekRequest request) {
@@ -274,7 +262,7 @@ void Player::Private::seek(Time time, Time before, Time after, std::function<voi
         auto access = transport();
         if (access->item && isTime(time)) {
             const Time target = clamped(time, access->duration);
-            stale =
+            stale.audio =
                 beginJump(*access, target, seekRequest(target, before, after, access->duration));
             seek.generation = access->generation;
         }

@@ -51,6 +51,8 @@ EditState::EditState() {
         if (const auto self = weak_from_this().lock())
             self->playedToEnd();
     };
+    connect(this, &EditState::trimStartChanged, this, &EditState::announceTrim);
+    connect(this, &EditState::trimEndChanged, this, &EditState::announceTrim);
 }
 
 EditState::~EditState() {
@@ -133,6 +135,15 @@ void EditState::publish(const QUrl& url, const LoadedVideo& video) {
     media::Player& player = *m_playerController.player();
     player.replaceCurrentItem(std::make_shared<media::PlayerItem>(video.asset));
     player.setMuted(m_isMuted);
+    announceTrim();
+}
+
+/// The ends of the trim are where the playhead goes next: by dragging them, by looping.
+void EditState::announceTrim() {
+    const auto time = [](double seconds) {
+        return media::Time::fromSeconds(seconds, media::kComparisonTimescale);
+    };
+    m_playerController.player()->setPointsOfInterest({time(m_trimStart), time(m_trimEnd)});
 }
 
 void EditState::presentOpenPanel() {

@@ -152,6 +152,7 @@ private:
     void tick(double time);
     void playedToEnd();
     void seekPlayer(double to);
+    void announceTrim();
 
     QCoro::Task<> askForMovie();
     QCoro::Task<> askForOutput();

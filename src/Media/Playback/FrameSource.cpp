@@ -52,7 +52,6 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_goal.reset();
         return Outcome::nothing;
     }
-    m_position = decoded->frame->ticks;
     if (decoded->end <= goal.ticks) {
         pass(std::move(*decoded), goal, size);
         return Outcome::onTheWay;
@@ -141,7 +140,6 @@ std::optional<std::int64_t> FrameSource::advanceNear(std::int64_t earliest, std:
     if (!decoded)
         return std::nullopt;
     const std::int64_t ticks = decoded->frame->ticks;
-    m_position = ticks;
     if (!decoded->isComplete)
         decoded->end = std::min(decoded->end, ticks + 1);
     keep(*decoded, size);

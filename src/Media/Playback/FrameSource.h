@@ -69,9 +69,6 @@ public:
     /// The next frame that advance() decodes, without moving, begins there.
     [[nodiscard]] bool standsAt(std::int64_t ticks) const { return m_nextTicks == ticks; }
 
-    /// The tick of the frame decoded last.
-    [[nodiscard]] std::int64_t position() const { return m_position; }
-
     /// The frame decoded last, whatever lies between it and the next; null without one.
     [[nodiscard]] std::shared_ptr<const CachedFrame> passing(PreviewSize size);
 
@@ -111,7 +108,6 @@ private:
     /// Decoded, but its end was not found out yet.
     std::shared_ptr<const DecodedFrame> m_unfinished;
     std::int64_t m_nextTicks = CachedFrame::kBeginning;
-    std::int64_t m_position = CachedFrame::kBeginning;
     std::int64_t m_arrivedEnd = 0;
 
     /// The frame that was arrived at last, in case that it is wanted in another size.

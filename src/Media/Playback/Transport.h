@@ -123,8 +123,6 @@ struct Transport {
     SteadyTime substituteAt;
     /// The frame that decoding passed lately on that way.
     std::shared_ptr<const CachedFrame> passing;
-    /// Where that decoding is, 1/600 s; none while there is none under way.
-    std::optional<std::int64_t> decodingAt;
     /// When playing became possible: how long the clock has waited for the sound.
     SteadyTime readySince;
     /// The item played to its end, which the owner has not yet been told of.

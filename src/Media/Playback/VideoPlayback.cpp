@@ -133,26 +133,22 @@ void VideoPlayback::seek(const Job& job) {
     goal.completeFrom -= std::min(margin(job), std::max<std::int64_t>(ticks, 0));
     switch (m_source->advance(goal, job.previewSize, job.stop)) {
     case FrameSource::Outcome::onTheWay:
-        publishProgress(job);
+        showProgress(job);
         break;
     case FrameSource::Outcome::nothing:
         fail(job);
         break;
     case FrameSource::Outcome::arrived:
-    case FrameSource::Outcome::late: {
-        auto access = m_playback.transport.lock();
-        access->decodingAt.reset();
-        access->presenterWake.raise();
+    case FrameSource::Outcome::late:
+        m_playback.transport.lock()->presenterWake.raise();
         break;
-    }
     }
 }
 
-/// Tells how far the way to a target has been gone, and from time to time shows it.
-void VideoPlayback::publishProgress(const Job& job) {
+/// Where the way to a target takes long, what lies on it is shown from time to time.
+void VideoPlayback::showProgress(const Job& job) {
     {
         auto access = m_playback.transport.lock();
-        access->decodingAt = m_source->position();
         if (!access->seek || now() + kHeadStart < access->substituteAt)
             return;
     }
@@ -183,7 +179,6 @@ void VideoPlayback::seekNear(const Job& job) {
 /// Ends a jump to where there is no picture: the one on show stays.
 void VideoPlayback::fail(const Job& job) {
     auto access = m_playback.transport.lock();
-    access->decodingAt.reset();
     access->presenterWake.raise();
     if (access->generation != job.generation)
         return;

@@ -77,7 +77,7 @@ private:
     void foresee(const Job& job);
 
     [[nodiscard]] std::int64_t margin(const Job& job) const;
-    void publishProgress(const Job& job);
+    void showProgress(const Job& job);
     [[nodiscard]] bool isTooLate(std::int64_t end, const Job& job) const;
     void pushUpcoming(const Job& job, const CachedFrame& frame);
     void passOver(const Job& job, std::int64_t end);

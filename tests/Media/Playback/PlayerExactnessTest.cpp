@@ -41,7 +41,7 @@ public:
     Restless(PlayerStage& stage, const Fixture& fixture)
         : m_stage(stage),
           m_fixture(fixture),
-          m_end(Time::fromSeconds(fixture.videoEnd(), 600).value) {}
+          m_end(static_cast<std::int64_t>(fixture.videoEnd() * 600)) {}
 
     void seekOnce() {
         chooseTarget();
