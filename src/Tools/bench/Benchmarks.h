@@ -22,6 +22,18 @@ struct ScrubFigures {
     std::vector<double> seeks;
 };
 
+struct DragFigures {
+    /// Exact frames that were shown, and all seeks.
+    std::uint64_t exact = 0;
+    std::uint64_t seeks = 0;
+    /// The longest that the main thread's event loop did not come round, milliseconds: in all, and
+    /// of that what the thread itself ran.
+    double longestBlock = 0;
+    double longestOwnBlock = 0;
+    /// Of the whole process.
+    double peakMiB = 0;
+};
+
 struct PlayFigures {
     std::uint64_t shown = 0;
     std::uint64_t late = 0;
@@ -36,6 +48,13 @@ struct PlayFigures {
 /// that of the view in pixels.
 ScrubFigures scrub(const std::filesystem::path& source, const std::vector<double>& times,
                    QSize size);
+
+/// Steps a paused player `count` times by one frame (backward where negative), beginning at `from`
+/// seconds, and waits for each frame.
+ScrubFigures step(const std::filesystem::path& source, double from, int count, QSize size);
+
+/// Seeks the player of a window to one time after another, 60 each second, as a drag does.
+DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times);
 
 /// Milliseconds from telling a window to open the file until its first frame has been painted.
 double open(const std::filesystem::path& source);

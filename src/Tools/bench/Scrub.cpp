@@ -5,6 +5,8 @@
 #include "Tools/bench/Waiting.h"
 
 #include <atomic>
+#include <cstdlib>
+#include <memory>
 #include <optional>
 
 namespace brisklet::bench {
@@ -48,24 +50,60 @@ double seekTo(media::Player& player, double seconds) {
 
 } // namespace
 
+namespace {
+
+/// A paused player with a file, on its first frame.
+class PausedPlayer {
+public:
+    PausedPlayer(const std::filesystem::path& source, QSize size) : m_player(&postToMainThread) {
+        m_player.setPreviewSize(size.width(), size.height());
+        m_player.setVideoSink(&m_sink);
+        try {
+            m_player.replaceCurrentItem(
+                std::make_shared<media::PlayerItem>(media::Asset::open(source)));
+        } catch (const media::Error& error) {
+            throw BenchmarkError(error.what());
+        }
+        seekTo(m_player, 0);
+        waitUntil([&] { return m_sink.count() > 0; });
+    }
+
+    PausedPlayer(const PausedPlayer&) = delete;
+    PausedPlayer& operator=(const PausedPlayer&) = delete;
+
+    ~PausedPlayer() { m_player.setVideoSink(nullptr); }
+
+    media::Player& player() { return m_player; }
+
+private:
+    CountingSink m_sink;
+    media::Player m_player;
+};
+
+} // namespace
+
 ScrubFigures scrub(const std::filesystem::path& source, const std::vector<double>& times,
                    QSize size) {
-    CountingSink sink;
-    media::Player player(&postToMainThread);
-    player.setPreviewSize(size.width(), size.height());
-    player.setVideoSink(&sink);
-    try {
-        player.replaceCurrentItem(std::make_shared<media::PlayerItem>(media::Asset::open(source)));
-    } catch (const media::Error& error) {
-        throw BenchmarkError(error.what());
-    }
-    seekTo(player, 0);
-    waitUntil([&] { return sink.count() > 0; });
-
+    PausedPlayer paused(source, size);
     ScrubFigures figures;
     for (const double time : times)
-        figures.seeks.push_back(seekTo(player, time));
-    player.setVideoSink(nullptr);
+        figures.seeks.push_back(seekTo(paused.player(), time));
+    return figures;
+}
+
+ScrubFigures step(const std::filesystem::path& source, double from, int count, QSize size) {
+    PausedPlayer paused(source, size);
+    media::Player& player = paused.player();
+    seekTo(player, from);
+    int jumps = 0;
+    player.addPeriodicTimeObserver(media::Time{1, 30}, [&jumps](media::Time) { ++jumps; });
+    ScrubFigures figures;
+    for (int i = 0; i < std::abs(count); ++i) {
+        const auto start = Clock::now();
+        player.step(count < 0 ? -1 : 1);
+        waitUntil([&] { return jumps > i; });
+        figures.seeks.push_back(milliseconds(Clock::now() - start));
+    }
     return figures;
 }
 

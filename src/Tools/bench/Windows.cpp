@@ -7,7 +7,11 @@
 #include "WindowRootView.h"
 
 #include <QApplication>
+#include <QTimer>
 
+#include <sys/resource.h>
+
+#include <algorithm>
 #include <ctime>
 #include <memory>
 #include <optional>
@@ -20,9 +24,9 @@ double millisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-double cpuSeconds() {
+double cpuSeconds(clockid_t clock = CLOCK_PROCESS_CPUTIME_ID) {
     timespec time = {};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    ::clock_gettime(clock, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
@@ -62,6 +66,75 @@ private:
 };
 
 } // namespace
+
+namespace {
+
+/// Notices how long the event loop does not come round.
+class Watchdog {
+public:
+    Watchdog() {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
+        m_timer.start(std::chrono::milliseconds(1));
+        look();
+        m_longest = m_longestOwn = 0;
+    }
+
+    /// Milliseconds.
+    [[nodiscard]] double longest() const { return m_longest; }
+
+    [[nodiscard]] double longestOwn() const { return m_longestOwn; }
+
+private:
+    void look() {
+        const auto now = Clock::now();
+        const double own = cpuSeconds(CLOCK_THREAD_CPUTIME_ID);
+        m_longest =
+            std::max(m_longest, std::chrono::duration<double, std::milli>(now - m_last).count());
+        m_longestOwn = std::max(m_longestOwn, (own - m_lastOwn) * 1000);
+        m_last = now;
+        m_lastOwn = own;
+    }
+
+    QTimer m_timer;
+    Clock::time_point m_last = Clock::now();
+    double m_lastOwn = 0;
+    double m_longest = 0;
+    double m_longestOwn = 0;
+};
+
+double peakMiB() {
+    rusage usage = {};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) / 1024;
+}
+
+} // namespace
+
+DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times) {
+    ShownWindow window;
+    window.open(source);
+    // Making the filmstrip is no part of dragging.
+    waitUntil([&] { return !window.state().thumbnails().isEmpty(); });
+
+    DragFigures figures;
+    window.state().playerController().onTick = [&figures](double) { ++figures.exact; };
+    const Watchdog watchdog;
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        if (figures.seeks < times.size())
+            window.state().seek(times[figures.seeks++]);
+    });
+    timer.start(std::chrono::milliseconds(16));
+    waitUntil([&] { return figures.seeks == times.size(); });
+    const auto end = Clock::now() + std::chrono::milliseconds(200);
+    waitUntil([&] { return Clock::now() >= end; });
+    figures.longestBlock = watchdog.longest();
+    figures.longestOwnBlock = watchdog.longestOwn();
+    figures.peakMiB = peakMiB();
+    return figures;
+}
 
 double open(const std::filesystem::path& source) {
     return ShownWindow().open(source);

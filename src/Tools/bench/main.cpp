@@ -25,6 +25,8 @@ constexpr int kWrongUsage = 2;
 /// The picture's share of a new window.
 constexpr QSize kUsualSize(960, 540);
 constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [--size WxH]\n"
+                               "       brisklet-bench step SOURCE SECONDS COUNT [--size WxH]\n"
+                               "       brisklet-bench drag SOURCE TIMES.json\n"
                                "       brisklet-bench open SOURCE\n"
                                "       brisklet-bench play SOURCE SECONDS\n"
                                "       brisklet-bench startup\n";
@@ -82,12 +84,7 @@ void print(const QJsonObject& figures) {
     std::puts(QJsonDocument(figures).toJson(QJsonDocument::Compact).constData());
 }
 
-void runScrub(const std::vector<std::string>& operands) {
-    const bool hasSize = operands.size() == 4 && operands[2] == "--size";
-    if (operands.size() != 2 && !hasSize)
-        throw UsageError("scrub takes SOURCE TIMES.json [--size WxH]");
-    const auto figures =
-        scrub(operands[0], readTimes(operands[1]), hasSize ? parseSize(operands[3]) : kUsualSize);
+void print(const ScrubFigures& figures) {
     std::vector<double> sorted = figures.seeks;
     std::ranges::sort(sorted);
     print({{QStringLiteral("n"), static_cast<qint64>(sorted.size())},
@@ -95,6 +92,41 @@ void runScrub(const std::vector<std::string>& operands) {
            {QStringLiteral("p50"), percentile(sorted, 0.5)},
            {QStringLiteral("p95"), percentile(sorted, 0.95)},
            {QStringLiteral("max"), sorted.back()}});
+}
+
+/// The size of the view behind the first `count` operands.
+QSize sizeAfter(const std::vector<std::string>& operands, std::size_t count,
+                const std::string& usage) {
+    const bool hasSize = operands.size() == count + 2 && operands[count] == "--size";
+    if (operands.size() != count && !hasSize)
+        throw UsageError(usage);
+    return hasSize ? parseSize(operands[count + 1]) : kUsualSize;
+}
+
+void runScrub(const std::vector<std::string>& operands) {
+    const QSize size = sizeAfter(operands, 2, "scrub takes SOURCE TIMES.json [--size WxH]");
+    print(scrub(operands[0], readTimes(operands[1]), size));
+}
+
+void runStep(const std::vector<std::string>& operands) {
+    const QSize size = sizeAfter(operands, 3, "step takes SOURCE SECONDS COUNT [--size WxH]");
+    int count = 0;
+    const std::string& text = operands[2];
+    std::from_chars(text.data(), text.data() + text.size(), count);
+    if (count == 0)
+        throw UsageError("COUNT needs a number other than 0");
+    print(step(operands[0], parseSeconds(operands[1]), count, size));
+}
+
+void runDrag(const std::vector<std::string>& operands) {
+    if (operands.size() != 2)
+        throw UsageError("drag takes SOURCE TIMES.json");
+    const DragFigures figures = drag(operands[0], readTimes(operands[1]));
+    print({{QStringLiteral("seeks"), static_cast<qint64>(figures.seeks)},
+           {QStringLiteral("exact"), static_cast<qint64>(figures.exact)},
+           {QStringLiteral("longestBlock"), figures.longestBlock},
+           {QStringLiteral("longestOwnBlock"), figures.longestOwnBlock},
+           {QStringLiteral("peakMiB"), figures.peakMiB}});
 }
 
 void runPlay(const std::vector<std::string>& operands) {
@@ -111,6 +143,10 @@ void runBenchmark(const std::string& name, const std::vector<std::string>& opera
                   Clock::time_point start) {
     if (name == "scrub") {
         runScrub(operands);
+    } else if (name == "step") {
+        runStep(operands);
+    } else if (name == "drag") {
+        runDrag(operands);
     } else if (name == "open" && operands.size() == 1) {
         std::printf("%.1f\n", open(operands[0]));
     } else if (name == "play") {
