@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QWidget>
 
 #include <algorithm>
@@ -42,6 +43,11 @@ bool EscapeMonitor::closesWindow(const QKeyEvent& event) {
 QWidget* EscapeMonitor::windowToClose() {
     QWidget* window = QApplication::activeWindow();
     if (window == nullptr || QApplication::activePopupWidget() != nullptr)
+        return nullptr;
+    // A menu that was left by this key leaves the keyboard with its bar, which it leaves the same
+    // way.
+    const auto* menuBar = qobject_cast<QMenuBar*>(QApplication::focusWidget());
+    if (menuBar != nullptr && menuBar->activeAction() != nullptr)
         return nullptr;
     const bool isPanel = qobject_cast<QDialog*>(window) != nullptr || window->parentWidget();
     return !isPanel && !hasSheet(*window) && isClosable(*window) ? window : nullptr;

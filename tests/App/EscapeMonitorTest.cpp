@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QMenuBar>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -73,6 +74,22 @@ TEST_F(EscapeMonitorTest, leavesTheKeyToPanels) {
     press(panel);
     EXPECT_TRUE(panel.isVisible());
     EXPECT_TRUE(m_window.isVisible());
+}
+
+/// Who leaves an open menu presses the key twice, and lost the window.
+TEST_F(EscapeMonitorTest, leavesTheKeyToAMenuBarThatHasTheKeyboard) {
+    QMenuBar bar(&m_window);
+    bar.addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("Entry"));
+    bar.show();
+    QTest::keyClick(m_window.windowHandle(), Qt::Key_F, Qt::AltModifier);
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu, Qt::Key_Escape);
+    ASSERT_EQ(QApplication::focusWidget(), &bar);
+    press(m_window);
+    EXPECT_TRUE(m_window.isVisible());
+    press(m_window);
+    EXPECT_FALSE(m_window.isVisible());
 }
 
 TEST_F(EscapeMonitorTest, closesNoWindowThatCannotBeClosed) {
