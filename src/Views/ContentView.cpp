@@ -45,6 +45,9 @@ ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
       m_dropZone(new DropZoneView(m_state)),
       m_editor(new EditorView(m_state)) {
     setAcceptDrops(true);
+    // One of them has the keyboard while no control has.
+    m_dropZone->setAccessibleName(tr("Drop zone"));
+    m_editor->setAccessibleName(tr("Editor"));
     for (QWidget* face : std::initializer_list<QWidget*>{m_dropZone, m_editor}) {
         face->setFocusPolicy(Qt::ClickFocus);
         m_faces->addWidget(face);

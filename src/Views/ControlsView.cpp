@@ -243,7 +243,17 @@ void ControlsView::showCrop() {
 void ControlsView::showExport() {
     const ExportSettings& settings = ExportSettings::shared();
     m_exportButton->setText(exportLabel(settings.format(), settings.resolution()));
-    m_exportButton->setEnabled(!m_state->exportProgress());
+    const bool isExporting = m_state->exportProgress().has_value();
+    // A button that is disabled hands the keyboard to whatever comes next, whose keys would then do
+    // other things. What holds the controls has it meanwhile.
+    QWidget* holder = parentWidget();
+    if (isExporting && holder && window()->focusWidget() == m_exportButton) {
+        holder->setFocus(Qt::OtherFocusReason);
+        m_hadFocus = true;
+    }
+    m_exportButton->setEnabled(!isExporting);
+    if (!isExporting && std::exchange(m_hadFocus, false) && window()->focusWidget() == holder)
+        m_exportButton->setFocus(Qt::OtherFocusReason);
 }
 
 void ControlsView::showFonts() {

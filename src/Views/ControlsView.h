@@ -69,6 +69,8 @@ private:
     FlatButton* m_cropButton;
     TabularLabel* m_cropSize;
     ExportButton* m_exportButton;
+    /// The export button had the keyboard when the running export began.
+    bool m_hadFocus = false;
 };
 
 } // namespace brisklet

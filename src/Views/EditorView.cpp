@@ -1,6 +1,9 @@
 #include "Views/EditorView.h"
 
 #include "Views/ControlsView.h"
+#include "Views/CropOverlayView.h"
+#include "Views/TimelineMarker.h"
+#include "Views/TimelineStrip.h"
 #include "Views/TimelineView.h"
 #include "Views/VideoArea.h"
 
@@ -22,7 +25,11 @@ EditorView::EditorView(const std::shared_ptr<EditState>& state, QWidget* parent)
     : QWidget(parent),
       m_videoArea(new VideoArea(state, this)),
       m_timeline(new TimelineView(state, kStripHeight, kHandleWidth, this)),
-      m_controls(new ControlsView(state, this)) {}
+      m_controls(new ControlsView(state, this)) {
+    // The timeline hands the keyboard to its playhead, past what stands left of it: that has its
+    // turn before the timeline.
+    setTabOrder(&m_videoArea->cropOverlay(), m_timeline->strip().markers().front());
+}
 
 QSize EditorView::minimumSizeHint() const {
     return {m_controls->minimumSizeHint().width() + 2 * kPadding,

@@ -39,6 +39,7 @@ TimelineView::TimelineView(std::shared_ptr<EditState> state, int stripHeight, in
       m_end(new TabularLabel(this)) {
     setAccessibleName(tr("Timeline"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
     setFocusProxy(&m_strip->playhead());
     for (TabularLabel* label : {m_start, m_position, m_end}) {
         label->setTextFormat(Qt::PlainText);

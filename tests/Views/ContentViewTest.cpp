@@ -2,13 +2,19 @@
 
 #include "Models/EditStateFixture.h"
 #include "TestSupport/TemporaryFolder.h"
+#include "Views/ControlsView.h"
 #include "Views/CropOverlayView.h"
 #include "Views/DropZoneView.h"
 #include "Views/EditorView.h"
 #include "Views/ErrorAlert.h"
+#include "Views/ExportButton.h"
 #include "Views/ExportProgressView.h"
+#include "Views/FlatButton.h"
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
+#include "Views/TimelineMarker.h"
+#include "Views/TimelineStrip.h"
+#include "Views/TimelineView.h"
 #include "Views/VideoArea.h"
 
 #include <QDragEnterEvent>
@@ -22,6 +28,7 @@
 
 #include <fstream>
 #include <memory>
+#include <vector>
 
 namespace brisklet {
 namespace {
@@ -91,6 +98,34 @@ protected:
     Qt::DropAction m_dropAction = Qt::IgnoreAction;
     std::unique_ptr<ContentView> m_content = std::make_unique<ContentView>(m_state);
 };
+
+/// The tabulator passed the trim start over.
+TEST_F(ContentViewTest, isTabbedThroughInReadingOrder) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setCropRect(media::Rect{0.1, 0.1, 0.8, 0.8});
+    const auto* editor = shown<EditorView>();
+    ASSERT_NE(editor, nullptr);
+    const auto& [trimStart, playhead, trimEnd] = editor->timeline().strip().markers();
+    const ControlsView& controls = editor->controls();
+    const std::vector<QWidget*> order{&editor->videoArea().cropOverlay(),
+                                      trimStart,
+                                      playhead,
+                                      trimEnd,
+                                      &controls.playButton(),
+                                      &controls.muteButton(),
+                                      &controls.rotateButton(),
+                                      &controls.cropButton(),
+                                      &controls.exportButton()};
+    order.front()->setFocus(Qt::TabFocusReason);
+    for (std::size_t index = 1; index < order.size(); ++index) {
+        QTest::keyClick(m_content->windowHandle(), Qt::Key_Tab);
+        EXPECT_EQ(m_content->focusWidget(), order[index]) << "at " << index;
+    }
+    for (std::size_t index = order.size() - 1; index > 0; --index) {
+        QTest::keyClick(m_content->windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(m_content->focusWidget(), order[index - 1]) << "back at " << index - 1;
+    }
+}
 
 TEST_F(ContentViewTest, invitesADropUntilAVideoIsLoaded) {
     EXPECT_NE(shown<DropZoneView>(), nullptr);

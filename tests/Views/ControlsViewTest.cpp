@@ -235,6 +235,18 @@ TEST_F(ControlsViewTest, opensItsMenuByTheDownKey) {
     menu().close();
 }
 
+/// The keyboard went on to the crop, and the arrow keys moved it after an export.
+TEST_F(ControlsViewTest, hasTheKeyboardAgainAfterAnExport) {
+    const testsupport::TemporaryFolder folder;
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 1}));
+    m_controls->exportButton().setFocus(Qt::TabFocusReason);
+    state().exportTo(urlOf(folder / "out.mp4"));
+    ASSERT_FALSE(m_controls->exportButton().isEnabled());
+    EXPECT_EQ(m_window.focusWidget(), &m_window);
+    ASSERT_TRUE(pumpUntil([this] { return !state().exportProgress(); }));
+    EXPECT_EQ(m_window.focusWidget(), &m_controls->exportButton());
+}
+
 TEST_F(ControlsViewTest, isTabbedThroughInReadingOrder) {
     m_controls->playButton().setFocus(Qt::TabFocusReason);
     for (QWidget* next :
