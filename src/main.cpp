@@ -6,7 +6,10 @@
 
 #include <QApplication>
 #include <QDBusConnection>
+#include <QIcon>
+#include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <span>
@@ -18,6 +21,7 @@ using brisklet::CommandLine;
 using brisklet::DesktopApplication;
 
 constexpr int kWrongUsage = 2;
+constexpr std::chrono::milliseconds kIconDelay(100);
 
 std::span<const char* const> argumentsOf(int argc, char** argv) {
     const std::span<const char* const> all(argv, argc > 0 ? static_cast<std::size_t>(argc) : 0);
@@ -37,6 +41,14 @@ int installQuickAction() {
     }
     std::puts("Installed Trim Video Quick Action");
     return 0;
+}
+
+/// The desktop's own version of the icon where the program is installed. Nothing waits for it, so
+/// it is looked for once the window stands.
+void showIcon() {
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("com.quorvan.brisklet"),
+                         QIcon(QStringLiteral(":/icons/com.quorvan.brisklet.svg"))));
 }
 
 void setUpApplication() {
@@ -81,6 +93,7 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     BriskletApp app;
     app.launch(filesOf(commandLine), &session,
                isStartedByBus ? BriskletApp::EmptyStart::wait : BriskletApp::EmptyStart::window);
+    QTimer::singleShot(kIconDelay, &application, showIcon);
     const int status = QApplication::exec();
     brisklet::waitForWorkers();
     return status;
