@@ -21,8 +21,9 @@ struct ImageSize {
 ImageSize fittedSize(Size natural, int maxWidth, int maxHeight);
 
 /// Turns decoded frames of one track into upright screen pictures: colour matrix and range
-/// applied, pixel aspect ratio resampled to square pixels, transparency over black. Keeps its
-/// conversion tables between calls. Use from one thread at a time.
+/// applied, PQ, HLG and wide gamut mapped to a usual screen, pixel aspect ratio resampled to square
+/// pixels, transparency over black. Keeps its conversion tables between calls. Use from one thread
+/// at a time.
 class PictureRenderer {
 public:
     explicit PictureRenderer(const AssetTrack& track);

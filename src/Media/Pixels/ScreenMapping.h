@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Media/Pixels/PlanarReader.h"
+#include "Media/Pixels/Plane.h"
+
+#include <zimg.h>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+namespace media::pixels {
+
+/// The colours of a picture that a usual screen (BT.709 primaries, standard range) cannot take as
+/// they are.
+struct ScreenColours {
+    AVColorSpace matrix = AVCOL_SPC_BT709;
+    AVColorTransferCharacteristic transfer = AVCOL_TRC_BT709;
+    AVColorPrimaries primaries = AVCOL_PRI_BT709;
+
+    [[nodiscard]] bool isHighDynamicRange() const {
+        return transfer == AVCOL_TRC_SMPTE2084 || transfer == AVCOL_TRC_ARIB_STD_B67;
+    }
+
+    friend bool operator==(const ScreenColours&, const ScreenColours&) = default;
+};
+
+/// The colours of a frame if they have to be mapped: a PQ or HLG transfer, or the primaries of
+/// BT.2020 or P3.
+std::optional<ScreenColours> coloursToMap(const AVFrame& frame);
+
+/// How bright the picture becomes, as a multiple of 100 cd/m²: by the frame's content light level,
+/// or else its mastering display; none where it says neither.
+std::optional<float> statedPeak(const AVFrame& frame);
+
+/// Maps pictures of one size and format to the screen: to linear light where 1 is 100 cd/m² (for
+/// PQ and HLG), to BT.709 primaries, through Hable's filmic curve by the brightest component (PQ
+/// and HLG only), to the transfer of BT.709 (or the source's own, of standard range). Use from one
+/// thread at a time.
+class ScreenMapping {
+public:
+    /// `format` has full chroma (or is RGB). The result is Y′CbCr of 8 bits, full range, BT.709,
+    /// with chroma on every 2^chromaShift-th pixel and line. Throws Error if zimg cannot do it.
+    ScreenMapping(const PlanarFormat& format, const ScreenColours& colours, int chromaShift);
+
+    /// `peak` as statedPeak() gives it.
+    void run(const std::array<ConstPlane, 3>& in, const std::array<Plane, 3>& out, float peak);
+
+private:
+    struct GraphDeleter {
+        void operator()(zimg_filter_graph* graph) const noexcept { zimg_filter_graph_free(graph); }
+    };
+
+    using Graph = std::unique_ptr<zimg_filter_graph, GraphDeleter>;
+
+    void process(const Graph& graph, const zimg_image_buffer_const& in,
+                 const zimg_image_buffer& out);
+    void compress(float peak);
+
+    int m_width;
+    int m_height;
+    bool m_isCompressed;
+    Graph m_toLinear;
+    Graph m_toScreen;
+    AlignedBuffer m_memory;
+    /// Red, green and blue in linear light, 32-bit floats.
+    std::array<AlignedBuffer, 3> m_linear;
+    std::array<float*, 3> m_linearPlanes{};
+    std::ptrdiff_t m_linearStride;
+};
+
+} // namespace media::pixels
