@@ -1,0 +1,235 @@
+#include "Media/Playback/PlayerPrivate.h"
+
+#include <pthread.h>
+
+#include <algorithm>
+#include <chrono>
+
+namespace media {
+
+namespace {
+
+using playback::PlaybackEvent;
+using playback::SteadyTime;
+using playback::Transport;
+
+/// Stands in for a duration that is not known: ten years.
+constexpr Time kUnknownDuration{std::int64_t{315'360'000} * kComparisonTimescale,
+                                kComparisonTimescale};
+/// How long a seek may take before something else is shown meanwhile.
+constexpr std::chrono::milliseconds kPatience{50};
+/// Seeks that follow one another faster tell a direction.
+constexpr std::chrono::milliseconds kLongestPauseInDrag{500};
+
+SteadyTime now() {
+    return std::chrono::steady_clock::now();
+}
+
+/// A time as a count of ticks from 0 to `last`.
+std::int64_t clampedTicks(Time time, Time last) {
+    return std::clamp<std::int64_t>(time.comparisonTicks(), 0, last.comparisonTicks());
+}
+
+/// The earliest and the latest frame time that a seek accepts.
+playback::SeekRequest seekRequest(Time target, Time before, Time after, Time duration) {
+    return {clampedTicks(target - before, duration), clampedTicks(target + after, duration)};
+}
+
+Size pictureSize(const PlayerItem* item) {
+    const auto tracks = item ? item->asset()->tracks(MediaType::video) : std::vector<AssetTrack>();
+    return tracks.empty() ? Size{1, 1} : orientedSize(tracks.front());
+}
+
+Time clamped(Time time, Time duration) {
+    const Time start{0, kComparisonTimescale};
+    if (time < start)
+        return start;
+    return time > duration ? duration : time;
+}
+
+bool isTime(Time time) {
+    return time.isNumeric() || time.value != 0;
+}
+
+template<typename Work>
+std::jthread namedThread(const char* name, Work work) {
+    std::jthread thread(std::move(work));
+    pthread_setname_np(thread.native_handle(), name);
+    return thread;
+}
+
+} // namespace
+
+Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutput> output)
+    : m_executor(std::move(executor)),
+      m_video(m_playback),
+      m_audio(m_playback, std::move(output)),
+      m_presenter(m_playback, [this](const PlaybackEvent& event) {
+          post([event](Private& self) { self.handle(event); });
+      }) {
+    transport()->clock.hold(Time::invalid());
+}
+
+void Player::Private::start() {
+    m_threads.push_back(
+        namedThread("player-video", [this](const std::stop_token& stop) { m_video.work(stop); }));
+    m_threads.push_back(
+        namedThread("player-audio", [this](const std::stop_token& stop) { m_audio.work(stop); }));
+    m_threads.push_back(namedThread(
+        "player-present", [this](const std::stop_token& stop) { m_presenter.work(stop); }));
+}
+
+void Player::Private::close() {
+    m_isAlive = false;
+    for (std::jthread& thread : m_threads)
+        thread.request_stop();
+    StaleWork work;
+    {
+        auto access = transport();
+        work = {access->videoWork, access->audioWork};
+    }
+    work.stop();
+    for (std::jthread& thread : m_threads)
+        thread.join();
+}
+
+void Player::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {
+    abandonSeek();
+    StaleWork stale;
+    playback::ReadyFrame shown;
+    {
+        auto access = transport();
+        const Time duration = item ? item->asset()->duration() : Time{};
+        access->duration = duration.isNumeric() ? duration : kUnknownDuration;
+        access->pictureSize = pictureSize(item.get());
+        access->item.swap(item);
+        access->immediate.reset();
+        access->seek.reset();
+        access->direction = 0;
+        std::swap(access->shown, shown);
+        m_playback.cache.begin(access->item.get());
+        stale.audio = beginJump(*access, access->item ? Time{} : Time::invalid(), {});
+        stale.video = std::exchange(access->videoWork, std::stop_source());
+        access->direction = 0;
+    }
+    stale.stop();
+}
+
+/// Everything that holds for the time before is void; the threads turn to the new one. Gives what
+/// stops the sound of before; the video thread looks after each frame what is wanted.
+std::stop_source Player::Private::beginJump(Transport& transport, Time target,
+                                            playback::SeekRequest request) {
+    noteDirection(transport, request);
+    ++transport.generation;
+    if (!transport.seek)
+        transport.substituteAt = now() + kPatience;
+    transport.seek = request;
+    transport.steps.clear();
+    transport.step.reset();
+    transport.upcoming.clear();
+    transport.isPictureReady = false;
+    transport.passing.reset();
+    m_playback.cache.setFocus(request.earliest);
+    transport.hasEnded = false;
+    for (playback::TickObserver& observer : transport.observers)
+        observer.isDue = false;
+    transport.holdClock(target);
+    transport.videoWake.raise();
+    return std::exchange(transport.audioWork, std::stop_source());
+}
+
+void Player::Private::noteDirection(Transport& transport, playback::SeekRequest request) {
+    const std::int64_t from = transport.seek ? transport.seek->earliest : transport.shown.begin;
+    const bool isDrag = now() - transport.lastJump < kLongestPauseInDrag;
+    transport.direction = !isDrag ? 0 : request.earliest < from ? -1 : 1;
+}
+
+void Player::Private::setPlaying(bool isPlaying) {
+    if (transport()->isPlaying == isPlaying)
+        return;
+    // Before any thread can act on it, so that an end that follows at once is reported after it.
+    reportRate(isPlaying ? 1.0F : 0.0F);
+    StaleWork stale;
+    {
+        auto access = transport();
+        const Time time = access->time(now());
+        access->isPlaying = isPlaying;
+        access->hasEnded = false;
+        if (!isPlaying)
+            access->lastEnd = {};
+        access->holdClock(time);
+        access->videoWake.raise();
+        stale.audio = std::exchange(access->audioWork, std::stop_source());
+    }
+    stale.stop();
+}
+
+void Player::Private::seek(Time time, Time before, Time after, std::function<void(bool)> done) {
+    StaleWork stale;
+    PendingSeek seek{0, std::move(done)};
+    {
+        auto access = transport();
+        if (access->item && isTime(time)) {
+            const Time target = clamped(time, access->duration);
+            stale.audio =
+                beginJump(*access, target, seekRequest(target, before, after, access->duration));
+            seek.generation = access->generation;
+        }
+    }
+    stale.stop();
+    if (seek.generation != 0)
+        abandonSeek();
+    m_pendingSeek = std::move(seek);
+    if (m_pendingSeek->generation == 0)
+        abandonSeek();
+}
+
+void Player::Private::abandonSeek() {
+    const std::optional<PendingSeek> seek = std::exchange(m_pendingSeek, std::nullopt);
+    if (seek && seek->done)
+        post([done = seek->done](Private&) { done(false); });
+}
+
+void Player::Private::finishSeek(std::uint64_t generation) {
+    if (!m_pendingSeek || m_pendingSeek->generation != generation)
+        return;
+    const std::optional<PendingSeek> seek = std::exchange(m_pendingSeek, std::nullopt);
+    if (seek->done)
+        seek->done(true);
+}
+
+void Player::Private::step(int count) {
+    setPlaying(false);
+    auto access = transport();
+    if (count == 0 || !access->item)
+        return;
+    access->hasEnded = false;
+    access->steps.push_back(count);
+    access->direction = count < 0 ? -1 : 1;
+    access->presenterWake.raise();
+    access->videoWake.raise();
+}
+
+void Player::Private::setVideoSink(VideoSink* sink) {
+    auto access = transport();
+    m_playback.sinkIsFree.wait(access.lock(), [&] { return !access->isPresenting; });
+    access->sink = sink;
+    access->isRedeliveryWanted = sink != nullptr;
+    access->presenterWake.raise();
+}
+
+void Player::Private::setPointsOfInterest(const std::vector<Time>& times) {
+    std::vector<std::int64_t> ticks;
+    auto access = transport();
+    for (const Time time : times) {
+        if (access->item && isTime(time))
+            ticks.push_back(clampedTicks(time, access->duration));
+    }
+    if (ticks == m_playback.cache.pointsOfInterest())
+        return;
+    m_playback.cache.setPointsOfInterest(std::move(ticks));
+    ++access->interests;
+    access->videoWake.raise();
+}
+
+} // namespace media
