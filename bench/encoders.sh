@@ -17,10 +17,11 @@ rawClip() {
     generated "$name-$format-$frames.nut" toRaw "$@"
 }
 
-# row CLIP FORMAT ENCODER PRESET CRF: one line of the table; sets cpu, bytes.
+# row CLIP FORMAT ENCODER PRESET CRF [PARAMETERS]: one line of the table; sets cpu, bytes.
 row() {
     local clip=$1 format=$2 encoder=$3 preset=$4 crf=$5 parameters=()
     [[ $encoder == libx265 ]] && parameters=(-x265-params log-level=none)
+    [[ -n ${6:-} ]] && parameters=(-x264-params "$6")
     measure ffmpeg -nostdin -v error -y -i "$clip" -fps_mode passthrough \
         -pix_fmt "$format" -c:v "$encoder" \
         -preset "$preset" -crf "$crf" "${parameters[@]}" -f nut "$scratch/coded.nut"
@@ -29,27 +30,30 @@ row() {
     similarity=$(command ffmpeg -nostdin -hide_banner -i "$scratch/coded.nut" -i "$clip" \
         -lavfi "[0]settb=1/30,setpts=N[a];[1]settb=1/30,setpts=N[b];[a][b]ssim" -f null - 2>&1 | sed -n 's/.*All:\([0-9.]*\).*/\1/p')
     baseCpu=${baseCpu:-$cpu} baseBytes=${baseBytes:-$bytes}
-    printf '| %-10s | %5s | %8s | %7s | %5s | %6s | %5s |\n' "$preset" "$crf" "$similarity" \
+    printf '| %-10s | %5s | %8s | %7s | %5s | %6s | %5s |\n' "$preset ${6:-}" "$crf" "$similarity" \
         "$cpu" "$(ratio "$cpu" "$baseCpu")" \
         "$(awk -v b="$bytes" 'BEGIN { printf "%.2f", b / 1048576 }')" \
         "$(ratio "$bytes" "$baseBytes")"
 }
 
-# table TITLE CLIP FORMAT ENCODER PRESET:CRF...: the first setting is what the others stand beside.
+# table TITLE CLIP FORMAT ENCODER PRESET:CRF[:PARAMETERS]...: the first setting is what the others stand beside.
 table() {
     local title=$1 clip=$2 format=$3 encoder=$4 setting
     shift 4
     printf '%s\n\n| preset     |   crf |     SSIM |   CPU s |     x |    MiB |     x |\n' "$title"
     printf '|---|---|---|---|---|---|---|\n'
     baseCpu='' baseBytes=''
+    local preset crf parameters
     for setting in "$@"; do
-        row "$clip" "$format" "$encoder" "${setting%:*}" "${setting#*:}"
+        IFS=: read -r preset crf parameters <<<"$setting"
+        row "$clip" "$format" "$encoder" "$preset" "$crf" "$parameters"
     done
     echo
 }
 
-h264=(medium:16 faster:16 veryfast:16 superfast:16 superfast:16.5 superfast:17 superfast:17.7
-    ultrafast:14 ultrafast:16)
+h264=(medium:16 faster:16 veryfast:16 superfast:16.6 superfast:16.6:subme=2
+    superfast:17.1:subme=2:qcomp=0.8 superfast:16.6:mbtree=1:rc-lookahead=10 superfast:16.6:trellis=1
+    ultrafast:14)
 hevc=(medium:18 fast:18 superfast:12 superfast:14 superfast:16 ultrafast:10 ultrafast:11
     ultrafast:12 ultrafast:14 ultrafast:16)
 

@@ -105,11 +105,13 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         parameters += x265Parameters(track.dynamicRange);
         setOption(*context, "x265-params", parameters);
     } else {
+        std::string parameters = settings.h264Parameters;
         // Pairs of lines of both fields are coded together, in pairs of macroblocks.
         if (encoding.fieldOrder != AV_FIELD_PROGRESSIVE && encoding.height % 4 == 0) {
             context->flags |= AV_CODEC_FLAG_INTERLACED_DCT;
-            setOption(*context, "x264-params", isTopFirst(encoding.fieldOrder) ? "tff=1" : "bff=1");
+            parameters += isTopFirst(encoding.fieldOrder) ? ":tff=1" : ":bff=1";
         }
+        setOption(*context, "x264-params", parameters);
         setOption(*context, "preset", settings.h264Preset);
         setOption(*context, "crf", std::to_string(settings.h264Crf));
     }
