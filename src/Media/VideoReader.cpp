@@ -19,6 +19,8 @@ constexpr std::int64_t kNoTarget = std::numeric_limits<std::int64_t>::min();
 /// Without an index to say where the key frames are, decoding on is taken to be cheaper than
 /// moving for targets this close.
 constexpr std::int64_t kNearTicks = 2 * kComparisonTimescale;
+/// A run of decoding that is so short may as well begin somewhat earlier.
+constexpr std::int64_t kShortRunTicks = kComparisonTimescale / 2;
 /// The first step back when a container lands behind the frame that was asked for.
 constexpr std::int64_t kFirstStepBackTicks = kComparisonTimescale / 2;
 /// How much later than it is decoded a key frame may be shown.
@@ -58,17 +60,21 @@ public:
     ~Private() { m_asset->demuxers().giveBack(std::move(m_demuxer)); }
 
     void seek(std::int64_t ticks, const std::stop_token& stop) {
-        approach(ticks, ticks, stop);
+        approach(ticks, ticks, ticks, stop);
         advanceTo(ticks, stop);
         m_target = kNoTarget;
     }
 
-    void approach(std::int64_t ticks, std::int64_t completeFrom, const std::stop_token& stop) {
+    void approach(std::int64_t ticks, std::int64_t completeFrom, std::int64_t beginAt,
+                  const std::stop_token& stop) {
         m_target = ticks;
         m_completeFrom = completeFrom;
         m_bestTicks = kNoTarget;
-        if (!isAheadNearby(ticks))
-            reposition(ticks, ticks, stop);
+        if (isAheadNearby(ticks))
+            return;
+        const std::int64_t begin =
+            beginAt < ticks && hasKeyFrameWithin(ticks - kShortRunTicks, beginAt) ? beginAt : ticks;
+        reposition(begin, begin, stop);
     }
 
     [[nodiscard]] bool isCompleteFrom(std::int64_t ticks) const { return ticks >= m_gaplessFrom; }
@@ -342,9 +348,9 @@ void VideoReader::seek(std::int64_t ticks, const std::stop_token& stop) {
     d->seek(ticks, stop);
 }
 
-void VideoReader::approach(std::int64_t ticks, std::int64_t completeFrom,
+void VideoReader::approach(std::int64_t ticks, std::int64_t completeFrom, std::int64_t beginAt,
                            const std::stop_token& stop) {
-    d->approach(ticks, completeFrom, stop);
+    d->approach(ticks, completeFrom, beginAt, stop);
 }
 
 bool VideoReader::isCompleteFrom(std::int64_t ticks) const {

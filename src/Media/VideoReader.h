@@ -57,8 +57,10 @@ public:
     /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
     /// frame at `ticks` or one before it, from which the others follow. Frames before
     /// `completeFrom` may be left out on the way, those from there on are all given out as long as
-    /// isCompleteFrom() says so.
-    void approach(std::int64_t ticks, std::int64_t completeFrom, const std::stop_token& stop = {});
+    /// isCompleteFrom() says so. Where key frames stand close to one another, it begins at the one
+    /// before `beginAt` if that costs little, so that there are such frames.
+    void approach(std::int64_t ticks, std::int64_t completeFrom, std::int64_t beginAt,
+                  const std::stop_token& stop = {});
 
     /// Whether no frame between one given out at `ticks` and the next frame was left out.
     [[nodiscard]] bool isCompleteFrom(std::int64_t ticks) const;

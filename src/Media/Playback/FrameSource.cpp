@@ -14,6 +14,9 @@ namespace {
 /// Frames at full size that wait to be rendered: what comes in a third of a second at 1080p.
 constexpr std::size_t kPassedBytes = std::size_t{48} << 20;
 
+/// How many frames before one are worth decoding, when the next ones will be those (1/600 s).
+constexpr std::int64_t kBackwardTicks = kComparisonTimescale * 3 / 10;
+
 std::size_t byteCount(const AVFrame& frame) {
     std::size_t bytes = 0;
     for (const AVBufferRef* buffer : frame.buf)
@@ -44,7 +47,8 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_unfinished.reset();
         m_nextTicks = CachedFrame::kBeginning;
         m_hasMoved = true;
-        m_reader->approach(goal.ticks, goal.completeFrom, stop);
+        const std::int64_t beginAt = goal.isBackward ? goal.ticks - kBackwardTicks : goal.ticks;
+        m_reader->approach(goal.ticks, goal.completeFrom, beginAt, stop);
         m_goal = goal.ticks;
     }
     std::optional<Decoded> decoded = decode(goal, stop);

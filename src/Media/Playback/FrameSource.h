@@ -31,6 +31,9 @@ public:
         std::int64_t completeFrom = 0;
         /// The frames on the way can wait until there is time for them: the goal is urgent.
         bool isUrgent = false;
+        /// More will be asked for backward from here: some frames before it are worth having even
+        /// where a key frame stands nearer.
+        bool isBackward = false;
         /// A frame that ends at or before this tick need not be rendered: it is too late for it.
         std::int64_t lateUntil = CachedFrame::kBeginning;
     };

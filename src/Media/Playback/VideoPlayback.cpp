@@ -129,7 +129,8 @@ void VideoPlayback::seek(const Job& job) {
         return;
     }
     const std::int64_t ticks = job.target.earliest;
-    FrameSource::Goal goal{ticks, ticks, true};
+    FrameSource::Goal goal{
+        .ticks = ticks, .completeFrom = ticks, .isUrgent = true, .isBackward = job.direction < 0};
     goal.completeFrom -= std::min(margin(job), std::max<std::int64_t>(ticks, 0));
     switch (m_source->advance(goal, job.previewSize, job.stop)) {
     case FrameSource::Outcome::onTheWay:
@@ -225,7 +226,9 @@ void VideoPlayback::queue(const Job& job) {
 void VideoPlayback::decodeAhead(const Job& job) {
     const std::int64_t ticks = job.target.earliest;
     const bool mayDrop = now() - m_lastKept <= kLongestFreeze;
-    const FrameSource::Goal goal{ticks, ticks, false, mayDrop ? job.now : CachedFrame::kBeginning};
+    const FrameSource::Goal goal{.ticks = ticks,
+                                 .completeFrom = ticks,
+                                 .lateUntil = mayDrop ? job.now : CachedFrame::kBeginning};
     switch (m_source->advance(goal, job.previewSize, job.stop)) {
     case FrameSource::Outcome::onTheWay:
         break;
@@ -278,7 +281,8 @@ void VideoPlayback::passOver(const Job& job, std::int64_t end) {
 /// Brings decoding to where the frames at hand end, while those are being shown.
 void VideoPlayback::prepare(const Job& job) {
     const std::int64_t ticks = job.target.earliest - 1;
-    m_source->advance({ticks, ticks, false, job.target.earliest}, job.previewSize, job.stop);
+    m_source->advance({.ticks = ticks, .completeFrom = ticks, .lateUntil = job.target.earliest},
+                      job.previewSize, job.stop);
 }
 
 void VideoPlayback::foresee(const Job& job) {
