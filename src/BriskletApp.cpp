@@ -47,6 +47,7 @@ BriskletApp::BriskletApp(const QString& applicationId, QObject* parent)
                                           applicationId == releasedApplicationId())) {
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QApplication::lastWindowClosed, this, &BriskletApp::lastWindowClosed);
+    connect(&m_termination, &TerminationSignals::requested, this, &BriskletApp::terminate);
     m_busCall.setSingleShot(true);
     connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
     OpenBridge::requestWindow = [self = QPointer(this)] {
@@ -127,6 +128,14 @@ QList<WindowRootView*> BriskletApp::windows() const {
 void BriskletApp::quit() {
     for (WindowRootView* window : windows())
         window->close();
+}
+
+void BriskletApp::terminate() {
+    const QList<WindowRootView*> open = windows();
+    for (WindowRootView* window : open)
+        window->closeNow();
+    if (open.isEmpty())
+        QCoreApplication::quit();
 }
 
 void BriskletApp::open(const QList<QUrl>& files, const QVariantMap& platformData) {

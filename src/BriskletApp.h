@@ -3,6 +3,7 @@
 #include "AppDelegate.h"
 #include "FocusedValues.h"
 #include "Platform/DesktopApplication.h"
+#include "Platform/TerminationSignals.h"
 
 #include <QList>
 #include <QObject>
@@ -62,6 +63,7 @@ public:
     void quit();
 
 private:
+    void terminate();
     void joinSession();
     void open(const QList<QUrl>& files, const QVariantMap& platformData);
     void activate(const QVariantMap& platformData);
@@ -70,6 +72,7 @@ private:
 
     AppDelegate m_delegate;
     FocusedValues m_focusedValues;
+    TerminationSignals m_termination;
     std::unique_ptr<UpdateDriver> m_updateDriver;
     std::unique_ptr<Updater> m_updater;
     DesktopApplication* m_session = nullptr;

@@ -66,6 +66,13 @@ void WindowRootView::bringToFront() {
     activateWindow();
 }
 
+void WindowRootView::closeNow() {
+    m_closesAfterExport = true;
+    m_state->cancelExport();
+    if (!m_state->exportProgress())
+        close();
+}
+
 void WindowRootView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (!m_hasAppeared) {
@@ -123,12 +130,7 @@ void WindowRootView::askToStopExport() {
                                       sheet != nullptr ? sheet : this);
     m_closeQuestion->addButton(tr("Stop and Close"), QMessageBox::AcceptRole);
     m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_closeQuestion, &QMessageBox::accepted, this, [this] {
-        m_closesAfterExport = true;
-        m_state->cancelExport();
-        if (!m_state->exportProgress())
-            close();
-    });
+    connect(m_closeQuestion, &QMessageBox::accepted, this, &WindowRootView::closeNow);
     m_closeQuestion->open();
 }
 

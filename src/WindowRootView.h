@@ -33,6 +33,9 @@ public:
     /// Puts the window over the others and gives it the keyboard, as far as the desktop lets it.
     void bringToFront();
 
+    /// Closes without a question; an export is stopped, and the window goes when it has ended.
+    void closeNow();
+
 Q_SIGNALS:
     void newWindowRequested();
     void quitRequested();

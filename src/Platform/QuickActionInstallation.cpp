@@ -3,7 +3,12 @@
 #include "Platform/FileManagerEntries.h"
 #include "Support/QuickAction.h"
 
+#include <QFile>
+#include <QStandardPaths>
+
 #include <filesystem>
+#include <stdexcept>
+#include <system_error>
 
 namespace brisklet::QuickActionInstallation {
 
@@ -11,7 +16,14 @@ namespace {
 
 /// Not the name that the program was called by: menus start it from any folder.
 std::filesystem::path ownProgram() {
-    return std::filesystem::read_symlink("/proc/self/exe");
+    std::error_code error;
+    std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+    if (error)
+        program = QFile::encodeName(QStandardPaths::findExecutable(QStringLiteral("brisklet")))
+                      .toStdString();
+    if (program.empty())
+        throw std::runtime_error("The place of the program couldn't be found out.");
+    return program;
 }
 
 } // namespace

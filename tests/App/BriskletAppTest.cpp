@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
+#include <filesystem>
 #include <vector>
 
 namespace brisklet {
@@ -92,6 +94,16 @@ TEST_F(BriskletAppTest, asksTheWindowsThatExportBeforeItQuits) {
     ASSERT_NE(question, nullptr);
     clickRole(*question, QMessageBox::AcceptRole);
     EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+}
+
+TEST_F(BriskletAppTest, leavesNothingUnfinishedWhenTheSystemEndsIt) {
+    WindowRootView* exporting = openWindow();
+    openWindow();
+    ASSERT_TRUE(startLongExport(*exporting));
+    ASSERT_TRUE(pumpUntil([this] { return !std::filesystem::is_empty(m_folder.path()); }));
+    std::raise(SIGTERM);
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
 }
 
 TEST_F(BriskletAppTest, neverLooksForUpdatesByItselfUnderAnotherIdentifier) {
