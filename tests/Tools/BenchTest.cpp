@@ -47,6 +47,27 @@ TEST(Bench, scrubTellsTheTimesOfSeeks) {
     }
 }
 
+TEST(Bench, stepTellsTheTimesOfSteps) {
+    const ProcessResult result = bench({"step", source(), "1", "-5", "--size", "320x180"});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors;
+    const std::string number = kNumber;
+    EXPECT_THAT(result.output,
+                MatchesRegex(R"(\{"first":)" + number + R"(,"max":)" + number + R"(,"n":5,"p50":)" +
+                             number + R"(,"p95":)" + number + "\\}\n"));
+}
+
+TEST(Bench, dragTellsHowLongTheMainThreadWasBlocked) {
+    const TemporaryFolder folder;
+    const std::string times = folder / "times.json";
+    std::ofstream(times) << "[1, 0.5, 0.6]";
+    const ProcessResult result = bench({"drag", source(), times});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors;
+    const std::string number = kNumber;
+    EXPECT_THAT(result.output, MatchesRegex(R"(\{"exact":[1-9][0-9]*,"longestBlock":)" + number +
+                                            R"(,"longestOwnBlock":)" + number + R"(,"peakMiB":)" +
+                                            number + R"(,"seeks":3\})" + "\n"));
+}
+
 TEST(Bench, openAndStartupTellMilliseconds) {
     for (const auto& arguments : {std::vector<std::string>{"open", source()}, {"startup"}}) {
         const ProcessResult result = bench(arguments);
@@ -67,6 +88,8 @@ TEST(Bench, failsWithAReason) {
     const TemporaryFolder folder;
     EXPECT_EQ(bench({}).exitStatus, 2);
     EXPECT_EQ(bench({"open"}).exitStatus, 2);
+    EXPECT_EQ(bench({"step", source(), "1", "none"}).exitStatus, 2);
+    EXPECT_EQ(bench({"drag", source()}).exitStatus, 2);
     EXPECT_EQ(bench({"scrub", source(), "times.json", "--size", "wide"}).exitStatus, 2);
     EXPECT_EQ(bench({"scrub", source(), folder / "missing.json"}).exitStatus, 1);
     const ProcessResult result = bench({"open", folder / "missing.mp4"});

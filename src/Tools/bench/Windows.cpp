@@ -118,7 +118,11 @@ DragFigures drag(const std::filesystem::path& source, const std::vector<double>&
     waitUntil([&] { return !window.state().thumbnails().isEmpty(); });
 
     DragFigures figures;
-    window.state().playerController().onTick = [&figures](double) { ++figures.exact; };
+    double lastExact = -1;
+    window.state().playerController().onTick = [&](double time) {
+        ++figures.exact;
+        lastExact = time;
+    };
     const Watchdog watchdog;
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
@@ -128,8 +132,9 @@ DragFigures drag(const std::filesystem::path& source, const std::vector<double>&
     });
     timer.start(std::chrono::milliseconds(16));
     waitUntil([&] { return figures.seeks == times.size(); });
-    const auto end = Clock::now() + std::chrono::milliseconds(200);
-    waitUntil([&] { return Clock::now() >= end; });
+    // The last one is exact in any case.
+    const double last = window.state().playerController().player()->currentTime().seconds();
+    waitUntil([&] { return figures.exact > 0 && lastExact == last; });
     figures.longestBlock = watchdog.longest();
     figures.longestOwnBlock = watchdog.longestOwn();
     figures.peakMiB = peakMiB();
