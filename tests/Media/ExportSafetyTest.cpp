@@ -2,11 +2,13 @@
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
 #include "TestSupport/Fixture.h"
+#include "TestSupport/Inspection.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <sched.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -195,6 +197,38 @@ TEST(ExportOntoSomethingElse, neverReplacesFoldersPipesOrDevices) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("folder.mp4", "pipe.mp4"));
     EXPECT_TRUE(std::filesystem::is_fifo(folder / "pipe.mp4"));
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+/// Stages that wait for each other must not do so for ever where only one of them runs at a time.
+TEST(HardPressedExport, isRightOnOneProcessor) {
+    const TemporaryFolder folder;
+    const Fixture fixture = makeFixture({.audioTracks = 2});
+    const std::string said = inChildProcess([&]() -> std::string {
+        cpu_set_t processors;
+        CPU_ZERO(&processors);
+        CPU_SET(0, &processors);
+        if (::sched_setaffinity(0, sizeof processors, &processors) != 0)
+            return "skip";
+        return errorOf([&] {
+            exportRange(fixture.path, 0.5, 3.5, folder / "straight.mp4");
+            const auto opened = Asset::open(fixture.path);
+            ExportSession session(compositionOf(opened, 0.5, 3.5), folder / "turned.mp4",
+                                  FileType::mpeg4);
+            session.setVideoComposition(
+                renderedAt(opened->tracks(MediaType::video).at(0), 160, 120, 30));
+            session.run();
+        });
+    });
+    if (said == "skip")
+        GTEST_SKIP() << "processors cannot be chosen here";
+    EXPECT_EQ(said, "");
+    for (const char* name : {"straight.mp4", "turned.mp4"}) {
+        const auto frames = testsupport::readNumberedFrames(folder / name);
+        ASSERT_EQ(frames.size(), 90U);
+        EXPECT_EQ(frames.front().number, 15);
+        EXPECT_EQ(frames.back().number, 104);
+        EXPECT_EQ(testsupport::readClicks(folder / name, 1).size(), 3U);
+    }
 }
 
 } // namespace
