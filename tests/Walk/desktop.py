@@ -2,6 +2,7 @@
 accessibility bus, and the mouse and keyboard of xdotool. Everything ends with it; the settings of
 the person who runs it are neither read nor changed."""
 
+import ctypes
 import os
 import shutil
 import signal
@@ -12,7 +13,7 @@ from pathlib import Path
 
 DEADLINE = 20.0
 
-PROGRAMS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "import", "ffmpeg", "ffprobe")
+PROGRAMS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "xprop", "import", "ffmpeg", "ffprobe")
 ACCESSIBILITY_BUS = (
     "/usr/libexec/at-spi-bus-launcher",
     "/usr/lib/at-spi2-core/at-spi-bus-launcher",
@@ -40,6 +41,12 @@ def wait_for(what, condition, seconds=DEADLINE):
         if time.monotonic() > end:
             raise AssertionError(f"in {seconds:g} s there was no {what}")
         time.sleep(0.02)
+
+
+def _end_with_parent():
+    """So that nothing is left where the script is killed, as a test is that takes too long."""
+    set_parent_death_signal = 1
+    ctypes.CDLL(None).prctl(set_parent_death_signal, signal.SIGTERM)
 
 
 class Desktop:
@@ -77,7 +84,9 @@ class Desktop:
 
     def start(self, *command, **options):
         """Starts a program that ends with the desktop at the latest."""
-        process = subprocess.Popen([str(part) for part in command], **options)
+        process = subprocess.Popen(
+            [str(part) for part in command], preexec_fn=_end_with_parent, **options
+        )
         self._processes.append(process)
         return process
 
