@@ -14,6 +14,7 @@
 #include <exception>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <pthread.h>
 #include <thread>
 #include <vector>
@@ -90,7 +91,7 @@ private:
     Time m_duration;
     // The stages' stop token goes to all that follows; their threads end before any of it.
     std::stop_source m_stop;
-    VideoPipeline m_video;
+    std::optional<VideoPipeline> m_video;
     std::vector<std::unique_ptr<AudioPipeline>> m_sounds;
     OutputFile m_file;
     ffmpeg::Muxer m_muxer;
@@ -103,17 +104,17 @@ ExportRun::ExportRun(const Composition& composition,
                      const EncoderSettings& settings, const std::filesystem::path& outputPath,
                      FileType fileType)
     : m_duration(composition.videoTrack->range.duration()),
-      m_video(composition, videoComposition, settings, m_stop.get_token()),
+      m_video(std::in_place, composition, videoComposition, settings, m_stop.get_token()),
       m_file(outputPath),
       m_muxer(m_file, fileType, composition.asset->info(), composition.videoTrack->range),
       m_stages(m_stop) {
     const ffmpeg::SourceInfo& info = composition.asset->info();
     const CompositionTrack& picture = *composition.videoTrack;
-    m_streams.push_back(&m_video.output());
-    m_video.output().muxerStream =
-        m_muxer.addStream(m_video.encoderContext(), info.track(picture.source.streamIndex),
+    m_streams.push_back(&m_video->output());
+    m_video->output().muxerStream =
+        m_muxer.addStream(m_video->encoderContext(), info.track(picture.source.streamIndex),
                           videoComposition ? AffineTransform{} : picture.preferredTransform);
-    std::int64_t expectedPackets = m_video.expectedPackets();
+    std::int64_t expectedPackets = m_video->expectedPackets();
     for (const CompositionTrack& track : composition.audioTracks) {
         auto sound = std::make_unique<AudioPipeline>(composition, track, m_stop.get_token());
         sound->output().muxerStream =
@@ -127,9 +128,9 @@ ExportRun::ExportRun(const Composition& composition,
 
 void ExportRun::writeMedia(const std::stop_token& stop, std::atomic<double>& progress) {
     const std::stop_callback stopStages(stop, [this] { m_stop.request_stop(); });
-    m_stages.start("decode", [this] { m_video.decodeStage(); });
-    m_stages.start("transform", [this] { m_video.transformStage(); });
-    m_stages.start("encode", [this] { m_video.encodeStage(); });
+    m_stages.start("decode", [this] { m_video->decodeStage(); });
+    m_stages.start("transform", [this] { m_video->transformStage(); });
+    m_stages.start("encode", [this] { m_video->encodeStage(); });
     for (const auto& sound : m_sounds)
         m_stages.start("sound", [&sound] { sound->run(); });
     m_stages.guard([&] { muxStage(progress); });
@@ -138,14 +139,19 @@ void ExportRun::writeMedia(const std::stop_token& stop, std::atomic<double>& pro
 void ExportRun::complete(const std::stop_token& stop) {
     m_stages.join();
     m_muxer.finish();
-    proveExport(m_file.reader(), plan(), stop);
+    const ExportPlan planned = plan();
+    // The proof needs memory for pictures of its own.
+    m_streams.clear();
+    m_sounds.clear();
+    m_video.reset();
+    proveExport(m_file.reader(), planned, stop);
     if (stop.stop_requested())
         throw Cancelled();
     m_file.commit();
 }
 
 ExportPlan ExportRun::plan() const {
-    ExportPlan plan{{{MediaType::video, m_video.scheduledFrames()}}, m_duration};
+    ExportPlan plan{{{MediaType::video, m_video->scheduledFrames()}}, m_duration};
     for (const auto& sound : m_sounds)
         plan.tracks.push_back({MediaType::audio, sound->packets()});
     return plan;
