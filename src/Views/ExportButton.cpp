@@ -85,11 +85,17 @@ bool ExportButton::isMenuOpen() const {
     return menu() && menu()->isVisible();
 }
 
+QPalette ExportButton::enabledPalette() const {
+    QPalette result = palette();
+    result.setCurrentColorGroup(QPalette::Active);
+    return result;
+}
+
 void ExportButton::paintFill(QPainter& painter) const {
     QPainterPath shape;
     shape.addRoundedRect(rect(), buttonpainting::kRadius, buttonpainting::kRadius);
-    painter.fillPath(shape,
-                     isEnabled() ? theme::accentFill(palette()) : theme::quaternary(palette()));
+    painter.fillPath(shape, isEnabled() ? theme::accentFill(palette())
+                                        : theme::quaternary(enabledPalette()));
     if (!isEnabled())
         return;
     // Each part answers the pointer by itself.
@@ -112,7 +118,9 @@ void ExportButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintFill(painter);
-    const QColor ink = isEnabled() ? theme::onAccentFill(palette()) : theme::secondary(palette());
+    // The title says what is being exported meanwhile: grey, but not as faint as disabled text is.
+    const QColor ink =
+        isEnabled() ? theme::onAccentFill(palette()) : theme::secondary(enabledPalette());
     painter.setPen(ink);
     painter.drawText(rect().adjusted(kPadding, 0, -kMenuWidth - kPadding, 0), Qt::AlignCenter,
                      text());

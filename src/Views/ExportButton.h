@@ -30,6 +30,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// The colours that it has while it is enabled.
+    [[nodiscard]] QPalette enabledPalette() const;
     void paintFill(QPainter& painter) const;
     [[nodiscard]] bool isMenuOpen() const;
 };
