@@ -10,6 +10,7 @@
 #include <deque>
 #include <limits>
 #include <set>
+#include <span>
 
 namespace media {
 
@@ -32,6 +33,46 @@ bool canSkipNonReference(AVCodecID codec) {
            codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG4;
 }
 
+/// What an HEVC stream says of itself as MP4 and Matroska store it: how long the lengths in front
+/// of its units are, and how many temporal layers it has. None where it says nothing.
+struct HevcLayout {
+    unsigned lengthBytes = 4;
+    int layers = 1;
+};
+
+std::optional<HevcLayout> hevcLayout(const AVCodecParameters& parameters) {
+    constexpr int kLayoutByte = 21;
+    const std::uint8_t* data = parameters.extradata;
+    if (parameters.codec_id != AV_CODEC_ID_HEVC || parameters.extradata_size <= kLayoutByte ||
+        data[0] != 1)
+        return std::nullopt;
+    const int layers = data[kLayoutByte] >> 3 & 7;
+    if (layers == 0)
+        return std::nullopt;
+    return HevcLayout{(data[kLayoutByte] & 3U) + 1U, layers};
+}
+
+/// Whether no picture depends on the HEVC picture in the packet: its units say so for their own
+/// temporal layer, and there is none above it.
+bool isHevcNonReference(const AVPacket& packet, const HevcLayout& layout) {
+    constexpr unsigned kFirstOtherUnit = 32;
+    constexpr unsigned kFirstReservedPicture = 16;
+    const std::span bytes(packet.data, static_cast<std::size_t>(std::max(packet.size, 0)));
+    std::size_t at = 0;
+    while (at + layout.lengthBytes + 2 <= bytes.size()) {
+        std::size_t length = 0;
+        for (unsigned i = 0; i < layout.lengthBytes; ++i)
+            length = length << 8 | bytes[at + i];
+        at += layout.lengthBytes;
+        const unsigned type = bytes[at] >> 1 & 63U;
+        const int layer = (bytes[at + 1] & 7) - 1;
+        if (type < kFirstOtherUnit)
+            return type < kFirstReservedPicture && type % 2 == 0 && layer == layout.layers - 1;
+        at += length;
+    }
+    return false;
+}
+
 /// Whether the decoder gives out pictures although those they refer to are not there.
 bool decodesWithoutReferences(AVCodecID codec) {
     return codec == AV_CODEC_ID_HEVC || codec == AV_CODEC_ID_VVC;
@@ -45,7 +86,8 @@ public:
         : m_asset(std::move(asset)),
           m_track(m_asset->info().track(facts.streamIndex)),
           m_demuxer(m_asset->demuxers().take()),
-          m_options(options) {
+          m_options(options),
+          m_hevcLayout(hevcLayout(*m_track.parameters)) {
         openDecoder();
         if (!ffmpeg::statesPresentationTimes(*m_asset->info().format))
             m_demuxer->findStreamInfo();
@@ -271,9 +313,11 @@ private:
             ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).comparisonTicks();
         if (ticks <= m_target)
             m_bestTicks = std::max(m_bestTicks, ticks);
-        if (!canSkipNonReference(m_track.parameters->codec_id))
-            return false;
         if (ticks >= m_bestTicks || ticks >= m_completeFrom)
+            return false;
+        const bool canSkip = m_hevcLayout ? isHevcNonReference(packet, *m_hevcLayout)
+                                          : canSkipNonReference(m_track.parameters->codec_id);
+        if (!canSkip)
             return false;
         m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
         return true;
@@ -310,6 +354,7 @@ private:
     const ffmpeg::SourceTrack& m_track;
     std::unique_ptr<ffmpeg::Demuxer> m_demuxer;
     Options m_options;
+    std::optional<HevcLayout> m_hevcLayout;
     std::optional<ffmpeg::Decoder> m_decoder;
     /// The stream changed the decoder's parameters on its way.
     bool m_hasNewParameters = false;
