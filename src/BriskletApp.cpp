@@ -85,7 +85,9 @@ void BriskletApp::launch(const QList<QUrl>& files, DesktopApplication* session,
     const auto requestWindow = std::exchange(OpenBridge::requestWindow, nullptr);
     AppDelegate::open(files);
     OpenBridge::requestWindow = requestWindow;
-    openWindow();
+    WindowRootView* window = openWindow();
+    // Also when the program was started from a terminal, whose window has the keyboard.
+    QMetaObject::invokeMethod(window, &QWidget::activateWindow, Qt::QueuedConnection);
 }
 
 void BriskletApp::joinSession() {

@@ -11,6 +11,8 @@ namespace testsupport {
 /// dialog belongs to.
 inline bool showActive(QWidget& window) {
     window.show();
+    // What other windows asked for before is over first.
+    pumpPending();
     window.activateWindow();
     return pumpUntil([&window] { return QApplication::activeWindow() == &window; });
 }

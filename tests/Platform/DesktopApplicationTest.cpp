@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <stdexcept>
 
 namespace {
 
@@ -77,6 +78,21 @@ TEST_F(DesktopApplicationTest, isAloneWithoutABus) {
                                       QStringLiteral("no-bus")),
         kName);
     EXPECT_EQ(application.claim({}, {}), Role::alone);
+}
+
+TEST_F(DesktopApplicationTest, refusesToStartBesideAnOwnerThatDoesNotServe) {
+    QDBusConnection other = m_bus.connect();
+    ASSERT_TRUE(other.registerService(kName));
+    EXPECT_THROW(m_application->claim({}, {}), std::runtime_error);
+}
+
+TEST_F(DesktopApplicationTest, takesThePlaceOfAnOwnerThatHasEnded) {
+    {
+        QDBusConnection other = m_bus.connect();
+        ASSERT_TRUE(other.registerService(kName));
+        QDBusConnection::disconnectFromBus(other.name());
+    }
+    EXPECT_TRUE(pumpUntil([this] { return m_application->claim({}, {}) == Role::owner; }));
 }
 
 TEST_F(DesktopApplicationTest, givesTheNameBackWithAllItWasAskedBefore) {
