@@ -40,19 +40,16 @@ protected:
 };
 
 /// The title of a group of entries; the style's own separators leave it no room.
-void addTitle(QMenu& menu, const QString& title) {
+QLabel* addTitle(QMenu& menu, const QString& title) {
     constexpr QMargins kMargins(10, 6, 10, 2);
     auto* label = new QLabel(title);
-    label->setFont(theme::captionFont(menu.font()));
     label->setContentsMargins(kMargins);
-    QPalette secondary;
-    secondary.setColor(QPalette::WindowText, theme::secondary(menu.palette()));
-    label->setPalette(secondary);
     auto* action = new QWidgetAction(&menu);
     action->setText(title);
     action->setDefaultWidget(label);
     action->setEnabled(false);
     menu.addAction(action);
+    return label;
 }
 
 void describe(FlatButton& button, const QString& help) {
@@ -133,7 +130,7 @@ void ControlsView::buildMenu() {
 }
 
 void ControlsView::addFormats(QMenu& menu) {
-    addTitle(menu, tr("Format"));
+    m_menuTitles << addTitle(menu, tr("Format"));
     auto* group = new QActionGroup(&menu);
     for (const ExportFormat format : kAllExportFormats) {
         QAction* action = menu.addAction(rawValue(format));
@@ -151,7 +148,7 @@ void ControlsView::addFormats(QMenu& menu) {
 
 void ControlsView::addResolutions(QMenu& menu) {
     menu.addSeparator();
-    addTitle(menu, tr("Resolution"));
+    m_menuTitles << addTitle(menu, tr("Resolution"));
     auto* group = new QActionGroup(&menu);
     for (const ExportResolution resolution : kAllExportResolutions) {
         QAction* action = menu.addAction(label(resolution));
@@ -257,10 +254,12 @@ void ControlsView::showExport() {
 }
 
 void ControlsView::showFonts() {
-    m_cropSize->setFont(theme::captionFont(font()));
     QPalette secondary;
     secondary.setColor(QPalette::WindowText, theme::secondary(palette()));
-    m_cropSize->setPalette(secondary);
+    for (QLabel* label : QList<QLabel*>{m_cropSize} + m_menuTitles) {
+        label->setFont(theme::captionFont(font()));
+        label->setPalette(secondary);
+    }
 }
 
 void ControlsView::changeEvent(QEvent* event) {

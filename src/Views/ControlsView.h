@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <memory>
 
 class QHBoxLayout;
+class QLabel;
 class QMenu;
 
 namespace brisklet {
@@ -69,6 +71,7 @@ private:
     FlatButton* m_cropButton;
     TabularLabel* m_cropSize;
     ExportButton* m_exportButton;
+    QList<QLabel*> m_menuTitles;
     /// The export button had the keyboard when the running export began.
     bool m_hadFocus = false;
 };

@@ -7,8 +7,11 @@
 #include "Views/ExportButton.h"
 #include "Views/FlatButton.h"
 #include "Views/TabularLabel.h"
+#include "Views/Theme.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
@@ -245,6 +248,25 @@ TEST_F(ControlsViewTest, hasTheKeyboardAgainAfterAnExport) {
     EXPECT_EQ(m_window.focusWidget(), &m_window);
     ASSERT_TRUE(pumpUntil([this] { return !state().exportProgress(); }));
     EXPECT_EQ(m_window.focusWidget(), &m_controls->exportButton());
+}
+
+/// The titles kept the colour of the light palette that they were made under.
+TEST_F(ControlsViewTest, keepsTheTitlesOfItsMenuLegibleWhenTheDesktopTurnsDark) {
+    const QPalette light = QApplication::palette();
+    for (const QPalette& palette : {QPalette(QColor(0x38, 0x38, 0x3d), QColor(0x24, 0x24, 0x28)),
+                                    QPalette(QColor(0xef, 0xef, 0xef))}) {
+        QApplication::setPalette(palette);
+        testsupport::pumpPending();
+        const QList<QLabel*> titles = menu().findChildren<QLabel*>();
+        ASSERT_EQ(titles.size(), 2);
+        for (const QLabel* title : titles)
+            EXPECT_GE(theme::contrast(title->palette().color(QPalette::WindowText),
+                                      palette.color(QPalette::Window)),
+                      4.5)
+                << title->palette().color(QPalette::WindowText).name().toStdString() << " on "
+                << palette.color(QPalette::Window).name().toStdString();
+    }
+    QApplication::setPalette(light);
 }
 
 TEST_F(ControlsViewTest, isTabbedThroughInReadingOrder) {
