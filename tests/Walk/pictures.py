@@ -100,8 +100,8 @@ class Photographer:
     def go_to(self, part):
         """Clicks on the strip, so far from its left end."""
         x, y, width, _ = self.program.tree.wait("filler", "Timeline").rect
-        place = (x + width * part, y + 28)
-        self.program.hand.click(*place)
+        # Qt counts in points here, too.
+        self.program.hand.click((x + width * part) * self.scale, (y + 28) * self.scale)
         # Where it lights nothing up.
         self.program.hand.move(4, 4)
 
@@ -111,11 +111,11 @@ class Photographer:
         self.program.hand.move(4, 4)
         self.take("empty")
         self.open(videos.landscape)
-        self.go_to(0.2)
+        self.go_to(0.06)
         press("bracketleft")
-        self.go_to(0.8)
+        self.go_to(0.7)
         press("bracketright")
-        self.go_to(0.55)
+        self.go_to(0.14)
         self.take("editor")
         press("k")
         self.take("crop")
