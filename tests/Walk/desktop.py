@@ -14,6 +14,12 @@ from pathlib import Path
 DEADLINE = 20.0
 
 PROGRAMS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "xprop", "import", "ffmpeg", "ffprobe")
+PRIVATE_FOLDERS = (
+    "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "HOME"
+)
+FOREIGN_SETTINGS = (
+    "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP", "QT_STYLE_OVERRIDE", "AT_SPI_BUS_ADDRESS"
+)
 ACCESSIBILITY_BUS = (
     "/usr/libexec/at-spi-bus-launcher",
     "/usr/lib/at-spi2-core/at-spi-bus-launcher",
@@ -91,11 +97,11 @@ class Desktop:
         return process
 
     def _start(self):
-        for name in ("XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "HOME"):
+        for name in PRIVATE_FOLDERS:
             folder = self.folder / name.lower()
             folder.mkdir(mode=0o700)
             os.environ[name] = str(folder)
-        for name in ("WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP", "QT_STYLE_OVERRIDE", "AT_SPI_BUS_ADDRESS"):
+        for name in FOREIGN_SETTINGS:
             os.environ.pop(name, None)
         os.environ.update(
             LC_ALL="C.UTF-8",
@@ -121,7 +127,8 @@ class Desktop:
             "/usr/bin/python3", HERE / "settings_portal.py", "dark" if self.dark else "light"
         )
         assert portal == "ready"
-        wait_for("window manager", lambda: "window id" in self._ask_root("_NET_SUPPORTING_WM_CHECK"))
+        name = "_NET_SUPPORTING_WM_CHECK"
+        wait_for("window manager", lambda: "window id" in self._ask_root(name))
 
     def _ask_root(self, atom):
         answer = subprocess.run(["xprop", "-root", atom], capture_output=True, text=True)

@@ -66,7 +66,8 @@ class Photographer:
     def resize(self):
         window = wait_for("window", self._window)
         width, height = (side * self.scale for side in self.size)
-        subprocess.run(["xdotool", "windowsize", "--sync", window, str(width), str(height)], check=True)
+        command = ["xdotool", "windowsize", "--sync", window, str(width), str(height)]
+        subprocess.run(command, check=True)
         wait_for("size", lambda: self._area(window)[2:] == (width, height))
 
     def take(self, name):

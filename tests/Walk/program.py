@@ -31,7 +31,8 @@ def expect(condition, what):
 
 
 def expect_near(value, wanted, tolerance, what):
-    expect(abs(value - wanted) <= tolerance, f"{what} is {value:g}, not {wanted:g} ± {tolerance:g}")
+    is_near = abs(value - wanted) <= tolerance
+    expect(is_near, f"{what} is {value:g}, not {wanted:g} ± {tolerance:g}")
 
 
 def make_video(path, size, seconds, rate=30, with_sound=True):

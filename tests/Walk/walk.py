@@ -15,7 +15,10 @@ from program import (
 
 WIDTH, HEIGHT = 640, 360
 LARGE_SHORT_EDGE = 2400
-RESOLUTIONS = {"Original": 2400, "2160p": 2160, "1440p": 1440, "1080p": 1080, "720p": 720, "480p": 480}
+RESOLUTIONS = {
+    "Original": LARGE_SHORT_EDGE, "2160p": 2160, "1440p": 1440, "1080p": 1080, "720p": 720,
+    "480p": 480
+}
 
 
 class Walk:
