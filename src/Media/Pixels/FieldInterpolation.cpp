@@ -5,6 +5,14 @@
 #include <cstdlib>
 #include <cstring>
 
+// The choice between the clones is made before the thread sanitizer, which would follow it, is
+// ready.
+#ifdef __SANITIZE_THREAD__
+#define BRISKLET_CLONED
+#else
+#define BRISKLET_CLONED __attribute__((target_clones("avx2", "default")))
+#endif
+
 namespace media::pixels {
 
 namespace {
@@ -67,13 +75,13 @@ template<typename T>
     }
 }
 
-__attribute__((target_clones("avx2", "default"))) void
-computeBytes(const Neighbours<std::uint8_t>& n, std::uint8_t* out, int width, int most) {
+BRISKLET_CLONED void computeBytes(const Neighbours<std::uint8_t>& n, std::uint8_t* out, int width,
+                                  int most) {
     computeLine(n, out, width, most);
 }
 
-__attribute__((target_clones("avx2", "default"))) void
-computeWords(const Neighbours<std::uint16_t>& n, std::uint16_t* out, int width, int most) {
+BRISKLET_CLONED void computeWords(const Neighbours<std::uint16_t>& n, std::uint16_t* out, int width,
+                                  int most) {
     computeLine(n, out, width, most);
 }
 
