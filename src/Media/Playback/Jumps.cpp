@@ -9,7 +9,7 @@ namespace media::playback {
 namespace {
 
 /// While a seek is on its way, something nearer is shown no more often than this.
-constexpr std::chrono::milliseconds kSubstituteInterval{100};
+constexpr std::chrono::milliseconds kSubstituteInterval{200};
 
 double distance(std::int64_t a, std::int64_t b) {
     return std::abs(static_cast<double>(a) - static_cast<double>(b));

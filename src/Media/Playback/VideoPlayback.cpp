@@ -17,7 +17,7 @@ constexpr std::int64_t kFarBehindTicks = kComparisonTimescale / 2;
 constexpr milliseconds kLongestFreeze{200};
 /// Frames that are kept on the way to a target: when it is approached backward more of them will
 /// be asked for.
-constexpr std::int64_t kMarginTicks = kComparisonTimescale / 2;
+constexpr std::int64_t kMarginTicks = kComparisonTimescale / 4;
 constexpr std::int64_t kBackwardMarginTicks = 2 * kComparisonTimescale;
 /// A frame that is passed on the way is made ready for showing so long before it may be needed.
 constexpr milliseconds kHeadStart{10};
