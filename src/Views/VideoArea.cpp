@@ -43,6 +43,13 @@ private:
     QPoint m_center;
 };
 
+/// The rectangle whose edges are the nearest whole points.
+QRect onWholePoints(const QRectF& rect) {
+    const QPoint topLeft(qRound(rect.left()), qRound(rect.top()));
+    return {topLeft,
+            QSize(qRound(rect.right()), qRound(rect.bottom())) - QSize(topLeft.x(), topLeft.y())};
+}
+
 } // namespace
 
 QRectF fittedPicture(media::Size picture, QSizeF area) {
@@ -84,8 +91,9 @@ void VideoArea::showRotation() {
 }
 
 void VideoArea::layOut() {
-    const QRectF picture = fittedPicture(m_state->rotatedDisplaySize(), size());
-    m_player->setGeometry(picture.toAlignedRect().intersected(rect()));
+    // The player stands on whole points; the overlay goes by where the picture really is.
+    const QRect picture = onWholePoints(fittedPicture(m_state->rotatedDisplaySize(), size()));
+    m_player->setGeometry(picture);
     m_cropOverlay->setGeometry(rect());
     m_cropOverlay->setVideoRect(picture);
     m_corners[0]->move(0, 0);
