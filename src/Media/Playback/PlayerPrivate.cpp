@@ -3,6 +3,7 @@
 #include <pthread.h>
 
 #include <algorithm>
+#include <cmath>
 #include <chrono>
 
 namespace media {
@@ -18,8 +19,9 @@ constexpr Time kUnknownDuration{std::int64_t{315'360'000} * kComparisonTimescale
                                 kComparisonTimescale};
 /// How long a seek may take before something else is shown meanwhile.
 constexpr std::chrono::milliseconds kPatience{50};
-/// Seeks that follow one another faster tell a direction.
+/// Seeks that follow one another faster, and not farther apart (1/600 s), tell a direction.
 constexpr std::chrono::milliseconds kLongestPauseInDrag{500};
+constexpr double kFarthestInDrag = 3.0 * kComparisonTimescale;
 
 SteadyTime now() {
     return std::chrono::steady_clock::now();
@@ -140,8 +142,10 @@ std::stop_source Player::Private::beginJump(Transport& transport, Time target,
 
 void Player::Private::noteDirection(Transport& transport, playback::SeekRequest request) {
     const std::int64_t from = transport.seek ? transport.seek->earliest : transport.shown.begin;
-    const bool isDrag = now() - transport.lastJump < kLongestPauseInDrag;
-    transport.direction = !isDrag ? 0 : request.earliest < from ? -1 : 1;
+    const double distance = static_cast<double>(request.earliest) - static_cast<double>(from);
+    const bool isDrag =
+        now() - transport.lastJump < kLongestPauseInDrag && std::abs(distance) <= kFarthestInDrag;
+    transport.direction = !isDrag ? 0 : distance < 0 ? -1 : 1;
 }
 
 void Player::Private::setPlaying(bool isPlaying) {
