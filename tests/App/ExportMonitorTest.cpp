@@ -117,8 +117,9 @@ TEST_F(ExportMonitorTest, announcesAFailureToo) {
     const auto copy = m_folder / "copy.mp4";
     std::filesystem::copy_file(pathOf(video(1)), copy);
     ASSERT_TRUE(loadAndWait(*m_window, urlOf(copy)));
-    m_window->state()->exportTo(urlOf(m_folder / "no such folder" / "out.mp4"));
+    // Before the export: it fails at once.
     ASSERT_TRUE(testsupport::showActive(*m_other));
+    m_window->state()->exportTo(urlOf(m_folder / "no such folder" / "out.mp4"));
     ASSERT_TRUE(pumpUntil([this] { return !m_desktop->notifications.titles.isEmpty(); }));
     EXPECT_EQ(m_desktop->notifications.titles, QStringList{QStringLiteral("Export failed")});
     EXPECT_EQ(m_desktop->notifications.texts.first().toHtmlEscaped(),

@@ -157,13 +157,23 @@ TEST(PlayerContainerView, doesNotAssignAnUnchangedPlayerAgain) {
     PlayerController controller;
     PlayerContainerView container(controller.player());
     container.resize(100, 60);
-    // A player that is assigned anew begins with nothing to show.
-    container.layerView().present(pattern(80, 60));
+    container.show();
+    const auto asset = media::Asset::open(makeFixture({.duration = 2}).path);
+    controller.player()->replaceCurrentItem(std::make_shared<media::PlayerItem>(asset));
+    bool hasArrived = false;
+    const media::Time start{0, media::kComparisonTimescale};
+    controller.player()->seek(start, start, start, [&hasArrived](bool) { hasArrived = true; });
+    ASSERT_TRUE(pumpUntil([&hasArrived] { return hasArrived; }));
     pumpPending();
-    ASSERT_FALSE(container.layerView().videoRect().isEmpty());
+
+    // A player that is assigned anew begins with nothing to show, then with its own frame.
+    container.layerView().present(pattern(30, 60));
+    pumpPending();
+    const QRectF shown = container.layerView().videoRect();
+    ASSERT_EQ(shown.size(), QSizeF(30, 60));
     container.setPlayer(controller.player());
     pumpPending();
-    EXPECT_FALSE(container.layerView().videoRect().isEmpty());
+    EXPECT_EQ(container.layerView().videoRect(), shown);
 
     PlayerController other;
     container.setPlayer(other.player());
