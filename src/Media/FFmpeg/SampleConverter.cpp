@@ -7,7 +7,6 @@ extern "C" {
 }
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace media::ffmpeg {
@@ -79,10 +78,11 @@ FramePtr SampleConverter::silence(int samples) const {
 }
 
 void SampleConverter::begin(const AVFrame& frame) {
-    SwrContextPtr context = makeContext(frame, false);
+    SwrContextPtr context = makeContext(frame);
     // Layouts without a known way of mixing: the channels are taken in the order they have.
     if (swr_init(context.get()) < 0) {
-        context = makeContext(frame, true);
+        context = makeContext(frame);
+        matchByIndex(*context, frame.ch_layout.nb_channels);
         check(swr_init(context.get()));
     }
     m_context = std::move(context);
@@ -91,23 +91,24 @@ void SampleConverter::begin(const AVFrame& frame) {
     m_inputLayout = ChannelLayout(frame.ch_layout);
 }
 
-SwrContextPtr SampleConverter::makeContext(const AVFrame& frame, bool matchesByIndex) const {
+SwrContextPtr SampleConverter::makeContext(const AVFrame& frame) const {
     ChannelLayout input = ChannelLayout::specified(frame.ch_layout);
     ChannelLayout output = m_layout;
     SwrContext* context = nullptr;
     check(swr_alloc_set_opts2(&context, &output.layout(), m_sampleFormat, m_sampleRate,
                               &input.layout(), static_cast<AVSampleFormat>(frame.format),
                               frame.sample_rate, 0, nullptr));
-    SwrContextPtr result(context);
-    if (matchesByIndex) {
-        std::array<int, kMostChannels> channels = {};
-        for (int i = 0; i < std::min(layout().nb_channels, kMostChannels); ++i)
-            channels[static_cast<std::size_t>(i)] = i < frame.ch_layout.nb_channels ? i : -1;
-        if (av_opt_set_int(result.get(), "used_channel_count", layout().nb_channels, 0) < 0)
-            check(av_opt_set_chlayout(result.get(), "used_chlayout", &layout(), 0));
-        check(swr_set_channel_mapping(result.get(), channels.data()));
-    }
-    return result;
+    return SwrContextPtr(context);
+}
+
+void SampleConverter::matchByIndex(SwrContext& context, int inputChannels) {
+    // As many as libswresample looks at, whatever the layouts say.
+    m_channelMap.assign(kMostChannels, 0);
+    for (int i = 0; i < std::min(layout().nb_channels, kMostChannels); ++i)
+        m_channelMap[static_cast<std::size_t>(i)] = i < inputChannels ? i : -1;
+    if (av_opt_set_int(&context, "used_channel_count", layout().nb_channels, 0) < 0)
+        check(av_opt_set_chlayout(&context, "used_chlayout", &layout(), 0));
+    check(swr_set_channel_mapping(&context, m_channelMap.data()));
 }
 
 FramePtr SampleConverter::makeBlock(int samples) const {

@@ -2,6 +2,8 @@
 
 #include "Media/FFmpeg/Handles.h"
 
+#include <vector>
+
 namespace media::ffmpeg {
 
 /// Owns one channel layout (custom layouts hold memory of their own).
@@ -60,7 +62,8 @@ public:
 
 private:
     void begin(const AVFrame& frame);
-    [[nodiscard]] SwrContextPtr makeContext(const AVFrame& frame, bool matchesByIndex) const;
+    [[nodiscard]] SwrContextPtr makeContext(const AVFrame& frame) const;
+    void matchByIndex(SwrContext& context, int inputChannels);
     [[nodiscard]] FramePtr makeBlock(int samples) const;
     FramePtr run(const AVFrame* frame);
 
@@ -68,6 +71,8 @@ private:
     int m_sampleRate;
     ChannelLayout m_layout;
 
+    /// Which channel of the input each of the output is; read by the context as long as it lives.
+    std::vector<int> m_channelMap;
     SwrContextPtr m_context;
     int m_inputFormat = AV_SAMPLE_FMT_NONE;
     int m_inputRate = 0;
