@@ -5,6 +5,7 @@
 #include "QtSupport/FakeFilePanels.h"
 #include "Support/FileUrl.h"
 #include "Support/PlaybackSettings.h"
+#include "Support/Workers.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/MediaCache.h"
 
@@ -21,6 +22,13 @@ protected:
     EditStateFixture() {
         m_state->setFilePanels(m_panels);
         PlaybackSettings::shared().setLoopEnabled(false);
+    }
+
+    /// Lets what is still loading come to its end, so that nothing of it outlives the test.
+    ~EditStateFixture() override {
+        m_state.reset();
+        waitForWorkers();
+        testsupport::pumpPending();
     }
 
     EditState& state() { return *m_state; }
