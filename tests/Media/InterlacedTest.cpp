@@ -8,10 +8,14 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 /// Pictures that weave two moments together: kept so where pictures stay as they are, and shown as
 /// one moment where they are rendered.
@@ -105,6 +109,55 @@ TEST(Deinterlacer, leavesWhatDoesNotMoveAsItIs) {
             for (int x = 0; x < test::planeWidth(*result, plane); ++x)
                 ASSERT_EQ(test::sampleOf(*result, plane, x, y),
                           test::sampleOf(*picture, plane, x, y));
+        }
+    }
+}
+
+/// Which sample of the planes y, u and v each byte of a 4:2:2 picture is, two pixels in four bytes.
+struct PackedByte {
+    int plane;
+    int column;
+};
+
+ffmpeg::FramePtr packed(const AVFrame& planar, AVPixelFormat format,
+                        const std::array<PackedByte, 4>& bytes) {
+    ffmpeg::FramePtr result = ffmpeg::makeFrame();
+    result->format = format;
+    result->width = planar.width;
+    result->height = planar.height;
+    EXPECT_EQ(av_frame_get_buffer(result.get(), 0), 0);
+    EXPECT_EQ(av_frame_copy_props(result.get(), &planar), 0);
+    for (int y = 0; y < planar.height; ++y) {
+        std::uint8_t* line = result->data[0] + std::ptrdiff_t{y} * result->linesize[0];
+        for (int pair = 0; pair < planar.width / 2; ++pair) {
+            for (const auto& [plane, column] : bytes) {
+                const int x = plane == 0 ? 2 * pair + column : pair;
+                *line++ = static_cast<std::uint8_t>(test::sampleOf(planar, plane, x, y));
+            }
+        }
+    }
+    return result;
+}
+
+TEST(Deinterlacer, doesWithPackedPicturesWhatItDoesWithPlanarOnes) {
+    const auto woven = decoded(wovenVideo(First::top, "yuv422p"));
+    ASSERT_GE(woven.size(), 3U);
+    const auto expected = Deinterlacer::apply(*woven[1], woven[0].get(), woven[2].get());
+    const std::vector<std::pair<AVPixelFormat, std::array<PackedByte, 4>>> layouts = {
+        {AV_PIX_FMT_UYVY422, {{{1, 0}, {0, 0}, {2, 0}, {0, 1}}}},
+        {AV_PIX_FMT_YUYV422, {{{0, 0}, {1, 0}, {0, 1}, {2, 0}}}}};
+    for (const auto& [format, bytes] : layouts) {
+        const auto result = Deinterlacer::apply(*packed(*woven[1], format, bytes),
+                                                packed(*woven[0], format, bytes).get(),
+                                                packed(*woven[2], format, bytes).get());
+        const auto wanted = packed(*expected, format, bytes);
+        EXPECT_EQ(result->interlaced_frame, 0);
+        for (int y = 0; y < wanted->height; ++y) {
+            EXPECT_EQ(std::memcmp(result->data[0] + std::ptrdiff_t{y} * result->linesize[0],
+                                  wanted->data[0] + std::ptrdiff_t{y} * wanted->linesize[0],
+                                  2 * static_cast<std::size_t>(wanted->width)),
+                      0)
+                << y;
         }
     }
 }

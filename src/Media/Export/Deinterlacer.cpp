@@ -1,9 +1,13 @@
 #include "Media/Export/Deinterlacer.h"
 
 #include "Media/Pixels/FieldInterpolation.h"
-#include "Media/Pixels/SampleUnpacking.h"
+
+#include <bit>
+#include <optional>
+#include <vector>
 
 extern "C" {
+#include <libavutil/imgutils.h>
 #include <libavutil/pixdesc.h>
 }
 
@@ -11,26 +15,42 @@ namespace media {
 
 namespace {
 
-/// Whether every component is a plane of its own.
-bool isPlanar(const AVPixFmtDescriptor& format) {
-    if (format.flags & AV_PIX_FMT_FLAG_PAL)
-        return false;
+/// How many bits the numbers in the picture's memory have, whichever components they belong to;
+/// none where they are not whole bytes or native words. Interpolation looks up and down, never
+/// sideways, so that components may stand side by side.
+std::optional<int> sampleDepth(const AVPixFmtDescriptor& format) {
+    constexpr unsigned kOther = AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BITSTREAM |
+                                AV_PIX_FMT_FLAG_FLOAT | AV_PIX_FMT_FLAG_HWACCEL;
+    const int depth = format.comp[0].depth + format.comp[0].shift;
+    const bool isForeign =
+        ((format.flags & AV_PIX_FMT_FLAG_BE) != 0) != (std::endian::native == std::endian::big);
+    if (format.flags & kOther || depth < 8 || depth > 16 || (depth > 8 && isForeign))
+        return std::nullopt;
     for (int i = 0; i < format.nb_components; ++i) {
-        if (!pixels::isPlane(format, i))
-            return false;
+        const AVComponentDescriptor& component = format.comp[i];
+        const int bytes = pixels::bytesPerSample(depth);
+        if (component.depth + component.shift != depth || component.offset % bytes != 0 ||
+            component.step % bytes != 0)
+            return std::nullopt;
     }
-    return true;
+    return depth;
 }
 
-pixels::Plane planeOf(const AVFrame& frame, const AVPixFmtDescriptor& format, int component) {
-    const bool isChroma = format.nb_components > 2 && (component == 1 || component == 2);
-    const int plane = format.comp[component].plane;
-    pixels::Plane result;
-    result.data = frame.data[plane];
-    result.stride = frame.linesize[plane];
-    result.width = isChroma ? AV_CEIL_RSHIFT(frame.width, format.log2_chroma_w) : frame.width;
-    result.height = isChroma ? AV_CEIL_RSHIFT(frame.height, format.log2_chroma_h) : frame.height;
-    return result;
+std::vector<pixels::Plane> memoryOf(const AVFrame& frame, const AVPixFmtDescriptor& format,
+                                    int depth) {
+    const auto pixelFormat = static_cast<AVPixelFormat>(frame.format);
+    std::vector<pixels::Plane> planes;
+    for (int i = 0; i < av_pix_fmt_count_planes(pixelFormat); ++i) {
+        const bool isChroma = i == 1 || i == 2;
+        pixels::Plane plane;
+        plane.data = frame.data[i];
+        plane.stride = frame.linesize[i];
+        plane.width =
+            av_image_get_linesize(pixelFormat, frame.width, i) / pixels::bytesPerSample(depth);
+        plane.height = isChroma ? AV_CEIL_RSHIFT(frame.height, format.log2_chroma_h) : frame.height;
+        planes.push_back(plane);
+    }
+    return planes;
 }
 
 bool isSameKind(const AVFrame& a, const AVFrame& b) {
@@ -55,18 +75,21 @@ ffmpeg::FramePtr Deinterlacer::apply(const AVFrame& frame, const AVFrame* previo
                                      const AVFrame* following) {
     const AVPixFmtDescriptor* format =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
-    if (!frame.interlaced_frame || !format || !isPlanar(*format))
+    const auto depth = format ? sampleDepth(*format) : std::nullopt;
+    if (!frame.interlaced_frame || !depth)
         return ffmpeg::referenced(frame);
     if (!previous || !isSameKind(*previous, frame))
         previous = &frame;
     if (!following || !isSameKind(*following, frame))
         following = &frame;
     ffmpeg::FramePtr result = emptyLike(frame);
-    for (int i = 0; i < format->nb_components; ++i) {
-        const pixels::FieldPlanes planes{planeOf(*previous, *format, i), planeOf(frame, *format, i),
-                                         planeOf(*following, *format, i)};
-        pixels::interpolateSecondField(planes, format->comp[i].depth, frame.top_field_first != 0,
-                                       planeOf(*result, *format, i));
+    const auto before = memoryOf(*previous, *format, *depth);
+    const auto now = memoryOf(frame, *format, *depth);
+    const auto after = memoryOf(*following, *format, *depth);
+    const auto made = memoryOf(*result, *format, *depth);
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        pixels::interpolateSecondField({before[i], now[i], after[i]}, *depth,
+                                       frame.top_field_first != 0, made[i]);
     }
     return result;
 }

@@ -1,0 +1,97 @@
+// A file system that shows the files of a folder as a bad disk would: slowly, not at all for a
+// while, or with errors.
+//
+//     slow-disk FOLDER MOUNT-POINT BYTES-PER-SECOND
+//
+// While FOLDER holds a file named "stalled", reading waits; while it holds one named "broken",
+// reading fails. Ends, and unmounts, with the process that started it.
+#define FUSE_USE_VERSION 31
+#include <fuse.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+std::filesystem::path folder;
+double bytesPerSecond = 0;
+
+std::string behind(const char* path) {
+    return folder.string() + path;
+}
+
+int status(const char* path, struct stat* result, fuse_file_info*) {
+    return ::lstat(behind(path).c_str(), result) == 0 ? 0 : -errno;
+}
+
+int list(const char* path, void* buffer, fuse_fill_dir_t fill, off_t, fuse_file_info*,
+         fuse_readdir_flags) {
+    for (const auto& entry : std::filesystem::directory_iterator(behind(path)))
+        fill(buffer, entry.path().filename().c_str(), nullptr, 0,
+             static_cast<fuse_fill_dir_flags>(0));
+    return 0;
+}
+
+int open(const char* path, fuse_file_info* file) {
+    if ((file->flags & O_ACCMODE) != O_RDONLY)
+        return -EROFS;
+    const int descriptor = ::open(behind(path).c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return -errno;
+    file->fh = static_cast<std::uint64_t>(descriptor);
+    // Past the kernel's memory of what was read before.
+    file->direct_io = 1;
+    return 0;
+}
+
+int read(const char*, char* buffer, std::size_t size, off_t offset, fuse_file_info* file) {
+    using namespace std::chrono_literals;
+    while (std::filesystem::exists(folder / "stalled"))
+        std::this_thread::sleep_for(5ms);
+    if (std::filesystem::exists(folder / "broken"))
+        return -EIO;
+    const ssize_t count = ::pread(static_cast<int>(file->fh), buffer, size, offset);
+    if (count < 0)
+        return -errno;
+    std::this_thread::sleep_for(
+        std::chrono::duration<double>(static_cast<double>(count) / bytesPerSecond));
+    return static_cast<int>(count);
+}
+
+int close(const char*, fuse_file_info* file) {
+    return ::close(static_cast<int>(file->fh));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 4) {
+        std::cerr << "usage: slow-disk FOLDER MOUNT-POINT BYTES-PER-SECOND\n";
+        return 2;
+    }
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    folder = argv[1];
+    bytesPerSecond = std::strtod(argv[3], nullptr);
+    fuse_operations operations = {};
+    operations.getattr = status;
+    operations.readdir = list;
+    operations.open = open;
+    operations.read = read;
+    operations.release = close;
+    std::string program = argv[0];
+    std::string inForeground = "-f";
+    std::string mountPoint = argv[2];
+    std::array<char*, 3> arguments = {program.data(), inForeground.data(), mountPoint.data()};
+    return fuse_main(static_cast<int>(arguments.size()), arguments.data(), &operations, nullptr);
+}

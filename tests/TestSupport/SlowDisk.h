@@ -1,0 +1,40 @@
+#pragma once
+
+#include "TestSupport/TemporaryFolder.h"
+
+#include <filesystem>
+#include <sys/types.h>
+
+namespace testsupport {
+
+/// A file system that hands files out as slowly as it is told, or not at all for a while. Gone
+/// with this object, whatever still waits for it.
+class SlowDisk final {
+public:
+    /// Mounts it. See isThere() for whether that went well.
+    explicit SlowDisk(int bytesPerSecond);
+    ~SlowDisk();
+    SlowDisk(const SlowDisk&) = delete;
+    SlowDisk& operator=(const SlowDisk&) = delete;
+
+    /// False where the helper program was not built or no file system can be mounted.
+    bool isThere() const { return m_process > 0; }
+
+    /// Puts a copy of the file onto it; its path there.
+    std::filesystem::path holding(const std::filesystem::path& file) const;
+
+    /// Whether whoever reads from it has to wait.
+    void setStalled(bool isStalled) const { setFlag("stalled", isStalled); }
+
+    /// Whether reading from it fails.
+    void setBroken(bool isBroken) const { setFlag("broken", isBroken); }
+
+private:
+    void setFlag(const char* name, bool isSet) const;
+
+    TemporaryFolder m_content;
+    TemporaryFolder m_mountPoint;
+    pid_t m_process = -1;
+};
+
+} // namespace testsupport
