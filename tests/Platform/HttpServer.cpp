@@ -1,5 +1,6 @@
 #include "HttpServer.h"
 
+#include <QSslSocket>
 #include <QTcpSocket>
 
 namespace testsupport {
@@ -11,7 +12,20 @@ HttpServer::HttpServer() {
 }
 
 QUrl HttpServer::url(const QString& path) const {
-    return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path));
+    const QString scheme = identity ? QStringLiteral("https") : QStringLiteral("http");
+    return QUrl(QStringLiteral("%1://127.0.0.1:%2%3").arg(scheme).arg(serverPort()).arg(path));
+}
+
+void HttpServer::incomingConnection(qintptr descriptor) {
+    if (!identity) {
+        QTcpServer::incomingConnection(descriptor);
+        return;
+    }
+    auto* socket = new QSslSocket(this);
+    socket->setSocketDescriptor(descriptor);
+    socket->setSslConfiguration(*identity);
+    socket->startServerEncryption();
+    addPendingConnection(socket);
 }
 
 void HttpServer::serve() {

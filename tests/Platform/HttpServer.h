@@ -2,9 +2,12 @@
 
 #include <QByteArray>
 #include <QMap>
+#include <QSslConfiguration>
 #include <QString>
 #include <QTcpServer>
 #include <QUrl>
+
+#include <optional>
 
 namespace testsupport {
 
@@ -30,6 +33,11 @@ public:
 
     QMap<QString, HttpAnswer> answers;
     int requestCount = 0;
+    /// Who the server says it is, from the next connection on; it speaks plain HTTP without.
+    std::optional<QSslConfiguration> identity;
+
+protected:
+    void incomingConnection(qintptr descriptor) override;
 
 private:
     void serve();

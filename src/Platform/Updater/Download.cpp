@@ -4,6 +4,7 @@
 #include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
+#include <QSslError>
 #include <QTimer>
 
 #include <utility>
@@ -76,6 +77,9 @@ void Download::start(QNetworkAccessManager& network) {
     connect(m_reply, &QNetworkReply::redirected, this, &Download::follow);
     connect(m_reply, &QNetworkReply::readyRead, this, &Download::take);
     connect(m_reply, &QNetworkReply::finished, this, &Download::complete);
+    // Only to say what is wrong: the connection ends all the same.
+    connect(m_reply, &QNetworkReply::sslErrors, this,
+            [this](const QList<QSslError>& errors) { m_distrust = errors.value(0).errorString(); });
 }
 
 void Download::follow(const QUrl& target) {
@@ -108,9 +112,15 @@ void Download::complete() {
     if (m_isFinished)
         return;
     if (m_reply->error() != QNetworkReply::NoError)
-        finish(m_reply->errorString());
+        finish(networkFailure());
     else
         finish({});
+}
+
+QString Download::networkFailure() const {
+    if (m_distrust.isEmpty())
+        return m_reply->errorString();
+    return tr("The connection to “%1” isn't secure: %2.").arg(m_reply->url().host(), m_distrust);
 }
 
 void Download::finish(const QString& failure) {

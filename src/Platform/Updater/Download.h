@@ -51,6 +51,7 @@ private:
     void follow(const QUrl& target);
     void take();
     void complete();
+    [[nodiscard]] QString networkFailure() const;
     void finish(const QString& failure);
 
     const QUrl m_url;
@@ -59,6 +60,8 @@ private:
     QPointer<QNetworkReply> m_reply;
     qint64 m_received = 0;
     bool m_isFinished = false;
+    /// What is wrong with the server's certificate.
+    QString m_distrust;
 };
 
 } // namespace brisklet
