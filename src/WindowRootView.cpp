@@ -116,6 +116,8 @@ void WindowRootView::closeAfterExport() {
 void WindowRootView::closeEvent(QCloseEvent* event) {
     if (!m_state->exportProgress()) {
         event->accept();
+        // It lives until the event loop comes round: long enough for a file to get lost in it.
+        OpenBridge::unregisterState(*m_state);
         return;
     }
     event->ignore();

@@ -3,12 +3,14 @@
 #include "Platform/ApplicationAdaptor.h"
 
 #include <QCoreApplication>
+#include <QDBusError>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QStringList>
 
 #include <stdexcept>
+#include <utility>
 
 namespace brisklet {
 
@@ -23,6 +25,10 @@ const QString& interfaceName() {
 constexpr int kMostAttempts = 20;
 /// The owner answers from its event loop, which is never busy for anywhere near this long.
 constexpr int kAnswerTimeoutMs = 20000;
+
+[[noreturn]] void throwUnanswered() {
+    throw std::runtime_error("Brisklet is running already, but it doesn't answer.");
+}
 
 } // namespace
 
@@ -45,24 +51,27 @@ DesktopApplication::Role DesktopApplication::claim(const QList<QUrl>& files,
     // The object stands before the name does, so the first call after that finds it.
     if (!m_bus.isConnected() || !m_bus.registerObject(m_path, this))
         return Role::alone;
-    for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
+    Answer answer = Answer::gone;
+    for (int attempt = 0; attempt < kMostAttempts && m_bus.isConnected(); ++attempt) {
         m_isOwner = m_bus.registerService(m_name);
         if (m_isOwner)
             return Role::owner;
-        if (handOver(files, platformData)) {
+        answer = handOver(files, platformData);
+        if (answer == Answer::taken) {
             m_bus.unregisterObject(m_path);
             return Role::handedOver;
         }
-        if (!m_bus.isConnected())
-            break;
     }
+    if (answer == Answer::refused)
+        throwUnanswered();
     return Role::alone;
 }
 
-bool DesktopApplication::handOver(const QList<QUrl>& files, const QVariantMap& platformData) {
+DesktopApplication::Answer DesktopApplication::handOver(const QList<QUrl>& files,
+                                                        const QVariantMap& platformData) {
     const QString owner = ownerOfName();
     if (owner.isEmpty())
-        return false;
+        return Answer::gone;
     // To the process and not to the name: what one owner did not take while it ended must not
     // reach the next one in addition to a second attempt.
     QDBusMessage call = QDBusMessage::createMethodCall(owner, m_path, interfaceName(),
@@ -77,10 +86,13 @@ bool DesktopApplication::handOver(const QList<QUrl>& files, const QVariantMap& p
     call << platformData;
     const QDBusMessage reply = m_bus.call(call, QDBus::Block, kAnswerTimeoutMs);
     if (reply.type() == QDBusMessage::ReplyMessage)
-        return true;
-    if (ownerOfName() == owner)
-        throw std::runtime_error("Brisklet is running already, but it doesn't answer.");
-    return false;
+        return Answer::taken;
+    if (ownerOfName() != owner)
+        return Answer::gone;
+    // An owner that was about to end may have stayed. What got no answer may still be carried out.
+    if (QDBusError(reply).type() == QDBusError::NoReply)
+        throwUnanswered();
+    return Answer::refused;
 }
 
 QString DesktopApplication::ownerOfName() const {
@@ -89,16 +101,18 @@ QString DesktopApplication::ownerOfName() const {
 }
 
 void DesktopApplication::release() {
-    if (!m_isOwner)
-        return;
-    m_isOwner = false;
     // The bus answers after it has passed on everything that was sent to the name before; those
     // calls wait in the event queue by now.
-    m_bus.unregisterService(m_name);
+    if (std::exchange(m_isOwner, false))
+        m_bus.unregisterService(m_name);
+    // Whoever learned earlier which process has the name calls that one still. The event loop may
+    // deliver such a call after the decision to end, with an answer, and end all the same.
+    m_bus.unregisterObject(m_path);
     QCoreApplication::sendPostedEvents(this);
 }
 
 void DesktopApplication::reclaim() {
+    m_bus.registerObject(m_path, this);
     m_isOwner = m_bus.registerService(m_name);
 }
 

@@ -12,6 +12,7 @@ namespace brisklet {
 /// serves org.freedesktop.Application; a later start hands over what it was asked for, and ends.
 ///
 ///     Unclaimed ──claim──▶ Owner ──release──▶ Unclaimed
+///                            ◀───reclaim───
 ///
 /// Calls that arrive are delivered as signals from the event loop, in the order of arrival. Main
 /// thread; may be made before the application object, so that a start that hands its request over
@@ -39,11 +40,12 @@ public:
     /// does not answer, so that no file is opened twice.
     Role claim(const QList<QUrl>& files, const QVariantMap& platformData);
 
-    /// Gives the name back. Every call that was sent to this process before has been delivered when
-    /// this returns: the owner looks then whether it still may end.
+    /// Gives the name back and serves no more calls. Every call that reached this process before
+    /// has been delivered when this returns: the owner looks then whether it still may end. Later
+    /// ones are refused, and whoever made them starts again.
     void release();
 
-    /// Takes the name again after release(), unless another process has it by now.
+    /// Serves again after release(), and takes the name, unless another process has it by now.
     void reclaim();
 
     /// What the launcher put into the environment of this start, for platformData. To be asked
@@ -56,7 +58,9 @@ Q_SIGNALS:
     void actionActivated(const QString& action, const QVariantMap& platformData);
 
 private:
-    bool handOver(const QList<QUrl>& files, const QVariantMap& platformData);
+    enum class Answer { taken, refused, gone };
+
+    Answer handOver(const QList<QUrl>& files, const QVariantMap& platformData);
     [[nodiscard]] QString ownerOfName() const;
 
     QDBusConnection m_bus;

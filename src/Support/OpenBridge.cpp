@@ -36,6 +36,10 @@ void OpenBridge::registerState(const std::shared_ptr<OpenTarget>& state) {
         states.push_back(state);
 }
 
+void OpenBridge::unregisterState(const OpenTarget& state) {
+    std::erase_if(windows(), [&](const auto& record) { return record.lock().get() == &state; });
+}
+
 std::optional<QUrl> OpenBridge::takePending() {
     auto& files = pending();
     if (files.empty())

@@ -37,6 +37,10 @@ public:
     /// Records a window's model, once. The bridge keeps no model alive.
     static void registerState(const std::shared_ptr<OpenTarget>& state);
 
+    /// Forgets the model of a window that closes: it may live on for a moment, and no file must go
+    /// into it any more. Harmless for one that is not recorded.
+    static void unregisterState(const OpenTarget& state);
+
     /// The file that has waited longest, for a window that has just appeared; asks for another
     /// window where more files wait.
     static std::optional<QUrl> takePending();

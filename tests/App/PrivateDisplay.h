@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 namespace testsupport {
 
 /// An X display of a test's own, which ends with it, seen through the eyes of xdotool. Main thread.
@@ -49,12 +51,29 @@ public:
         return titles;
     }
 
+    /// Starts to close the one window of this title as a window manager would: that one, whichever
+    /// has the keyboard.
+    [[nodiscard]] std::unique_ptr<QProcess> close(const QString& title) const {
+        const QString window = ask({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                    QStringLiteral("--name"), title})
+                                   .trimmed();
+        auto process = std::make_unique<QProcess>();
+        process->setProcessEnvironment(environment());
+        process->start(QStringLiteral("python3"),
+                       {QStringLiteral(BRISKLET_SOURCE_DIR "/tests/App/close_window.py"), window});
+        return process;
+    }
+
 private:
-    [[nodiscard]] QString ask(const QStringList& question) const {
-        QProcess process;
+    [[nodiscard]] QProcessEnvironment environment() const {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("DISPLAY"), m_name);
-        process.setProcessEnvironment(environment);
+        return environment;
+    }
+
+    [[nodiscard]] QString ask(const QStringList& question) const {
+        QProcess process;
+        process.setProcessEnvironment(environment());
         process.start(QStringLiteral("xdotool"), question);
         process.waitForFinished();
         return QString::fromUtf8(process.readAllStandardOutput());

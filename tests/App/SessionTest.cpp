@@ -3,17 +3,21 @@
 #include "PrivateDisplay.h"
 #include "QtSupport/PrivateBus.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace brisklet {
@@ -140,12 +144,74 @@ TEST_F(SessionTest, usesTheTokenOfTheLaterStartToComeToTheFront) {
     qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
+/// What a call from another process comes to, made from within this one: the moment is what counts.
+class LateCall {
+public:
+    explicit LateCall(const testsupport::PrivateBus& bus) : m_connection(bus.connect()) {}
+
+    /// Opens a file in the process that has `owner`, a name or the process's own. Returns when the
+    /// bus has passed that on.
+    void open(const QString& owner, const QUrl& file) {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            owner, QStringLiteral("/com/quorvan/brisklet"),
+            QStringLiteral("org.freedesktop.Application"), QStringLiteral("Open"));
+        message << QStringList{QString::fromLatin1(file.toEncoded())} << QVariantMap();
+        m_pending.emplace(m_connection.asyncCall(message));
+        // What this connection asks next is answered after that.
+        m_connection.interface()->registeredServiceNames();
+    }
+
+    [[nodiscard]] bool isAnswered() const { return m_pending && m_pending->isFinished(); }
+
+    [[nodiscard]] bool isTaken() const { return isAnswered() && !m_pending->isError(); }
+
+private:
+    QDBusConnection m_connection;
+    std::optional<QDBusPendingCall> m_pending;
+};
+
+// A file was lost when the empty window it went into was being closed at that very moment.
+TEST_F(SessionTest, opensAWindowForAFileThatArrivesWhileTheLastEmptyOneCloses) {
+    LateCall call(m_bus);
+    call.open(BriskletApp::sessionName(), video(1));
+    const QPointer<WindowRootView> first = m_app->windows().first();
+    first->close();
+    EXPECT_TRUE(pumpUntil([&] { return call.isAnswered() && !first; }));
+    EXPECT_TRUE(call.isTaken());
+    ASSERT_TRUE(showVideos(1));
+    EXPECT_EQ(m_app->windows()[0]->state()->videoURL(), video(1));
+    // And the program goes on as it was.
+    ASSERT_TRUE(handsOver({video(2).toLocalFile()}));
+    EXPECT_TRUE(showVideos(2));
+}
+
+// A file was lost when it was sent to a process that had decided to end but still ran.
+TEST_F(SessionTest, refusesAFileThatArrivesAfterTheDecisionToEnd) {
+    LateCall call(m_bus);
+    const QString process = m_session->bus().baseService();
+    // Called after the program's own slot, so right after its decision.
+    const QObject watch;
+    QObject::connect(qApp, &QApplication::lastWindowClosed, &watch,
+                     [&] { call.open(process, video(1)); });
+    m_app->windows().first()->close();
+    ASSERT_TRUE(pumpUntil([&] { return call.isAnswered(); }));
+    EXPECT_FALSE(call.isTaken());
+    EXPECT_TRUE(m_app->windows().isEmpty());
+    // Whoever was refused finds the name free.
+    DesktopApplication next(m_bus.connect(), BriskletApp::sessionName());
+    EXPECT_EQ(next.claim({video(1)}, {}), DesktopApplication::Role::owner);
+}
+
 /// All processes are real ones, on a display of their own.
 class RealSessionTest : public testing::Test {
 protected:
     void SetUp() override {
         if (!m_bus.isRunning() || !m_display.isRunning())
             GTEST_SKIP() << "dbus-daemon, Xvfb or xdotool is not here";
+    }
+
+    static bool hasPython() {
+        return !QStandardPaths::findExecutable(QStringLiteral("python3")).isEmpty();
     }
 
     std::unique_ptr<OtherStart> start(const QStringList& arguments) {
@@ -170,6 +236,10 @@ protected:
             names << QFileInfo(file).fileName();
         return names;
     }
+
+    static constexpr int kCloses = 12;
+    /// Within about this time a window is closed, unless the machine is busy.
+    static constexpr int kCloseMs = 100;
 
     testsupport::TemporaryFolder m_folder;
     testsupport::PrivateBus m_bus;
@@ -196,6 +266,29 @@ TEST_F(RealSessionTest, endsTwentyStartsAtOnceInOneProcessWithTwentyWindows) {
     EXPECT_TRUE(pumpUntil([&running] { return running() == 1; }));
     for (const auto& each : starts)
         EXPECT_EQ(each->exitCode(), 0);
+}
+
+// Whatever the moment, the file has a window in the end: in the process that was about to end, or
+// in a new one.
+TEST_F(RealSessionTest, losesNoFileThatIsHandedOverWhileTheLastWindowCloses) {
+    if (!hasPython())
+        GTEST_SKIP() << "python3 is not here";
+    const QStringList files = makeFiles(kCloses + 1);
+    std::vector<std::unique_ptr<OtherStart>> starts;
+    starts.push_back(start({files[0]}));
+    for (int i = 0; i < kCloses; ++i) {
+        const QString& shown = files[i];
+        const QString& next = files[i + 1];
+        ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf({shown}); }))
+            << i << ": " << m_display.titles().join(u'\n').toStdString();
+        // The other process starts anywhere from before the window closes to after that.
+        const auto closing = m_display.close(QFileInfo(shown).fileName());
+        QTimer::singleShot(std::chrono::milliseconds(i * kCloseMs / kCloses), qApp,
+                           [&] { starts.push_back(start({next})); });
+        ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf({next}); }))
+            << i << ": " << m_display.titles().join(u'\n').toStdString();
+        ASSERT_EQ(closing->exitCode(), 0);
+    }
 }
 
 TEST_F(RealSessionTest, startsOnItsOwnWithoutABus) {

@@ -102,6 +102,18 @@ TEST_F(OpenBridgeTest, neverChoosesAWindowThatIsGone) {
     EXPECT_THAT(m_windows[0]->loaded, ElementsAre(file("a.mov")));
 }
 
+TEST_F(OpenBridgeTest, neverChoosesAWindowThatClosesThoughItsModelLivesOn) {
+    appear();
+    const auto closing = m_windows[0];
+    m_windows.clear();
+    OpenBridge::unregisterState(*closing);
+    OpenBridge::unregisterState(*closing);
+    OpenBridge::open(file("a.mov"));
+    EXPECT_TRUE(closing->loaded.empty());
+    ASSERT_EQ(m_windows.size(), 1U);
+    EXPECT_THAT(m_windows[0]->loaded, ElementsAre(file("a.mov")));
+}
+
 TEST_F(OpenBridgeTest, recordsAWindowOnceAndKeepsItsPlace) {
     appear();
     appear();
