@@ -4,6 +4,7 @@
 #include "Models/EditState.h"
 #include "Platform/Appearance.h"
 #include "Platform/FileTransferPortal.h"
+#include "Platform/StartupNotification.h"
 #include "Platform/Updater/UpdateDialogs.h"
 #include "Platform/Updater/Updater.h"
 #include "Platform/Updater/UpdaterSettings.h"
@@ -31,11 +32,13 @@ QString releasedApplicationId() {
 constexpr auto kLongestWaitForBusCall = 5s;
 
 /// Wayland gives the keyboard to a window only against the token of the start that asks for it. Qt
-/// takes it from here when a window is activated next.
-void useActivationToken(const QVariantMap& platformData) {
+/// takes it from here when a window is activated next. On X11 the launcher is told that its start
+/// was answered.
+void useLaunchData(const QVariantMap& platformData) {
     const QString token = platformData.value(QStringLiteral("activation-token")).toString();
     if (!token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    endStartupNotification(platformData.value(QStringLiteral("desktop-startup-id")).toString());
 }
 
 } // namespace
@@ -145,7 +148,7 @@ void BriskletApp::open(const QList<QUrl>& files, const QVariantMap& platformData
         activate(platformData);
         return;
     }
-    useActivationToken(platformData);
+    useLaunchData(platformData);
     QList<WindowRootView*> taken;
     for (WindowRootView* window : windows()) {
         if (!window->state()->isEmpty())
@@ -159,7 +162,7 @@ void BriskletApp::open(const QList<QUrl>& files, const QVariantMap& platformData
 }
 
 void BriskletApp::activate(const QVariantMap& platformData) {
-    useActivationToken(platformData);
+    useLaunchData(platformData);
     const QList<WindowRootView*> open = windows();
     if (open.isEmpty()) {
         openWindow();
@@ -176,7 +179,7 @@ void BriskletApp::activate(const QVariantMap& platformData) {
 void BriskletApp::activateAction(const QString& action, const QVariantMap& platformData) {
     if (action != u"new-window")
         return;
-    useActivationToken(platformData);
+    useLaunchData(platformData);
     openWindow()->bringToFront();
 }
 

@@ -291,6 +291,34 @@ TEST_F(RealSessionTest, losesNoFileThatIsHandedOverWhileTheLastWindowCloses) {
     }
 }
 
+TEST_F(RealSessionTest, endsTheNotificationOfAStartThatHandedItsFileOver) {
+    if (!hasPython())
+        GTEST_SKIP() << "python3 is not here";
+    QProcess listener;
+    listener.setProcessEnvironment(environmentOn(m_bus, m_display.name()));
+    listener.start(QStringLiteral("python3"),
+                   {QStringLiteral(BRISKLET_SOURCE_DIR "/tests/App/startup_messages.py")});
+    QString heard;
+    const auto hears = [&](const QString& message) {
+        return pumpUntil([&] {
+            heard += QString::fromUtf8(listener.readAllStandardOutput());
+            return heard.contains(message + u'\n') || listener.state() == QProcess::NotRunning;
+        });
+    };
+    ASSERT_TRUE(hears(QStringLiteral("listening")));
+    const QStringList files = makeFiles(2);
+    const auto first = start({files[0]});
+    ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf({files[0]}); }));
+    QProcessEnvironment environment = environmentOn(m_bus, m_display.name());
+    environment.insert(QStringLiteral("DESKTOP_STARTUP_ID"),
+                       QStringLiteral("launcher/a \"file\"/17-0-host_TIME4711"));
+    const OtherStart second(environment, {files[1]});
+    EXPECT_TRUE(hears(QStringLiteral("remove: ID=launcher/a\\ \\\"file\\\"/17-0-host_TIME4711")));
+    EXPECT_EQ(listener.state(), QProcess::Running);
+    listener.kill();
+    listener.waitForFinished();
+}
+
 TEST_F(RealSessionTest, startsOnItsOwnWithoutABus) {
     QProcessEnvironment environment = environmentOn(m_bus, m_display.name());
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
