@@ -151,7 +151,7 @@ void AppCommands::stepFrames(int count) {
     const auto state = m_focusedValues.editState();
     if (!state)
         return;
-    const PlayerController& controller = state->playerController();
+    PlayerController& controller = state->playerController();
     media::Player& player = *controller.player();
     player.pause();
     player.step(count);

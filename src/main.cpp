@@ -1,5 +1,6 @@
 #include "BriskletApp.h"
 #include "CommandLine.h"
+#include "Media/Engine.h"
 #include "Platform/DesktopApplication.h"
 #include "Platform/QuickActionInstallation.h"
 #include "Support/Workers.h"
@@ -65,6 +66,18 @@ bool takeStartedByBus() {
     return isStartedByBus;
 }
 
+/// Loads the media engine beside the making of the window, which opens files.
+void loadEngineAhead() {
+    brisklet::startWorker([] {
+        try {
+            media::engine();
+        } catch (const std::exception&) {
+            // The window that opens a file tells of it.
+            return;
+        }
+    });
+}
+
 /// Whether another process of the session has taken the files over.
 bool handOver(DesktopApplication& session, const CommandLine& commandLine,
               const QVariantMap& launchData) {
@@ -79,6 +92,8 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     const bool isPlain = !everything.unknownOption;
     if (isPlain && handOver(session, everything, launchData))
         return 0;
+    if (isPlain && !everything.files.empty())
+        loadEngineAhead();
 
     const QApplication application(argc, argv);
     setUpApplication();

@@ -204,21 +204,21 @@ void measure(double seconds, const std::string& monitor) {
         testsupport::makeFixture({.duration = std::ceil(seconds) + 1, .groupOfPictures = 250});
     Owner owner;
     TimingSink sink;
-    media::Player player(owner.executor());
-    player.setVideoSink(&sink);
-    player.replaceCurrentItem(
+    const auto player = media::Player::make(owner.executor());
+    player->setVideoSink(&sink);
+    player->replaceCurrentItem(
         std::make_shared<const media::PlayerItem>(media::Asset::open(film.path)));
     Recorder recorder(monitor);
     owner.runFor(std::chrono::seconds(1));
-    player.play();
+    player->play();
     owner.runFor(std::chrono::duration<double>(seconds));
-    player.pause();
+    player->pause();
     owner.runFor(std::chrono::seconds(1));
     const std::vector<double> all = differences(sink.shownAt(), recorder.clicks());
     if (all.empty())
         throw std::runtime_error("no click was heard");
-    report(all, player.statistics());
-    player.setVideoSink(nullptr);
+    report(all, player->statistics());
+    player->setVideoSink(nullptr);
 }
 
 } // namespace

@@ -43,8 +43,8 @@ media::FileType fileTypeOf(ExportFormat format) {
 std::unique_ptr<media::ExportSession> makeSession(media::Composition composition,
                                                   const ExportRequest& request) {
     try {
-        return std::make_unique<media::ExportSession>(
-            std::move(composition), pathOf(request.outputURL), fileTypeOf(request.format));
+        return media::ExportSession::make(std::move(composition), pathOf(request.outputURL),
+                                          fileTypeOf(request.format));
     } catch (const media::Error&) {
         // Every failure to set up the export has this one message; the cause is kept for a log.
         std::throw_with_nested(AVFoundationExporter::ExportError(

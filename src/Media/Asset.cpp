@@ -1,20 +1,10 @@
 #include "Media/Asset.h"
 
 #include "Media/FFmpeg/DemuxerPool.h"
-#include "Media/FFmpeg/Inspection.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 namespace media {
-
-std::shared_ptr<const Asset> Asset::open(const std::filesystem::path& path, std::stop_token stop) {
-    auto file = ffmpeg::SourceFile::open(path);
-    auto demuxer = std::make_unique<ffmpeg::Demuxer>(file, nullptr, stop);
-    auto info = std::make_unique<ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
-    auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format);
-    demuxers->giveBack(std::move(demuxer));
-    return std::make_shared<const Asset>(std::move(file), std::move(info), std::move(demuxers));
-}
 
 Asset::Asset(std::shared_ptr<const ffmpeg::SourceFile> file,
              std::unique_ptr<ffmpeg::SourceInfo> info,
@@ -38,11 +28,6 @@ std::vector<AssetTrack> Asset::tracks(MediaType type) const {
             result.push_back(track.facts);
     }
     return result;
-}
-
-Size orientedSize(const AssetTrack& track) {
-    const Rect frame{0, 0, track.naturalSize.width, track.naturalSize.height};
-    return track.preferredTransform.apply(frame).size();
 }
 
 } // namespace media

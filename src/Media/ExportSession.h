@@ -39,25 +39,31 @@ public:
     enum class State { waiting, exporting, completed, failed, cancelled };
 
     /// Throws Error if the composition has no video track, or if `outputPath` is the asset's own
-    /// file (same device and inode, links followed). Touches nothing on disk.
+    /// file (same device and inode, links followed), or if the engine can't be loaded. Touches
+    /// nothing on disk.
+    static std::unique_ptr<ExportSession> make(Composition composition,
+                                               std::filesystem::path outputPath, FileType fileType,
+                                               EncoderSettings settings = {});
+
+    /// For the engine and its tests.
     ExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
                   EncoderSettings settings = {});
     ExportSession(const ExportSession&) = delete;
     ExportSession& operator=(const ExportSession&) = delete;
-    ~ExportSession();
+    virtual ~ExportSession();
 
     /// Call before run(). None: every source frame is kept with its own timing and size.
-    void setVideoComposition(std::optional<VideoComposition> videoComposition);
+    virtual void setVideoComposition(std::optional<VideoComposition> videoComposition);
 
     /// Runs the export on the calling thread until the file is complete. At most once.
     /// Throws Error on failure; Cancelled within 100 ms of a stop request. By then nothing is left
     /// on disk; encoders that are in the middle of a picture are waited for in the destructor.
-    void run(std::stop_token stop = {});
+    virtual void run(std::stop_token stop = {});
 
     /// The fraction done, 0 to 1, by presentation time; never decreases. Any thread.
-    [[nodiscard]] double progress() const;
+    [[nodiscard]] virtual double progress() const;
     /// Any thread.
-    [[nodiscard]] State state() const;
+    [[nodiscard]] virtual State state() const;
 
 private:
     class Private;

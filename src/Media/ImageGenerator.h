@@ -13,23 +13,26 @@ namespace media {
 /// operation blocks for as long as decoding takes.
 class ImageGenerator {
 public:
-    /// Throws Error if the asset has no video track.
+    /// Throws Error if the asset has no video track, or if the engine can't be loaded.
+    static std::unique_ptr<ImageGenerator> make(std::shared_ptr<const Asset> asset);
+
+    /// For the engine and its tests.
     explicit ImageGenerator(std::shared_ptr<const Asset> asset);
     ImageGenerator(const ImageGenerator&) = delete;
     ImageGenerator& operator=(const ImageGenerator&) = delete;
-    ~ImageGenerator();
+    virtual ~ImageGenerator();
 
     /// Upper bounds of the images, in pixels; 0 leaves a side free. The aspect ratio is kept and
     /// nothing is enlarged. Default: full size.
-    void setMaximumSize(int width, int height);
+    virtual void setMaximumSize(int width, int height);
     /// How far the frame may lie from the requested time; 0 (the default) asks for the frame at
     /// that exact time. With a tolerance the frame that costs least to decode is taken, and detail
     /// that a small picture cannot show is not computed.
-    void setTolerance(Time before, Time after);
+    virtual void setTolerance(Time before, Time after);
 
     /// The still for `time`. Throws Error if no frame there can be decoded or the time is not
     /// numeric; Cancelled if `stop` is requested.
-    [[nodiscard]] TimedImage image(Time time, std::stop_token stop = {});
+    [[nodiscard]] virtual TimedImage image(Time time, std::stop_token stop = {});
 
 private:
     class Private;

@@ -1,6 +1,5 @@
 #include "Media/Player.h"
 
-#include "Media/Playback/CubebOutput.h"
 #include "Media/Playback/PlayerPrivate.h"
 
 namespace media {
@@ -14,9 +13,6 @@ SteadyTime now() {
 }
 
 } // namespace
-
-Player::Player(Executor executor)
-    : Player(std::move(executor), std::make_unique<playback::CubebOutput>()) {}
 
 Player::Player(Executor executor, std::unique_ptr<playback::AudioOutput> output)
     : d(std::make_shared<Private>(std::move(executor), std::move(output))) {

@@ -48,62 +48,65 @@ class Player {
 public:
     using Token = std::uint64_t;
 
-    /// Sounds on the system's default device.
-    explicit Player(Executor executor);
-    /// Sounds on `output`, which is used and released on a thread of the player's own.
+    /// Sounds on the system's default device. Throws Error if the engine can't be loaded.
+    static std::shared_ptr<Player> make(Executor executor);
+
+    /// For the engine and its tests: sounds on `output`, which is used and released on a thread of
+    /// the player's own.
     Player(Executor executor, std::unique_ptr<playback::AudioOutput> output);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
-    ~Player();
+    virtual ~Player();
 
     /// null removes the item: the sink is told to show nothing. A running player plays the new
     /// item from its start; a paused one shows its first frame.
-    void replaceCurrentItem(std::shared_ptr<const PlayerItem> item);
-    [[nodiscard]] std::shared_ptr<const PlayerItem> currentItem() const;
+    virtual void replaceCurrentItem(std::shared_ptr<const PlayerItem> item);
+    [[nodiscard]] virtual std::shared_ptr<const PlayerItem> currentItem() const;
 
     /// Sets the rate to 1 or 0. play() at the end of the item ends at once (and reports it).
-    void play();
-    void pause();
+    virtual void play();
+    virtual void pause();
     /// 1 while playing, else 0; becomes 0 when the item plays to its end.
-    [[nodiscard]] float rate() const;
+    [[nodiscard]] virtual float rate() const;
 
     /// Moves to `time`, clamped to the item; keeps the rate. A zero tolerance shows the frame at
     /// exactly that time; until it is decoded a nearer one than that on show may stand in for it,
     /// under its own time. A later seek replaces an earlier one that is still on its way. `done`
     /// (may be empty) runs when the frame has been handed to the sink (true) or the seek was
     /// replaced (false).
-    void seek(Time time, Time toleranceBefore, Time toleranceAfter,
-              std::function<void(bool finished)> done = {});
+    virtual void seek(Time time, Time toleranceBefore, Time toleranceAfter,
+                      std::function<void(bool finished)> done = {});
     /// Moves by `count` frames (negative: backward) from the frame on screen, which is left where
     /// it is at either end, and pauses. The current time becomes that of the frame shown.
-    void step(int count);
+    virtual void step(int count);
 
     /// The current time on the item's time line; during a seek its target. invalid() without item.
-    [[nodiscard]] Time currentTime() const;
+    [[nodiscard]] virtual Time currentTime() const;
 
-    void setMuted(bool muted);
-    [[nodiscard]] bool isMuted() const;
+    virtual void setMuted(bool muted);
+    [[nodiscard]] virtual bool isMuted() const;
 
     /// The sink must outlive the player or be taken away first; null for none. `pixelWidth` ×
     /// `pixelHeight` is the size of the view in device pixels: frames are delivered scaled to fit
     /// into it, never enlarged; 0 × 0 asks for full size. A paused player delivers its frame again.
-    void setVideoSink(VideoSink* sink);
-    void setPreviewSize(int pixelWidth, int pixelHeight);
+    virtual void setVideoSink(VideoSink* sink);
+    virtual void setPreviewSize(int pixelWidth, int pixelHeight);
 
     /// Times of the current item that are likely to be gone to, such as the ends of a selection:
     /// frames around them are made ready when there is nothing else to do, and kept longer. A new
     /// item has none.
-    void setPointsOfInterest(const std::vector<Time>& times);
+    virtual void setPointsOfInterest(const std::vector<Time>& times);
 
     /// Calls `handler` with the current time every `interval` of playback and whenever the time
     /// jumps. An owner that falls behind gets one call for several intervals.
-    Token addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler);
-    void removeTimeObserver(Token token);
+    virtual Token addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler);
+    virtual void removeTimeObserver(Token token);
     /// Called after every change of rate(), with the new rate.
-    void setRateHandler(std::function<void(float rate)> handler);
+    virtual void setRateHandler(std::function<void(float rate)> handler);
     /// Called when an item has played to its end, after the rate has become 0 and the time
     /// observers have got the end time; the argument is that item.
-    void setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler);
+    virtual void
+    setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler);
 
     /// Counts of frames since creation.
     struct Statistics {
@@ -115,7 +118,7 @@ public:
         std::uint64_t dropped = 0;
     };
 
-    [[nodiscard]] Statistics statistics() const;
+    [[nodiscard]] virtual Statistics statistics() const;
 
 private:
     class Private;

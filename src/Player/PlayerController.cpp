@@ -20,21 +20,29 @@ void call(Callback callback, Arguments... arguments) {
 
 } // namespace
 
-PlayerController::PlayerController()
-    : m_player(std::make_shared<media::Player>(postToMainThread)),
-      m_timeObserver(m_player->addPeriodicTimeObserver(kTickInterval,
-                                                       [this](media::Time time) { tick(time); })) {
-    m_player->setRateHandler([this](float rate) { rateChanged(rate); });
-    m_player->setEndHandler(
-        [this](const std::shared_ptr<const media::PlayerItem>& item) { itemEnded(item); });
-}
-
 PlayerController::~PlayerController() {
+    if (!m_player)
+        return;
     m_player->removeTimeObserver(m_timeObserver);
     m_player->setRateHandler({});
     m_player->setEndHandler({});
     // A view may hold the player a little longer; it must not be heard meanwhile.
     m_player->pause();
+}
+
+const std::shared_ptr<media::Player>& PlayerController::player() {
+    if (!m_player)
+        makePlayer();
+    return m_player;
+}
+
+void PlayerController::makePlayer() {
+    m_player = media::Player::make(postToMainThread);
+    m_timeObserver =
+        m_player->addPeriodicTimeObserver(kTickInterval, [this](media::Time time) { tick(time); });
+    m_player->setRateHandler([this](float rate) { rateChanged(rate); });
+    m_player->setEndHandler(
+        [this](const std::shared_ptr<const media::PlayerItem>& item) { itemEnded(item); });
 }
 
 void PlayerController::tick(media::Time time) const {

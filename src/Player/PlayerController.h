@@ -11,13 +11,15 @@ namespace brisklet {
 /// callbacks. None of them is called after the destructor has begun.
 class PlayerController final {
 public:
-    PlayerController();
+    PlayerController() = default;
     PlayerController(const PlayerController&) = delete;
     PlayerController& operator=(const PlayerController&) = delete;
     ~PlayerController();
 
-    /// Constant, never null. Views that show it may keep it for as long as they need.
-    [[nodiscard]] const std::shared_ptr<media::Player>& player() const { return m_player; }
+    /// Constant, never null; made when it is first asked for, since that loads the media engine,
+    /// which an empty window does without. Views that show it may keep it for as long as they need.
+    /// Throws media::Error if the engine can't be loaded.
+    [[nodiscard]] const std::shared_ptr<media::Player>& player();
 
     /// The current time in seconds: every 1/30 s of playback, and whenever the time jumps.
     std::function<void(double time)> onTick;
@@ -27,12 +29,13 @@ public:
     std::function<void()> onPlayedToEnd;
 
 private:
+    void makePlayer();
     void tick(media::Time time) const;
     void rateChanged(float rate) const;
     void itemEnded(const std::shared_ptr<const media::PlayerItem>& item) const;
 
     std::shared_ptr<media::Player> m_player;
-    media::Player::Token m_timeObserver;
+    media::Player::Token m_timeObserver = 0;
 };
 
 } // namespace brisklet

@@ -31,15 +31,15 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
     if (duration <= 0 || count < 1)
         return images;
     try {
-        media::ImageGenerator generator(asset);
-        generator.setMaximumSize(0, kMaximumHeight);
+        const auto generator = media::ImageGenerator::make(asset);
+        generator->setMaximumSize(0, kMaximumHeight);
         const media::Time tolerance =
             media::Time::fromSeconds(kToleranceSeconds, media::kComparisonTimescale);
-        generator.setTolerance(tolerance, tolerance);
+        generator->setTolerance(tolerance, tolerance);
         for (int index = 0; index < count && !stop.stop_requested(); ++index) {
             try {
                 const media::Time time = middleOfSlice(index, duration, count);
-                images.append(toQImage(generator.image(time, stop).image));
+                images.append(toQImage(generator->image(time, stop).image));
             } catch (const std::exception&) {
                 // The strip goes on without this image: a damaged spot must not hide the rest.
                 continue;

@@ -62,7 +62,7 @@ QRectF fittedPicture(media::Size picture, QSizeF area) {
 VideoArea::VideoArea(std::shared_ptr<EditState> state, QWidget* parent)
     : QWidget(parent),
       m_state(std::move(state)),
-      m_player(new PlayerContainerView(m_state->playerController().player(), this)),
+      m_player(new PlayerContainerView(nullptr, this)),
       m_cropOverlay(new CropOverlayView(m_state, kCropHandleSize, this)) {
     constexpr std::array kCenters{QPoint(kCornerRadius, kCornerRadius), QPoint(0, kCornerRadius),
                                   QPoint(0, 0), QPoint(kCornerRadius, 0)};
@@ -71,8 +71,10 @@ VideoArea::VideoArea(std::shared_ptr<EditState> state, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
     const EditState* model = m_state.get();
+    connect(model, &EditState::videoURLChanged, this, &VideoArea::showPlayer);
     connect(model, &EditState::displaySizeChanged, this, &VideoArea::layOut);
     connect(model, &EditState::rotationChanged, this, &VideoArea::showRotation);
+    showPlayer();
     showRotation();
 }
 
@@ -83,6 +85,12 @@ VideoArea::~VideoArea() {
 void VideoArea::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     layOut();
+}
+
+/// An empty window makes no player.
+void VideoArea::showPlayer() {
+    if (m_state->videoURL())
+        m_player->setPlayer(m_state->playerController().player());
 }
 
 void VideoArea::showRotation() {

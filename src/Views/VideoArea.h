@@ -36,6 +36,7 @@ protected:
 
 private:
     void layOut();
+    void showPlayer();
     void showRotation();
 
     std::shared_ptr<EditState> m_state;

@@ -57,6 +57,12 @@ public:
 
     [[nodiscard]] int exitCode() const { return m_process.exitCode(); }
 
+    /// Whether this file is part of the running process.
+    [[nodiscard]] bool hasLoaded(const QByteArray& file) const {
+        QFile maps(QStringLiteral("/proc/%1/maps").arg(m_process.processId()));
+        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file);
+    }
+
 private:
     QProcess m_process;
 };
@@ -317,6 +323,18 @@ TEST_F(RealSessionTest, endsTheNotificationOfAStartThatHandedItsFileOver) {
     EXPECT_EQ(listener.state(), QProcess::Running);
     listener.kill();
     listener.waitForFinished();
+}
+
+TEST_F(RealSessionTest, loadsTheMediaLibrariesWithTheFirstFile) {
+    const auto program = start({});
+    ASSERT_TRUE(
+        pumpUntil([&] { return m_display.titles() == QStringList(QStringLiteral("Brisklet")); }));
+    EXPECT_TRUE(program->hasLoaded("libQt6Core"));
+    EXPECT_FALSE(program->hasLoaded("libavcodec"));
+    const QStringList files = makeFiles(1);
+    const auto other = start(files);
+    ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }));
+    EXPECT_TRUE(program->hasLoaded("libavcodec"));
 }
 
 TEST_F(RealSessionTest, startsOnItsOwnWithoutABus) {

@@ -168,12 +168,12 @@ protected:
 };
 
 TEST_P(RealMedia, isShownInTheFilmstrip) {
-    media::ImageGenerator generator(m_asset);
-    generator.setMaximumSize(0, 120);
+    const auto generator = media::ImageGenerator::make(m_asset);
+    generator->setMaximumSize(0, 120);
     const double duration = m_asset->duration().seconds();
     EXPECT_GT(duration, 0);
-    generator.setTolerance(media::Time::fromSeconds(0.5, 600), media::Time::fromSeconds(0.5, 600));
-    const auto still = generator.image(media::Time::fromSeconds(duration / 2, 600));
+    generator->setTolerance(media::Time::fromSeconds(0.5, 600), media::Time::fromSeconds(0.5, 600));
+    const auto still = generator->image(media::Time::fromSeconds(duration / 2, 600));
     EXPECT_GT(still.image->width, 0);
     EXPECT_GT(still.image->height, 0);
     EXPECT_LE(still.image->height, 120);

@@ -55,29 +55,30 @@ namespace {
 /// A paused player with a file, on its first frame.
 class PausedPlayer {
 public:
-    PausedPlayer(const std::filesystem::path& source, QSize size) : m_player(&postToMainThread) {
-        m_player.setPreviewSize(size.width(), size.height());
-        m_player.setVideoSink(&m_sink);
+    PausedPlayer(const std::filesystem::path& source, QSize size)
+        : m_player(media::Player::make(&postToMainThread)) {
+        m_player->setPreviewSize(size.width(), size.height());
+        m_player->setVideoSink(&m_sink);
         try {
-            m_player.replaceCurrentItem(
+            m_player->replaceCurrentItem(
                 std::make_shared<media::PlayerItem>(media::Asset::open(source)));
         } catch (const media::Error& error) {
             throw BenchmarkError(error.what());
         }
-        seekTo(m_player, 0);
+        seekTo(*m_player, 0);
         waitUntil([&] { return m_sink.count() > 0; });
     }
 
     PausedPlayer(const PausedPlayer&) = delete;
     PausedPlayer& operator=(const PausedPlayer&) = delete;
 
-    ~PausedPlayer() { m_player.setVideoSink(nullptr); }
+    ~PausedPlayer() { m_player->setVideoSink(nullptr); }
 
-    media::Player& player() { return m_player; }
+    media::Player& player() { return *m_player; }
 
 private:
     CountingSink m_sink;
-    media::Player m_player;
+    std::shared_ptr<media::Player> m_player;
 };
 
 } // namespace

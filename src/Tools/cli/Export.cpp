@@ -31,11 +31,11 @@ void runMeasured(const ExportCommand& command, const ExportRequest& request,
         AVFoundationExporter::videoComposition(composition.videoTrack->source, request);
     const auto fileType = command.format == ExportFormat::mov ? media::FileType::quickTimeMovie
                                                               : media::FileType::mpeg4;
-    media::ExportSession session(std::move(composition), command.output, fileType,
-                                 *command.encoders);
-    session.setVideoComposition(rendering);
-    const ProgressWatcher watcher(session, onProgress);
-    session.run(stop);
+    const auto session = media::ExportSession::make(std::move(composition), command.output,
+                                                    fileType, *command.encoders);
+    session->setVideoComposition(rendering);
+    const ProgressWatcher watcher(*session, onProgress);
+    session->run(stop);
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <system_error>
 
@@ -26,11 +27,12 @@ media::Time timeOf(double seconds) {
     return media::Time::fromSeconds(seconds, media::kComparisonTimescale);
 }
 
-media::ImageGenerator makeGenerator(const std::filesystem::path& source,
-                                    const std::shared_ptr<const media::Asset>& asset) {
+std::unique_ptr<media::ImageGenerator>
+makeGenerator(const std::filesystem::path& source,
+              const std::shared_ptr<const media::Asset>& asset) {
     if (asset->tracks(media::MediaType::video).empty())
         throw CommandError(quotedName(source) + " contains no video track.");
-    return media::ImageGenerator(asset);
+    return media::ImageGenerator::make(asset);
 }
 
 QByteArray pngOf(media::ImagePtr image) {
@@ -59,9 +61,9 @@ void createDirectory(const std::filesystem::path& directory) {
 
 void run(const FilmstripCommand& command, const std::stop_token& stop) {
     const auto asset = openSource(command.source, stop);
-    media::ImageGenerator generator = makeGenerator(command.source, asset);
-    generator.setMaximumSize(0, kMaximumHeight);
-    generator.setTolerance(timeOf(kToleranceSeconds), timeOf(kToleranceSeconds));
+    const auto generator = makeGenerator(command.source, asset);
+    generator->setMaximumSize(0, kMaximumHeight);
+    generator->setTolerance(timeOf(kToleranceSeconds), timeOf(kToleranceSeconds));
     createDirectory(command.directory);
 
     const double duration = asset->duration().seconds();
@@ -71,7 +73,7 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
         const media::Time requested = timeOf((i + 0.5) * duration / command.count);
         std::optional<media::TimedImage> still;
         try {
-            still = generator.image(requested, stop);
+            still = generator->image(requested, stop);
         } catch (const media::Error& error) {
             // As in the window, a damaged spot takes only its own picture away.
             lastFailure = error.what();
@@ -90,9 +92,9 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
 
 void run(const FrameCommand& command, const std::stop_token& stop) {
     const auto asset = openSource(command.source, stop);
-    media::ImageGenerator generator = makeGenerator(command.source, asset);
+    const auto generator = makeGenerator(command.source, asset);
     try {
-        writeFile(command.output, pngOf(generator.image(timeOf(command.seconds), stop).image));
+        writeFile(command.output, pngOf(generator->image(timeOf(command.seconds), stop).image));
     } catch (const media::Error& error) {
         throw CommandError("Couldn't make the picture: " + std::string(error.what()));
     }

@@ -1,0 +1,52 @@
+#include "Media/BuiltInEngine.h"
+
+#include "Media/FFmpeg/DemuxerPool.h"
+#include "Media/FFmpeg/Inspection.h"
+#include "Media/FFmpeg/SourceFile.h"
+#include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Playback/CubebOutput.h"
+
+#include <utility>
+
+namespace media {
+
+namespace {
+
+class BuiltInEngine final : public Engine {
+public:
+    [[nodiscard]] std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
+                                                         std::stop_token stop) const override {
+        auto file = ffmpeg::SourceFile::open(path);
+        auto demuxer = std::make_unique<ffmpeg::Demuxer>(file, nullptr, stop);
+        auto info = std::make_unique<ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
+        auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format);
+        demuxers->giveBack(std::move(demuxer));
+        return std::make_shared<const Asset>(std::move(file), std::move(info), std::move(demuxers));
+    }
+
+    [[nodiscard]] std::shared_ptr<Player> makePlayer(Executor executor) const override {
+        return std::make_shared<Player>(std::move(executor),
+                                        std::make_unique<playback::CubebOutput>());
+    }
+
+    [[nodiscard]] std::unique_ptr<ImageGenerator>
+    makeImageGenerator(std::shared_ptr<const Asset> asset) const override {
+        return std::make_unique<ImageGenerator>(std::move(asset));
+    }
+
+    [[nodiscard]] std::unique_ptr<ExportSession>
+    makeExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
+                      EncoderSettings settings) const override {
+        return std::make_unique<ExportSession>(std::move(composition), std::move(outputPath),
+                                               fileType, std::move(settings));
+    }
+};
+
+} // namespace
+
+const Engine& builtInEngine() {
+    static const BuiltInEngine engine;
+    return engine;
+}
+
+} // namespace media

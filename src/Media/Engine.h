@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Media/ExportSession.h"
+#include "Media/ImageGenerator.h"
+#include "Media/Player.h"
+
+#include <filesystem>
+#include <memory>
+#include <stop_token>
+
+namespace media {
+
+/// Makes the objects of the media layer that decode, play and encode. An empty window needs none of
+/// them, nor the hundred libraries behind them, so the program is not linked to the engine: it is a
+/// module beside the program, loaded once, when it is first asked for, and kept. Immutable; any
+/// thread.
+///
+/// Other layers come here through Asset::open() and the make() functions of Player, ImageGenerator
+/// and ExportSession, whose comments say what these throw.
+class Engine {
+public:
+    Engine() = default;
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+    virtual ~Engine() = default;
+
+    [[nodiscard]] virtual std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
+                                                                 std::stop_token stop) const = 0;
+    [[nodiscard]] virtual std::shared_ptr<Player> makePlayer(Executor executor) const = 0;
+    [[nodiscard]] virtual std::unique_ptr<ImageGenerator>
+    makeImageGenerator(std::shared_ptr<const Asset> asset) const = 0;
+    [[nodiscard]] virtual std::unique_ptr<ExportSession>
+    makeExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
+                      EncoderSettings settings) const = 0;
+};
+
+/// The engine. The first call loads it, which takes some tens of milliseconds; calls meanwhile wait
+/// for that. Throws Error if it can't be loaded, or is not of this version of the program.
+const Engine& engine();
+
+} // namespace media

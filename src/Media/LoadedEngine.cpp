@@ -1,0 +1,42 @@
+#include "Media/Engine.h"
+#include "Media/EngineModule.h"
+#include "Media/Error.h"
+
+#include <dlfcn.h>
+
+#include <string>
+
+namespace media {
+
+namespace {
+
+/// The module stands at the same place beside every program, in the build tree and installed.
+std::filesystem::path modulePath() {
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    if (error)
+        throw Error("The media engine can’t be found: " + error.message() + ".");
+    return program.parent_path() / BRISKLET_ENGINE_MODULE;
+}
+
+const Engine& loadEngine() {
+    // Bound as it is used: it has a hundred libraries behind it. Never unloaded.
+    void* module = ::dlopen(modulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
+    if (module == nullptr)
+        throw Error(std::string("The media engine can’t be loaded: ") + ::dlerror() + ".");
+    const auto entry = reinterpret_cast<EngineEntry>(::dlsym(module, kEngineEntryName));
+    const Engine* engine = entry != nullptr ? entry(BRISKLET_VERSION) : nullptr;
+    // An update replaces it below a program that runs.
+    if (engine == nullptr)
+        throw Error("Brisklet has been updated. Start it again.");
+    return *engine;
+}
+
+} // namespace
+
+const Engine& engine() {
+    static const Engine& loaded = loadEngine();
+    return loaded;
+}
+
+} // namespace media
