@@ -1,71 +1,30 @@
 #include "AppFixture.h"
 
-#include "PrivateDisplay.h"
+#include "OtherStart.h"
 #include "QtSupport/PrivateBus.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
-#include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
+#include <utility>
 
 namespace brisklet {
 namespace {
 
+using testsupport::environmentOn;
+using testsupport::OtherStart;
 using testsupport::pumpUntil;
-
-QProcessEnvironment environmentOn(const testsupport::PrivateBus& bus, const QString& display) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
-    environment.insert(QStringLiteral("DISPLAY"), display);
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
-                       display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
-    return environment;
-}
-
-/// Another start of the program, in this test's session.
-class OtherStart {
-public:
-    OtherStart(const QProcessEnvironment& environment, const QStringList& arguments,
-               const QString& folder = QStringLiteral("/")) {
-        m_process.setProcessEnvironment(environment);
-        m_process.setWorkingDirectory(folder);
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(BRISKLET_APP), arguments);
-    }
-
-    OtherStart(const OtherStart&) = delete;
-    OtherStart& operator=(const OtherStart&) = delete;
-
-    ~OtherStart() {
-        m_process.terminate();
-        m_process.waitForFinished();
-    }
-
-    [[nodiscard]] bool hasEnded() const { return m_process.state() == QProcess::NotRunning; }
-
-    [[nodiscard]] int exitCode() const { return m_process.exitCode(); }
-
-    /// Whether this file is part of the running process.
-    [[nodiscard]] bool hasLoaded(const QByteArray& file) const {
-        QFile maps(QStringLiteral("/proc/%1/maps").arg(m_process.processId()));
-        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file);
-    }
-
-private:
-    QProcess m_process;
-};
 
 /// The first process is the test itself.
 class SessionTest : public AppFixture {
@@ -86,13 +45,15 @@ protected:
         return pumpUntil([&start] { return start.hasEnded(); }) && start.exitCode() == 0;
     }
 
+    bool showsVideos(qsizetype count) {
+        return m_app->windows().size() == count &&
+               std::ranges::all_of(m_app->windows(), [](const WindowRootView* window) {
+                   return window->state()->videoURL().has_value();
+               });
+    }
+
     bool showVideos(qsizetype count) {
-        return pumpUntil([this, count] {
-            return m_app->windows().size() == count &&
-                   std::ranges::all_of(m_app->windows(), [](const WindowRootView* window) {
-                       return window->state()->videoURL().has_value();
-                   });
-        });
+        return pumpUntil([this, count] { return showsVideos(count); });
     }
 
     ~SessionTest() override {
@@ -176,200 +137,121 @@ private:
     std::optional<QDBusPendingCall> m_pending;
 };
 
+/// Runs the program as main() does, until it ends by itself (0) or there is what is waited for (1).
+int runUntil(const std::function<bool()>& condition) {
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&condition] {
+        if (condition())
+            QCoreApplication::exit(1);
+    });
+    look.start(std::chrono::milliseconds(10));
+    return QApplication::exec();
+}
+
+/// Hears what is called on a bus, without the event loop of this process.
+class CallMonitor {
+public:
+    explicit CallMonitor(const testsupport::PrivateBus& bus) {
+        m_process.start(QStringLiteral("dbus-monitor"),
+                        {QStringLiteral("--address"), bus.address(),
+                         QStringLiteral("type=method_call,interface=org.freedesktop.Application")});
+        // It says first that it has become a monitor.
+        m_isRunning = m_process.waitForStarted() && waitFor("NameLost");
+    }
+
+    CallMonitor(const CallMonitor&) = delete;
+    CallMonitor& operator=(const CallMonitor&) = delete;
+
+    ~CallMonitor() {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
+
+    bool waitFor(const QByteArray& text) {
+        while (!m_heard.contains(text)) {
+            if (!m_process.waitForReadyRead())
+                return false;
+            m_heard += m_process.readAllStandardOutput();
+        }
+        return true;
+    }
+
+private:
+    QProcess m_process;
+    QByteArray m_heard;
+    bool m_isRunning = false;
+};
+
+/// Lets another process hand a file over at the moment when a window is about to close: the call is
+/// here when this one comes to close it, and has not been looked at.
+class HandOverAtClose final : public QObject {
+public:
+    HandOverAtClose(WindowRootView& window, std::function<void()> handOver)
+        : m_handOver(std::move(handOver)) {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Close)
+            std::exchange(m_handOver, [] {})();
+        return false;
+    }
+
+private:
+    std::function<void()> m_handOver;
+};
+
 // A file was lost when the empty window it went into was being closed at that very moment.
 TEST_F(SessionTest, opensAWindowForAFileThatArrivesWhileTheLastEmptyOneCloses) {
-    LateCall call(m_bus);
-    call.open(BriskletApp::sessionName(), video(1));
-    const QPointer<WindowRootView> first = m_app->windows().first();
-    first->close();
-    EXPECT_TRUE(pumpUntil([&] { return call.isAnswered() && !first; }));
-    EXPECT_TRUE(call.isTaken());
-    ASSERT_TRUE(showVideos(1));
-    EXPECT_EQ(m_app->windows()[0]->state()->videoURL(), video(1));
-    // And the program goes on as it was.
+    CallMonitor monitor(m_bus);
+    if (!monitor.isRunning())
+        GTEST_SKIP() << "dbus-monitor is not here";
+    std::unique_ptr<OtherStart> other;
+    bool hasArrived = false;
+    const HandOverAtClose handOver(*m_app->windows().first(), [&] {
+        const QStringList files{video(1).toLocalFile()};
+        other = std::make_unique<OtherStart>(environmentOn(m_bus, {}), files);
+        hasArrived = monitor.waitFor("member=Open");
+        // What this process asks next is answered after that.
+        m_session->bus().interface()->registeredServiceNames();
+    });
+    QTimer::singleShot(0, m_app->windows().first(), &QWidget::close);
+    EXPECT_EQ(runUntil([&] { return other && other->hasEnded() && showsVideos(1); }), 1)
+        << "The program has ended.";
+    EXPECT_TRUE(hasArrived);
+    EXPECT_EQ(other->exitCode(), 0);
+    // And it goes on as it was.
     ASSERT_TRUE(handsOver({video(2).toLocalFile()}));
     EXPECT_TRUE(showVideos(2));
 }
 
-// A file was lost when it was sent to a process that had decided to end but still ran.
+// A process that has decided to end still runs for a moment. Whoever looked it up before may call
+// it then, and must not believe that it has taken a file.
 TEST_F(SessionTest, refusesAFileThatArrivesAfterTheDecisionToEnd) {
-    LateCall call(m_bus);
-    const QString process = m_session->bus().baseService();
-    // Called after the program's own slot, so right after its decision.
+    QDBusConnection caller = m_bus.connect();
+    std::optional<QDBusPendingCall> pending;
     const QObject watch;
-    QObject::connect(qApp, &QApplication::lastWindowClosed, &watch,
-                     [&] { call.open(process, video(1)); });
-    m_app->windows().first()->close();
-    ASSERT_TRUE(pumpUntil([&] { return call.isAnswered(); }));
-    EXPECT_FALSE(call.isTaken());
+    // After the program's own slot, so right after its decision.
+    QObject::connect(qApp, &QApplication::lastWindowClosed, &watch, [&] {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            m_session->bus().baseService(), QStringLiteral("/com/quorvan/brisklet"),
+            QStringLiteral("org.freedesktop.Application"), QStringLiteral("Open"));
+        message << QStringList{video(1).toString()} << QVariantMap();
+        pending = caller.asyncCall(message);
+        // What that connection asks next is answered after that.
+        caller.interface()->registeredServiceNames();
+    });
+    QTimer::singleShot(0, m_app->windows().first(), &QWidget::close);
+    EXPECT_EQ(runUntil([] { return false; }), 0);
+    ASSERT_TRUE(pending);
+    ASSERT_TRUE(pumpUntil([&] { return pending->isFinished(); }));
+    EXPECT_TRUE(pending->isError());
     EXPECT_TRUE(m_app->windows().isEmpty());
     // Whoever was refused finds the name free.
     DesktopApplication next(m_bus.connect(), BriskletApp::sessionName());
     EXPECT_EQ(next.claim({video(1)}, {}), DesktopApplication::Role::owner);
-}
-
-/// All processes are real ones, on a display of their own.
-class RealSessionTest : public testing::Test {
-protected:
-    void SetUp() override {
-        if (!m_bus.isRunning() || !m_display.isRunning())
-            GTEST_SKIP() << "dbus-daemon, Xvfb or xdotool is not here";
-    }
-
-    static bool hasPython() {
-        return !QStandardPaths::findExecutable(QStringLiteral("python3")).isEmpty();
-    }
-
-    std::unique_ptr<OtherStart> start(const QStringList& arguments) {
-        return std::make_unique<OtherStart>(environmentOn(m_bus, m_display.name()), arguments);
-    }
-
-    /// So many files with names of their own.
-    QStringList makeFiles(int count) {
-        const auto source = testsupport::makeFixture({.duration = 1}).path;
-        QStringList files;
-        for (int number = 0; number < count; ++number) {
-            const auto file = m_folder / ("video " + std::to_string(100 + number) + ".mp4");
-            std::filesystem::copy_file(source, file);
-            files << QFile::decodeName(file.c_str());
-        }
-        return files;
-    }
-
-    static QStringList namesOf(const QStringList& files) {
-        QStringList names;
-        for (const QString& file : files)
-            names << QFileInfo(file).fileName();
-        return names;
-    }
-
-    static constexpr int kCloses = 12;
-    /// Within about this time a window is closed, unless the machine is busy.
-    static constexpr int kCloseMs = 100;
-
-    testsupport::TemporaryFolder m_folder;
-    testsupport::PrivateBus m_bus;
-    testsupport::PrivateDisplay m_display;
-};
-
-TEST_F(RealSessionTest, opensThreeFilesInThreeWindows) {
-    const QStringList files = makeFiles(3);
-    const auto program = start(files);
-    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }));
-    EXPECT_FALSE(program->hasEnded());
-}
-
-TEST_F(RealSessionTest, endsTwentyStartsAtOnceInOneProcessWithTwentyWindows) {
-    const QStringList files = makeFiles(20);
-    std::vector<std::unique_ptr<OtherStart>> starts;
-    for (const QString& file : files)
-        starts.push_back(start({file}));
-    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }))
-        << m_display.titles().join(u'\n').toStdString();
-    const auto running = [&starts] {
-        return std::ranges::count_if(starts, [](const auto& each) { return !each->hasEnded(); });
-    };
-    EXPECT_TRUE(pumpUntil([&running] { return running() == 1; }));
-    for (const auto& each : starts)
-        EXPECT_EQ(each->exitCode(), 0);
-}
-
-// Whatever the moment, the file has a window in the end: in the process that was about to end, or
-// in a new one.
-TEST_F(RealSessionTest, losesNoFileThatIsHandedOverWhileTheLastWindowCloses) {
-    if (!hasPython())
-        GTEST_SKIP() << "python3 is not here";
-    const QStringList files = makeFiles(kCloses + 1);
-    std::vector<std::unique_ptr<OtherStart>> starts;
-    starts.push_back(start({files[0]}));
-    for (int i = 0; i < kCloses; ++i) {
-        const QString& shown = files[i];
-        const QString& next = files[i + 1];
-        ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf({shown}); }))
-            << i << ": " << m_display.titles().join(u'\n').toStdString();
-        // The other process starts anywhere from before the window closes to after that.
-        const auto closing = m_display.close(QFileInfo(shown).fileName());
-        QTimer::singleShot(std::chrono::milliseconds(i * kCloseMs / kCloses), qApp,
-                           [&] { starts.push_back(start({next})); });
-        ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf({next}); }))
-            << i << ": " << m_display.titles().join(u'\n').toStdString();
-        ASSERT_EQ(closing->exitCode(), 0);
-    }
-}
-
-TEST_F(RealSessionTest, endsTheNotificationOfAStartThatHandedItsFileOver) {
-    if (!hasPython())
-        GTEST_SKIP() << "python3 is not here";
-    QProcess listener;
-    listener.setProcessEnvironment(environmentOn(m_bus, m_display.name()));
-    listener.start(QStringLiteral("python3"),
-                   {QStringLiteral(BRISKLET_SOURCE_DIR "/tests/App/startup_messages.py")});
-    QString heard;
-    const auto hears = [&](const QString& message) {
-        return pumpUntil([&] {
-            heard += QString::fromUtf8(listener.readAllStandardOutput());
-            return heard.contains(message + u'\n') || listener.state() == QProcess::NotRunning;
-        });
-    };
-    ASSERT_TRUE(hears(QStringLiteral("listening")));
-    const QStringList files = makeFiles(2);
-    const auto first = start({files[0]});
-    ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf({files[0]}); }));
-    QProcessEnvironment environment = environmentOn(m_bus, m_display.name());
-    environment.insert(QStringLiteral("DESKTOP_STARTUP_ID"),
-                       QStringLiteral("launcher/a \"file\"/17-0-host_TIME4711"));
-    const OtherStart second(environment, {files[1]});
-    EXPECT_TRUE(hears(QStringLiteral("remove: ID=launcher/a\\ \\\"file\\\"/17-0-host_TIME4711")));
-    EXPECT_EQ(listener.state(), QProcess::Running);
-    listener.kill();
-    listener.waitForFinished();
-}
-
-TEST_F(RealSessionTest, loadsTheMediaLibrariesWithTheFirstFile) {
-    const auto program = start({});
-    ASSERT_TRUE(
-        pumpUntil([&] { return m_display.titles() == QStringList(QStringLiteral("Brisklet")); }));
-    EXPECT_TRUE(program->hasLoaded("libQt6Core"));
-    EXPECT_FALSE(program->hasLoaded("libavcodec"));
-    const QStringList files = makeFiles(1);
-    const auto other = start(files);
-    ASSERT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }));
-    EXPECT_TRUE(program->hasLoaded("libavcodec"));
-}
-
-TEST_F(RealSessionTest, startsOnItsOwnWithoutABus) {
-    QProcessEnvironment environment = environmentOn(m_bus, m_display.name());
-    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-                       QStringLiteral("unix:path=/nowhere"));
-    const QStringList files = makeFiles(1);
-    const OtherStart program(environment, files);
-    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }));
-}
-
-TEST_F(RealSessionTest, isStartedByTheBusForWhatItIsAsked) {
-    const QDir services(qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/dbus-1/services"));
-    ASSERT_TRUE(services.mkpath(QStringLiteral(".")));
-    QFile service(services.filePath(QStringLiteral("com.quorvan.brisklet.service")));
-    ASSERT_TRUE(service.open(QIODevice::WriteOnly));
-    service.write("[D-BUS Service]\nName=com.quorvan.brisklet\nExec=" BRISKLET_APP "\n");
-    service.close();
-    qputenv("DISPLAY", m_display.name().toLatin1());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    const testsupport::PrivateBus bus;
-    const QStringList files = makeFiles(2);
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("com.quorvan.brisklet"), QStringLiteral("/com/quorvan/brisklet"),
-        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Open"));
-    QStringList uris;
-    for (const QString& file : files)
-        uris << QString::fromLatin1(QUrl::fromLocalFile(file).toEncoded());
-    message << uris << QVariantMap();
-    const QDBusPendingCall pending = bus.connect().asyncCall(message);
-    EXPECT_TRUE(pumpUntil([&] { return m_display.titles() == namesOf(files); }))
-        << m_display.titles().join(u'\n').toStdString();
-    EXPECT_FALSE(pending.isError());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    service.remove();
 }
 
 } // namespace

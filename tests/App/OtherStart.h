@@ -1,0 +1,57 @@
+#pragma once
+
+#include "QtSupport/PrivateBus.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+namespace testsupport {
+
+/// What a start of the program gets on a bus and an X display of a test's own; offscreen where
+/// `display` is empty.
+inline QProcessEnvironment environmentOn(const PrivateBus& bus, const QString& display) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
+                       display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
+    return environment;
+}
+
+/// Another start of the program. Main thread.
+class OtherStart {
+public:
+    OtherStart(const QProcessEnvironment& environment, const QStringList& arguments,
+               const QString& folder = QStringLiteral("/")) {
+        m_process.setProcessEnvironment(environment);
+        m_process.setWorkingDirectory(folder);
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(BRISKLET_APP), arguments);
+    }
+
+    OtherStart(const OtherStart&) = delete;
+    OtherStart& operator=(const OtherStart&) = delete;
+
+    ~OtherStart() {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+
+    [[nodiscard]] bool hasEnded() const { return m_process.state() == QProcess::NotRunning; }
+
+    [[nodiscard]] int exitCode() const { return m_process.exitCode(); }
+
+    /// Whether this file is part of the running process.
+    [[nodiscard]] bool hasLoaded(const QByteArray& file) const {
+        QFile maps(QStringLiteral("/proc/%1/maps").arg(m_process.processId()));
+        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file);
+    }
+
+private:
+    QProcess m_process;
+};
+
+} // namespace testsupport
