@@ -8,7 +8,9 @@
 #   bench/export.sh [straight] [turned] [smaller] [deep] [limit]      (all of them)
 source "$(dirname "$0")/common.sh"
 
-ours264=(-c:v libx264 -preset superfast -crf 17.1 -x264-params subme=2:qcomp=0.8)
+parameters264=subme=2:qcomp=0.8:b-adapt=0:aq-strength=0.9
+ours264=(-c:v libx264 -preset superfast -crf 17.2 -x264-params "$parameters264")
+handBrake264=(-e x264 --encoder-preset superfast -q 17.2 -x "$parameters264")
 ours265=(-c:v libx265 -preset ultrafast -crf 11 -x265-params log-level=none -tag:v hvc1)
 aim264=(-c:v libx264 -preset medium -crf 16)
 aim265=(-c:v libx265 -preset medium -crf 18 -x265-params log-level=none -tag:v hvc1)
@@ -69,7 +71,7 @@ runCase() {
 
 straight() {
     source=$(minuteFile) filter=null options=() ours=("${ours264[@]}") aim=("${aim264[@]}")
-    handBrakeOptions=(-e x264 --encoder-preset superfast -q 17.1 -x subme=2:qcomp=0.8)
+    handBrakeOptions=("${handBrake264[@]}")
     handBrakePicture=(--crop-mode none)
     runCase "1080p as it is"
 }
@@ -77,7 +79,7 @@ turned() {
     source=$(minuteFile) ours=("${ours264[@]}") aim=("${aim264[@]}")
     options=(--rotate 90 --crop 0.1,0.1,0.8,0.8)
     filter="transpose=clock,crop=864:1536:108:192"
-    handBrakeOptions=(-e x264 --encoder-preset superfast -q 17.1 -x subme=2:qcomp=0.8)
+    handBrakeOptions=("${handBrake264[@]}")
     handBrakePicture=(--rotate=angle=90:hflip=0 --crop-mode custom --crop 192:192:108:108)
     runCase "1080p, cropped and turned"
 }
@@ -85,7 +87,7 @@ smaller() {
     source=$(generated uhd-minute.mp4 uhd) ours=("${ours264[@]}") aim=("${aim264[@]}")
     options=(--max-short-edge 1080)
     filter="scale=1920:1080:flags=lanczos"
-    handBrakeOptions=(-e x264 --encoder-preset superfast -q 17.1 -x subme=2:qcomp=0.8)
+    handBrakeOptions=("${handBrake264[@]}")
     handBrakePicture=(--crop-mode none -w 1920 -l 1080)
     runCase "2160p to 1080p"
 }
