@@ -1,11 +1,16 @@
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
+#include "Media/Playback/PlayerStage.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/Inspection.h"
 #include "TestSupport/SlowDisk.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
+
+#include <chrono>
+#include <memory>
+#include <thread>
 
 /// Sources on a disk that is slow, does not answer, or breaks while they are read.
 namespace media {
@@ -74,6 +79,21 @@ TEST_F(SlowSource, thatDoesNotAnswerDoesNotHoldUpACancellation) {
     EXPECT_TRUE(running.wasCancelled());
     EXPECT_THAT(namesIn(m_folder.path()), IsEmpty());
     m_disk.setStalled(false);
+}
+
+TEST_F(SlowSource, thatDoesNotAnswerDoesNotHoldUpAClosingPlayer) {
+    PlayerStage stage;
+    stage.load(m_disk.holding(makeFixture(large(20)).path));
+    const std::weak_ptr<const PlayerItem> item = stage.player->currentItem();
+    m_disk.setStalled(true);
+    seekExactly(*stage.player, Time::fromSeconds(15, kComparisonTimescale));
+    stage.player->play();
+    // Until it reads.
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    stage.player.reset();
+    EXPECT_FALSE(item.expired()) << "nobody waits for the disk";
+    m_disk.setStalled(false);
+    EXPECT_TRUE(waitUntil([&] { return item.expired(); })) << "what was left behind stays";
 }
 
 } // namespace

@@ -42,7 +42,10 @@ void Player::Private::removeObserver(Token token) {
 }
 
 void Player::Private::post(std::function<void(Private&)> action) {
-    m_executor([weak = weak_from_this(), action = std::move(action)] {
+    const auto executor = m_executor.lock();
+    if (!*executor)
+        return;
+    (*executor)([weak = weak_from_this(), action = std::move(action)] {
         const std::shared_ptr<Private> self = weak.lock();
         if (self && self->m_isAlive)
             action(*self);

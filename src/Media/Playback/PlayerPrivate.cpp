@@ -22,6 +22,9 @@ constexpr std::chrono::milliseconds kPatience{50};
 /// Seeks that follow one another faster, and not farther apart (1/600 s), tell a direction.
 constexpr std::chrono::milliseconds kLongestPauseInDrag{500};
 constexpr double kFarthestInDrag = 3.0 * kComparisonTimescale;
+/// Far more than any work takes before it looks whether it is to stop, unless it reads from a disk
+/// that does not answer.
+constexpr std::chrono::milliseconds kLongestFarewell{500};
 
 SteadyTime now() {
     return std::chrono::steady_clock::now();
@@ -53,13 +56,6 @@ bool isTime(Time time) {
     return time.isNumeric() || time.value != 0;
 }
 
-template<typename Work>
-std::jthread namedThread(const char* name, Work work) {
-    std::jthread thread(std::move(work));
-    pthread_setname_np(thread.native_handle(), name);
-    return thread;
-}
-
 } // namespace
 
 Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutput> output)
@@ -73,16 +69,27 @@ Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutpu
 }
 
 void Player::Private::start() {
-    m_threads.push_back(
-        namedThread("player-video", [this](const std::stop_token& stop) { m_video.work(stop); }));
-    m_threads.push_back(
-        namedThread("player-audio", [this](const std::stop_token& stop) { m_audio.work(stop); }));
-    m_threads.push_back(namedThread(
-        "player-present", [this](const std::stop_token& stop) { m_presenter.work(stop); }));
+    startThread("player-video", [this](const std::stop_token& stop) { m_video.work(stop); });
+    startThread("player-audio", [this](const std::stop_token& stop) { m_audio.work(stop); });
+    startThread("player-present", [this](const std::stop_token& stop) { m_presenter.work(stop); });
+}
+
+void Player::Private::startThread(const char* name,
+                                  std::function<void(const std::stop_token&)> work) {
+    ++*m_runningThreads.lock();
+    m_threads.emplace_back([this, work = std::move(work)](const std::stop_token& stop) {
+        work(stop);
+        const auto running = m_runningThreads.lock();
+        --*running;
+        m_threadEnded.notify_all();
+    });
+    pthread_setname_np(m_threads.back().native_handle(), name);
 }
 
 void Player::Private::close() {
     m_isAlive = false;
+    setVideoSink(nullptr);
+    *m_executor.lock() = nullptr;
     for (std::jthread& thread : m_threads)
         thread.request_stop();
     StaleWork work;
@@ -91,6 +98,18 @@ void Player::Private::close() {
         work = {access->videoWork, access->audioWork};
     }
     work.stop();
+    if (waitForThreads())
+        joinThreads();
+    else
+        std::thread([self = shared_from_this()] { self->joinThreads(); }).detach();
+}
+
+bool Player::Private::waitForThreads() {
+    auto running = m_runningThreads.lock();
+    return m_threadEnded.wait_for(running.lock(), kLongestFarewell, [&] { return *running == 0; });
+}
+
+void Player::Private::joinThreads() {
     for (std::jthread& thread : m_threads)
         thread.join();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Media/Guarded.h"
 #include "Media/Playback/AudioPlayback.h"
 #include "Media/Playback/Presenter.h"
 #include "Media/Playback/Transport.h"
@@ -7,6 +8,8 @@
 #include "Media/Player.h"
 
 #include <cassert>
+#include <condition_variable>
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
@@ -24,6 +27,8 @@ public:
     Private(Executor executor, std::unique_ptr<playback::AudioOutput> output);
 
     void start();
+    /// Nothing is reported any more and the sink is let go. Threads that a disk keeps waiting are
+    /// left behind, with all that they use, and end when it answers.
     void close();
 
     void replaceCurrentItem(std::shared_ptr<const PlayerItem> item);
@@ -72,6 +77,11 @@ private:
     void abandonSeek();
     void finishSeek(std::uint64_t generation);
 
+    void startThread(const char* name, std::function<void(const std::stop_token&)> work);
+    /// Whether all threads have come to their end soon.
+    bool waitForThreads();
+    void joinThreads();
+
     /// Any thread: runs `action` on the owner's thread, unless the player is gone by then.
     void post(std::function<void(Private&)> action);
     void handle(const playback::PlaybackEvent& event);
@@ -82,8 +92,8 @@ private:
     [[nodiscard]] std::vector<Token> observerTokens() const;
     void reportRate(float rate);
 
-    /// Any thread.
-    const Executor m_executor;
+    /// Any thread. None once the player is closed: whom it posts to may be gone.
+    Guarded<Executor> m_executor;
     const std::thread::id m_owner = std::this_thread::get_id();
     bool m_isAlive = true;
 
@@ -99,6 +109,8 @@ private:
     playback::AudioPlayback m_audio;
     playback::Presenter m_presenter;
     std::vector<std::jthread> m_threads;
+    Guarded<std::size_t> m_runningThreads;
+    std::condition_variable m_threadEnded;
 };
 
 } // namespace media
