@@ -4,13 +4,13 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/DemuxerPool.h"
+#include "Media/FFmpeg/PacketFacts.h"
+#include "Media/FFmpeg/PresentationTimes.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
 #include <deque>
 #include <limits>
-#include <set>
-#include <span>
 
 namespace media {
 
@@ -27,52 +27,6 @@ constexpr std::int64_t kFirstStepBackTicks = kComparisonTimescale / 2;
 /// How much later than it is decoded a key frame may be shown.
 constexpr std::int64_t kLongestReorderTicks = kComparisonTimescale / 5;
 
-/// Whether "non-reference" means in this codec that no other picture depends on it.
-bool canSkipNonReference(AVCodecID codec) {
-    return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_MPEG2VIDEO ||
-           codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG4;
-}
-
-/// What an HEVC stream says of itself as MP4 and Matroska store it: how long the lengths in front
-/// of its units are, and how many temporal layers it has. None where it says nothing.
-struct HevcLayout {
-    unsigned lengthBytes = 4;
-    int layers = 1;
-};
-
-std::optional<HevcLayout> hevcLayout(const AVCodecParameters& parameters) {
-    constexpr int kLayoutByte = 21;
-    const std::uint8_t* data = parameters.extradata;
-    if (parameters.codec_id != AV_CODEC_ID_HEVC || parameters.extradata_size <= kLayoutByte ||
-        data[0] != 1)
-        return std::nullopt;
-    const int layers = data[kLayoutByte] >> 3 & 7;
-    if (layers == 0)
-        return std::nullopt;
-    return HevcLayout{(data[kLayoutByte] & 3U) + 1U, layers};
-}
-
-/// Whether no picture depends on the HEVC picture in the packet: its units say so for their own
-/// temporal layer, and there is none above it.
-bool isHevcNonReference(const AVPacket& packet, const HevcLayout& layout) {
-    constexpr unsigned kFirstOtherUnit = 32;
-    constexpr unsigned kFirstReservedPicture = 16;
-    const std::span bytes(packet.data, static_cast<std::size_t>(std::max(packet.size, 0)));
-    std::size_t at = 0;
-    while (at + layout.lengthBytes + 2 <= bytes.size()) {
-        std::size_t length = 0;
-        for (unsigned i = 0; i < layout.lengthBytes; ++i)
-            length = length << 8 | bytes[at + i];
-        at += layout.lengthBytes;
-        const unsigned type = bytes[at] >> 1 & 63U;
-        const int layer = (bytes[at + 1] & 7) - 1;
-        if (type < kFirstOtherUnit)
-            return type < kFirstReservedPicture && type % 2 == 0 && layer == layout.layers - 1;
-        at += length;
-    }
-    return false;
-}
-
 /// Whether the decoder gives out pictures although those they refer to are not there.
 bool decodesWithoutReferences(AVCodecID codec) {
     return codec == AV_CODEC_ID_HEVC || codec == AV_CODEC_ID_VVC;
@@ -87,7 +41,8 @@ public:
           m_track(m_asset->info().track(facts.streamIndex)),
           m_demuxer(m_asset->demuxers().take()),
           m_options(options),
-          m_hevcLayout(hevcLayout(*m_track.parameters)) {
+          m_disposability(*m_track.parameters),
+          m_times(m_asset->info(), m_track) {
         openDecoder();
         if (!ffmpeg::statesPresentationTimes(*m_asset->info().format))
             m_demuxer->findStreamInfo();
@@ -112,8 +67,12 @@ public:
         m_target = ticks;
         m_completeFrom = completeFrom;
         m_bestTicks = kNoTarget;
-        if (isAheadNearby(ticks))
-            return;
+        if (isAheadNearby(ticks)) {
+            fill(1, stop);
+            // The picture of a packet that was read ahead need not decode.
+            if (!m_queue.empty() && m_queue.front().ticks <= ticks)
+                return;
+        }
         const std::int64_t begin =
             beginAt < ticks && hasKeyFrameWithin(ticks - kShortRunTicks, beginAt) ? beginAt : ticks;
         reposition(begin, begin, stop);
@@ -130,7 +89,8 @@ public:
         // The index knows decoding times; its container goes by when a key frame is shown.
         const std::int64_t goal =
             hasKeyFrameAtHand ? std::min(middle + kLongestReorderTicks, latest) : latest;
-        if (hasKeyFrameAtHand || hasKeyFrameWithin(earliest, latest) || !isAheadNearby(earliest))
+        if (hasKeyFrameAtHand || hasKeyFrameWithin(earliest, latest) || m_queue.empty() ||
+            !isAheadNearby(earliest))
             reposition(goal, latest, stop);
         fill(1, stop);
         while (!m_queue.empty() && m_queue.front().ticks < earliest) {
@@ -163,6 +123,12 @@ public:
     }
 
 private:
+    /// A picture that is decoded without what follows it, and the tick at which that follows.
+    struct Alone {
+        std::int64_t begin = 0;
+        std::int64_t end = 0;
+    };
+
     void openDecoder() {
         m_decoder.emplace(*m_track.parameters, m_track.timeBase, m_options.threads);
         if (m_options.detail == Detail::thumbnail) {
@@ -194,21 +160,41 @@ private:
 
     /// Whether the frame at `ticks` is queued or best reached by decoding on.
     [[nodiscard]] bool isAheadNearby(std::int64_t ticks) {
-        if (m_queue.empty() || ticks < m_queue.front().ticks || ticks < m_gaplessFrom)
+        const std::optional<std::int64_t> next = nextTicks();
+        if (!next || ticks < *next || ticks < m_gaplessFrom)
             return false;
-        if (m_isDrained || m_queue.back().ticks > ticks)
+        const std::int64_t last = m_queue.empty() ? *next : m_queue.back().ticks;
+        if (m_isDrained || last > ticks)
             return true;
         const bool hasIndex = ffmpeg::statesPresentationTimes(*m_asset->info().format);
         const auto key = hasIndex ? keyFrameBefore(ticks) : std::nullopt;
         if (key && m_lastReadDts != AV_NOPTS_VALUE)
             return *key <= m_lastReadDts;
-        return ticks - m_queue.back().ticks <= kNearTicks;
+        return ticks - last <= kNearTicks;
+    }
+
+    /// Where the next frame begins, as far as it is known already.
+    [[nodiscard]] std::optional<std::int64_t> nextTicks() const {
+        if (!m_queue.empty())
+            return m_queue.front().ticks;
+        if (m_ahead.empty() || m_ahead.front()->pts == AV_NOPTS_VALUE)
+            return std::nullopt;
+        return ticksOf(*m_ahead.front());
+    }
+
+    [[nodiscard]] std::int64_t ticksOf(const AVPacket& packet) const {
+        return ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).comparisonTicks();
     }
 
     /// Drops queued frames until the first is the frame at `ticks`.
     void advanceTo(std::int64_t ticks, const std::stop_token& stop) {
-        while (fill(2, stop), m_queue.size() >= 2 && m_queue[1].ticks <= ticks)
+        fill(1, stop);
+        while (!m_queue.empty() && m_queue.front().knownEnd.value_or(ticks) <= ticks) {
+            fill(2, stop);
+            if (m_queue.size() < 2 || m_queue[1].ticks > ticks)
+                break;
             m_queue.pop_front();
+        }
     }
 
     void startIfNew(const std::stop_token& stop) {
@@ -246,19 +232,21 @@ private:
     void restart() {
         m_decoder->flush();
         m_queue.clear();
-        m_pendingDts.clear();
+        m_ahead.clear();
+        m_alone.reset();
+        m_isFresh = true;
+        m_times.clear();
         m_isDrained = false;
         m_isDraining = false;
         m_awaitsKeyFrame = false;
         m_lastReadDts = AV_NOPTS_VALUE;
         m_bestTicks = kNoTarget;
         m_gaplessFrom = kNoTarget;
-        m_lastTime = Time::negativeInfinity();
     }
 
     /// Decodes until `count` frames are queued or the track has ended.
     void fill(std::size_t count, const std::stop_token& stop) {
-        while (m_queue.size() < count && !m_isDrained) {
+        while ((m_queue.size() < count || m_alone) && !m_isDrained) {
             if (stop.stop_requested())
                 throw Cancelled();
             ffmpeg::FramePtr frame = ffmpeg::makeFrame();
@@ -270,7 +258,10 @@ private:
                 feed(stop);
                 break;
             case ffmpeg::Decoder::Status::endOfStream:
-                m_isDrained = true;
+                if (m_alone)
+                    finishAlone();
+                else
+                    m_isDrained = true;
                 break;
             }
         }
@@ -281,27 +272,65 @@ private:
             m_isDrained = true;
             return;
         }
-        if (m_demuxer->read(*m_packet, stop) == ffmpeg::Demuxer::Status::endOfFile) {
+        if (!hasAhead(1, stop)) {
             m_isDraining = true;
             m_decoder->send(nullptr);
             return;
         }
-        if (m_awaitsKeyFrame && !(m_packet->flags & AV_PKT_FLAG_KEY)) {
-            av_packet_unref(m_packet.get());
+        if (m_awaitsKeyFrame && !(m_ahead.front()->flags & AV_PKT_FLAG_KEY)) {
+            m_ahead.pop_front();
             return;
         }
         m_awaitsKeyFrame = false;
-        if (av_packet_get_side_data(m_packet.get(), AV_PKT_DATA_NEW_EXTRADATA, nullptr))
+        if (m_isFresh && m_target != kNoTarget)
+            m_alone = aloneAtTarget(stop);
+        m_isFresh = false;
+        send(*m_ahead.front());
+        m_ahead.pop_front();
+        if (m_alone)
+            m_decoder->send(nullptr);
+    }
+
+    void send(const AVPacket& packet) {
+        if (av_packet_get_side_data(&packet, AV_PKT_DATA_NEW_EXTRADATA, nullptr))
             m_hasNewParameters = true;
-        if (m_packet->dts != AV_NOPTS_VALUE) {
-            m_lastReadDts = m_packet->dts;
-            if (m_track.lacksPresentationTimes)
-                m_pendingDts.insert(m_packet->dts);
+        m_times.notePacket(packet);
+        m_decoder->context().skip_frame = isUnneeded(packet) ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+        m_decoder->send(&packet);
+    }
+
+    /// Reads until `count` packets wait for the decoder; false where the file ends before.
+    [[nodiscard]] bool hasAhead(std::size_t count, const std::stop_token& stop) {
+        while (m_ahead.size() < count) {
+            ffmpeg::PacketPtr packet = ffmpeg::makePacket();
+            if (m_demuxer->read(*packet, stop) == ffmpeg::Demuxer::Status::endOfFile)
+                return false;
+            if (packet->dts != AV_NOPTS_VALUE)
+                m_lastReadDts = packet->dts;
+            m_ahead.push_back(std::move(packet));
         }
-        m_decoder->context().skip_frame =
-            isUnneeded(*m_packet) ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
-        m_decoder->send(m_packet.get());
-        av_packet_unref(m_packet.get());
+        return true;
+    }
+
+    /// The picture of the first packet ahead, if it is certain to be the one at the target and
+    /// the packet after it to begin a run of decoding of its own.
+    [[nodiscard]] std::optional<Alone> aloneAtTarget(const std::stop_token& stop) {
+        if (m_track.lacksPresentationTimes || m_track.needsGeneratedTimes ||
+            m_track.isInterlaced() || !hasAhead(2, stop))
+            return std::nullopt;
+        if (!ffmpeg::isShownRightBefore(*m_ahead[0], *m_ahead[1], m_track.parameters->codec_id))
+            return std::nullopt;
+        const Alone alone{ticksOf(*m_ahead[0]), ticksOf(*m_ahead[1])};
+        const bool isAtTarget = alone.begin <= m_target && m_target < alone.end;
+        return isAtTarget ? std::optional(alone) : std::nullopt;
+    }
+
+    /// The decoder has nothing more to give of the picture that was decoded by itself.
+    void finishAlone() {
+        m_decoder->flush();
+        if (m_queue.size() == 1 && m_queue.front().ticks == m_alone->begin)
+            m_queue.front().knownEnd = m_alone->end;
+        m_alone.reset();
     }
 
     /// On the way to a target: whether a later picture, already read, will be shown at or before
@@ -309,68 +338,46 @@ private:
     [[nodiscard]] bool isUnneeded(const AVPacket& packet) {
         if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE || m_track.lacksPresentationTimes)
             return false;
-        const std::int64_t ticks =
-            ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).comparisonTicks();
+        const std::int64_t ticks = ticksOf(packet);
         if (ticks <= m_target)
             m_bestTicks = std::max(m_bestTicks, ticks);
         if (ticks >= m_bestTicks || ticks >= m_completeFrom)
             return false;
-        const bool canSkip = m_hevcLayout ? isHevcNonReference(packet, *m_hevcLayout)
-                                          : canSkipNonReference(m_track.parameters->codec_id);
-        if (!canSkip)
+        if (!m_disposability.mayBeLeftOut(packet))
             return false;
         m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
         return true;
     }
 
     void enqueue(ffmpeg::FramePtr frame) {
-        Time time = presentationTime(*frame);
-        if (m_lastTime.isNumeric() && time < m_lastTime)
-            time = m_lastTime;
-        m_lastTime = time;
-        const std::int64_t ticks = time.comparisonTicks();
-        m_queue.push_back({std::move(frame), time, ticks});
-    }
-
-    [[nodiscard]] Time presentationTime(const AVFrame& frame) {
-        std::int64_t timestamp =
-            frame.pts != AV_NOPTS_VALUE ? frame.pts : frame.best_effort_timestamp;
-        if (m_track.lacksPresentationTimes) {
-            timestamp = AV_NOPTS_VALUE;
-            if (!m_pendingDts.empty()) {
-                timestamp = *m_pendingDts.begin();
-                m_pendingDts.erase(m_pendingDts.begin());
-            }
-        }
-        if (timestamp != AV_NOPTS_VALUE)
-            return ffmpeg::assetTime(m_asset->info(), m_track, timestamp);
-        if (!m_lastTime.isNumeric())
-            return m_track.facts.startTime;
-        const double fps = m_track.facts.nominalFrameRate > 0 ? m_track.facts.nominalFrameRate : 25;
-        return m_lastTime + Time::fromSeconds(1 / fps, m_lastTime.timescale);
+        const Time time = m_times.next(*frame);
+        m_queue.push_back({std::move(frame), time, time.comparisonTicks()});
     }
 
     std::shared_ptr<const Asset> m_asset;
     const ffmpeg::SourceTrack& m_track;
     std::unique_ptr<ffmpeg::Demuxer> m_demuxer;
     Options m_options;
-    std::optional<HevcLayout> m_hevcLayout;
+    ffmpeg::Disposability m_disposability;
+    ffmpeg::PresentationTimes m_times;
     std::optional<ffmpeg::Decoder> m_decoder;
     /// The stream changed the decoder's parameters on its way.
     bool m_hasNewParameters = false;
-    ffmpeg::PacketPtr m_packet = ffmpeg::makePacket();
 
+    /// Packets that were read but not handed to the decoder yet.
+    std::deque<ffmpeg::PacketPtr> m_ahead;
     std::deque<DecodedFrame> m_queue;
-    /// Decoding times of pictures not yet given out, for tracks without presentation times.
-    std::multiset<std::int64_t> m_pendingDts;
     /// A borrowed demuxer may stand anywhere until the first move.
     bool m_isPositioned = false;
+    /// The decoder was given nothing since it was moved.
+    bool m_isFresh = true;
+    /// What the decoder is at if it was given one packet only, and told to give out its picture.
+    std::optional<Alone> m_alone;
     bool m_isDraining = false;
     bool m_isDrained = false;
     /// Moved to a place that need not be a random-access point.
     bool m_awaitsKeyFrame = false;
     std::int64_t m_lastReadDts = AV_NOPTS_VALUE;
-    Time m_lastTime = Time::negativeInfinity();
 
     /// The tick that a seek is on its way to, and the latest tick at or before it among the
     /// pictures read so far.

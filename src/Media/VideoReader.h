@@ -16,6 +16,9 @@ struct DecodedFrame {
     Time time;
     /// `time` in 1/600 s: the frame is "the frame at t" from this tick up to the next frame's.
     std::int64_t ticks = 0;
+    /// The next frame's ticks, where the packets tell it for certain and it was not decoded yet. It
+    /// may yet turn out not to decode; then the frame stands for later ticks too.
+    std::optional<std::int64_t> knownEnd = std::nullopt;
 };
 
 /// Decodes one video track in presentation order, from any position, by the frame rule: the frame

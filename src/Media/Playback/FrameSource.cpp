@@ -95,10 +95,9 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
         }
         m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
     }
-    const DecodedFrame* following = m_reader->peek(stop);
-    Decoded decoded{std::move(m_unfinished), 0, CachedFrame::kForever, true};
-    m_unfinished.reset();
-    m_nextTicks = decoded.end = following ? following->ticks : CachedFrame::kForever;
+    const std::int64_t end = endOf(*m_unfinished, stop);
+    Decoded decoded{std::exchange(m_unfinished, nullptr), 0, end, true};
+    m_nextTicks = end;
     const std::int64_t ticks = decoded.begin = decoded.frame->ticks;
     decoded.isComplete = m_reader->isCompleteFrom(ticks);
     const bool isFirst = std::exchange(m_hasMoved, false);
@@ -109,6 +108,14 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
     else if ((isFirst && ticks > goal.ticks) || (!decoded.isComplete && goal.ticks < decoded.end))
         decoded.begin = goal.ticks;
     return decoded;
+}
+
+/// Where the frame after the one decoded last begins.
+std::int64_t FrameSource::endOf(const DecodedFrame& frame, const std::stop_token& stop) {
+    if (frame.knownEnd)
+        return *frame.knownEnd;
+    const DecodedFrame* following = m_reader->peek(stop);
+    return following ? following->ticks : CachedFrame::kForever;
 }
 
 void FrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {

@@ -90,8 +90,11 @@ std::optional<CachedFrame> Presenter::findStep(Transport& transport) const {
                 transport.videoWake.raise();
                 return std::nullopt;
             }
-            step.begin = next->begin;
             step.end = next->end;
+            // A frame whose end was known from the packets shows longer where the one after it
+            // does not decode.
+            if (std::exchange(step.begin, next->begin) == next->begin)
+                continue;
             step.frame = std::move(next);
             step.left += step.left > 0 ? -1 : 1;
         }

@@ -1,5 +1,8 @@
 #include "PlayerStage.h"
 
+#include "Media/DamagedCopy.h"
+#include "TestSupport/TemporaryFolder.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -123,6 +126,27 @@ TEST(Player, answersSeeksThatWereReplacedInOrderAndShowsTheLast) {
     EXPECT_EQ(std::vector<bool>(answers.begin(), answers.end() - 1), std::vector<bool>(20, false));
     EXPECT_TRUE(answers.back());
     EXPECT_EQ(stage.sink.number(), frameAt(fixture, last));
+}
+
+TEST(Player, stepsOverAKeyFrameThatDoesNotDecode) {
+    const Fixture fixture =
+        makeFixture(silent({.duration = 2, .groupOfPictures = 1, .bFrames = 0}));
+    const testsupport::TemporaryFolder folder;
+    const auto path = folder / "damaged.mp4";
+    constexpr int kDamaged = 20;
+    copyDamaged(fixture.path, kDamaged, path);
+    PlayerStage stage;
+    stage.load(path);
+    const auto timeOf = [&](int number) {
+        return Time::fromSeconds(fixture.frames[static_cast<std::size_t>(number)].seconds, 600);
+    };
+    ASSERT_TRUE(stage.seekAndWait(timeOf(kDamaged - 1)));
+    EXPECT_EQ(stage.sink.number(), kDamaged - 1);
+    ASSERT_TRUE(stage.stepUntilShown(1, kDamaged + 1));
+    ASSERT_TRUE(stage.stepUntilShown(-1, kDamaged - 1));
+    ASSERT_TRUE(stage.seekAndWait(timeOf(kDamaged)));
+    EXPECT_EQ(stage.sink.number(), kDamaged - 1) << "it shows for longer";
+    ASSERT_TRUE(stage.stepUntilShown(1, kDamaged + 1));
 }
 
 TEST(Player, clampsSeeksToTheEndOfTheItem) {

@@ -1,0 +1,40 @@
+#include "Media/FFmpeg/PresentationTimes.h"
+
+namespace media::ffmpeg {
+
+void PresentationTimes::clear() {
+    m_pendingDts.clear();
+    m_last = Time::negativeInfinity();
+}
+
+void PresentationTimes::notePacket(const AVPacket& packet) {
+    if (packet.dts != AV_NOPTS_VALUE && m_track.lacksPresentationTimes)
+        m_pendingDts.insert(packet.dts);
+}
+
+Time PresentationTimes::next(const AVFrame& frame) {
+    Time time = timeOf(frame);
+    if (m_last.isNumeric() && time < m_last)
+        time = m_last;
+    m_last = time;
+    return time;
+}
+
+Time PresentationTimes::timeOf(const AVFrame& frame) {
+    std::int64_t timestamp = frame.pts != AV_NOPTS_VALUE ? frame.pts : frame.best_effort_timestamp;
+    if (m_track.lacksPresentationTimes) {
+        timestamp = AV_NOPTS_VALUE;
+        if (!m_pendingDts.empty()) {
+            timestamp = *m_pendingDts.begin();
+            m_pendingDts.erase(m_pendingDts.begin());
+        }
+    }
+    if (timestamp != AV_NOPTS_VALUE)
+        return assetTime(m_info, m_track, timestamp);
+    if (!m_last.isNumeric())
+        return m_track.facts.startTime;
+    const double fps = m_track.facts.nominalFrameRate > 0 ? m_track.facts.nominalFrameRate : 25;
+    return m_last + Time::fromSeconds(1 / fps, m_last.timescale);
+}
+
+} // namespace media::ffmpeg
