@@ -114,8 +114,12 @@ public:
         std::uint64_t shown = 0;
         /// Among those, the ones that were handed over more than 20 ms after their time.
         std::uint64_t late = 0;
+        /// Among those shown, the ones that a seek or playing found decoded already.
+        std::uint64_t fromCache = 0;
         /// Given up for a later one.
         std::uint64_t dropped = 0;
+        /// Given out by the decoder, for now or for later.
+        std::uint64_t decoded = 0;
     };
 
     [[nodiscard]] virtual Statistics statistics() const;

@@ -94,6 +94,7 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
             return std::nullopt;
         }
         m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
+        ++m_decodedCount;
     }
     const std::int64_t end = endOf(*m_unfinished, stop);
     Decoded decoded{std::exchange(m_unfinished, nullptr), 0, end, true};

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <stop_token>
+#include <utility>
 
 namespace media::playback {
 
@@ -81,6 +82,9 @@ public:
 
     [[nodiscard]] bool hasPassed() const { return !m_passed.empty(); }
 
+    /// How many frames were decoded since this was last asked.
+    std::uint64_t takeDecodedCount() { return std::exchange(m_decodedCount, 0); }
+
 private:
     /// A decoded frame with its place.
     struct Decoded {
@@ -120,6 +124,7 @@ private:
     /// Not rendered yet, in order.
     std::deque<Decoded> m_passed;
     std::size_t m_passedBytes = 0;
+    std::uint64_t m_decodedCount = 0;
 };
 
 } // namespace media::playback

@@ -50,8 +50,7 @@ std::optional<CachedFrame> Presenter::findSought(Transport& transport) const {
     auto frame = m_playback.cache.find(middle, transport.imageSize());
     if (!frame || seek.isExact())
         return frame;
-    const std::int64_t ticks = frame->time.comparisonTicks();
-    if (ticks < seek.earliest || ticks > seek.latest)
+    if (!seek.holds(frame->time.comparisonTicks()))
         return std::nullopt;
     seek.movesClock = true;
     return frame;
@@ -118,6 +117,7 @@ void Presenter::prepare(Access& access, const Find& find) {
     const bool isJump = find.purpose == Find::Purpose::seek || find.purpose == Find::Purpose::step;
     if (find.purpose == Find::Purpose::step && !transport.step)
         return;
+    frame.isFromCache = find.purpose == Find::Purpose::seek && !transport.seek->needsDecoding;
     if (isJump)
         arrive(transport, find);
     transport.immediate = ImmediateFrame{std::move(frame), isJump, find.generation};

@@ -27,6 +27,14 @@ nanoseconds dueTime(std::int64_t ticks) {
            nanoseconds(((halves % kHalfTicks) * kNanoTimescale + kHalfTicks - 1) / kHalfTicks);
 }
 
+void countShown(Transport& transport) {
+    if (!transport.shown.image)
+        return;
+    ++transport.statistics.shown;
+    if (transport.shown.isFromCache)
+        ++transport.statistics.fromCache;
+}
+
 } // namespace
 
 Presenter::Presenter(Playback& playback, Report report)
@@ -65,8 +73,7 @@ Presenter::Round Presenter::look(Transport& transport, SteadyTime now) {
 void Presenter::takeFrame(Transport& transport, SteadyTime now, Round& round) {
     if (transport.immediate) {
         transport.shown = std::move(transport.immediate->frame);
-        if (transport.shown.image)
-            ++transport.statistics.shown;
+        countShown(transport);
         if (transport.immediate->isJump)
             jump(transport, now, round);
         transport.immediate.reset();
@@ -107,7 +114,7 @@ void Presenter::takeDueFrames(Transport& transport, SteadyTime now, Round& round
         return;
     if (time - dueTime(transport.shown.time.comparisonTicks()) > kLate)
         ++transport.statistics.late;
-    ++transport.statistics.shown;
+    countShown(transport);
     transport.videoWake.raise();
     round.picture = transport.shown.timedImage();
 }

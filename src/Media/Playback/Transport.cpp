@@ -3,7 +3,7 @@
 namespace media::playback {
 
 ReadyFrame readyFrame(const CachedFrame& frame) {
-    return {frame.picture->image(), frame.time, frame.begin, frame.end};
+    return {frame.picture->image(), frame.time, frame.begin, frame.end, false};
 }
 
 std::optional<std::int64_t> StepProgress::nextTicks() const {

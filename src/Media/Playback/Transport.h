@@ -23,6 +23,8 @@ struct ReadyFrame {
     /// The ticks that it stands for, as CachedFrame has them.
     std::int64_t begin = 0;
     std::int64_t end = 0;
+    /// A seek or playing found it in the cache.
+    bool isFromCache = false;
 
     [[nodiscard]] TimedImage timedImage() const { return {image, time}; }
 
@@ -47,8 +49,14 @@ struct SeekRequest {
     std::int64_t latest = 0;
     /// The clock is set to the time of the frame that was found.
     bool movesClock = false;
+    /// The frame was not at hand.
+    bool needsDecoding = false;
 
     [[nodiscard]] bool isExact() const { return earliest == latest; }
+
+    [[nodiscard]] bool holds(std::int64_t ticks) const {
+        return earliest <= ticks && ticks <= latest;
+    }
 };
 
 /// A step that is under way.

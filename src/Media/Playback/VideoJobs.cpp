@@ -20,6 +20,8 @@ constexpr std::size_t kAheadBytes = std::size_t{48} << 20;
 constexpr milliseconds kRest{150};
 /// What is being foreseen so far away (1/600 s) from where the playhead has gone is given up.
 constexpr std::int64_t kFarAwayTicks = 4 * kComparisonTimescale;
+/// Between two looks whether the processor is free again.
+constexpr milliseconds kDemandPause{200};
 constexpr std::chrono::hours kIdle{1};
 
 bool hasRoom(const std::deque<ReadyFrame>& frames) {
@@ -61,11 +63,11 @@ bool VideoPlayback::chooseSeek(Transport& transport, Job& job) const {
     const std::int64_t middle = seek.earliest + (seek.latest - seek.earliest) / 2;
     const auto frame = m_playback.cache.find(middle, job.imageSize);
     job.kind = seek.isExact() ? Job::Kind::seek : Job::Kind::near;
-    if (!frame || !m_source)
+    const bool isIn = frame && (seek.isExact() || seek.holds(frame->time.comparisonTicks()));
+    if (!isIn || !m_source) {
+        transport.seek->needsDecoding = true;
         return true;
-    const std::int64_t ticks = frame->time.comparisonTicks();
-    if (!seek.isExact() && (ticks < seek.earliest || ticks > seek.latest))
-        return true;
+    }
     // It may have come there by the way.
     transport.presenterWake.raise();
     return false;
@@ -163,8 +165,12 @@ bool VideoPlayback::isForesightDue(const Transport& transport, SteadyTime now) c
 
 SteadyTime VideoPlayback::nextLook(const Transport& transport) const {
     const SteadyTime now = std::chrono::steady_clock::now();
+    if (m_framesToForesee <= 0)
+        return now + kIdle;
     const SteadyTime rested = transport.lastJump + kRest;
-    return m_framesToForesee > 0 && now < rested ? rested : now + kIdle;
+    if (now < rested)
+        return rested;
+    return ProcessorDemand::isHigh() ? now + kDemandPause : now + kIdle;
 }
 
 } // namespace media::playback

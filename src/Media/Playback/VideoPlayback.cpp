@@ -33,6 +33,8 @@ void VideoPlayback::work(const std::stop_token& stop) {
         std::optional<Job> job;
         {
             auto access = m_playback.transport.lock();
+            if (m_source)
+                access->statistics.decoded += m_source->takeDecodedCount();
             job = takeJob(*access);
             if (!job)
                 access->videoWake.wait(access, stop, nextLook(*access));
@@ -220,7 +222,7 @@ void VideoPlayback::queue(const Job& job) {
     if (isTooLate(job.frame->end, job))
         passOver(job, job.frame->end);
     else
-        pushUpcoming(job, *job.frame);
+        pushUpcoming(job, *job.frame, true);
 }
 
 void VideoPlayback::decodeAhead(const Job& job) {
@@ -237,7 +239,7 @@ void VideoPlayback::decodeAhead(const Job& job) {
         break;
     case FrameSource::Outcome::arrived:
         if (const auto frame = m_playback.cache.find(ticks, job.imageSize))
-            pushUpcoming(job, *frame);
+            pushUpcoming(job, *frame, false);
         break;
     case FrameSource::Outcome::nothing:
         giveUp(job);
@@ -251,8 +253,9 @@ bool VideoPlayback::isTooLate(std::int64_t end, const Job& job) const {
     return end <= job.now && now() - m_lastKept <= kLongestFreeze;
 }
 
-void VideoPlayback::pushUpcoming(const Job& job, const CachedFrame& frame) {
+void VideoPlayback::pushUpcoming(const Job& job, const CachedFrame& frame, bool isFromCache) {
     ReadyFrame ready = readyFrame(frame);
+    ready.isFromCache = isFromCache;
     m_lastKept = now();
     auto access = m_playback.transport.lock();
     if (access->generation != job.generation || !frame.holds(job.target.earliest) ||

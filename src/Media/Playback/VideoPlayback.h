@@ -79,7 +79,7 @@ private:
     [[nodiscard]] std::int64_t margin(const Job& job) const;
     void showProgress(const Job& job);
     [[nodiscard]] bool isTooLate(std::int64_t end, const Job& job) const;
-    void pushUpcoming(const Job& job, const CachedFrame& frame);
+    void pushUpcoming(const Job& job, const CachedFrame& frame, bool isFromCache);
     void passOver(const Job& job, std::int64_t end);
 
     Playback& m_playback;

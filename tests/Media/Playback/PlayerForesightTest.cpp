@@ -1,0 +1,63 @@
+#include "PlayerStage.h"
+
+#include "Media/ExportFixture.h"
+#include "Media/ProcessorDemand.h"
+#include "TestSupport/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+/// What a player decodes before anybody asks for it, and when it does not.
+namespace {
+
+using media::Time;
+using testsupport::Fixture;
+using testsupport::makeFixture;
+
+std::uint64_t decodedBy(const PlayerStage& stage) {
+    return stage.player->statistics().decoded;
+}
+
+Fixture longGroups() {
+    return makeFixture({.duration = 12, .groupOfPictures = 250, .bFrames = 3, .audioTracks = 0});
+}
+
+TEST(PlayerForesight, readsAheadOfAJumpAndAroundThePointsOfInterest) {
+    const Fixture fixture = longGroups();
+    PlayerStage stage;
+    stage.load(fixture.path);
+    const std::uint64_t before = decodedBy(stage);
+    stage.player->setPointsOfInterest({Time{6000, 600}});
+    ASSERT_TRUE(stage.pumpUntil([&] { return decodedBy(stage) >= before + 60 + 45; }))
+        << "two seconds ahead of the first frame, and one and a half around the point";
+    // What was read ahead is there at once.
+    const std::uint64_t fromCache = stage.player->statistics().fromCache;
+    for (const Time time : {Time{6000, 600}, Time{6100, 600}, Time{300, 600}})
+        ASSERT_TRUE(stage.seekAndWait(time));
+    EXPECT_EQ(stage.player->statistics().fromCache, fromCache + 3);
+}
+
+TEST(PlayerForesight, restsWhileAnExportRunsAndGoesOnAfterwards) {
+    const Fixture source = media::longFixture();
+    const testsupport::TemporaryFolder folder;
+    media::ExportSession session(media::compositionOf(media::Asset::open(source.path)),
+                                 folder / "exported.mp4", media::FileType::mpeg4);
+    const Fixture fixture = longGroups();
+    PlayerStage stage;
+    media::RunningExport running(session);
+    ASSERT_TRUE(running.waitForProgress(0.01));
+    stage.load(fixture.path);
+    ASSERT_TRUE(stage.seekAndWait(Time{3000, 600}));
+    const std::uint64_t wanted = decodedBy(stage);
+    ASSERT_TRUE(running.waitForProgress(0.6));
+    const std::uint64_t meanwhile = decodedBy(stage);
+    const bool wasStillRunning = media::ProcessorDemand::isHigh();
+    running.requestStop();
+    running.join();
+    ASSERT_TRUE(wasStillRunning);
+    // The frame that arrived may not have been counted yet.
+    EXPECT_LE(meanwhile, wanted + 1) << "nothing was asked for meanwhile";
+    EXPECT_TRUE(stage.pumpUntil([&] { return decodedBy(stage) >= wanted + 60; }))
+        << "nobody has to touch the player for it to go on";
+}
+
+} // namespace
