@@ -80,8 +80,22 @@ TEST(Bench, playTellsFramesAndProcessorTime) {
     const ProcessResult result = bench({"play", source(), "1"});
     EXPECT_EQ(result.exitStatus, 0) << result.errors;
     EXPECT_THAT(result.output, MatchesRegex(std::string(R"(\{"cpuSeconds":)") + kNumber +
-                                            R"(,"dropped":[0-9]+,"late":[0-9]+,"shown":[1-9][0-9]*)"
-                                            "\\}\n"));
+                                            R"(,"dropped":[0-9]+,"height":[1-9][0-9]*)"
+                                            R"(,"late":[0-9]+,"shown":[1-9][0-9]*)"
+                                            R"(,"width":[1-9][0-9]*\})"
+                                            "\n"));
+}
+
+TEST(Bench, windowsTellsTheirMemory) {
+    const TemporaryFolder folder;
+    const std::string times = folder / "times.json";
+    std::ofstream(times) << "[1, 0.5]";
+    const ProcessResult result = bench({"windows", times, source(), source()});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors;
+    const std::string number = kNumber;
+    EXPECT_THAT(result.output,
+                MatchesRegex(R"(\{"exact":[1-9][0-9]*,"openedMiB":)" + number + R"(,"peakMiB":)" +
+                             number + R"(,"windows":2\})" + "\n"));
 }
 
 TEST(Bench, failsWithAReason) {
@@ -90,6 +104,7 @@ TEST(Bench, failsWithAReason) {
     EXPECT_EQ(bench({"open"}).exitStatus, 2);
     EXPECT_EQ(bench({"step", source(), "1", "none"}).exitStatus, 2);
     EXPECT_EQ(bench({"drag", source()}).exitStatus, 2);
+    EXPECT_EQ(bench({"windows", "times.json"}).exitStatus, 2);
     EXPECT_EQ(bench({"scrub", source(), "times.json", "--size", "wide"}).exitStatus, 2);
     EXPECT_EQ(bench({"scrub", source(), folder / "missing.json"}).exitStatus, 1);
     const ProcessResult result = bench({"open", folder / "missing.mp4"});

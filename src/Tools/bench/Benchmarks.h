@@ -38,7 +38,19 @@ struct PlayFigures {
     std::uint64_t shown = 0;
     std::uint64_t late = 0;
     std::uint64_t dropped = 0;
+    /// Of the whole process while it played.
     double cpuSeconds = 0;
+    /// The picture in device pixels.
+    QSize pictureSize;
+};
+
+struct WindowsFigures {
+    std::uint64_t windows = 0;
+    /// Exact frames shown in all of them.
+    std::uint64_t exact = 0;
+    /// Of the whole process: with all files open, and in the end.
+    double openedMiB = 0;
+    double peakMiB = 0;
 };
 
 /// All of these run the main event loop while they measure, need a QApplication, and throw
@@ -56,10 +68,15 @@ ScrubFigures step(const std::filesystem::path& source, double from, int count, Q
 /// Seeks the player of a window to one time after another, 60 each second, as a drag does.
 DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times);
 
+/// Opens each file in a window of its own, and then drags in one window after the other as above.
+WindowsFigures windows(const std::vector<std::filesystem::path>& sources,
+                       const std::vector<double>& times);
+
 /// Milliseconds from telling a window to open the file until its first frame has been painted.
 double open(const std::filesystem::path& source);
 
-/// Plays the file in a window for that many seconds, or to its end.
+/// Plays the file in a window for that many seconds, or to its end, after those that may have been
+/// decoded before.
 PlayFigures play(const std::filesystem::path& source, double seconds);
 
 /// Milliseconds from `start` until the program's empty window has been painted.

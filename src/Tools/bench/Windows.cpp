@@ -20,6 +20,9 @@ namespace brisklet::bench {
 
 namespace {
 
+/// What an idle player has decoded ahead at most.
+constexpr double kReadAheadSeconds = 2.1;
+
 double millisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
@@ -30,19 +33,22 @@ double cpuSeconds(clockid_t clock = CLOCK_PROCESS_CPUTIME_ID) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
-/// The program's own window, shown and painted, that closes at the end.
+/// A window of the program, shown and painted.
 class ShownWindow {
 public:
-    ShownWindow() : m_window(m_app.openWindow()) {
+    explicit ShownWindow(BriskletApp& app) : m_window(app.openWindow()) {
         bool isPainted = false;
         const PaintWatch watch(*m_window, [&] { isPainted = true; });
         waitUntil([&] { return isPainted; });
     }
 
-    ShownWindow(const ShownWindow&) = delete;
-    ShownWindow& operator=(const ShownWindow&) = delete;
-
     [[nodiscard]] EditState& state() const { return *m_window->state(); }
+
+    /// The picture in device pixels; empty before there is one.
+    [[nodiscard]] QSize pictureSize() const {
+        const auto* view = m_window->findChild<PlayerLayerView*>();
+        return (view->videoRect().size() * view->devicePixelRatio()).toSize();
+    }
 
     /// Opens the file and waits for its first frame; gives the milliseconds that took.
     double open(const std::filesystem::path& source) {
@@ -60,8 +66,12 @@ public:
         return *duration;
     }
 
+    /// Waits for the filmstrip, whose making is no part of what is measured.
+    void finishFilmstrip() const {
+        waitUntil([&] { return !state().thumbnails().isEmpty(); });
+    }
+
 private:
-    BriskletApp m_app;
     WindowRootView* m_window;
 };
 
@@ -109,14 +119,8 @@ double peakMiB() {
     return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
-} // namespace
-
-DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times) {
-    ShownWindow window;
-    window.open(source);
-    // Making the filmstrip is no part of dragging.
-    waitUntil([&] { return !window.state().thumbnails().isEmpty(); });
-
+/// Seeks to all the times, 60 each second, and waits for the last exact frame.
+DragFigures dragIn(ShownWindow& window, const std::vector<double>& times) {
     DragFigures figures;
     double lastExact = -1;
     window.state().playerController().onTick = [&](double time) {
@@ -135,40 +139,85 @@ DragFigures drag(const std::filesystem::path& source, const std::vector<double>&
     // The last one is exact in any case.
     const double last = window.state().playerController().player()->currentTime().seconds();
     waitUntil([&] { return figures.exact > 0 && lastExact == last; });
+    window.state().playerController().onTick = nullptr;
     figures.longestBlock = watchdog.longest();
     figures.longestOwnBlock = watchdog.longestOwn();
     figures.peakMiB = peakMiB();
     return figures;
 }
 
+/// Runs the event loop for so long.
+void rest(std::chrono::seconds duration) {
+    const auto end = Clock::now() + duration;
+    waitUntil([&] { return Clock::now() >= end; });
+}
+
+} // namespace
+
+DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times) {
+    BriskletApp app;
+    ShownWindow window(app);
+    window.open(source);
+    window.finishFilmstrip();
+    return dragIn(window, times);
+}
+
+WindowsFigures windows(const std::vector<std::filesystem::path>& sources,
+                       const std::vector<double>& times) {
+    // What is read ahead after the last drag, in all windows, counts too.
+    constexpr std::chrono::seconds kRest{10};
+    BriskletApp app;
+    WindowsFigures figures;
+    std::vector<ShownWindow> windows;
+    windows.reserve(sources.size());
+    for (const std::filesystem::path& source : sources) {
+        windows.emplace_back(app).open(source);
+        windows.back().finishFilmstrip();
+    }
+    figures.openedMiB = peakMiB();
+    for (ShownWindow& window : windows)
+        figures.exact += dragIn(window, times).exact;
+    rest(kRest);
+    figures.windows = windows.size();
+    figures.peakMiB = peakMiB();
+    return figures;
+}
+
 double open(const std::filesystem::path& source) {
-    return ShownWindow().open(source);
+    BriskletApp app;
+    return ShownWindow(app).open(source);
 }
 
 PlayFigures play(const std::filesystem::path& source, double seconds) {
-    ShownWindow window;
+    BriskletApp app;
+    ShownWindow window(app);
     window.open(source);
-    // Making the filmstrip is no part of playing.
-    waitUntil([&] { return !window.state().thumbnails().isEmpty(); });
+    window.finishFilmstrip();
 
     media::Player& player = *window.state().playerController().player();
+    bool hasStarted = false;
+    const auto playFor = [&](double duration) {
+        const auto end = Clock::now() + std::chrono::duration<double>(duration);
+        waitUntil([&] {
+            hasStarted = hasStarted || window.state().isPlaying();
+            return Clock::now() >= end || (hasStarted && !window.state().isPlaying());
+        });
+    };
+    player.play();
+    playFor(kReadAheadSeconds);
     const auto before = player.statistics();
     const double cpuBefore = cpuSeconds();
-    const auto end = Clock::now() + std::chrono::duration<double>(seconds);
-    player.play();
-    bool hasStarted = false;
-    waitUntil([&] {
-        hasStarted = hasStarted || window.state().isPlaying();
-        return Clock::now() >= end || (hasStarted && !window.state().isPlaying());
-    });
-    player.pause();
+    playFor(seconds);
     const auto after = player.statistics();
+    const double cpuAfter = cpuSeconds();
+    player.pause();
     return {after.shown - before.shown, after.late - before.late, after.dropped - before.dropped,
-            cpuSeconds() - cpuBefore};
+            cpuAfter - cpuBefore, window.pictureSize()};
 }
 
 double startup(Clock::time_point start) {
-    const ShownWindow window;
+    BriskletApp app;
+    const ShownWindow window(app);
     return millisecondsSince(start);
 }
 

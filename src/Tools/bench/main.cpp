@@ -27,6 +27,7 @@ constexpr QSize kUsualSize(960, 540);
 constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [--size WxH]\n"
                                "       brisklet-bench step SOURCE SECONDS COUNT [--size WxH]\n"
                                "       brisklet-bench drag SOURCE TIMES.json\n"
+                               "       brisklet-bench windows TIMES.json SOURCE...\n"
                                "       brisklet-bench open SOURCE\n"
                                "       brisklet-bench play SOURCE SECONDS\n"
                                "       brisklet-bench startup\n";
@@ -129,6 +130,16 @@ void runDrag(const std::vector<std::string>& operands) {
            {QStringLiteral("peakMiB"), figures.peakMiB}});
 }
 
+void runWindows(const std::vector<std::string>& operands) {
+    if (operands.size() < 2)
+        throw UsageError("windows takes TIMES.json SOURCE...");
+    const auto figures = windows({operands.begin() + 1, operands.end()}, readTimes(operands[0]));
+    print({{QStringLiteral("windows"), static_cast<qint64>(figures.windows)},
+           {QStringLiteral("exact"), static_cast<qint64>(figures.exact)},
+           {QStringLiteral("openedMiB"), figures.openedMiB},
+           {QStringLiteral("peakMiB"), figures.peakMiB}});
+}
+
 void runPlay(const std::vector<std::string>& operands) {
     if (operands.size() != 2)
         throw UsageError("play takes SOURCE SECONDS");
@@ -136,7 +147,9 @@ void runPlay(const std::vector<std::string>& operands) {
     print({{QStringLiteral("shown"), static_cast<qint64>(figures.shown)},
            {QStringLiteral("late"), static_cast<qint64>(figures.late)},
            {QStringLiteral("dropped"), static_cast<qint64>(figures.dropped)},
-           {QStringLiteral("cpuSeconds"), figures.cpuSeconds}});
+           {QStringLiteral("cpuSeconds"), figures.cpuSeconds},
+           {QStringLiteral("width"), figures.pictureSize.width()},
+           {QStringLiteral("height"), figures.pictureSize.height()}});
 }
 
 void runBenchmark(const std::string& name, const std::vector<std::string>& operands,
@@ -147,6 +160,8 @@ void runBenchmark(const std::string& name, const std::vector<std::string>& opera
         runStep(operands);
     } else if (name == "drag") {
         runDrag(operands);
+    } else if (name == "windows") {
+        runWindows(operands);
     } else if (name == "open" && operands.size() == 1) {
         std::printf("%.1f\n", open(operands[0]));
     } else if (name == "play") {

@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# What a second of playing a 1080p file with sound costs, against mpv with its x11 output at the
+# same size of picture. On an X display, and with a sound server that has nothing but a null sink,
+# of its own. Needs mpv, python3, Xvfb and pulseaudio.
+#
+#     bench/play.sh [SECONDS]      (default: 15)
+source "$(dirname "$0")/common.sh"
+seconds=${1:-15}
+source=$(minuteFile)
+
+export XDG_RUNTIME_DIR="$scratch" PULSE_RUNTIME_PATH="$scratch/pulse" HOME="$scratch"
+unset PULSE_SERVER
+Xvfb -displayfd 3 -screen 0 1280x800x24 -noreset -nolisten tcp 3>"$scratch/display" 2>/dev/null &
+servers=($!)
+pulseaudio -n --daemonize=no --exit-idle-time=-1 --log-level=error \
+    -L module-native-protocol-unix -L "module-null-sink sink_name=null rate=48000" &
+servers+=($!)
+trap 'kill "${servers[@]}"; wait; rm -rf "$scratch"' EXIT
+until [[ -s "$scratch/display" ]] && pactl info >/dev/null 2>&1; do sleep 0.1; done
+DISPLAY=":$(<"$scratch/display")"
+export DISPLAY QT_QPA_PLATFORM=xcb
+
+# field NAME: of the line of JSON on standard input.
+field() { python3 -c "import json, sys; print(json.load(sys.stdin)['$1'])"; }
+perSecond() { awk -v a="$(field cpuSeconds)" -v b="$seconds" 'BEGIN { printf "%.4f", a / b }'; }
+
+printMachine
+ours=()
+peers=()
+for ((pair = 0; pair < pairs; ++pair)); do
+    line=$("$bin/brisklet-bench" play "$source" "$seconds" 2>/dev/null)
+    size=$(field width <<<"$line")x$(field height <<<"$line")
+    ours+=("$(perSecond <<<"$line")")
+    peer=$("$root/bench/Play/mpv-cpu" "$source" "$seconds" "$size")
+    peers+=("$(perSecond <<<"$peer")")
+    echo "  $size: brisklet $line"
+    echo "  $size: mpv      $peer"
+done
+ours=$(median "${ours[@]}")
+peers=$(median "${peers[@]}")
+echo "processor seconds for a second: brisklet $ours, mpv $peers, ratio $(ratio "$ours" "$peers")"
