@@ -135,10 +135,12 @@ private:
 
 /// In the middle of a group.
 constexpr Time kStart{3000, 600};
+/// No whole number of periods of the tone later, so that a break would be heard.
+constexpr Time kEnd{3620, 600};
 
 TEST(PlayerLoop, showsTheFramesOfTheRangeInOrderAndNothingElse) {
     const Toned toned(320, 240);
-    LoopStage loop(toned, kStart, Time{3600, 600});
+    LoopStage loop(toned, kStart, kEnd);
     ASSERT_NO_FATAL_FAILURE(loop.play(4));
     const int first = loop.firstNumber();
     int previous = first;
@@ -166,7 +168,7 @@ TEST(PlayerLoop, takesTheFirstFramesOfEachRoundFromTheCache) {
 
 TEST(PlayerLoop, doesNotClick) {
     const Toned toned(320, 240);
-    LoopStage loop(toned, kStart, Time{3600, 600});
+    LoopStage loop(toned, kStart, kEnd);
     ASSERT_NO_FATAL_FAILURE(loop.play(4));
     EXPECT_EQ(loop.stage.device.openCount(), 1) << "one stream, heard without a break";
     const std::vector<float> heard = loop.device.takeHeard();
