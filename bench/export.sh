@@ -9,8 +9,8 @@
 source "$(dirname "$0")/common.sh"
 
 parameters264=subme=2:qcomp=0.8:b-adapt=0:aq-strength=0.9
-ours264=(-c:v libx264 -preset superfast -crf 17.2 -x264-params "$parameters264")
-handBrake264=(-e x264 --encoder-preset superfast -q 17.2 -x "$parameters264")
+ours264=(-c:v libx264 -preset superfast -crf 16.6 -x264-params "$parameters264")
+handBrake264=(-e x264 --encoder-preset superfast -q 16.6 -x "$parameters264")
 ours265=(-c:v libx265 -preset ultrafast -crf 11 -x265-params log-level=none -tag:v hvc1)
 aim264=(-c:v libx264 -preset medium -crf 16)
 aim265=(-c:v libx265 -preset medium -crf 18 -x265-params log-level=none -tag:v hvc1)

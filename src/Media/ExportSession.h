@@ -21,7 +21,7 @@ struct EncoderSettings {
     /// it costs; more for complex pictures is where this preset falls behind slower ones; weighing
     /// how many B pictures to use, and more bits for flat areas, are not worth their price.
     std::string h264Parameters = "subme=2:qcomp=0.8:b-adapt=0:aq-strength=0.9";
-    double h264Crf = 17.2;
+    double h264Crf = 16.6;
     /// HEVC Main 10 for deeper or HDR sources (libx265).
     std::string hevcPreset = "ultrafast";
     double hevcCrf = 11;
