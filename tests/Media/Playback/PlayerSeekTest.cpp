@@ -130,9 +130,9 @@ TEST(Player, answersSeeksThatWereReplacedInOrderAndShowsTheLast) {
 
 TEST(Player, stepsOverAKeyFrameThatDoesNotDecode) {
     const Fixture fixture =
-        makeFixture(silent({.duration = 2, .groupOfPictures = 1, .bFrames = 0}));
+        makeFixture(silent({.codec = VideoCodec::mjpeg, .container = "mov", .duration = 2}));
     const testsupport::TemporaryFolder folder;
-    const auto path = folder / "damaged.mp4";
+    const auto path = folder / "damaged.mov";
     constexpr int kDamaged = 20;
     copyDamaged(fixture.path, kDamaged, path);
     PlayerStage stage;
