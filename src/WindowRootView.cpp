@@ -131,6 +131,7 @@ void WindowRootView::askToStopExport() {
                                       tr("Stop the export and close?"), QMessageBox::Cancel,
                                       sheet != nullptr ? sheet : this);
     m_closeQuestion->addButton(tr("Stop and Close"), QMessageBox::AcceptRole);
+    m_closeQuestion->setDefaultButton(QMessageBox::Cancel);
     m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_closeQuestion, &QMessageBox::accepted, this, &WindowRootView::closeNow);
     m_closeQuestion->open();

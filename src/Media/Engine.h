@@ -35,7 +35,7 @@ public:
 };
 
 /// The engine. The first call loads it, which takes some tens of milliseconds; calls meanwhile wait
-/// for that. Throws Error if it can't be loaded, or is not of this version of the program.
+/// for that. Throws Error if it can't be loaded, or has other classes than this program knows.
 const Engine& engine();
 
 } // namespace media

@@ -5,6 +5,7 @@
 #include <string_view>
 
 extern "C" [[gnu::visibility("default")]] const media::Engine*
-briskletMediaEngine(const char* version) {
-    return std::string_view(version) == BRISKLET_VERSION ? &media::builtInEngine() : nullptr;
+briskletMediaEngine(const char* interface) {
+    return std::string_view(interface) == BRISKLET_ENGINE_INTERFACE ? &media::builtInEngine()
+                                                                    : nullptr;
 }

@@ -4,9 +4,9 @@ namespace media {
 
 class Engine;
 
-/// The one symbol of the engine's module: gives the engine, or null where `version` is not the
-/// version that the module was built as part of.
-using EngineEntry = const Engine* (*)(const char* version);
+/// The one symbol of the engine's module: gives the engine, or null where `interface`, a
+/// fingerprint of the classes that cross over, is not that of the module.
+using EngineEntry = const Engine* (*)(const char* interface);
 inline constexpr const char* kEngineEntryName = "briskletMediaEngine";
 
 } // namespace media

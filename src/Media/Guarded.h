@@ -40,7 +40,7 @@ public:
 
 private:
     std::mutex m_mutex;
-    T m_value;
+    T m_value{};
 };
 
 /// Rouses one thread that waits for a change of the guarded value which this wake is part of.

@@ -25,7 +25,7 @@ const Engine& loadEngine() {
     if (module == nullptr)
         throw Error(std::string("The media engine can’t be loaded: ") + ::dlerror() + ".");
     const auto entry = reinterpret_cast<EngineEntry>(::dlsym(module, kEngineEntryName));
-    const Engine* engine = entry != nullptr ? entry(BRISKLET_VERSION) : nullptr;
+    const Engine* engine = entry != nullptr ? entry(BRISKLET_ENGINE_INTERFACE) : nullptr;
     // An update replaces it below a program that runs.
     if (engine == nullptr)
         throw Error("Brisklet has been updated. Start it again.");

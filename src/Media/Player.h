@@ -15,8 +15,8 @@ class AudioOutput;
 }
 
 /// Runs a callable later on the thread that owns a player, in the order given. The program posts
-/// to its main loop; tests pump by hand. Must be callable from any thread, and may be called
-/// after the player is gone.
+/// to its main loop; tests pump by hand. Called on any thread, until the player is gone; must not
+/// run the callable before it returns. What was posted may run later than that.
 using Executor = std::function<void(std::function<void()>)>;
 
 /// Receives the frames of one player. Called on a media thread, with no lock held; must return

@@ -4,6 +4,7 @@
 #include "Support/ImageConversion.h"
 #include "Support/Workers.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace brisklet::Thumbnailer {
@@ -11,6 +12,8 @@ namespace brisklet::Thumbnailer {
 namespace {
 
 constexpr int kMaximumHeight = 120;
+/// How far an image may lie from the middle of its slice; in short videos it stays within the
+/// slice.
 constexpr double kToleranceSeconds = 0.5;
 
 media::Time middleOfSlice(int index, double duration, int count) {
@@ -33,8 +36,8 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
     try {
         const auto generator = media::ImageGenerator::make(asset);
         generator->setMaximumSize(0, kMaximumHeight);
-        const media::Time tolerance =
-            media::Time::fromSeconds(kToleranceSeconds, media::kComparisonTimescale);
+        const media::Time tolerance = media::Time::fromSeconds(
+            std::min(kToleranceSeconds, duration / count / 2), media::kComparisonTimescale);
         generator->setTolerance(tolerance, tolerance);
         for (int index = 0; index < count && !stop.stop_requested(); ++index) {
             try {

@@ -8,9 +8,7 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <memory>
-#include <thread>
 
 /// Sources on a disk that is slow, does not answer, or breaks while they are read.
 namespace media {
@@ -88,8 +86,7 @@ TEST_F(SlowSource, thatDoesNotAnswerDoesNotHoldUpAClosingPlayer) {
     m_disk.setStalled(true);
     seekExactly(*stage.player, Time::fromSeconds(15, kComparisonTimescale));
     stage.player->play();
-    // Until it reads.
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    ASSERT_TRUE(waitUntil([&] { return m_disk.isAwaited(); }));
     stage.player.reset();
     EXPECT_FALSE(item.expired()) << "nobody waits for the disk";
     m_disk.setStalled(false);

@@ -3,8 +3,8 @@
 //
 //     slow-disk FOLDER MOUNT-POINT BYTES-PER-SECOND
 //
-// While FOLDER holds a file named "stalled", reading waits; while it holds one named "broken",
-// reading fails. Ends, and unmounts, with the process that started it.
+// While FOLDER holds a file named "stalled", reading waits, and FOLDER gets a file "awaited"; while
+// it holds one named "broken", reading fails. Ends, and unmounts, with the process that started it.
 #define FUSE_USE_VERSION 31
 #include <fuse.h>
 
@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <string>
 #include <sys/prctl.h>
@@ -57,8 +58,10 @@ int open(const char* path, fuse_file_info* file) {
 
 int read(const char*, char* buffer, std::size_t size, off_t offset, fuse_file_info* file) {
     using namespace std::chrono_literals;
-    while (std::filesystem::exists(folder / "stalled"))
+    while (std::filesystem::exists(folder / "stalled")) {
+        std::ofstream(folder / "awaited");
         std::this_thread::sleep_for(5ms);
+    }
     if (std::filesystem::exists(folder / "broken"))
         return -EIO;
     const ssize_t count = ::pread(static_cast<int>(file->fh), buffer, size, offset);

@@ -61,6 +61,10 @@ std::filesystem::path SlowDisk::holding(const std::filesystem::path& file) const
     return m_mountPoint / file.filename();
 }
 
+bool SlowDisk::isAwaited() const {
+    return std::filesystem::exists(m_content / "awaited");
+}
+
 void SlowDisk::setFlag(const char* name, bool isSet) const {
     if (isSet)
         std::ofstream(m_content / name);

@@ -26,6 +26,9 @@ public:
     /// Whether whoever reads from it has to wait.
     void setStalled(bool isStalled) const { setFlag("stalled", isStalled); }
 
+    /// Whether somebody has had to wait for it.
+    bool isAwaited() const;
+
     /// Whether reading from it fails.
     void setBroken(bool isBroken) const { setFlag("broken", isBroken); }
 

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 /// The module with the media engine, as the programs find it.
@@ -60,7 +61,19 @@ TEST_F(EngineTest, isMissedWithASentence) {
     EXPECT_THAT(result.errors, testing::HasSubstr("The media engine can’t be loaded: "));
 }
 
-TEST_F(EngineTest, isRefusedWhenItBelongsToAnotherVersion) {
+TEST_F(EngineTest, isRefusedWhenItHasOtherClassesThanTheProgram) {
+    std::ifstream original(BRISKLET_ENGINE, std::ios::binary);
+    std::string content{std::istreambuf_iterator<char>(original), {}};
+    const auto at = content.find(BRISKLET_ENGINE_INTERFACE);
+    ASSERT_NE(at, std::string::npos);
+    content[at] = content[at] == '0' ? '1' : '0';
+    std::ofstream(m_module, std::ios::binary) << content;
+    const auto result = probe();
+    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_THAT(result.errors, testing::HasSubstr("Brisklet has been updated. Start it again."));
+}
+
+TEST_F(EngineTest, isRefusedWhenItIsAnythingElse) {
     fs::copy_file(otherLibrary(), m_module);
     const auto result = probe();
     EXPECT_EQ(result.exitStatus, 1);

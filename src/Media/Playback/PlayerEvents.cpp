@@ -42,6 +42,7 @@ void Player::Private::removeObserver(Token token) {
 }
 
 void Player::Private::post(std::function<void(Private&)> action) {
+    // Held while it posts, so that close() returns after the last call of it.
     const auto executor = m_executor.lock();
     if (!*executor)
         return;

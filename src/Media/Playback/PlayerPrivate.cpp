@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <chrono>
+#include <system_error>
 
 namespace media {
 
@@ -69,6 +70,7 @@ Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutpu
 }
 
 void Player::Private::start() {
+    *m_runningThreads.lock() = 3;
     startThread("player-video", [this](const std::stop_token& stop) { m_video.work(stop); });
     startThread("player-audio", [this](const std::stop_token& stop) { m_audio.work(stop); });
     startThread("player-present", [this](const std::stop_token& stop) { m_presenter.work(stop); });
@@ -76,7 +78,6 @@ void Player::Private::start() {
 
 void Player::Private::startThread(const char* name,
                                   std::function<void(const std::stop_token&)> work) {
-    ++*m_runningThreads.lock();
     m_threads.emplace_back([this, work = std::move(work)](const std::stop_token& stop) {
         work(stop);
         const auto running = m_runningThreads.lock();
@@ -101,7 +102,15 @@ void Player::Private::close() {
     if (waitForThreads())
         joinThreads();
     else
+        leaveThreadsBehind();
+}
+
+void Player::Private::leaveThreadsBehind() {
+    try {
         std::thread([self = shared_from_this()] { self->joinThreads(); }).detach();
+    } catch (const std::system_error&) {
+        joinThreads();
+    }
 }
 
 bool Player::Private::waitForThreads() {

@@ -81,6 +81,7 @@ private:
     /// Whether all threads have come to their end soon.
     bool waitForThreads();
     void joinThreads();
+    void leaveThreadsBehind();
 
     /// Any thread: runs `action` on the owner's thread, unless the player is gone by then.
     void post(std::function<void(Private&)> action);
@@ -108,9 +109,11 @@ private:
     playback::VideoPlayback m_video;
     playback::AudioPlayback m_audio;
     playback::Presenter m_presenter;
-    std::vector<std::jthread> m_threads;
-    Guarded<std::size_t> m_runningThreads;
+
+    Guarded<std::size_t> m_runningThreads{0};
     std::condition_variable m_threadEnded;
+    // The last, so that whatever they use outlives them.
+    std::vector<std::jthread> m_threads;
 };
 
 } // namespace media

@@ -71,6 +71,17 @@ TEST(Player, tellsTheEndTimeBetweenTheRateAndTheEnd) {
     EXPECT_EQ(stage.times.back(), endOf(stage).seconds());
 }
 
+TEST(Player, leavesNothingBehindWhenItGoes) {
+    for (int round = 0; round < 20; ++round) {
+        PlayerStage stage;
+        stage.load(makeFixture({}).path);
+        stage.player->play();
+        const std::weak_ptr<const media::PlayerItem> item = stage.player->currentItem();
+        stage.player.reset();
+        EXPECT_TRUE(item.expired());
+    }
+}
+
 TEST(Player, endsAtOnceWhenPlayedAtTheEnd) {
     const Fixture fixture = silentSeconds(1);
     PlayerStage stage;
