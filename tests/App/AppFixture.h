@@ -5,6 +5,7 @@
 #include "Models/EditState.h"
 #include "QtSupport/EventPump.h"
 #include "Support/FileUrl.h"
+#include "Support/Workers.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/TemporaryFolder.h"
 #include "WindowRootView.h"
@@ -21,9 +22,13 @@ namespace brisklet {
 /// The program inside the test, without a session bus.
 class AppFixture : public testing::Test {
 protected:
+    /// Lets what is still loading come to its end, so that nothing of it outlives the test.
     ~AppFixture() override {
         if (m_app)
             stopExports();
+        m_app.reset();
+        waitForWorkers();
+        testsupport::pumpPending();
     }
 
     void stopExports() {

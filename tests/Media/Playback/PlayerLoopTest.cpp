@@ -67,9 +67,12 @@ private:
             return wrap();
         if (!m_before || time < m_start + Time{100, 600})
             return;
-        const auto after = m_stage.player->statistics();
-        m_shown += after.shown - m_before->shown;
-        m_cached += after.fromCache - m_before->fromCache;
+        // On a busy machine this may come so late that it tells of more than the first frames.
+        if (time < m_start + Time{200, 600}) {
+            const auto after = m_stage.player->statistics();
+            m_shown += after.shown - m_before->shown;
+            m_cached += after.fromCache - m_before->fromCache;
+        }
         m_before.reset();
     }
 
@@ -114,7 +117,11 @@ public:
     }
 
     void play(int wraps) {
-        ASSERT_TRUE(stage.pumpUntil([&] { return loop->wraps() == wraps; }));
+        play([&] { return loop->wraps() == wraps; });
+    }
+
+    void play(const std::function<bool()>& isEnough) {
+        ASSERT_TRUE(stage.pumpUntil(isEnough));
         const Time next = m_start + Time{200, 600};
         ASSERT_TRUE(stage.pumpUntil([&] { return stage.player->currentTime() >= next; }));
         stage.player->pause();
@@ -161,8 +168,7 @@ TEST(PlayerLoop, takesTheFirstFramesOfEachRoundFromTheCache) {
     // Six seconds of these are more than the cache holds.
     const Toned toned(1280, 720);
     LoopStage loop(toned, kStart, Time{6600, 600});
-    ASSERT_NO_FATAL_FAILURE(loop.play(2));
-    EXPECT_GT(loop.loop->shownAfterWraps(), 0U);
+    ASSERT_NO_FATAL_FAILURE(loop.play([&] { return loop.loop->shownAfterWraps() > 0; }));
     EXPECT_EQ(loop.loop->cachedAfterWraps(), loop.loop->shownAfterWraps());
 }
 
