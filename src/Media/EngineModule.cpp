@@ -2,10 +2,12 @@
 
 #include "Media/BuiltInEngine.h"
 
-#include <string_view>
+extern "C" {
 
-extern "C" [[gnu::visibility("default")]] const media::Engine*
-briskletMediaEngine(const char* interface) {
-    return std::string_view(interface) == BRISKLET_ENGINE_INTERFACE ? &media::builtInEngine()
-                                                                    : nullptr;
+[[gnu::visibility("default")]] extern const char briskletMediaInterface[];
+const char briskletMediaInterface[] = BRISKLET_ENGINE_INTERFACE;
+
+[[gnu::visibility("default")]] const media::Engine* briskletMediaEngine() {
+    return &media::builtInEngine();
+}
 }

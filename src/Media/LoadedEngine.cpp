@@ -5,6 +5,7 @@
 #include <dlfcn.h>
 
 #include <string>
+#include <string_view>
 
 namespace media {
 
@@ -24,12 +25,13 @@ const Engine& loadEngine() {
     void* module = ::dlopen(modulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (module == nullptr)
         throw Error(std::string("The media engine can’t be loaded: ") + ::dlerror() + ".");
+    const auto* const interface = static_cast<const char*>(::dlsym(module, kEngineInterfaceName));
     const auto entry = reinterpret_cast<EngineEntry>(::dlsym(module, kEngineEntryName));
-    const Engine* engine = entry != nullptr ? entry(BRISKLET_ENGINE_INTERFACE) : nullptr;
     // An update replaces it below a program that runs.
-    if (engine == nullptr)
+    if (interface == nullptr || entry == nullptr ||
+        std::string_view(interface) != BRISKLET_ENGINE_INTERFACE)
         throw Error("Brisklet has been updated. Start it again.");
-    return *engine;
+    return *entry();
 }
 
 } // namespace
