@@ -6,14 +6,22 @@
 #include "Media/FFmpeg/SourceInfo.h"
 #include "Media/Playback/CubebOutput.h"
 
+#include <malloc.h>
 #include <utility>
 
 namespace media {
 
 namespace {
 
+/// Blocks from this size on are mapped by themselves and given back to the system as soon as they
+/// are free. Without a fixed size glibc raises it to that of the largest picture seen so far, and
+/// freed pictures leave holes in its heaps. Bytes.
+constexpr int kMappedBlockBytes = 1024 * 1024;
+
 class BuiltInEngine final : public Engine {
 public:
+    BuiltInEngine() { ::mallopt(M_MMAP_THRESHOLD, kMappedBlockBytes); }
+
     [[nodiscard]] std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
                                                          std::stop_token stop) const override {
         auto file = ffmpeg::SourceFile::open(path);
