@@ -8,6 +8,7 @@
 #include "Media/Export/VideoPipeline.h"
 #include "Media/FFmpeg/Muxer.h"
 #include "Media/FFmpeg/SourceFile.h"
+#include "Media/ThreadPriority.h"
 
 #include <algorithm>
 #include <atomic>
@@ -33,9 +34,11 @@ public:
 
     ~Stages() { m_stop.request_stop(); }
 
-    void start(const char* name, std::function<void()> stage) {
-        m_threads.emplace_back([this, name, stage = std::move(stage)] {
+    void start(const char* name, std::function<void()> stage, int niceness = 0) {
+        m_threads.emplace_back([this, name, stage = std::move(stage), niceness] {
             pthread_setname_np(pthread_self(), name);
+            if (niceness > 0)
+                standBack(niceness);
             guard(stage);
         });
     }
@@ -128,17 +131,20 @@ ExportRun::ExportRun(const Composition& composition,
 
 void ExportRun::writeMedia(const std::stop_token& stop, std::atomic<double>& progress) {
     const std::stop_callback stopStages(stop, [this] { m_stop.request_stop(); });
-    m_stages.start("decode", [this] { m_video->decodeStage(); });
+    m_stages.start(
+        "decode", [this] { m_video->decodeStage(); }, kFeederNiceness);
     m_stages.start("transform", [this] { m_video->transformStage(); });
     m_stages.start("encode", [this] { m_video->encodeStage(); });
     for (const auto& sound : m_sounds)
-        m_stages.start("sound", [&sound] { sound->run(); });
+        m_stages.start(
+            "sound", [&sound] { sound->run(); }, kFeederNiceness);
     m_stages.guard([&] { muxStage(progress); });
 }
 
 void ExportRun::complete(const std::stop_token& stop) {
     m_stages.join();
     m_muxer.finish();
+    m_file.startFlush();
     const ExportPlan planned = plan();
     // The proof needs memory for pictures of its own.
     m_streams.clear();

@@ -7,6 +7,7 @@
 #include "Media/FFmpeg/PacketFacts.h"
 #include "Media/FFmpeg/PresentationTimes.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/ThreadPriority.h"
 
 #include <algorithm>
 #include <deque>
@@ -130,7 +131,13 @@ private:
     };
 
     void openDecoder() {
-        m_decoder.emplace(*m_track.parameters, m_track.timeBase, m_options.threads);
+        const auto open = [this] {
+            m_decoder.emplace(*m_track.parameters, m_track.timeBase, m_options.threads);
+        };
+        if (m_options.niceness > 0)
+            runStandingBack(m_options.niceness, open);
+        else
+            open();
         if (m_options.detail == Detail::thumbnail) {
             m_decoder->context().skip_loop_filter = AVDISCARD_ALL;
             m_decoder->context().flags2 |= AV_CODEC_FLAG2_FAST;

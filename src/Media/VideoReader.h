@@ -39,6 +39,8 @@ public:
         Detail detail = Detail::full;
         /// Decoder threads; 0 for as many as there are processors.
         int threads = 0;
+        /// How far those stand back behind other threads; see standBack().
+        int niceness = 0;
     };
 
     /// Throws Error if no decoder can be opened.

@@ -14,7 +14,10 @@ namespace media {
 
 namespace {
 
-constexpr std::size_t kPacketsWaiting = 64;
+/// So far may the sound be ahead of the picture; at 48 kHz 22 s, in less than a megabyte a channel
+/// pair. While the picture's decoder, which cannot keep every processor busy by itself, is on its
+/// way to the range, the sound takes what it leaves.
+constexpr std::size_t kPacketsWaiting = 1024;
 
 /// The layout under which AAC writes these channels. Side and back speakers of 5.1 are the same
 /// two loudspeakers in another place; only one of the arrangements has a number in AAC.

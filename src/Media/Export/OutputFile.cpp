@@ -50,6 +50,11 @@ std::filesystem::path resolved(const std::filesystem::path& destination) {
     return ignored ? destination : target;
 }
 
+/// Advice only: a file system that does not know it writes when it likes.
+void startWriteback(int descriptor, std::int64_t position, std::int64_t count) {
+    ::sync_file_range(descriptor, position, count, SYNC_FILE_RANGE_WRITE);
+}
+
 std::string randomName() {
     constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz0123456789";
     std::random_device random;
@@ -112,15 +117,15 @@ int OutputFile::write(const std::uint8_t* data, std::int64_t count) {
         m_position += written;
     }
     m_size = std::max(m_size, m_position);
-    if (m_size - m_writebackEnd >= kWritebackBytes)
-        startWriteback();
+    if (m_size - m_writebackEnd >= kWritebackBytes) {
+        startWriteback(m_descriptor, m_writebackEnd, m_size - m_writebackEnd);
+        m_writebackEnd = m_size;
+    }
     return 0;
 }
 
-void OutputFile::startWriteback() {
-    // Advice only: a file system that does not know it writes when it likes.
-    ::sync_file_range(m_descriptor, m_writebackEnd, m_size - m_writebackEnd, SYNC_FILE_RANGE_WRITE);
-    m_writebackEnd = m_size;
+void OutputFile::startFlush() {
+    startWriteback(m_descriptor, 0, m_size);
 }
 
 std::shared_ptr<const ffmpeg::SourceFile> OutputFile::reader() const {

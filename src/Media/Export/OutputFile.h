@@ -33,6 +33,9 @@ public:
 
     [[nodiscard]] std::int64_t size() const { return m_size; }
 
+    /// Asks the disk to start on everything that it has not got yet, so that commit() waits less.
+    void startFlush();
+
     /// What has been written so far, opened for reading. Throws Error.
     [[nodiscard]] std::shared_ptr<const ffmpeg::SourceFile> reader() const;
 
@@ -43,8 +46,6 @@ public:
     void commit();
 
 private:
-    void startWriteback();
-
     std::filesystem::path m_destination;
     std::filesystem::path m_temporary;
     int m_descriptor = -1;

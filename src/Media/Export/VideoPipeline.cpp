@@ -3,6 +3,7 @@
 #include "Media/Error.h"
 #include "Media/Export/Deinterlacer.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/ThreadPriority.h"
 
 #include <algorithm>
 #include <thread>
@@ -12,22 +13,35 @@ namespace media {
 namespace {
 
 /// Enough to keep a stage busy while its neighbour is held up for a moment; each picture more
-/// costs its full size in memory.
-constexpr std::size_t kPicturesWaiting = 2;
+/// costs its full size in memory. The decoder has pictures in hand by itself.
+constexpr std::size_t kDecodedWaiting = 1;
+constexpr std::size_t kTransformedWaiting = 2;
 constexpr std::size_t kPacketsWaiting = 32;
 
+/// From how much smaller than the source an output is decoding the greater part of the work.
+constexpr double kDecodingPrevails = 0.5;
+
 /// One decoder thread a processor. libav's own choice is one more, which holds another picture and
-/// gains nothing beside an encoder.
-VideoReader::Options readerOptions() {
+/// gains nothing beside an encoder. Where encoding is the greater part they stand back behind the
+/// encoder's: those wait for each other now and then, and what they leave is enough for decoding,
+/// whereas a decoder that runs first fills its queue, stops, and leaves the encoder alone with
+/// processors that it cannot fill.
+VideoReader::Options readerOptions(const AssetTrack& source,
+                                   const std::optional<VideoComposition>& composition) {
+    const double sourcePixels = static_cast<double>(source.codedWidth) * source.codedHeight;
+    const double pixels =
+        composition ? static_cast<double>(composition->renderWidth) * composition->renderHeight
+                    : sourcePixels;
     VideoReader::Options options;
     options.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    options.niceness = pixels > kDecodingPrevails * sourcePixels ? kFeederNiceness : 0;
     return options;
 }
 
 /// How long a run of pictures the proof of a finished file may have to decode: those after the
 /// last key frame. Pixels.
 constexpr double kHevcTailPixels = 8 * 1920.0 * 1080;
-constexpr double kH264TailPixels = 48 * 1920.0 * 1080;
+constexpr double kH264TailPixels = 16 * 1920.0 * 1080;
 
 /// The same in seconds, for one stream.
 double tailSeconds(const AVCodecContext& encoder) {
@@ -46,9 +60,10 @@ VideoPipeline::VideoPipeline(const Composition& composition,
                              const std::optional<VideoComposition>& videoComposition,
                              const EncoderSettings& settings, const std::stop_token& stop)
     : m_stop(stop),
-      m_reader(composition.asset, composition.videoTrack->source, readerOptions()),
-      m_decoded(kPicturesWaiting, stop),
-      m_transformed(kPicturesWaiting, stop),
+      m_reader(composition.asset, composition.videoTrack->source,
+               readerOptions(composition.videoTrack->source, videoComposition)),
+      m_decoded(kDecodedWaiting, stop),
+      m_transformed(kTransformedWaiting, stop),
       m_output(kPacketsWaiting, stop) {
     const CompositionTrack& track = *composition.videoTrack;
     const ffmpeg::SourceTrack& source = composition.asset->info().track(track.source.streamIndex);
