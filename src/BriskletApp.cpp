@@ -4,6 +4,7 @@
 #include "Models/EditState.h"
 #include "Platform/Appearance.h"
 #include "Platform/FileTransferPortal.h"
+#include "Platform/PromptThread.h"
 #include "Platform/StartupNotification.h"
 #include "Platform/Updater/UpdateDialogs.h"
 #include "Platform/Updater/Updater.h"
@@ -48,6 +49,7 @@ BriskletApp::BriskletApp(const QString& applicationId, QObject* parent)
       m_updateDriver(std::make_unique<UpdateDialogs>()),
       m_updater(std::make_unique<Updater>(builtInUpdaterConfiguration(), *m_updateDriver,
                                           applicationId == releasedApplicationId())) {
+    wakePromptly();
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QApplication::lastWindowClosed, this, &BriskletApp::lastWindowClosed);
     connect(&m_termination, &TerminationSignals::requested, this, &BriskletApp::terminate);
