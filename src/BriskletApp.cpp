@@ -52,6 +52,7 @@ BriskletApp::BriskletApp(const QString& applicationId, QObject* parent)
     wakePromptly();
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QApplication::lastWindowClosed, this, &BriskletApp::lastWindowClosed);
+    qApp->installEventFilter(this);
     connect(&m_termination, &TerminationSignals::requested, this, &BriskletApp::terminate);
     m_busCall.setSingleShot(true);
     connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
@@ -133,15 +134,45 @@ QList<WindowRootView*> BriskletApp::windows() const {
 }
 
 void BriskletApp::quit() {
+    // From the beginning after each answer: meanwhile exports end and others begin.
+    for (WindowRootView* window : windows()) {
+        if (!window->mustAskToClose())
+            continue;
+        window->askToClose([self = QPointer(this)](WindowRootView::CloseAnswer answer) {
+            if (!self)
+                return;
+            if (answer == WindowRootView::CloseAnswer::declined)
+                self->stay();
+            else
+                self->quit();
+        });
+        return;
+    }
+    closeAll();
+}
+
+void BriskletApp::stay() {
     for (WindowRootView* window : windows())
-        window->close();
+        window->forgetAgreement();
+}
+
+void BriskletApp::closeAll() {
+    for (WindowRootView* window : windows())
+        window->closeNow();
+}
+
+bool BriskletApp::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Quit || watched != qApp || windows().isEmpty())
+        return QObject::eventFilter(watched, event);
+    quit();
+    event->ignore();
+    return true;
 }
 
 void BriskletApp::terminate() {
-    const QList<WindowRootView*> open = windows();
-    for (WindowRootView* window : open)
-        window->closeNow();
-    if (open.isEmpty())
+    const bool isOpen = !windows().isEmpty();
+    closeAll();
+    if (!isOpen)
         QCoreApplication::quit();
 }
 

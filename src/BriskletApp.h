@@ -59,10 +59,17 @@ public:
 
     [[nodiscard]] Updater& updater() { return *m_updater; }
 
-    /// Closes every window. Those that export ask first, and keep the program running.
+    /// Closes every window. Where exports run asks about each first, and closes nothing as soon as
+    /// one is to go on.
     void quit();
 
+protected:
+    /// Takes the desktop's wish that the program ends for quit().
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void stay();
+    void closeAll();
     void terminate();
     void joinSession();
     void open(const QList<QUrl>& files, const QVariantMap& platformData);

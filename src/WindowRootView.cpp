@@ -13,6 +13,8 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace brisklet {
 
 namespace {
@@ -34,8 +36,7 @@ WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, Q
     m_state->setFilePanels(std::make_shared<FileDialogPanels>(this));
     buildLayout();
     connect(m_state.get(), &EditState::videoURLChanged, this, &WindowRootView::showTitle);
-    connect(m_state.get(), &EditState::exportProgressChanged, this,
-            &WindowRootView::closeAfterExport);
+    connect(m_state.get(), &EditState::exportProgressChanged, this, &WindowRootView::followExport);
     showTitle();
 }
 
@@ -105,10 +106,13 @@ void WindowRootView::publish() {
     m_focusedValues.setEditState(m_state);
 }
 
-void WindowRootView::closeAfterExport() {
+void WindowRootView::followExport() {
     if (m_state->exportProgress())
         return;
+    m_hasAgreedToStop = false;
     delete m_closeQuestion;
+    // Of a failure the user is being told right now.
+    answer(m_state->errorMessage() ? CloseAnswer::declined : CloseAnswer::exportEnded);
     if (m_closesAfterExport)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
@@ -121,11 +125,29 @@ void WindowRootView::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
-    if (!m_closesAfterExport && !m_closeQuestion)
-        askToStopExport();
+    if (m_closesAfterExport || m_closeQuestion)
+        return;
+    m_closeAnswered = [this](CloseAnswer answer) {
+        if (answer == CloseAnswer::agreed)
+            closeNow();
+    };
+    showCloseQuestion();
 }
 
-void WindowRootView::askToStopExport() {
+bool WindowRootView::mustAskToClose() const {
+    return m_state->exportProgress() && !m_hasAgreedToStop && !m_closesAfterExport;
+}
+
+void WindowRootView::askToClose(std::function<void(CloseAnswer)> answered) {
+    m_closeAnswered = std::move(answered);
+    bringToFront();
+    if (!m_closeQuestion)
+        showCloseQuestion();
+    m_closeQuestion->raise();
+    m_closeQuestion->activateWindow();
+}
+
+void WindowRootView::showCloseQuestion() {
     QWidget* sheet = m_content->attachedSheet();
     m_closeQuestion = new QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"),
                                       tr("Stop the export and close?"), QMessageBox::Cancel,
@@ -133,8 +155,18 @@ void WindowRootView::askToStopExport() {
     m_closeQuestion->addButton(tr("Stop and Close"), QMessageBox::AcceptRole);
     m_closeQuestion->setDefaultButton(QMessageBox::Cancel);
     m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_closeQuestion, &QMessageBox::accepted, this, &WindowRootView::closeNow);
+    connect(m_closeQuestion, &QMessageBox::accepted, this, [this] {
+        m_hasAgreedToStop = true;
+        answer(CloseAnswer::agreed);
+    });
+    connect(m_closeQuestion, &QMessageBox::rejected, this,
+            [this] { answer(CloseAnswer::declined); });
     m_closeQuestion->open();
+}
+
+void WindowRootView::answer(CloseAnswer answer) {
+    if (const auto answered = std::exchange(m_closeAnswered, {}))
+        answered(answer);
 }
 
 } // namespace brisklet

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QMessageBox;
@@ -22,6 +23,13 @@ class WindowRootView final : public QWidget {
     Q_OBJECT
 
 public:
+    /// What became of the question whether the running export may be stopped.
+    enum class CloseAnswer {
+        agreed,     ///< The export runs on until the window is closed.
+        declined,   ///< The window stays; also where the export failed, which it now shows.
+        exportEnded ///< There is nothing left to ask.
+    };
+
     /// Both outlive the window.
     WindowRootView(Updater& updater, FocusedValues& focusedValues, QWidget* parent = nullptr);
     ~WindowRootView() override;
@@ -32,6 +40,17 @@ public:
 
     /// Puts the window over the others and gives it the keyboard, as far as the desktop lets it.
     void bringToFront();
+
+    /// Whether an export runs that the user has not agreed to stop.
+    [[nodiscard]] bool mustAskToClose() const;
+
+    /// Asks whether the running export may be stopped, in front of all windows. Does nothing but
+    /// ask; `answered` is called once, later, unless the window goes before. A question that is
+    /// open already serves this one, and its former asker hears nothing.
+    void askToClose(std::function<void(CloseAnswer)> answered);
+
+    /// The user has to be asked again about an export that they agreed to stop.
+    void forgetAgreement() { m_hasAgreedToStop = false; }
 
     /// Closes without a question; an export is stopped, and the window goes when it has ended.
     void closeNow();
@@ -50,15 +69,19 @@ private:
     void appear();
     void showTitle();
     void publish();
-    void closeAfterExport();
-    void askToStopExport();
+    void followExport();
+    void showCloseQuestion();
+    void answer(CloseAnswer answer);
 
     FocusedValues& m_focusedValues;
     std::shared_ptr<EditState> m_state;
     AppCommands* m_commands;
     ContentView* m_content;
     QPointer<QMessageBox> m_closeQuestion;
+    std::function<void(CloseAnswer)> m_closeAnswered;
     bool m_hasAppeared = false;
+    /// To stop the export that runs now.
+    bool m_hasAgreedToStop = false;
     /// The user wants the window closed as soon as the export has stopped.
     bool m_closesAfterExport = false;
 };

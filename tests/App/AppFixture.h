@@ -60,12 +60,12 @@ protected:
     }
 
     /// Starts an export that takes long enough to look at.
-    bool startLongExport(WindowRootView& window) {
+    bool startLongExport(WindowRootView& window, const char* name = "out.mp4") {
         const auto source =
             testsupport::makeFixture({.duration = 30, .width = 640, .height = 480}).path;
         if (!loadAndWait(window, urlOf(source)))
             return false;
-        window.state()->exportTo(urlOf(m_folder / "out.mp4"));
+        window.state()->exportTo(urlOf(m_folder / name));
         return window.state()->exportProgress().has_value();
     }
 

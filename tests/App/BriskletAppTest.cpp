@@ -84,15 +84,85 @@ TEST_F(BriskletAppTest, endsWithItsLastWindow) {
     EXPECT_TRUE(m_app->windows().isEmpty());
 }
 
-TEST_F(BriskletAppTest, asksTheWindowsThatExportBeforeItQuits) {
-    WindowRootView* exporting = openWindow();
-    openWindow();
-    ASSERT_TRUE(startLongExport(*exporting));
+// It used to close the windows without an export first, and to ask when they were gone.
+TEST_F(BriskletAppTest, asksAboutEveryExportBeforeItClosesAWindow) {
+    WindowRootView* idle = openWindow();
+    WindowRootView* first = openWindow();
+    ASSERT_TRUE(startLongExport(*first, "first.mp4"));
+    WindowRootView* second = openWindow();
+    ASSERT_TRUE(startLongExport(*second, "second.mp4"));
+    ASSERT_TRUE(testsupport::showActive(*idle));
+    QTest::keyClick(idle, Qt::Key_Q, Qt::ControlModifier);
+    ASSERT_NE(visibleQuestion(*first), nullptr);
+    EXPECT_EQ(visibleQuestion(*second), nullptr);
+    clickRole(*visibleQuestion(*first), QMessageBox::AcceptRole);
+    ASSERT_NE(visibleQuestion(*second), nullptr);
+    EXPECT_TRUE(
+        pumpUntil([&] { return QApplication::activeWindow() == visibleQuestion(*second); }));
+    EXPECT_EQ(m_app->windows().size(), 3);
+    clickRole(*visibleQuestion(*second), QMessageBox::RejectRole);
+    pumpPending();
+    EXPECT_EQ(m_app->windows().size(), 3);
+    EXPECT_TRUE(first->state()->exportProgress());
+    EXPECT_TRUE(second->state()->exportProgress());
+
+    // What was agreed to is forgotten with it.
     m_app->quit();
-    ASSERT_EQ(m_app->windows().size(), 1);
+    for (WindowRootView* window : {first, second}) {
+        ASSERT_NE(visibleQuestion(*window), nullptr);
+        clickRole(*visibleQuestion(*window), QMessageBox::AcceptRole);
+    }
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
+}
+
+TEST_F(BriskletAppTest, asksOnceWhereAWindowIsAskedAlready) {
+    WindowRootView* exporting = openWindow();
+    ASSERT_TRUE(startLongExport(*exporting));
+    openWindow();
+    exporting->close();
     QMessageBox* question = visibleQuestion(*exporting);
     ASSERT_NE(question, nullptr);
+    m_app->quit();
+    m_app->quit();
+    EXPECT_EQ(exporting->findChildren<QMessageBox*>(), QList<QMessageBox*>{question});
     clickRole(*question, QMessageBox::AcceptRole);
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+}
+
+TEST_F(BriskletAppTest, quitsWhenTheExportThatItAsksAboutIsDone) {
+    WindowRootView* exporting = openWindow();
+    openWindow();
+    ASSERT_TRUE(loadAndWait(*exporting, video(1)));
+    exporting->state()->exportTo(urlOf(m_folder / "out.mp4"));
+    m_app->quit();
+    ASSERT_NE(visibleQuestion(*exporting), nullptr);
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+    EXPECT_TRUE(std::filesystem::exists(m_folder / "out.mp4"));
+}
+
+TEST_F(BriskletAppTest, staysToShowThatTheExportThatItAsksAboutFailed) {
+    WindowRootView* exporting = openWindow();
+    openWindow();
+    ASSERT_TRUE(loadAndWait(*exporting, video(1)));
+    exporting->state()->exportTo(urlOf(m_folder / "missing" / "out.mp4"));
+    m_app->quit();
+    ASSERT_NE(visibleQuestion(*exporting), nullptr);
+    ASSERT_TRUE(pumpUntil([&] { return exporting->state()->errorMessage().has_value(); }));
+    pumpPending();
+    EXPECT_EQ(m_app->windows().size(), 2);
+}
+
+TEST_F(BriskletAppTest, asksAboutExportsWhenTheDesktopWantsItToEnd) {
+    WindowRootView* idle = openWindow();
+    WindowRootView* exporting = openWindow();
+    ASSERT_TRUE(startLongExport(*exporting));
+    QEvent wish(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &wish);
+    EXPECT_FALSE(wish.isAccepted());
+    ASSERT_NE(visibleQuestion(*exporting), nullptr);
+    EXPECT_TRUE(idle->isVisible());
+    clickRole(*visibleQuestion(*exporting), QMessageBox::AcceptRole);
     EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
 }
 
