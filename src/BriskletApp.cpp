@@ -113,6 +113,10 @@ WindowRootView* BriskletApp::openWindow() {
     m_windows.append(window);
     connect(window, &WindowRootView::newWindowRequested, this, [this] { openWindow(); });
     connect(window, &WindowRootView::quitRequested, this, &BriskletApp::quit);
+    connect(window, &WindowRootView::becameNeedless, this, [this, window] {
+        if (windows().size() > 1 && window->state()->isEmpty())
+            window->close();
+    });
     if (m_exportMonitor != nullptr) {
         m_exportMonitor->watch(window);
         window->content().setFileTransfer(

@@ -37,6 +37,7 @@ WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, Q
     buildLayout();
     connect(m_state.get(), &EditState::videoURLChanged, this, &WindowRootView::showTitle);
     connect(m_state.get(), &EditState::exportProgressChanged, this, &WindowRootView::followExport);
+    connect(m_state.get(), &EditState::errorMessageChanged, this, &WindowRootView::followMessage);
     showTitle();
 }
 
@@ -84,8 +85,10 @@ void WindowRootView::showEvent(QShowEvent* event) {
 
 void WindowRootView::appear() {
     OpenBridge::registerState(m_state);
-    if (const auto url = OpenBridge::takePending())
+    if (const auto url = OpenBridge::takePending()) {
+        m_isForFile = true;
         m_state->load(*url);
+    }
     // Where nothing else has the keyboard this window is about to get it.
     if (!m_focusedValues.editState())
         publish();
@@ -115,6 +118,15 @@ void WindowRootView::followExport() {
     answer(m_state->errorMessage() ? CloseAnswer::declined : CloseAnswer::exportEnded);
     if (m_closesAfterExport)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void WindowRootView::followMessage() {
+    if (!m_isForFile || m_state->errorMessage() || !m_state->isEmpty())
+        return;
+    // From here on it is an empty window like others.
+    m_isForFile = false;
+    // The alert that was dismissed is still about to close.
+    QMetaObject::invokeMethod(this, &WindowRootView::becameNeedless, Qt::QueuedConnection);
 }
 
 void WindowRootView::closeEvent(QCloseEvent* event) {

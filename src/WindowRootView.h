@@ -58,6 +58,9 @@ public:
 Q_SIGNALS:
     void newWindowRequested();
     void quitRequested();
+    /// The file that this window was opened for could not be, the user has been told, and nothing
+    /// else is in it or on its way.
+    void becameNeedless();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -70,6 +73,7 @@ private:
     void showTitle();
     void publish();
     void followExport();
+    void followMessage();
     void showCloseQuestion();
     void answer(CloseAnswer answer);
 
@@ -80,6 +84,8 @@ private:
     QPointer<QMessageBox> m_closeQuestion;
     std::function<void(CloseAnswer)> m_closeAnswered;
     bool m_hasAppeared = false;
+    /// It was opened for a file, of which the user has not yet heard that it can't be opened.
+    bool m_isForFile = false;
     /// To stop the export that runs now.
     bool m_hasAgreedToStop = false;
     /// The user wants the window closed as soon as the export has stopped.

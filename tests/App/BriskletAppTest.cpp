@@ -3,8 +3,10 @@
 #include "Platform/Updater/Updater.h"
 #include "Support/OpenBridge.h"
 #include "TestSupport/Process.h"
+#include "Views/ContentView.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -36,6 +38,15 @@ protected:
             result.push_back(window->state()->videoURL().value_or(QUrl()));
         return result;
     }
+
+    /// Waits for the alert over a window, and presses its button, which may close the window.
+    static bool dismissAlert(WindowRootView& window) {
+        if (!pumpUntil([&] { return window.content().attachedSheet() != nullptr; }))
+            return false;
+        const QPointer alert = window.content().attachedSheet();
+        QTest::mouseClick(alert->findChild<QAbstractButton*>(), Qt::LeftButton);
+        return pumpUntil([&] { return alert.isNull(); });
+    }
 };
 
 TEST_F(BriskletAppTest, opensOneEmptyWindowWithoutFiles) {
@@ -66,6 +77,35 @@ TEST_F(BriskletAppTest, usesAWindowAgainWhoseFileCouldNotBeOpened) {
     OpenBridge::open(video(1));
     EXPECT_EQ(m_app->windows().size(), 1);
     ASSERT_TRUE(pumpUntil([window] { return window->state()->videoURL().has_value(); }));
+}
+
+TEST_F(BriskletAppTest, closesAWindowAgainWhoseOnlyFileCouldNotBeOpened) {
+    m_app->launch({video(1), urlOf(m_folder / "missing.mov")});
+    ASSERT_EQ(m_app->windows().size(), 2);
+    WindowRootView* good = m_app->windows().first();
+    ASSERT_TRUE(dismissAlert(*m_app->windows().last()));
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().size() == 1; }));
+    EXPECT_EQ(m_app->windows().first(), good);
+}
+
+TEST_F(BriskletAppTest, keepsOneWindowWhenNoFileCouldBeOpened) {
+    m_app->launch({urlOf(m_folder / "missing.mov"), urlOf(m_folder / "missing.mp4")});
+    ASSERT_EQ(m_app->windows().size(), 2);
+    WindowRootView* last = m_app->windows().last();
+    ASSERT_TRUE(dismissAlert(*m_app->windows().first()));
+    ASSERT_TRUE(pumpUntil([this] { return m_app->windows().size() == 1; }));
+    ASSERT_TRUE(dismissAlert(*last));
+    pumpPending();
+    EXPECT_EQ(m_app->windows(), QList<WindowRootView*>{last});
+}
+
+TEST_F(BriskletAppTest, keepsAWindowOfTheUsersWhereAFileCouldNotBeOpened) {
+    openWindow();
+    WindowRootView* second = openWindow();
+    second->state()->load(urlOf(m_folder / "missing.mov"));
+    ASSERT_TRUE(dismissAlert(*second));
+    pumpPending();
+    EXPECT_EQ(m_app->windows().size(), 2);
 }
 
 TEST_F(BriskletAppTest, endsWithItsLastWindow) {
