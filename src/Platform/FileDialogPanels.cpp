@@ -1,11 +1,15 @@
 #include "Platform/FileDialogPanels.h"
 
 #include "Support/FileUrl.h"
+#include "Support/Preferences.h"
 
 #include <QCoroFuture>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFuture>
 #include <QPromise>
+#include <QStandardPaths>
 
 #include <array>
 #include <memory>
@@ -29,7 +33,29 @@ QString movieFilter() {
         const QString pattern = QStringLiteral("*.") + QString::fromLatin1(extension);
         patterns << pattern << QStringLiteral("*.") + QString::fromLatin1(extension).toUpper();
     }
-    return QFileDialog::tr("Movies (%1)").arg(patterns.join(u' '));
+    return QFileDialog::tr("Videos (%1)").arg(patterns.join(u' '));
+}
+
+QString openFolderKey() {
+    return QStringLiteral("openFolder");
+}
+
+/// Where a video was picked last, else where the user keeps videos, as far as these exist.
+QUrl folderToOpenIn() {
+    const QString last = openPreferences()->value(openFolderKey()).toString();
+    const QString videos = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    for (const QString& folder : {last, videos}) {
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return QUrl::fromLocalFile(folder);
+    }
+    return QUrl::fromLocalFile(QDir::homePath());
+}
+
+void rememberFolderOf(const QUrl& file) {
+    if (!file.isLocalFile())
+        return;
+    const auto preferences = openPreferences();
+    storePreference(*preferences, openFolderKey(), QFileInfo(file.toLocalFile()).absolutePath());
 }
 
 /// Shows the dialog and gives what it answers. The dialog deletes itself.
@@ -77,9 +103,15 @@ QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
     auto* dialog = new QFileDialog(m_window, QFileDialog::tr("Open"));
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFile);
+    // The patterns are too many to read.
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilters({movieFilter(), QFileDialog::tr("All files (*)")});
-    const QFuture<Answer> answer = ask(dialog);
-    co_return co_await answer;
+    dialog->setDirectoryUrl(folderToOpenIn());
+    const QFuture<Answer> asked = ask(dialog);
+    const Answer answer = co_await asked;
+    if (answer)
+        rememberFolderOf(*answer);
+    co_return answer;
 }
 
 QCoro::Task<std::optional<QUrl>> FileDialogPanels::saveMovie(SaveProposal proposal) {

@@ -1,9 +1,11 @@
 #include "Platform/FileDialogPanels.h"
 
 #include "QtSupport/EventPump.h"
+#include "QtSupport/PreferencesFixture.h"
 #include "Support/FileUrl.h"
 #include "TestSupport/TemporaryFolder.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 
@@ -21,7 +23,7 @@ using testsupport::TemporaryFolder;
 
 using Answer = std::optional<QUrl>;
 
-class FileDialogPanelsTest : public testing::Test {
+class FileDialogPanelsTest : public testsupport::PreferencesFixture {
 protected:
     FileDialogPanelsTest() { m_window->show(); }
 
@@ -43,6 +45,24 @@ protected:
                 .folder = urlOf(m_folder.path()),
                 .typeName = QStringLiteral("MPEG-4 movie"),
                 .extension = QStringLiteral("mp4")};
+    }
+
+    /// The folder that the Open panel begins in; picks `file` there, or nothing.
+    QString folderOfOpenPanel(const std::filesystem::path& file = {}) {
+        auto task = m_panels.openMovie();
+        Settled<Answer> answer;
+        auto settling = settle(task, answer);
+        QFileDialog* panel = waitForPanel();
+        if (panel == nullptr)
+            return {};
+        const QString folder = panel->directory().absolutePath();
+        if (file.empty())
+            panel->reject();
+        else
+            typeAndAccept(panel, QString::fromStdString(file.string()));
+        EXPECT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+        testsupport::pumpPending();
+        return folder;
     }
 
     static void typeAndAccept(QFileDialog* panel, const QString& name) {
@@ -92,6 +112,43 @@ TEST_F(FileDialogPanelsTest, opensOneMovie) {
     typeAndAccept(panel, QString::fromStdString((m_folder / "a.MOV").string()));
     ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
     EXPECT_EQ(*answer.value, urlOf(m_folder / "a.MOV"));
+}
+
+TEST_F(FileDialogPanelsTest, beginsWhereTheUserKeepsVideos) {
+    const auto configuration = qEnvironmentVariable("XDG_CONFIG_HOME").toStdString();
+    const std::filesystem::path userFolders =
+        std::filesystem::path(configuration) / "user-dirs.dirs";
+    std::filesystem::create_directory(m_folder / "Films");
+    std::ofstream(userFolders) << "XDG_VIDEOS_DIR=\"" << (m_folder / "Films").string() << "\"\n";
+    EXPECT_EQ(folderOfOpenPanel(), QString::fromStdString((m_folder / "Films").string()));
+    std::filesystem::remove(m_folder / "Films");
+    EXPECT_EQ(folderOfOpenPanel(), QDir::homePath());
+    std::filesystem::remove(userFolders);
+}
+
+TEST_F(FileDialogPanelsTest, beginsWhereAVideoWasPickedLast) {
+    const auto folder = m_folder / "Holiday #1";
+    std::filesystem::create_directory(folder);
+    std::ofstream(folder / "a.mov") << "x";
+    const QString before = folderOfOpenPanel(folder / "a.mov");
+    const QString picked = QString::fromStdString(folder.string());
+    EXPECT_NE(before, picked);
+    EXPECT_EQ(folderOfOpenPanel(), picked);
+    std::filesystem::remove_all(folder);
+    EXPECT_EQ(folderOfOpenPanel(), before);
+}
+
+TEST_F(FileDialogPanelsTest, namesVideosWithoutTheirPatterns) {
+    auto task = m_panels.openMovie();
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    const auto* types = panel->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    ASSERT_NE(types, nullptr);
+    EXPECT_EQ(types->currentText(), QStringLiteral("Videos"));
+    panel->reject();
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
 }
 
 TEST_F(FileDialogPanelsTest, completesANameThatLacksTheExtension) {
