@@ -4,6 +4,7 @@
 
 #include <dlfcn.h>
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -23,8 +24,11 @@ std::filesystem::path modulePath() {
 const Engine& loadEngine() {
     // Bound as it is used: it has a hundred libraries behind it. Never unloaded.
     void* module = ::dlopen(modulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
-    if (module == nullptr)
-        throw Error(std::string("The media engine can’t be loaded: ") + ::dlerror() + ".");
+    if (module == nullptr) {
+        // Which file of whose is missing helps whoever packaged it, not the person at the screen.
+        std::fprintf(stderr, "%s\n", ::dlerror());
+        throw Error("Brisklet is not completely installed. Install it again.");
+    }
     const auto* const interface = static_cast<const char*>(::dlsym(module, kEngineInterfaceName));
     const auto entry = reinterpret_cast<EngineEntry>(::dlsym(module, kEngineEntryName));
     // An update replaces it below a program that runs.

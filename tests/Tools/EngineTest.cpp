@@ -58,7 +58,10 @@ TEST_F(EngineTest, isFoundFromWhereTheProgramStands) {
 TEST_F(EngineTest, isMissedWithASentence) {
     const auto result = probe();
     EXPECT_EQ(result.exitStatus, 1);
-    EXPECT_THAT(result.errors, testing::HasSubstr("The media engine can’t be loaded: "));
+    EXPECT_THAT(result.errors,
+                testing::HasSubstr("Brisklet is not completely installed. Install it again.\n"));
+    // For whoever looks into it, in a line of its own.
+    EXPECT_THAT(result.errors, testing::ContainsRegex("^/[^\n]*brisklet-media\\.so: "));
 }
 
 TEST_F(EngineTest, isRefusedWhenItHasOtherClassesThanTheProgram) {
