@@ -180,6 +180,22 @@ TEST_F(FileDialogPanelsTest, asksAgainWhenACompletedNameIsTaken) {
     EXPECT_EQ(*answer.value, std::nullopt);
 }
 
+TEST_F(FileDialogPanelsTest, savesByReturnAndTurnsBackByEscape) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        auto task = m_panels.saveMovie(proposal());
+        Settled<Answer> answer;
+        auto settling = settle(task, answer);
+        QFileDialog* panel = waitForPanel();
+        ASSERT_NE(panel, nullptr);
+        ASSERT_TRUE(pumpUntil([&] { return panel->focusWidget() != nullptr; }));
+        QTest::keyClick(panel->focusWidget(), key);
+        ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+        const Answer file = urlOf(m_folder / "Holiday Trimmed.mp4");
+        EXPECT_EQ(*answer.value, key == Qt::Key_Return ? file : std::nullopt);
+        testsupport::pumpPending();
+    }
+}
+
 TEST_F(FileDialogPanelsTest, answersNothingWhenItsWindowGoes) {
     auto task = m_panels.saveMovie(proposal());
     Settled<Answer> answer;
