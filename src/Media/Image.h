@@ -1,11 +1,11 @@
 #pragma once
 
+#include "Media/PictureMemory.h"
 #include "Media/Time.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 namespace media {
 
@@ -17,7 +17,7 @@ struct Image {
     int height = 0;
     /// Bytes from one line to the next.
     int stride = 0;
-    std::vector<std::uint8_t> pixels;
+    PictureBytes pixels;
 
     [[nodiscard]] std::size_t byteCount() const { return pixels.size(); }
 };

@@ -62,16 +62,17 @@ private:
 } // namespace
 
 PreviewPicture::PreviewPicture(const Format& format) : m_format(format) {
+    std::size_t byteCount = 0;
     for (int index = 0; index < planeCount(format.kind); ++index) {
         const int shift = index > 0 ? format.chromaShift : 0;
         const auto width = static_cast<std::size_t>((format.width + (1 << shift) - 1) >> shift);
         const auto height = static_cast<std::size_t>((format.height + (1 << shift) - 1) >> shift);
         const auto i = static_cast<std::size_t>(index);
-        m_offsets[i] = m_byteCount;
+        m_offsets[i] = byteCount;
         m_strides[i] = alignedUp(width);
-        m_byteCount += m_strides[i] * height;
+        byteCount += m_strides[i] * height;
     }
-    m_data = m_bytes.ensure(m_byteCount);
+    m_bytes.resize(byteCount);
 }
 
 std::array<Plane, 3> PreviewPicture::planes() {
@@ -80,7 +81,7 @@ std::array<Plane, 3> PreviewPicture::planes() {
         const ConstPlane plane = this->plane(index);
         if (!plane.data)
             continue;
-        planes[index].data = m_data + m_offsets[index];
+        planes[index].data = m_bytes.data() + m_offsets[index];
         planes[index].stride = plane.stride;
         planes[index].width = plane.width;
         planes[index].height = plane.height;
@@ -92,7 +93,7 @@ ConstPlane PreviewPicture::plane(unsigned index) const {
     if (index >= static_cast<unsigned>(planeCount(m_format.kind)))
         return {};
     const int shift = index > 0 ? m_format.chromaShift : 0;
-    return {m_data + m_offsets[index], static_cast<std::ptrdiff_t>(m_strides[index]),
+    return {m_bytes.data() + m_offsets[index], static_cast<std::ptrdiff_t>(m_strides[index]),
             (m_format.width + (1 << shift) - 1) >> shift,
             (m_format.height + (1 << shift) - 1) >> shift};
 }

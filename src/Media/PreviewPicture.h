@@ -3,6 +3,7 @@
 #include "Media/Image.h"
 #include "Media/Pixels/BgrxPacking.h"
 #include "Media/Pixels/Plane.h"
+#include "Media/PictureMemory.h"
 
 #include <array>
 #include <cstddef>
@@ -36,7 +37,7 @@ public:
 
     [[nodiscard]] const Format& format() const { return m_format; }
 
-    [[nodiscard]] std::size_t byteCount() const { return m_byteCount; }
+    [[nodiscard]] std::size_t byteCount() const { return m_bytes.size(); }
 
     /// For the maker. Grey has only the first; aligned for zimg.
     [[nodiscard]] std::array<pixels::Plane, 3> planes();
@@ -52,10 +53,7 @@ private:
     Format m_format;
     std::array<std::size_t, 3> m_offsets{};
     std::array<std::size_t, 3> m_strides{};
-    std::size_t m_byteCount = 0;
-    pixels::AlignedBuffer m_bytes;
-    /// What m_bytes holds.
-    std::uint8_t* m_data = nullptr;
+    PictureBytes m_bytes;
 };
 
 using PreviewPicturePtr = std::shared_ptr<const PreviewPicture>;
