@@ -42,7 +42,7 @@ class FrameCache {
 public:
     static constexpr std::size_t kDefaultBytes = std::size_t{192} << 20;
     /// What the caches of all players together may hold; each takes an equal part at most.
-    static constexpr std::size_t kBytesOfAll = std::size_t{960} << 20;
+    static constexpr std::size_t kBytesOfAll = std::size_t{800} << 20;
 
     explicit FrameCache(std::size_t capacityBytes = kDefaultBytes);
     FrameCache(const FrameCache&) = delete;
