@@ -1,5 +1,6 @@
 #include "Media/ThreadPriority.h"
 
+#include <algorithm>
 #include <exception>
 #include <sys/resource.h>
 #include <thread>
@@ -7,9 +8,17 @@
 
 namespace media {
 
+namespace {
+
+constexpr int kMostNiceness = 19;
+
+} // namespace
+
 void standBack(int niceness) {
-    // On Linux this is a matter of single threads.
-    ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceness);
+    // On Linux this is a matter of single threads. The program itself may have been told to.
+    const auto thread = static_cast<id_t>(::gettid());
+    const int now = ::getpriority(PRIO_PROCESS, thread);
+    ::setpriority(PRIO_PROCESS, thread, std::min(now + niceness, kMostNiceness));
 }
 
 void runStandingBack(int niceness, const std::function<void()>& work) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <sys/resource.h>
 #include <thread>
@@ -26,6 +27,20 @@ TEST(ThreadPriority, aThreadThatStandsBackLeavesTheOthersAsTheyAre) {
     }).join();
     EXPECT_EQ(inside, kMost);
     EXPECT_EQ(niceness(), before);
+}
+
+TEST(ThreadPriority, standsBackBehindThoseOfItsOwnRank) {
+    const int before = niceness();
+    int once = -1;
+    int twice = -1;
+    std::jthread([&] {
+        media::standBack(3);
+        once = niceness();
+        media::standBack(4);
+        twice = niceness();
+    }).join();
+    EXPECT_EQ(once, std::min(before + 3, kMost));
+    EXPECT_EQ(twice, std::min(before + 7, kMost));
 }
 
 TEST(ThreadPriority, threadsStartedByWorkThatStandsBackDoSoToo) {
