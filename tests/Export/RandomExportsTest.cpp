@@ -189,6 +189,9 @@ KeptRange drawRange(Lot& lot, const Fixture& source) {
     double stop = lot.among(0, 2) == 0 ? atFrame() : std::min(end, start + lot.within(0.05, 2));
     if (stop < start + 0.01)
         stop = std::min(end, start + lot.within(0.05, 2));
+    // The last of frames at a varying rate ends where it begins.
+    if (stop < start + 0.01)
+        start = std::max(0.0, stop - lot.within(0.05, 2));
     return {start, stop};
 }
 
