@@ -299,10 +299,16 @@ private:
     }
 
     void send(const AVPacket& packet) {
-        if (av_packet_get_side_data(&packet, AV_PKT_DATA_NEW_EXTRADATA, nullptr))
-            m_hasNewParameters = true;
+        const bool bringsParameters =
+            av_packet_get_side_data(&packet, AV_PKT_DATA_NEW_EXTRADATA, nullptr) != nullptr;
+        m_hasNewParameters = m_hasNewParameters || bringsParameters;
+        const bool canLeaveOut = isUnneeded(packet);
+        // One that the decoder skips takes the turn of one of its threads all the same, and those
+        // of H.264 lose track of where the pictures are intact again.
+        if (canLeaveOut && m_disposability.isPlain() && !bringsParameters)
+            return;
         m_times.notePacket(packet);
-        m_decoder->context().skip_frame = isUnneeded(packet) ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+        m_decoder->context().skip_frame = canLeaveOut ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
         m_decoder->send(&packet);
     }
 

@@ -2,6 +2,9 @@
 
 #include "Media/FFmpeg/Check.h"
 
+#include <algorithm>
+#include <thread>
+
 namespace media::ffmpeg {
 
 Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads) {
@@ -12,7 +15,9 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     m_context.reset(allocated(avcodec_alloc_context3(codec)));
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
-    m_context->thread_count = threads;
+    // libav's own choice would be one more, which holds another picture and gains nothing.
+    m_context->thread_count =
+        threads > 0 ? threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     check(avcodec_open2(m_context.get(), codec, nullptr));
 }
 

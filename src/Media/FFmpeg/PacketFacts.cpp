@@ -1,7 +1,9 @@
 #include "Media/FFmpeg/PacketFacts.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace media::ffmpeg {
@@ -10,8 +12,8 @@ namespace {
 
 /// Whether "non-reference" means in this codec that no other picture depends on it.
 bool canSkipNonReference(AVCodecID codec) {
-    return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_MPEG2VIDEO ||
-           codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG4;
+    return codec == AV_CODEC_ID_MPEG2VIDEO || codec == AV_CODEC_ID_MPEG1VIDEO ||
+           codec == AV_CODEC_ID_MPEG4;
 }
 
 bool hasOnlyKeyFrames(AVCodecID codec) {
@@ -31,46 +33,121 @@ bool isWholeKeyFrame(const AVPacket& packet) {
            packet.pts != AV_NOPTS_VALUE;
 }
 
+/// The units of an H.264 or HEVC packet, each with its length or a start code in front of it.
+class Units {
+public:
+    Units(const AVPacket& packet, unsigned lengthBytes)
+        : m_rest(packet.data, static_cast<std::size_t>(std::max(packet.size, 0))),
+          m_lengthBytes(lengthBytes) {
+        if (m_lengthBytes == 0)
+            skipPastStartCode();
+    }
+
+    /// Empty where the packet is cut off; none at its end.
+    std::optional<std::span<const std::uint8_t>> next() {
+        if (m_rest.empty())
+            return std::nullopt;
+        if (m_lengthBytes == 0) {
+            const auto unit = m_rest;
+            skipPastStartCode();
+            return unit.first(unit.size() - m_rest.size());
+        }
+        std::size_t length = 0;
+        for (const std::uint8_t byte : m_rest.first(std::min(m_lengthBytes, m_rest.size())))
+            length = length << 8 | byte;
+        m_rest = m_rest.subspan(std::min(m_lengthBytes, m_rest.size()));
+        const auto unit = m_rest.first(std::min(length, m_rest.size()));
+        m_rest = m_rest.subspan(unit.size());
+        return unit;
+    }
+
+private:
+    void skipPastStartCode() {
+        constexpr std::array<std::uint8_t, 3> kStartCode{0, 0, 1};
+        const auto found = std::ranges::search(m_rest, kStartCode);
+        m_rest = std::span(found.end(), m_rest.end());
+    }
+
+    std::span<const std::uint8_t> m_rest;
+    std::size_t m_lengthBytes;
+};
+
 } // namespace
 
 Disposability::Disposability(const AVCodecParameters& parameters)
-    : m_codec(parameters.codec_id), m_hevcLayout(hevcLayout(parameters)) {}
+    : m_codec(parameters.codec_id), m_layout(layoutOf(parameters)) {}
 
 bool Disposability::mayBeLeftOut(const AVPacket& packet) const {
-    return m_hevcLayout ? isHevcNonReference(packet, *m_hevcLayout) : canSkipNonReference(m_codec);
+    switch (m_codec) {
+    case AV_CODEC_ID_H264:
+        return isH264NonReference(packet);
+    case AV_CODEC_ID_HEVC:
+        return m_layout && isHevcNonReference(packet);
+    default:
+        return canSkipNonReference(m_codec);
+    }
 }
 
-std::optional<Disposability::HevcLayout>
-Disposability::hevcLayout(const AVCodecParameters& parameters) {
-    constexpr int kLayoutByte = 21;
-    const std::uint8_t* data = parameters.extradata;
-    if (parameters.codec_id != AV_CODEC_ID_HEVC || parameters.extradata_size <= kLayoutByte ||
-        data[0] != 1)
+bool Disposability::isPlain() const {
+    return m_codec == AV_CODEC_ID_H264 || m_codec == AV_CODEC_ID_HEVC;
+}
+
+/// None for HEVC whose layers are not known.
+std::optional<Disposability::Layout> Disposability::layoutOf(const AVCodecParameters& parameters) {
+    constexpr int kH264LengthByte = 4;
+    constexpr int kHevcLayoutByte = 21;
+    const std::span data(parameters.extradata,
+                         static_cast<std::size_t>(std::max(parameters.extradata_size, 0)));
+    const bool isStored = !data.empty() && data[0] == 1;
+    if (parameters.codec_id == AV_CODEC_ID_H264)
+        return isStored && data.size() > kH264LengthByte
+                   ? Layout{(data[kH264LengthByte] & 3U) + 1U, 1}
+                   : Layout{};
+    if (parameters.codec_id != AV_CODEC_ID_HEVC || !isStored || data.size() <= kHevcLayoutByte)
         return std::nullopt;
-    const int layers = data[kLayoutByte] >> 3 & 7;
+    const int layers = data[kHevcLayoutByte] >> 3 & 7;
     if (layers == 0)
         return std::nullopt;
-    return HevcLayout{(data[kLayoutByte] & 3U) + 1U, layers};
+    return Layout{(data[kHevcLayoutByte] & 3U) + 1U, layers};
 }
 
 /// The units of the picture say so for their own temporal layer, and there is none above it.
-bool Disposability::isHevcNonReference(const AVPacket& packet, const HevcLayout& layout) {
+/// Before them there are no parameters that others may need.
+bool Disposability::isHevcNonReference(const AVPacket& packet) const {
     constexpr unsigned kFirstOtherUnit = 32;
+    constexpr unsigned kLastParameters = 34;
     constexpr unsigned kFirstReservedPicture = 16;
-    const std::span bytes(packet.data, static_cast<std::size_t>(std::max(packet.size, 0)));
-    std::size_t at = 0;
-    while (at + layout.lengthBytes + 2 <= bytes.size()) {
-        std::size_t length = 0;
-        for (unsigned i = 0; i < layout.lengthBytes; ++i)
-            length = length << 8 | bytes[at + i];
-        at += layout.lengthBytes;
-        const unsigned type = bytes[at] >> 1 & 63U;
-        const int layer = (bytes[at + 1] & 7) - 1;
+    for (Units units(packet, m_layout->lengthBytes); const auto unit = units.next();) {
+        if (unit->size() < 2)
+            return false;
+        const unsigned type = (*unit)[0] >> 1 & 63U;
+        const int layer = ((*unit)[1] & 7) - 1;
         if (type < kFirstOtherUnit)
-            return type < kFirstReservedPicture && type % 2 == 0 && layer == layout.layers - 1;
-        at += length;
+            return type < kFirstReservedPicture && type % 2 == 0 && layer == m_layout->layers - 1;
+        if (type <= kLastParameters)
+            return false;
     }
     return false;
+}
+
+/// No unit of the picture says that another refers to it, and there are no parameters beside it.
+bool Disposability::isH264NonReference(const AVPacket& packet) const {
+    constexpr unsigned kLastPicture = 5;
+    constexpr unsigned kMessage = 6;
+    constexpr unsigned kDelimiter = 9;
+    bool hasPicture = false;
+    for (Units units(packet, m_layout->lengthBytes); const auto unit = units.next();) {
+        if (unit->empty())
+            return false;
+        const unsigned type = (*unit)[0] & 31U;
+        const bool isReferredTo = ((*unit)[0] >> 5 & 3U) != 0;
+        if (type == 0 || (type <= kLastPicture && isReferredTo))
+            return false;
+        if (type > kLastPicture && type != kMessage && type != kDelimiter)
+            return false;
+        hasPicture = hasPicture || type <= kLastPicture;
+    }
+    return hasPicture;
 }
 
 bool isShownRightBefore(const AVPacket& first, const AVPacket& second, AVCodecID codec) {

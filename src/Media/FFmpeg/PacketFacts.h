@@ -11,23 +11,28 @@ class Disposability {
 public:
     explicit Disposability(const AVCodecParameters& parameters);
 
-    /// Whether a decoder that leaves out what nothing depends on does so rightly with this packet.
+    /// Whether nothing else is lost without this packet's picture: to a decoder that does not get
+    /// the packet, or, where that is not plain, to one that leaves out what nothing depends on.
     [[nodiscard]] bool mayBeLeftOut(const AVPacket& packet) const;
 
+    /// Whether the packets themselves say so, so that a decoder need not even see those.
+    [[nodiscard]] bool isPlain() const;
+
 private:
-    /// What an HEVC stream says of itself as MP4 and Matroska store it.
-    struct HevcLayout {
-        /// Of the lengths in front of its units.
-        unsigned lengthBytes = 4;
-        /// Temporal layers.
+    /// What an H.264 or HEVC stream says of itself.
+    struct Layout {
+        /// Of the lengths in front of its units; 0: start codes stand there.
+        unsigned lengthBytes = 0;
+        /// Temporal layers (HEVC).
         int layers = 1;
     };
 
-    static std::optional<HevcLayout> hevcLayout(const AVCodecParameters& parameters);
-    static bool isHevcNonReference(const AVPacket& packet, const HevcLayout& layout);
+    static std::optional<Layout> layoutOf(const AVCodecParameters& parameters);
+    [[nodiscard]] bool isHevcNonReference(const AVPacket& packet) const;
+    [[nodiscard]] bool isH264NonReference(const AVPacket& packet) const;
 
     AVCodecID m_codec;
-    std::optional<HevcLayout> m_hevcLayout;
+    std::optional<Layout> m_layout;
 };
 
 /// Whether the pictures of two packets that follow one another in a stream are both random-access
