@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <span>
 
 namespace media {
@@ -61,12 +60,14 @@ public:
         m_decoder.context().skip_loop_filter = AVDISCARD_ALL;
     }
 
+    /// Decodes one packet only: of those after it the decoder would want some before it gives out
+    /// a picture.
     void checkFirst() {
-        while (!receive()) {
-            if (m_isDraining)
-                fail();
-            feed(std::nullopt);
-        }
+        require(m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::packet);
+        m_decoder.send(m_packet.get());
+        av_packet_unref(m_packet.get());
+        m_decoder.send(nullptr);
+        require(receive());
         requireIntact();
         require(m_frame->pts == 0);
     }
@@ -76,16 +77,16 @@ public:
         const std::int64_t last = lastTimestamp();
         require(last < end && m_demuxer.seek(m_stream.index, last, m_stop));
         m_decoder.flush();
-        m_isDraining = false;
         std::int64_t latest = AV_NOPTS_VALUE;
+        bool isDraining = false;
         for (;;) {
             if (receive()) {
                 requireIntact();
                 latest = std::max(latest, m_frame->pts);
-            } else if (m_isDraining) {
+            } else if (isDraining) {
                 break;
             } else {
-                feed(last);
+                isDraining = !feed(last);
             }
         }
         require(latest == last);
@@ -107,16 +108,17 @@ private:
     bool receive() { return m_decoder.receive(*m_frame) == ffmpeg::Decoder::Status::frame; }
 
     /// Hands in the next packet; on the way to the picture `wanted` no picture that no other needs.
-    void feed(std::optional<std::int64_t> wanted) {
+    /// False where there is none: then the decoder is being drained.
+    bool feed(std::int64_t wanted) {
         if (m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::endOfFile) {
-            m_isDraining = true;
             m_decoder.send(nullptr);
-            return;
+            return false;
         }
         m_decoder.context().skip_frame =
-            wanted && m_packet->pts != *wanted ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+            m_packet->pts != wanted ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
         m_decoder.send(m_packet.get());
         av_packet_unref(m_packet.get());
+        return true;
     }
 
     void requireIntact() const {
@@ -130,7 +132,6 @@ private:
     ffmpeg::Decoder m_decoder;
     ffmpeg::PacketPtr m_packet = ffmpeg::makePacket();
     ffmpeg::FramePtr m_frame = ffmpeg::makeFrame();
-    bool m_isDraining = false;
 };
 
 void check(const std::shared_ptr<const ffmpeg::SourceFile>& file, const ExportPlan& plan,
