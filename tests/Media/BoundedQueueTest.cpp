@@ -49,6 +49,27 @@ TEST(BoundedQueue, neverHoldsMoreThanItsCapacity) {
     EXPECT_EQ(popped, kCount);
 }
 
+TEST(BoundedQueue, holdsNothingWithoutCapacityUnlessAReaderIsThere) {
+    constexpr int kCount = 1'000;
+    BoundedQueue<int> queue(0, {});
+    std::atomic<int> pushed = 0;
+    std::atomic<int> asked = 0;
+    std::jthread writer([&] {
+        for (int i = 0; i < kCount; ++i) {
+            queue.push(i);
+            EXPECT_GE(asked, i + 1);
+            ++pushed;
+        }
+        queue.finish();
+    });
+    for (int i = 0; i < kCount; ++i) {
+        ++asked;
+        ASSERT_EQ(queue.pop(), i);
+        ASSERT_LE(pushed, i + 1);
+    }
+    EXPECT_EQ(queue.pop(), std::nullopt);
+}
+
 TEST(BoundedQueue, rousesAReaderThatWaitsWhenItIsStopped) {
     std::stop_source stop;
     BoundedQueue<int> queue(1, stop.get_token());

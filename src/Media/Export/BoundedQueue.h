@@ -12,7 +12,8 @@
 namespace media {
 
 /// Hands values from one thread to another in order, holding up the writer while `capacity` of
-/// them wait. Both ends throw Cancelled as soon as `stop` is requested.
+/// them wait, or with a capacity of 0 until the reader comes for one. Both ends throw Cancelled as
+/// soon as `stop` is requested.
 template<typename T>
 class BoundedQueue {
 public:
@@ -21,7 +22,7 @@ public:
 
     void push(T value) {
         std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, m_stop, [this] { return m_values.size() < m_capacity; });
+        m_changed.wait(lock, m_stop, [this] { return m_values.size() < m_capacity + m_readers; });
         if (m_stop.stop_requested())
             throw Cancelled();
         m_values.push_back(std::move(value));
@@ -38,7 +39,10 @@ public:
     /// The oldest value; none when the queue is finished and empty.
     std::optional<T> pop() {
         std::unique_lock lock(m_mutex);
+        ++m_readers;
+        m_changed.notify_all();
         m_changed.wait(lock, m_stop, [this] { return !m_values.empty() || m_isFinished; });
+        --m_readers;
         if (m_stop.stop_requested())
             throw Cancelled();
         if (m_values.empty())
@@ -54,6 +58,8 @@ private:
     std::condition_variable_any m_changed;
     std::deque<T> m_values;
     std::size_t m_capacity;
+    /// How many threads wait in pop().
+    std::size_t m_readers = 0;
     bool m_isFinished = false;
     std::stop_token m_stop;
 };
