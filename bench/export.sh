@@ -8,9 +8,11 @@
 #   bench/export.sh [straight] [turned] [smaller] [deep] [limit]      (all of them)
 source "$(dirname "$0")/common.sh"
 
-parameters264=subme=2:qcomp=0.8:b-adapt=0:aq-strength=0.9
-ours264=(-c:v libx264 -preset superfast -crf 16.6 -x264-params "$parameters264")
-handBrake264=(-e x264 --encoder-preset superfast -q 16.6 -x "$parameters264")
+parameters264=subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9
+ours264=(-c:v libx264 -preset superfast -x264-params "$parameters264" -crf)
+handBrake264=(-e x264 --encoder-preset superfast -x "$parameters264" -q)
+crf264=16.8
+crf264Reduced=16
 ours265=(-c:v libx265 -preset ultrafast -crf 11 -x265-params log-level=none -tag:v hvc1)
 aim264=(-c:v libx264 -preset medium -crf 16)
 aim265=(-c:v libx265 -preset medium -crf 18 -x265-params log-level=none -tag:v hvc1)
@@ -70,24 +72,24 @@ runCase() {
 }
 
 straight() {
-    source=$(minuteFile) filter=null options=() ours=("${ours264[@]}") aim=("${aim264[@]}")
-    handBrakeOptions=("${handBrake264[@]}")
+    source=$(minuteFile) filter=null options=() ours=("${ours264[@]}" "$crf264") aim=("${aim264[@]}")
+    handBrakeOptions=("${handBrake264[@]}" "$crf264")
     handBrakePicture=(--crop-mode none)
     runCase "1080p as it is"
 }
 turned() {
-    source=$(minuteFile) ours=("${ours264[@]}") aim=("${aim264[@]}")
+    source=$(minuteFile) ours=("${ours264[@]}" "$crf264") aim=("${aim264[@]}")
     options=(--rotate 90 --crop 0.1,0.1,0.8,0.8)
     filter="transpose=clock,crop=864:1536:108:192"
-    handBrakeOptions=("${handBrake264[@]}")
+    handBrakeOptions=("${handBrake264[@]}" "$crf264")
     handBrakePicture=(--rotate=angle=90:hflip=0 --crop-mode custom --crop 192:192:108:108)
     runCase "1080p, cropped and turned"
 }
 smaller() {
-    source=$(generated uhd-minute.mp4 uhd) ours=("${ours264[@]}") aim=("${aim264[@]}")
+    source=$(generated uhd-minute.mp4 uhd) ours=("${ours264[@]}" "$crf264Reduced") aim=("${aim264[@]}")
     options=(--max-short-edge 1080)
     filter="scale=1920:1080:flags=lanczos"
-    handBrakeOptions=("${handBrake264[@]}")
+    handBrakeOptions=("${handBrake264[@]}" "$crf264Reduced")
     handBrakePicture=(--crop-mode none -w 1920 -l 1080)
     runCase "2160p to 1080p"
 }
@@ -108,7 +110,7 @@ limit() {
     raw=/dev/shm/brisklet-bench-$$.nut
     trap 'rm -rf "$scratch" "$raw"' EXIT
     ffmpeg -ss 24 -t 4 -i "$source" -an -c:v rawvideo -f nut "$raw"
-    measure ffmpeg -nostdin -v error -y -i "$raw" "${ours264[@]}" -f null -
+    measure ffmpeg -nostdin -v error -y -i "$raw" "${ours264[@]}" "$crf264" -f null -
     # Four seconds fit into memory; the range has twelve.
     local encoding
     encoding=$(awk -v c="$cpu" 'BEGIN { printf "%.2f", c * 3 }')

@@ -6,26 +6,25 @@
 #include "Media/ThreadPriority.h"
 
 #include <algorithm>
-#include <thread>
+#include <cmath>
 
 namespace media {
 
 namespace {
 
-/// Enough to keep a stage busy while its neighbour is held up for a moment; each picture more
-/// costs its full size in memory. The decoder has pictures in hand by itself.
-constexpr std::size_t kDecodedWaiting = 1;
+/// Each picture that waits costs its full size in memory. The decoder has some in hand by itself,
+/// so that one comes as soon as it is asked for; the encoder takes them unevenly.
+constexpr std::size_t kDecodedWaiting = 0;
 constexpr std::size_t kTransformedWaiting = 2;
 constexpr std::size_t kPacketsWaiting = 32;
 
 /// From how much smaller than the source an output is decoding the greater part of the work.
 constexpr double kDecodingPrevails = 0.5;
 
-/// One decoder thread a processor. libav's own choice is one more, which holds another picture and
-/// gains nothing beside an encoder. Where encoding is the greater part they stand back behind the
-/// encoder's: those wait for each other now and then, and what they leave is enough for decoding,
-/// whereas a decoder that runs first fills its queue, stops, and leaves the encoder alone with
-/// processors that it cannot fill.
+/// Where encoding is the greater part the decoder's threads stand back behind the encoder's: those
+/// wait for each other now and then, and what they leave is enough for decoding, whereas a decoder
+/// that runs first fills its queue, stops, and leaves the encoder alone with processors that it
+/// cannot fill.
 VideoReader::Options readerOptions(const AssetTrack& source,
                                    const std::optional<VideoComposition>& composition) {
     const double sourcePixels = static_cast<double>(source.codedWidth) * source.codedHeight;
@@ -33,21 +32,21 @@ VideoReader::Options readerOptions(const AssetTrack& source,
         composition ? static_cast<double>(composition->renderWidth) * composition->renderHeight
                     : sourcePixels;
     VideoReader::Options options;
-    options.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     options.niceness = pixels > kDecodingPrevails * sourcePixels ? kFeederNiceness : 0;
     return options;
 }
 
+/// From which ratio of areas on pictures count as scaled down: not where a side is made even.
+constexpr double kReducedArea = 0.9;
+
 /// How long a run of pictures the proof of a finished file may have to decode: those after the
 /// last key frame. Pixels.
-constexpr double kHevcTailPixels = 8 * 1920.0 * 1080;
-constexpr double kH264TailPixels = 16 * 1920.0 * 1080;
+constexpr double kTailPixels = 4 * 1920.0 * 1080;
 
 /// The same in seconds, for one stream.
 double tailSeconds(const AVCodecContext& encoder) {
     const double pixels = static_cast<double>(encoder.width) * encoder.height;
-    const double most = encoder.codec_id == AV_CODEC_ID_HEVC ? kHevcTailPixels : kH264TailPixels;
-    return std::max(most / pixels, 2.0) / std::max(av_q2d(encoder.framerate), 1.0);
+    return std::max(kTailPixels / pixels, 2.0) / std::max(av_q2d(encoder.framerate), 1.0);
 }
 
 int evenAtLeastTwo(int side) {
@@ -92,6 +91,7 @@ void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderS
         const Time frame = videoComposition->frameDuration;
         encoding.frameRate = {frame.timescale, static_cast<int>(frame.value)};
         toCanvas = videoComposition->transform;
+        encoding.isReduced = std::abs(toCanvas.determinant()) < kReducedArea;
     } else {
         encoding.width = evenAtLeastTwo(facts.codedWidth);
         encoding.height = evenAtLeastTwo(facts.codedHeight);

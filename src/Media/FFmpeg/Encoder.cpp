@@ -113,7 +113,8 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         }
         setOption(*context, "x264-params", parameters);
         setOption(*context, "preset", settings.h264Preset);
-        setOption(*context, "crf", std::to_string(settings.h264Crf));
+        setOption(*context, "crf",
+                  std::to_string(encoding.isReduced ? settings.h264ReducedCrf : settings.h264Crf));
     }
     check(avcodec_open2(context.get(), context->codec, nullptr));
     return Encoder(std::move(context));

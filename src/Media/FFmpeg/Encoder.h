@@ -21,6 +21,8 @@ struct VideoEncoding {
     AVRational frameRate{30, 1};
     AVRational sampleAspectRatio{1, 1};
     AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
+    /// Whether the pictures are scaled down.
+    bool isReduced = false;
 };
 
 /// Whether a track's pictures need more than 8 bits or HDR signalling, that is HEVC Main 10.

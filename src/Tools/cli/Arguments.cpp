@@ -106,7 +106,8 @@ ExportFormat parseFormat(const ArgumentList& list, const std::filesystem::path& 
 std::optional<media::EncoderSettings> parseEncoders(const ArgumentList& list) {
     media::EncoderSettings settings;
     settings.h264Preset = list.value("--h264-preset").value_or(settings.h264Preset);
-    settings.h264Crf = list.number("--h264-crf").value_or(settings.h264Crf);
+    if (const auto crf = list.number("--h264-crf"))
+        settings.h264Crf = settings.h264ReducedCrf = *crf;
     settings.hevcPreset = list.value("--hevc-preset").value_or(settings.hevcPreset);
     settings.hevcCrf = list.number("--hevc-crf").value_or(settings.hevcCrf);
     const bool areChanged = list.has("--h264-preset") || list.has("--h264-crf") ||
