@@ -130,7 +130,7 @@ public:
     std::optional<Looping> loop;
 
 private:
-    static constexpr std::uint64_t kReadAhead = 20;
+    static constexpr std::uint64_t kReadAhead = 40;
 
     const Toned& m_toned;
     Time m_start;
