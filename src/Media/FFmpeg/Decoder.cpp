@@ -7,6 +7,17 @@
 
 namespace media::ffmpeg {
 
+namespace {
+
+/// One a processor: libav's own choice would be one more, which holds another picture and gains
+/// nothing. Each holds a picture, so there are limits to it (the same as libav's).
+int threadsForAll() {
+    constexpr unsigned kMost = 16;
+    return static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, kMost));
+}
+
+} // namespace
+
 Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads) {
     silenceLog();
     const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
@@ -15,9 +26,7 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     m_context.reset(allocated(avcodec_alloc_context3(codec)));
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
-    // libav's own choice would be one more, which holds another picture and gains nothing.
-    m_context->thread_count =
-        threads > 0 ? threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    m_context->thread_count = threads > 0 ? threads : threadsForAll();
     check(avcodec_open2(m_context.get(), codec, nullptr));
 }
 

@@ -7,8 +7,8 @@ namespace media::ffmpeg {
 /// A libav decoder. Use from one thread at a time.
 class Decoder {
 public:
-    /// `threads` 0: as many as there are processors. Throws Error if there is no decoder or it
-    /// does not open.
+    /// `threads` 0: as many as there are processors, up to 16. Throws Error if there is no decoder
+    /// or it does not open.
     Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads = 0);
 
     [[nodiscard]] AVCodecContext& context() { return *m_context; }
