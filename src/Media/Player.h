@@ -120,6 +120,8 @@ public:
         std::uint64_t dropped = 0;
         /// Given out by the decoder, for now or for later.
         std::uint64_t decoded = 0;
+        /// How often this idle player gave its decoder up, since others needed the memory.
+        std::uint64_t decodersGivenUp = 0;
     };
 
     [[nodiscard]] virtual Statistics statistics() const;

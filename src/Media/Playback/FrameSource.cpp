@@ -17,6 +17,10 @@ constexpr std::size_t kPassedBytes = std::size_t{48} << 20;
 /// How many frames before one are worth decoding, when the next ones will be those (1/600 s).
 constexpr std::int64_t kBackwardTicks = kComparisonTimescale * 3 / 10;
 
+/// Pictures that a decoder of H.264 or HEVC holds for others to refer to, to put them in order,
+/// and for its threads; as observed.
+constexpr std::size_t kPicturesOfDecoder = 10;
+
 std::size_t byteCount(const AVFrame& frame) {
     std::size_t bytes = 0;
     for (const AVBufferRef* buffer : frame.buf)
@@ -26,8 +30,9 @@ std::size_t byteCount(const AVFrame& frame) {
 
 } // namespace
 
-FrameSource::FrameSource(FrameCache& cache, std::shared_ptr<const PlayerItem> item)
-    : m_cache(cache), m_item(std::move(item)) {
+FrameSource::FrameSource(FrameCache& cache, DecoderShare& share,
+                         std::shared_ptr<const PlayerItem> item)
+    : m_cache(cache), m_share(share), m_item(std::move(item)) {
     if (!m_item)
         return;
     const std::vector<AssetTrack> tracks = m_item->asset()->tracks(MediaType::video);
@@ -35,7 +40,27 @@ FrameSource::FrameSource(FrameCache& cache, std::shared_ptr<const PlayerItem> it
         return;
     m_firstTicks = tracks.front().startTime.comparisonTicks();
     m_renderer = std::make_unique<PictureRenderer>(tracks.front());
-    m_reader = std::make_unique<VideoReader>(m_item->asset(), tracks.front());
+    reader();
+}
+
+FrameSource::~FrameSource() {
+    m_share.letGo();
+}
+
+VideoReader& FrameSource::reader() {
+    if (!m_reader)
+        m_reader = std::make_unique<VideoReader>(m_item->asset(),
+                                                 m_item->asset()->tracks(MediaType::video).front());
+    return *m_reader;
+}
+
+void FrameSource::letDecoderGo() {
+    m_goal.reset();
+    m_unfinished.reset();
+    m_passing.reset();
+    m_nextTicks = CachedFrame::kBeginning;
+    m_reader.reset();
+    m_share.letGo();
 }
 
 FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
@@ -48,7 +73,7 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_nextTicks = CachedFrame::kBeginning;
         m_hasMoved = true;
         const std::int64_t beginAt = goal.isBackward ? goal.ticks - kBackwardTicks : goal.ticks;
-        m_reader->approach(goal.ticks, goal.completeFrom, beginAt, stop);
+        reader().approach(goal.ticks, goal.completeFrom, beginAt, stop);
         m_goal = goal.ticks;
     }
     std::optional<Decoded> decoded = decode(goal, stop);
@@ -88,12 +113,13 @@ bool FrameSource::arriveAtKept(std::int64_t ticks, PreviewSize size) {
 std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
                                                         const std::stop_token& stop) {
     if (!m_unfinished) {
-        std::optional<DecodedFrame> frame = m_reader->next(stop);
+        std::optional<DecodedFrame> frame = reader().next(stop);
         if (!frame) {
             m_nextTicks = CachedFrame::kForever;
             return std::nullopt;
         }
         m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
+        m_share.use(kPicturesOfDecoder * byteCount(*m_unfinished->frame));
         ++m_decodedCount;
     }
     const std::int64_t end = endOf(*m_unfinished, stop);
@@ -145,7 +171,7 @@ std::optional<std::int64_t> FrameSource::advanceNear(std::int64_t earliest, std:
     m_unfinished.reset();
     m_hasMoved = false;
     m_nextTicks = CachedFrame::kBeginning;
-    m_reader->seekNear(earliest, latest, stop);
+    reader().seekNear(earliest, latest, stop);
     Goal goal;
     goal.ticks = CachedFrame::kForever;
     std::optional<Decoded> decoded = decode(goal, stop);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Media/PictureRenderer.h"
+#include "Media/Playback/DecoderShare.h"
 #include "Media/Playback/FrameCache.h"
 #include "Media/Player.h"
 #include "Media/VideoReader.h"
@@ -50,13 +51,17 @@ public:
         nothing,
     };
 
-    /// Throws Error if the item has a picture that cannot be decoded. Both outlive the source.
-    FrameSource(FrameCache& cache, std::shared_ptr<const PlayerItem> item);
+    /// Throws Error if the item has a picture that cannot be decoded. Cache and share outlive the
+    /// source.
+    FrameSource(FrameCache& cache, DecoderShare& share, std::shared_ptr<const PlayerItem> item);
+    FrameSource(const FrameSource&) = delete;
+    FrameSource& operator=(const FrameSource&) = delete;
+    ~FrameSource();
 
     [[nodiscard]] const std::shared_ptr<const PlayerItem>& item() const { return m_item; }
 
     /// Whether the item has a picture at all.
-    [[nodiscard]] bool hasPicture() const { return m_reader != nullptr; }
+    [[nodiscard]] bool hasPicture() const { return m_renderer != nullptr; }
 
     /// Decodes one frame on the way to the goal. A goal that lies ahead in the run of decoding that
     /// is under way goes on with it, any other begins anew at a key frame. Throws Cancelled when
@@ -82,6 +87,10 @@ public:
 
     [[nodiscard]] bool hasPassed() const { return !m_passed.empty(); }
 
+    /// Gives up the decoder and where it stands, until the next advance. The frame that was arrived
+    /// at last can still be had in other sizes.
+    void letDecoderGo();
+
     /// How many frames were decoded since this was last asked.
     std::uint64_t takeDecodedCount() { return std::exchange(m_decodedCount, 0); }
 
@@ -96,6 +105,7 @@ private:
         [[nodiscard]] bool holds(std::int64_t ticks) const { return begin <= ticks && ticks < end; }
     };
 
+    VideoReader& reader();
     bool arriveAtKept(std::int64_t ticks, PreviewSize size);
     std::optional<Decoded> decode(const Goal& goal, const std::stop_token& stop);
     std::int64_t endOf(const DecodedFrame& frame, const std::stop_token& stop);
@@ -104,8 +114,10 @@ private:
     [[nodiscard]] CachedFrame rendered(const Decoded& decoded, PreviewSize size);
 
     FrameCache& m_cache;
+    DecoderShare& m_share;
     std::shared_ptr<const PlayerItem> m_item;
     std::int64_t m_firstTicks = 0;
+    /// null after letDecoderGo().
     std::unique_ptr<VideoReader> m_reader;
     std::unique_ptr<PictureRenderer> m_renderer;
 

@@ -144,11 +144,13 @@ bool VideoPlayback::chooseIdle(const Transport& transport, Job& job) {
         m_framesToForesee =
             static_cast<int>(std::min(framesInCache(m_playback.cache, job.imageSize), 1000.0));
     }
-    if (!isForesightDue(transport, std::chrono::steady_clock::now()))
-        return false;
-    job.kind = Job::Kind::foresee;
-    job.focus = m_prospect.focus;
-    return true;
+    if (isForesightDue(transport, std::chrono::steady_clock::now())) {
+        job.kind = Job::Kind::foresee;
+        job.focus = m_prospect.focus;
+        return true;
+    }
+    job.kind = Job::Kind::letDecoderGo;
+    return m_share.isTooMuch() && m_framesToForesee <= 0 && !transport.isRunningWanted();
 }
 
 VideoPlayback::Prospect VideoPlayback::prospectOf(const Transport& transport) {

@@ -67,6 +67,10 @@ void VideoPlayback::perform(const Job& job) {
             return;
         case Job::Kind::foresee:
             return foresee(job);
+        case Job::Kind::letDecoderGo:
+            m_source->letDecoderGo();
+            ++m_playback.transport.lock()->statistics.decodersGivenUp;
+            return;
         }
     } catch (const Cancelled&) {
         // Something newer is wanted, or the player is being closed.
@@ -83,7 +87,7 @@ void VideoPlayback::open(const Job& job) {
     m_rollingGeneration = 0;
     if (!m_item)
         return;
-    auto source = std::make_unique<FrameSource>(m_playback.cache, m_item);
+    auto source = std::make_unique<FrameSource>(m_playback.cache, m_share, m_item);
     if (!source->hasPicture())
         return;
     const double fps = m_item->asset()->tracks(MediaType::video).front().nominalFrameRate;
@@ -96,6 +100,7 @@ void VideoPlayback::giveUp(const Job& job) {
     switch (job.kind) {
     case Job::Kind::open:
     case Job::Kind::keepPassed:
+    case Job::Kind::letDecoderGo:
         break;
     case Job::Kind::seek:
     case Job::Kind::near:

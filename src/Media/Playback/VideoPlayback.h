@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Media/Playback/DecoderShare.h"
 #include "Media/Playback/Foresight.h"
 #include "Media/Playback/FrameSource.h"
 #include "Media/Playback/Transport.h"
@@ -16,7 +17,9 @@ namespace media::playback {
 /// Lives on one thread of its own, which owns the source.
 class VideoPlayback {
 public:
-    explicit VideoPlayback(Playback& playback) : m_playback(playback) {}
+    explicit VideoPlayback(Playback& playback)
+        : m_playback(playback),
+          m_share([&playback] { playback.transport.lock()->videoWake.raise(); }) {}
 
     void work(const std::stop_token& stop);
 
@@ -35,7 +38,8 @@ private:
             ahead,
             prepare,
             keepPassed,
-            foresee
+            foresee,
+            letDecoderGo
         };
         Kind kind = Kind::open;
         std::uint64_t generation = 0;
@@ -83,8 +87,8 @@ private:
     void passOver(const Job& job, std::int64_t end);
 
     Playback& m_playback;
-
     std::shared_ptr<const PlayerItem> m_item;
+    DecoderShare m_share;
     /// null where there is no picture, or none that can be decoded.
     std::unique_ptr<FrameSource> m_source;
     double m_frameTicks = 0;

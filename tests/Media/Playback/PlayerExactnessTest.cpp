@@ -1,13 +1,17 @@
 #include "PlayerStage.h"
 
+#include "Media/Playback/DecoderShare.h"
+
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <random>
 #include <string>
 
 using media::Time;
+using media::playback::DecoderShare;
 using testsupport::Fixture;
 using testsupport::makeFixture;
 using testsupport::Recipe;
@@ -113,6 +117,47 @@ private:
 Recipe silent(Recipe recipe) {
     recipe.audioTracks = 0;
     return recipe;
+}
+
+/// While it lives no decoder but the one used last keeps its pictures.
+class NoRoomForIdleDecoders {
+public:
+    NoRoomForIdleDecoders() { DecoderShare::setBytesOfAll(0); }
+
+    NoRoomForIdleDecoders(const NoRoomForIdleDecoders&) = delete;
+    NoRoomForIdleDecoders& operator=(const NoRoomForIdleDecoders&) = delete;
+
+    ~NoRoomForIdleDecoders() { DecoderShare::setBytesOfAll(DecoderShare::kBytesOfAll); }
+};
+
+TEST(PlayerMemory, showsTheFrameAskedForAfterItsDecoderWasGivenUpForAnothers) {
+    const NoRoomForIdleDecoders noRoom;
+    const Fixture fixture = makeFixture(
+        silent({.duration = 40, .groupOfPictures = 50, .bFrames = 3, .isOpenGroup = true}));
+    std::array<PlayerStage, 2> stages;
+    for (PlayerStage& stage : stages)
+        stage.load(fixture.path);
+    const auto givenUp = [&] {
+        return stages[0].player->statistics().decodersGivenUp +
+               stages[1].player->statistics().decodersGivenUp;
+    };
+    for (int round = 0; round < 8; ++round) {
+        // When both have come to rest one of them has to have let go; it needs a decoder again
+        // for a place as far from the last.
+        const std::uint64_t before = givenUp();
+        const Time time{600 * (3 + 4 * round) + 37 * round, 600};
+        for (PlayerStage& stage : stages) {
+            ASSERT_TRUE(stage.seekAndWait(time));
+            ASSERT_EQ(stage.sink.number(), frameAt(fixture, time)) << "round " << round;
+        }
+        ASSERT_TRUE(stages[0].pumpUntil([&] { return givenUp() > before; })) << round;
+        const int number = frameAt(fixture, time);
+        for (PlayerStage& stage : stages) {
+            stage.player->setPreviewSize(100 + 20 * round, 0);
+            ASSERT_TRUE(stage.stepUntilShown(-2, number - 2)) << "round " << round;
+            ASSERT_TRUE(stage.stepUntilShown(70, number + 68)) << "round " << round;
+        }
+    }
 }
 
 class PlayerExactness : public testing::TestWithParam<Recipe> {};
