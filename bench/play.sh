@@ -19,8 +19,8 @@ if command -v pulseaudio >/dev/null; then
         -L module-native-protocol-unix -L "module-null-sink sink_name=null rate=48000" &
     servers+=($!)
     until pactl info >/dev/null 2>&1; do sleep 0.1; done
-    # An idle null sink has drawn silence up to two seconds ahead, and what begins to play then
-    # stands still until that is over, in any player. Silence beside it keeps the sink awake.
+    # On an idle null sink both players stand still for up to 1.5 s after they began, presumably
+    # because it has drawn silence ahead. Silence beside them keeps it awake.
     pacat --playback --latency-msec=20 /dev/zero &
     servers+=($!)
     sound="with sound"

@@ -303,8 +303,8 @@ private:
             av_packet_get_side_data(&packet, AV_PKT_DATA_NEW_EXTRADATA, nullptr) != nullptr;
         m_hasNewParameters = m_hasNewParameters || bringsParameters;
         const bool canLeaveOut = isUnneeded(packet);
-        // One that the decoder skips takes the turn of one of its threads all the same, and those
-        // of H.264 lose track of where the pictures are intact again.
+        // One that the decoder skips takes the turn of one of its threads all the same; and with
+        // two threads H.264's has been seen to hold back the last pictures of a stream after it.
         if (canLeaveOut && m_disposability.isPlain() && !bringsParameters)
             return;
         m_times.notePacket(packet);

@@ -7,9 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstring>
+#include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 

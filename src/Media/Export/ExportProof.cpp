@@ -3,6 +3,7 @@
 #include "Media/Error.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/PacketFacts.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
@@ -55,6 +56,7 @@ public:
         : m_demuxer(demuxer),
           m_stream(stream),
           m_stop(stop),
+          m_disposability(*stream.codecpar),
           m_decoder(*stream.codecpar, stream.time_base) {
         // How smooth the edges of blocks are proves nothing.
         m_decoder.context().skip_loop_filter = AVDISCARD_ALL;
@@ -114,9 +116,8 @@ private:
             m_decoder.send(nullptr);
             return false;
         }
-        m_decoder.context().skip_frame =
-            m_packet->pts != wanted ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
-        m_decoder.send(m_packet.get());
+        if (m_packet->pts == wanted || !m_disposability.mayBeLeftOut(*m_packet))
+            m_decoder.send(m_packet.get());
         av_packet_unref(m_packet.get());
         return true;
     }
@@ -129,6 +130,7 @@ private:
     ffmpeg::Demuxer& m_demuxer;
     const AVStream& m_stream;
     std::stop_token m_stop;
+    ffmpeg::Disposability m_disposability;
     ffmpeg::Decoder m_decoder;
     ffmpeg::PacketPtr m_packet = ffmpeg::makePacket();
     ffmpeg::FramePtr m_frame = ffmpeg::makeFrame();
