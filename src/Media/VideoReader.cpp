@@ -302,13 +302,17 @@ private:
         const bool bringsParameters =
             av_packet_get_side_data(&packet, AV_PKT_DATA_NEW_EXTRADATA, nullptr) != nullptr;
         m_hasNewParameters = m_hasNewParameters || bringsParameters;
-        const bool canLeaveOut = isUnneeded(packet);
+        const ffmpeg::Dispensable dispensable = m_disposability.judge(packet);
+        const bool isLeftOut =
+            isPassedBy(packet) && dispensable != ffmpeg::Dispensable::no && !m_hasNewParameters;
+        if (isLeftOut)
+            m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
         // One that the decoder skips takes the turn of one of its threads all the same; and with
         // two threads H.264's has been seen to hold back the last pictures of a stream after it.
-        if (canLeaveOut && m_disposability.isPlain() && !bringsParameters)
+        if (isLeftOut && dispensable == ffmpeg::Dispensable::entirely)
             return;
         m_times.notePacket(packet);
-        m_decoder->context().skip_frame = canLeaveOut ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+        m_decoder->context().skip_frame = isLeftOut ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
         m_decoder->send(&packet);
     }
 
@@ -348,18 +352,13 @@ private:
 
     /// On the way to a target: whether a later picture, already read, will be shown at or before
     /// it, so that this one is not the picture there.
-    [[nodiscard]] bool isUnneeded(const AVPacket& packet) {
+    [[nodiscard]] bool isPassedBy(const AVPacket& packet) {
         if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE || m_track.lacksPresentationTimes)
             return false;
         const std::int64_t ticks = ticksOf(packet);
         if (ticks <= m_target)
             m_bestTicks = std::max(m_bestTicks, ticks);
-        if (ticks >= m_bestTicks || ticks >= m_completeFrom)
-            return false;
-        if (!m_disposability.mayBeLeftOut(packet))
-            return false;
-        m_gaplessFrom = std::max(m_gaplessFrom, m_bestTicks);
-        return true;
+        return ticks < m_bestTicks && ticks < m_completeFrom;
     }
 
     void enqueue(ffmpeg::FramePtr frame) {

@@ -37,7 +37,7 @@ public:
 
     struct Options {
         Detail detail = Detail::full;
-        /// Decoder threads; 0 for as many as there are processors.
+        /// Decoder threads; 0 for as many as there are processors, up to 16.
         int threads = 0;
         /// How far those stand back behind other threads; see standBack().
         int niceness = 0;

@@ -116,7 +116,8 @@ private:
             m_decoder.send(nullptr);
             return false;
         }
-        if (m_packet->pts == wanted || !m_disposability.mayBeLeftOut(*m_packet))
+        if (m_disposability.judge(*m_packet) != ffmpeg::Dispensable::entirely ||
+            m_packet->pts == wanted)
             m_decoder.send(m_packet.get());
         av_packet_unref(m_packet.get());
         return true;

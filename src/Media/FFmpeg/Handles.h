@@ -25,6 +25,8 @@ struct Deleter {
         avcodec_parameters_free(&parameters);
     }
 
+    void operator()(AVCodecParserContext* parser) const noexcept { av_parser_close(parser); }
+
     void operator()(AVFrame* frame) const noexcept { av_frame_free(&frame); }
 
     void operator()(AVPacket* packet) const noexcept { av_packet_free(&packet); }
@@ -50,6 +52,7 @@ using FormatContextPtr = std::unique_ptr<AVFormatContext, Deleter>;
 using OutputContextPtr = std::unique_ptr<AVFormatContext, OutputDeleter>;
 using CodecContextPtr = std::unique_ptr<AVCodecContext, Deleter>;
 using CodecParametersPtr = std::unique_ptr<AVCodecParameters, Deleter>;
+using ParserPtr = std::unique_ptr<AVCodecParserContext, Deleter>;
 using FramePtr = std::unique_ptr<AVFrame, Deleter>;
 using PacketPtr = std::unique_ptr<AVPacket, Deleter>;
 using DictionaryPtr = std::unique_ptr<AVDictionary, Deleter>;

@@ -1,5 +1,7 @@
 #include "Media/FFmpeg/PacketFacts.h"
 
+#include "Media/FFmpeg/Check.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -36,6 +38,7 @@ bool isWholeKeyFrame(const AVPacket& packet) {
 /// The units of an H.264 or HEVC packet, each with its length or a start code in front of it.
 class Units {
 public:
+    /// `lengthBytes`: of the lengths; 0 where there are start codes.
     Units(const AVPacket& packet, unsigned lengthBytes)
         : m_rest(packet.data, static_cast<std::size_t>(std::max(packet.size, 0))),
           m_lengthBytes(lengthBytes) {
@@ -43,7 +46,7 @@ public:
             skipPastStartCode();
     }
 
-    /// Empty where the packet is cut off; none at its end.
+    /// Empty, and the last, where the lengths are not those of the packet; none at its end.
     std::optional<std::span<const std::uint8_t>> next() {
         if (m_rest.empty())
             return std::nullopt;
@@ -56,6 +59,8 @@ public:
         for (const std::uint8_t byte : m_rest.first(std::min(m_lengthBytes, m_rest.size())))
             length = length << 8 | byte;
         m_rest = m_rest.subspan(std::min(m_lengthBytes, m_rest.size()));
+        if (length > m_rest.size())
+            m_rest = {};
         const auto unit = m_rest.first(std::min(length, m_rest.size()));
         m_rest = m_rest.subspan(unit.size());
         return unit;
@@ -75,21 +80,35 @@ private:
 } // namespace
 
 Disposability::Disposability(const AVCodecParameters& parameters)
-    : m_codec(parameters.codec_id), m_layout(layoutOf(parameters)) {}
+    : m_codec(parameters.codec_id), m_layout(layoutOf(parameters)) {
+    if (m_codec != AV_CODEC_ID_H264)
+        return;
+    m_parserContext.reset(allocated(avcodec_alloc_context3(nullptr)));
+    check(avcodec_parameters_to_context(m_parserContext.get(), &parameters));
+    m_parser.reset(allocated(av_parser_init(m_codec)));
+    m_parser->flags |= PARSER_FLAG_COMPLETE_FRAMES;
+}
 
-bool Disposability::mayBeLeftOut(const AVPacket& packet) const {
+Dispensable Disposability::judge(const AVPacket& packet) {
     switch (m_codec) {
     case AV_CODEC_ID_H264:
-        return isH264NonReference(packet);
+        return isWholeFrame(packet) && isH264NonReference(packet) ? Dispensable::entirely
+                                                                  : Dispensable::no;
     case AV_CODEC_ID_HEVC:
-        return m_layout && isHevcNonReference(packet);
+        return m_layout && isHevcNonReference(packet) ? Dispensable::entirely : Dispensable::no;
     default:
-        return canSkipNonReference(m_codec);
+        return canSkipNonReference(m_codec) ? Dispensable::bySkipping : Dispensable::no;
     }
 }
 
-bool Disposability::isPlain() const {
-    return m_codec == AV_CODEC_ID_H264 || m_codec == AV_CODEC_ID_HEVC;
+/// Not one field of a frame, whose other field may be in the next packet: a decoder that got only
+/// one of them would take what follows for the other.
+bool Disposability::isWholeFrame(const AVPacket& packet) {
+    std::uint8_t* data = nullptr;
+    int size = 0;
+    av_parser_parse2(m_parser.get(), m_parserContext.get(), &data, &size, packet.data, packet.size,
+                     packet.pts, packet.dts, packet.pos);
+    return m_parser->picture_structure == AV_PICTURE_STRUCTURE_FRAME;
 }
 
 /// None for HEVC whose layers are not known.
@@ -112,40 +131,41 @@ std::optional<Disposability::Layout> Disposability::layoutOf(const AVCodecParame
 }
 
 /// The units of the picture say so for their own temporal layer, and there is none above it.
-/// Before them there are no parameters that others may need.
+/// Beside them is nothing that others may need.
 bool Disposability::isHevcNonReference(const AVPacket& packet) const {
     constexpr unsigned kFirstOtherUnit = 32;
-    constexpr unsigned kLastParameters = 34;
     constexpr unsigned kFirstReservedPicture = 16;
+    constexpr std::array<unsigned, 4> kHarmless{35, 38, 39, 40}; // delimiter, filler, messages
+    bool hasPicture = false;
     for (Units units(packet, m_layout->lengthBytes); const auto unit = units.next();) {
         if (unit->size() < 2)
             return false;
         const unsigned type = (*unit)[0] >> 1 & 63U;
         const int layer = ((*unit)[1] & 7) - 1;
-        if (type < kFirstOtherUnit)
-            return type < kFirstReservedPicture && type % 2 == 0 && layer == m_layout->layers - 1;
-        if (type <= kLastParameters)
+        const bool isNeedlessPicture =
+            type < kFirstReservedPicture && type % 2 == 0 && layer == m_layout->layers - 1;
+        if (type < kFirstOtherUnit ? !isNeedlessPicture
+                                   : std::ranges::find(kHarmless, type) == kHarmless.end())
             return false;
+        hasPicture = hasPicture || isNeedlessPicture;
     }
-    return false;
+    return hasPicture;
 }
 
 /// No unit of the picture says that another refers to it, and there are no parameters beside it.
 bool Disposability::isH264NonReference(const AVPacket& packet) const {
     constexpr unsigned kLastPicture = 5;
-    constexpr unsigned kMessage = 6;
-    constexpr unsigned kDelimiter = 9;
+    constexpr std::array<unsigned, 3> kHarmless{6, 9, 12}; // messages, delimiter, filler
     bool hasPicture = false;
     for (Units units(packet, m_layout->lengthBytes); const auto unit = units.next();) {
         if (unit->empty())
             return false;
         const unsigned type = (*unit)[0] & 31U;
         const bool isReferredTo = ((*unit)[0] >> 5 & 3U) != 0;
-        if (type == 0 || (type <= kLastPicture && isReferredTo))
+        const bool isNeedlessPicture = type > 0 && type <= kLastPicture && !isReferredTo;
+        if (!isNeedlessPicture && std::ranges::find(kHarmless, type) == kHarmless.end())
             return false;
-        if (type > kLastPicture && type != kMessage && type != kDelimiter)
-            return false;
-        hasPicture = hasPicture || type <= kLastPicture;
+        hasPicture = hasPicture || isNeedlessPicture;
     }
     return hasPicture;
 }
