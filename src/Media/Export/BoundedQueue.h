@@ -12,8 +12,8 @@
 namespace media {
 
 /// Hands values from one thread to another in order, holding up the writer while `capacity` of
-/// them wait, or with a capacity of 0 until the reader comes for one. Both ends throw Cancelled as
-/// soon as `stop` is requested.
+/// them wait, or with a capacity of 0 until the reader comes for one (a reader that waits makes
+/// room for one more). Both ends throw Cancelled as soon as `stop` is requested.
 template<typename T>
 class BoundedQueue {
 public:

@@ -7,16 +7,12 @@
 
 namespace media::ffmpeg {
 
-namespace {
-
-/// One a processor: libav's own choice would be one more, which holds another picture and gains
-/// nothing. Each holds a picture, so there are limits to it (the same as libav's).
-int threadsForAll() {
+/// libav's own choice would be one more than processors, which holds more pictures and gains
+/// nothing. The limit is the same as libav's.
+int Decoder::usualThreads() {
     constexpr unsigned kMost = 16;
     return static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, kMost));
 }
-
-} // namespace
 
 Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads) {
     silenceLog();
@@ -26,7 +22,7 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     m_context.reset(allocated(avcodec_alloc_context3(codec)));
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
-    m_context->thread_count = threads > 0 ? threads : threadsForAll();
+    m_context->thread_count = threads > 0 ? threads : usualThreads();
     check(avcodec_open2(m_context.get(), codec, nullptr));
 }
 

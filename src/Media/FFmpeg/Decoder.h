@@ -7,9 +7,11 @@ namespace media::ffmpeg {
 /// A libav decoder. Use from one thread at a time.
 class Decoder {
 public:
-    /// `threads` 0: as many as there are processors, up to 16. Throws Error if there is no decoder
-    /// or it does not open.
+    /// `threads` 0: usualThreads(). Throws Error if there is no decoder or it does not open.
     Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads = 0);
+
+    /// As many as there are processors, up to 16.
+    static int usualThreads();
 
     [[nodiscard]] AVCodecContext& context() { return *m_context; }
 

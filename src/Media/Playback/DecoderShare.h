@@ -11,11 +11,12 @@ namespace media::playback {
 /// are; the others are asked to let go.
 class DecoderShare {
 public:
-    /// What six decoders of 2160p hold, or twenty-four of 1080p.
+    /// What five decoders of 2160p hold on two processors, or twenty of 1080p.
     static constexpr std::size_t kBytesOfAll = std::size_t{768} << 20;
 
-    /// `wake` is called, from any thread that uses another share, when this one becomes too much.
-    /// It must not touch any share.
+    /// `wake` is called, from any thread that uses another share, when this one becomes too much:
+    /// with the lock of all shares held, so that this one cannot go meanwhile. It must not touch
+    /// any share, nor wait for a lock under which one is touched.
     explicit DecoderShare(std::function<void()> wake);
     DecoderShare(const DecoderShare&) = delete;
     DecoderShare& operator=(const DecoderShare&) = delete;

@@ -1,6 +1,7 @@
 #include "Media/Playback/FrameSource.h"
 
 #include "Media/Error.h"
+#include "Media/FFmpeg/Decoder.h"
 
 #include <algorithm>
 #include <array>
@@ -17,9 +18,11 @@ constexpr std::size_t kPassedBytes = std::size_t{48} << 20;
 /// How many frames before one are worth decoding, when the next ones will be those (1/600 s).
 constexpr std::int64_t kBackwardTicks = kComparisonTimescale * 3 / 10;
 
-/// Pictures that a decoder of H.264 or HEVC holds for others to refer to, to put them in order,
-/// and for its threads; as observed.
-constexpr std::size_t kPicturesOfDecoder = 10;
+/// Pictures that a decoder of H.264 holds for others to refer to and to put them in order, and
+/// those of each of its threads; as observed with 2160p.
+std::size_t picturesOfDecoder() {
+    return 8 + 2 * static_cast<std::size_t>(ffmpeg::Decoder::usualThreads());
+}
 
 std::size_t byteCount(const AVFrame& frame) {
     std::size_t bytes = 0;
@@ -119,7 +122,7 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
             return std::nullopt;
         }
         m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
-        m_share.use(kPicturesOfDecoder * byteCount(*m_unfinished->frame));
+        m_share.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
         ++m_decodedCount;
     }
     const std::int64_t end = endOf(*m_unfinished, stop);
