@@ -70,7 +70,9 @@ void AppCommands::makeFileActions() {
         if (const auto state = m_focusedValues.editState())
             state->presentExportPanel();
     });
-    m_close = add(tr("Close Video"), QKeySequence(Qt::Key_Escape));
+    m_close = add(tr("Close Video"));
+    // The menu shows the first; the second is what desktop programs close a window with.
+    m_close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)});
     connect(m_close, &QAction::triggered, this, &AppCommands::closeKeyWindow);
 }
 

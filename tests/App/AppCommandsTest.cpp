@@ -137,6 +137,12 @@ TEST_F(AppCommandsTest, followsTheFocusedModelAtOnce) {
     expectVideoCommands(true);
 }
 
+TEST_F(AppCommandsTest, closesAWindowByTheUsualKeyOfTheDesktopToo) {
+    m_focusedValues.setEditState(m_state);
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(m_window.isVisible());
+}
+
 TEST_F(AppCommandsTest, doesNotCloseAWindowThatExports) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     m_focusedValues.setEditState(m_state);
@@ -144,6 +150,7 @@ TEST_F(AppCommandsTest, doesNotCloseAWindowThatExports) {
     m_state->exportTo(urlOf(folder / "out.mp4"));
     EXPECT_FALSE(action("Close Video")->isEnabled());
     press(Qt::Key_Escape);
+    press(Qt::Key_W, Qt::ControlModifier);
     EXPECT_TRUE(m_window.isVisible());
     m_state->cancelExport();
     ASSERT_TRUE(pumpUntil([this] { return !m_state->exportProgress(); }));
