@@ -53,6 +53,7 @@ table() {
 
 h264=(medium:16 faster:16 veryfast:16 superfast:16.6 superfast:16.6:subme=2
     superfast:17.1:subme=2:qcomp=0.8 superfast:16.8:subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9
+    superfast:17.1:subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9:partitions=i8x8:deblock=1,1
     superfast:16.6:mbtree=1:rc-lookahead=10 superfast:16.6:trellis=1 ultrafast:14)
 hevc=(medium:18 fast:18 superfast:12 superfast:14 superfast:16 ultrafast:10 ultrafast:11
     ultrafast:12 ultrafast:14 ultrafast:16)

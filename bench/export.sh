@@ -8,11 +8,11 @@
 #   bench/export.sh [straight] [turned] [smaller] [deep] [limit]      (all of them)
 source "$(dirname "$0")/common.sh"
 
-parameters264=subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9
+parameters264=subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9:partitions=i8x8:deblock=1,1
 ours264=(-c:v libx264 -preset superfast -x264-params "$parameters264" -crf)
 handBrake264=(-e x264 --encoder-preset superfast -x "$parameters264" -q)
-crf264=16.8
-crf264Reduced=16
+crf264=17.1
+crf264Reduced=16.1
 ours265=(-c:v libx265 -preset ultrafast -crf 11 -x265-params log-level=none -tag:v hvc1)
 aim264=(-c:v libx264 -preset medium -crf 16)
 aim265=(-c:v libx265 -preset medium -crf 18 -x265-params log-level=none -tag:v hvc1)

@@ -28,7 +28,7 @@ Vector<T> interleaved(Vector<T> a, Vector<T> b, std::integer_sequence<int, I...>
     return __builtin_shufflevector(a, b, (kStart + I / 2 + (I % 2) * kCount)...);
 }
 
-/// How far ahead of the tile at hand a row is brought into the cache: two lines of it, in bytes.
+/// How far ahead of the tile at hand a row is brought into the cache: two cache lines, in bytes.
 constexpr int kFetchedAhead = 128;
 
 /// Transposes a square tile of kCount × kCount samples: each round of interleaving rows i and
