@@ -27,6 +27,13 @@ constexpr std::int64_t kAacBitRatePerChannel = 128'000;
 constexpr std::int64_t kAacMostBitsPerSample = 5;
 /// x265 codes no picture smaller than its smallest coding tree unit; pixels.
 constexpr int kHevcSmallestSide = 16;
+/// x265 takes coding tree units of 32 × 32 of this preset only where a side has two of them; pixels.
+constexpr int kHevcSmallestSideOfUsualUnits = 64;
+/// From level 5 on HEVC has no coding tree units of 16 × 16 (ITU-T H.265, A.4.1). The limits of
+/// level 4.1, table A.8 and A.4.1: pixels a picture, pixels a side and pixels a second.
+constexpr double kHevcLevel41Pixels = 2'228'224;
+constexpr int kHevcLevel41Side = 4222;
+constexpr double kHevcLevel41PixelRate = 133'693'440;
 
 void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
     context.color_primaries = source.color_primaries;
@@ -48,6 +55,17 @@ void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
 
 void setOption(AVCodecContext& context, const char* name, const std::string& value) {
     check(av_opt_set(context.priv_data, name, value.c_str(), 0));
+}
+
+/// Whether coding tree units of 16 × 16 are allowed, or necessary. At this quality larger ones would
+/// nearly always be divided: trying them takes a fifth of the encoder's time.
+bool takesSmallUnits(const VideoEncoding& encoding) {
+    const auto [shorter, longer] = std::minmax(encoding.width, encoding.height);
+    if (shorter < kHevcSmallestSideOfUsualUnits)
+        return true;
+    const double pixels = static_cast<double>(encoding.width) * encoding.height;
+    return pixels <= kHevcLevel41Pixels && longer <= kHevcLevel41Side &&
+           pixels * av_q2d(encoding.frameRate) <= kHevcLevel41PixelRate;
 }
 
 CodecContextPtr makeContext(const char* encoderName) {
@@ -99,8 +117,8 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         setOption(*context, "preset", settings.hevcPreset);
         setOption(*context, "crf", std::to_string(settings.hevcCrf));
         setOption(*context, "forced-idr", "1");
-        std::string parameters = "log-level=none";
-        if (std::min(encoding.width, encoding.height) < 64)
+        std::string parameters = "log-level=none:" + settings.hevcParameters;
+        if (takesSmallUnits(encoding))
             parameters += ":ctu=16";
         parameters += x265Parameters(track.dynamicRange);
         setOption(*context, "x265-params", parameters);
