@@ -20,8 +20,11 @@ rawClip() {
 # row CLIP FORMAT ENCODER PRESET CRF [PARAMETERS]: one line of the table; sets cpu, bytes.
 row() {
     local clip=$1 format=$2 encoder=$3 preset=$4 crf=$5 parameters=()
-    [[ $encoder == libx265 ]] && parameters=(-x265-params log-level=none)
-    [[ -n ${6:-} ]] && parameters=(-x264-params "$6")
+    if [[ $encoder == libx265 ]]; then
+        parameters=(-x265-params "log-level=none${6:+:$6}")
+    elif [[ -n ${6:-} ]]; then
+        parameters=(-x264-params "$6")
+    fi
     measure ffmpeg -nostdin -v error -y -i "$clip" -fps_mode passthrough \
         -pix_fmt "$format" -c:v "$encoder" \
         -preset "$preset" -crf "$crf" "${parameters[@]}" -f nut "$scratch/coded.nut"
@@ -55,8 +58,8 @@ h264=(medium:16 faster:16 veryfast:16 superfast:16.6 superfast:16.6:subme=2
     superfast:17.1:subme=2:qcomp=0.8 superfast:16.8:subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9
     superfast:17.1:subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9:partitions=i8x8:deblock=1,1
     superfast:16.6:mbtree=1:rc-lookahead=10 superfast:16.6:trellis=1 ultrafast:14)
-hevc=(medium:18 fast:18 superfast:12 superfast:14 superfast:16 ultrafast:10 ultrafast:11
-    ultrafast:12 ultrafast:14 ultrafast:16)
+hevc=(medium:18 fast:18 superfast:14 superfast:16 ultrafast:11 ultrafast:12 ultrafast:14
+    ultrafast:11:psy-rd=0:deblock=2,2 ultrafast:11:psy-rd=0:deblock=2,2:ctu=16)
 
 printMachine
 noise=(-f lavfi -i "testsrc2=size=1920x1080:rate=30,noise=alls=10:allf=t")

@@ -14,7 +14,7 @@ handBrake264=(-e x264 --encoder-preset superfast -x "$parameters264" -q)
 crf264=17.1
 crf264Reduced=16.1
 parameters265=psy-rd=0:deblock=2,2:ctu=16
-crf265=11.2
+crf265=11
 ours265=(-c:v libx265 -preset ultrafast -x265-params "log-level=none:$parameters265" -tag:v hvc1
     -crf "$crf265")
 aim264=(-c:v libx264 -preset medium -crf 16)

@@ -30,10 +30,10 @@ struct EncoderSettings {
     double h264ReducedCrf = 16.1;
     /// HEVC Main 10 for deeper or HDR sources (libx265).
     std::string hevcPreset = "ultrafast";
-    /// Further parameters of x265: what is judged is likeness to the source, not its look of detail;
-    /// edges of blocks are smoothed more, which is nearer to the source.
+    /// Further parameters of x265: what is judged is likeness to the source, not its look of
+    /// detail; edges of blocks are smoothed more, which is nearer to the source.
     std::string hevcParameters = "psy-rd=0:deblock=2,2";
-    double hevcCrf = 11.2;
+    double hevcCrf = 11;
 };
 
 /// Turns a composition into a file: demux → decode → transform → encode → mux, each stage on its

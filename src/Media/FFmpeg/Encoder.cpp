@@ -27,7 +27,8 @@ constexpr std::int64_t kAacBitRatePerChannel = 128'000;
 constexpr std::int64_t kAacMostBitsPerSample = 5;
 /// x265 codes no picture smaller than its smallest coding tree unit; pixels.
 constexpr int kHevcSmallestSide = 16;
-/// x265 takes coding tree units of 32 × 32 of this preset only where a side has two of them; pixels.
+/// x265 takes coding tree units of 32 × 32 of this preset only where a side has two of them;
+/// pixels.
 constexpr int kHevcSmallestSideOfUsualUnits = 64;
 /// From level 5 on HEVC has no coding tree units of 16 × 16 (ITU-T H.265, A.4.1). The limits of
 /// level 4.1, table A.8 and A.4.1: pixels a picture, pixels a side and pixels a second.
@@ -57,8 +58,8 @@ void setOption(AVCodecContext& context, const char* name, const std::string& val
     check(av_opt_set(context.priv_data, name, value.c_str(), 0));
 }
 
-/// Whether coding tree units of 16 × 16 are allowed, or necessary. At this quality larger ones would
-/// nearly always be divided: trying them takes a fifth of the encoder's time.
+/// Whether coding tree units of 16 × 16 are allowed, or necessary. At this quality larger ones
+/// would nearly always be divided: trying them takes a fifth of the encoder's time.
 bool takesSmallUnits(const VideoEncoding& encoding) {
     const auto [shorter, longer] = std::minmax(encoding.width, encoding.height);
     if (shorter < kHevcSmallestSideOfUsualUnits)
