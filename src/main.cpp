@@ -3,6 +3,7 @@
 #include "Media/Engine.h"
 #include "Platform/DesktopApplication.h"
 #include "Platform/QuickActionInstallation.h"
+#include "Support/LeakCheck.h"
 #include "Support/Workers.h"
 
 #include <QApplication>
@@ -129,10 +130,12 @@ int main(int argc, char** argv) {
         std::puts("brisklet " BRISKLET_VERSION);
         return 0;
     }
+    int status = 1;
     try {
-        return run(argc, argv, everything);
+        status = run(argc, argv, everything);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "brisklet: %s\n", error.what());
-        return 1;
     }
+    brisklet::checkForLeaks();
+    return status;
 }

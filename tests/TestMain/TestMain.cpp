@@ -1,7 +1,19 @@
+#include "Support/LeakCheck.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
+
+namespace {
+
+/// No window outlives the application, so that one that is forgotten is found to be a leak.
+int runTests(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
+
+} // namespace
 
 /// Runs the tests under a QApplication that needs no display and that keeps its settings, caches
 /// and data in a folder of its own, so that no test reads or changes those of the person who runs
@@ -16,6 +28,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     testing::InitGoogleMock(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int status = runTests(argc, argv);
+    brisklet::checkForLeaks();
+    return status;
 }

@@ -1,3 +1,4 @@
+#include "Support/LeakCheck.h"
 #include "Support/Workers.h"
 #include "Tools/bench/Benchmarks.h"
 
@@ -173,10 +174,7 @@ void runBenchmark(const std::string& name, const std::vector<std::string>& opera
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    const auto start = Clock::now();
+int run(int argc, char** argv, Clock::time_point start) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("brisklet"));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -194,5 +192,14 @@ int main(int argc, char** argv) {
         status = kFailed;
     }
     brisklet::waitForWorkers();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto start = Clock::now();
+    const int status = run(argc, argv, start);
+    brisklet::checkForLeaks();
     return status;
 }
