@@ -110,16 +110,16 @@ TEST_F(ExportedFile, takesSmallCodingTreeUnitsWhereHevcAllowsThem) {
 
     struct {
         const char* size;
-        int framesPerSecond;
+        const char* framesPerSecond;
         bool isLevel5;
-    } const rows[] = {{"1920x1080", 60, false},
-                      {"1080x1920", 60, false},
-                      {"1920x1080", 120, true},
-                      {"2048x1152", 30, true},
-                      {"4320x128", 30, true}};
+    } const rows[] = {
+        {"1920x1080", "60", false}, {"1080x1920", "60", false},  {"1920x1080", "120", true},
+        {"2048x1152", "30", true},  {"1460x1524", "30", true}, // in whole units of 16 pixels
+        {"2048x1080", "60", false}, {"2048x1080", "60.1", true}, {"4208x128", "30", false},
+        {"4210x128", "30", true},   {"4320x40", "30", true}};
 
     for (const auto& row : rows) {
-        const std::string size = row.size, rate = std::to_string(row.framesPerSecond);
+        const std::string size = row.size, rate = row.framesPerSecond;
         SCOPED_TRACE(size + " at " + rate);
         const auto source =
             cachedMedia("level-" + size + "-" + rate + ".mkv",

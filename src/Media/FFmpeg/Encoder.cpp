@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 
 extern "C" {
@@ -25,13 +26,12 @@ constexpr std::array kAacSampleRates = {7350,  8000,  11025, 12000, 16000, 22050
 constexpr std::int64_t kAacBitRatePerChannel = 128'000;
 /// AAC allows 6144 bits a channel in 1024 samples; more is refused. Bits a sample.
 constexpr std::int64_t kAacMostBitsPerSample = 5;
-/// x265 codes no picture smaller than its smallest coding tree unit; pixels.
-constexpr int kHevcSmallestSide = 16;
-/// x265 takes coding tree units of 32 × 32 of this preset only where a side has two of them;
-/// pixels.
-constexpr int kHevcSmallestSideOfUsualUnits = 64;
-/// From level 5 on HEVC has no coding tree units of 16 × 16 (ITU-T H.265, A.4.1). The limits of
-/// level 4.1, table A.8 and A.4.1: pixels a picture, pixels a side and pixels a second.
+/// The preset's coding tree units, and small ones. x265 codes no picture with a smaller side.
+/// Pixels.
+constexpr int kHevcUsualUnit = 32;
+constexpr int kHevcSmallUnit = 16;
+/// From level 5 on HEVC has no coding tree units of 16 × 16 (Rec. ITU-T H.265, A.4.1). The limits
+/// of level 4.1 (A.4.1, tables A.8 and A.9): pixels a picture, a side and a second.
 constexpr double kHevcLevel41Pixels = 2'228'224;
 constexpr int kHevcLevel41Side = 4222;
 constexpr double kHevcLevel41PixelRate = 133'693'440;
@@ -58,15 +58,26 @@ void setOption(AVCodecContext& context, const char* name, const std::string& val
     check(av_opt_set(context.priv_data, name, value.c_str(), 0));
 }
 
-/// Whether coding tree units of 16 × 16 are allowed, or necessary. At this quality larger ones
-/// would nearly always be divided: trying them takes a fifth of the encoder's time.
-bool takesSmallUnits(const VideoEncoding& encoding) {
-    const auto [shorter, longer] = std::minmax(encoding.width, encoding.height);
-    if (shorter < kHevcSmallestSideOfUsualUnits)
-        return true;
-    const double pixels = static_cast<double>(encoding.width) * encoding.height;
-    return pixels <= kHevcLevel41Pixels && longer <= kHevcLevel41Side &&
+/// The side of what x265 codes: whole coding units.
+int codedSide(int side) {
+    return (side + kHevcSmallUnit - 1) / kHevcSmallUnit * kHevcSmallUnit;
+}
+
+/// Whether HEVC allows small coding tree units for pictures of this size and rate.
+bool canTakeSmallUnits(const VideoEncoding& encoding) {
+    const int width = codedSide(encoding.width);
+    const int height = codedSide(encoding.height);
+    const double pixels = static_cast<double>(width) * height;
+    return pixels <= kHevcLevel41Pixels && std::max(width, height) <= kHevcLevel41Side &&
            pixels * av_q2d(encoding.frameRate) <= kHevcLevel41PixelRate;
+}
+
+/// The side of the coding tree units; none where no HEVC is possible. Small ones wherever they are
+/// allowed: at this quality others would nearly always be divided, and trying them takes a fifth
+/// of the encoder's time.
+std::optional<int> hevcUnit(const VideoEncoding& encoding) {
+    const int unit = canTakeSmallUnits(encoding) ? kHevcSmallUnit : kHevcUsualUnit;
+    return std::min(encoding.width, encoding.height) < unit ? std::nullopt : std::optional(unit);
 }
 
 CodecContextPtr makeContext(const char* encoderName) {
@@ -100,9 +111,9 @@ int aacSampleRate(int sampleRate) {
 Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encoding,
                           const EncoderSettings& settings) {
     const bool isDeep = needsDeepColor(track);
-    // Too small for x265: x264 keeps the ten bits as well.
-    const bool isTiny = std::min(encoding.width, encoding.height) < kHevcSmallestSide;
-    const bool isHevc = isDeep && !isTiny;
+    const std::optional<int> unit = hevcUnit(encoding);
+    // Where the pictures are too small for x265, x264 keeps the ten bits as well.
+    const bool isHevc = isDeep && unit;
     CodecContextPtr context = makeContext(isHevc ? "libx265" : "libx264");
     context->width = encoding.width;
     context->height = encoding.height;
@@ -118,9 +129,8 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         setOption(*context, "preset", settings.hevcPreset);
         setOption(*context, "crf", std::to_string(settings.hevcCrf));
         setOption(*context, "forced-idr", "1");
-        std::string parameters = "log-level=none:" + settings.hevcParameters;
-        if (takesSmallUnits(encoding))
-            parameters += ":ctu=16";
+        std::string parameters =
+            "log-level=none:" + settings.hevcParameters + ":ctu=" + std::to_string(*unit);
         parameters += x265Parameters(track.dynamicRange);
         setOption(*context, "x265-params", parameters);
     } else {

@@ -17,7 +17,7 @@ struct VideoEncoding {
     int width = 2;
     int height = 2;
     AVRational timeBase{1, 600};
-    /// A hint for the encoder's rate control; frames may come at any time.
+    /// The average, for the encoder's rate control and level; frames may come at any time.
     AVRational frameRate{30, 1};
     AVRational sampleAspectRatio{1, 1};
     AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
