@@ -238,6 +238,7 @@ private:
 
     void restart() {
         m_decoder->flush();
+        m_disposability.restart();
         m_queue.clear();
         m_ahead.clear();
         m_alone.reset();

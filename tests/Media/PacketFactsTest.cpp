@@ -97,6 +97,14 @@ TEST(NeedlessPackets, ofHevcAreThoseThatNoOtherPictureDependsOn) {
     expectManyNeedlessPackets({.codec = VideoCodec::hevc});
 }
 
+TEST(NeedlessPackets, ofARecorderThatRepeatsParametersAreThoseThatNoOtherPictureDependsOn) {
+    const auto sample = testsupport::sampleMedia("mkv-screenrec-1080p60-aac.mkv");
+    if (!sample)
+        GTEST_SKIP() << "the sample with parameters beside every picture is not here";
+    const auto [needed, all] = expectNothingDependsOnNeedlessPackets(*sample);
+    EXPECT_LT(needed, all * 3 / 4);
+}
+
 /// A field without its partner would be taken for the partner of the next.
 TEST(NeedlessPackets, areNoSingleFields) {
     const auto sample = testsupport::sampleMedia("mts-avchd-1080i50-ac3-pgs.mts");
@@ -107,56 +115,104 @@ TEST(NeedlessPackets, areNoSingleFields) {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// An H.264 stream whose packets have lengths of four bytes in front of their units.
-class NeedlessPacket : public testing::Test {
-protected:
-    NeedlessPacket() : m_demuxer(SourceFile::open(makeFixture({}).path)) {
+/// A generated stream, and packets made from one of its needless ones.
+class PacketMaker {
+public:
+    explicit PacketMaker(const Recipe& recipe)
+        : m_demuxer(SourceFile::open(makeFixture(recipe).path)),
+          m_hasStartCodes(recipe.container == "ts") {
         m_demuxer.findStreamInfo();
-        forEachPacket(makeFixture({}).path, [this](const AVPacket& packet, Dispensable judged) {
+        forEachPacket(makeFixture(recipe).path, [this](const AVPacket& packet, Dispensable judged) {
             Bytes& kind = judged == Dispensable::entirely ? m_needless : m_needed;
             kind.assign(packet.data, packet.data + packet.size);
         });
     }
 
-    [[nodiscard]] bool isNeedless(const Bytes& bytes) const {
-        const PacketPtr packet = makePacket();
-        EXPECT_EQ(av_new_packet(packet.get(), static_cast<int>(bytes.size())), 0);
-        std::ranges::copy(bytes, packet->data);
-        Disposability disposability(*m_demuxer.context().streams[0]->codecpar);
-        return disposability.judge(*packet) == Dispensable::entirely;
+    [[nodiscard]] const Bytes& needless() const { return m_needless; }
+
+    [[nodiscard]] const Bytes& needed() const { return m_needed; }
+
+    /// The needless packet with more units behind or in front of its own.
+    [[nodiscard]] Bytes followedBy(const std::vector<Bytes>& units) const {
+        return joined({m_needless, unitsOf(units)});
     }
 
-    /// The needless packet with more units of these bytes.
-    [[nodiscard]] Bytes followedBy(const std::vector<Bytes>& units) const {
-        Bytes bytes = m_needless;
+    [[nodiscard]] Bytes precededBy(const std::vector<Bytes>& units) const {
+        return joined({unitsOf(units), m_needless});
+    }
+
+    [[nodiscard]] AVCodecParameters& parameters() const {
+        return *m_demuxer.context().streams[0]->codecpar;
+    }
+
+private:
+    static Bytes joined(const std::vector<Bytes>& parts) {
+        Bytes bytes;
+        for (const Bytes& part : parts)
+            bytes.insert(bytes.end(), part.begin(), part.end());
+        return bytes;
+    }
+
+    [[nodiscard]] Bytes unitsOf(const std::vector<Bytes>& units) const {
+        Bytes bytes;
         for (const Bytes& unit : units) {
-            bytes.insert(bytes.end(), {0, 0, 0, static_cast<std::uint8_t>(unit.size())});
-            bytes.insert(bytes.end(), unit.begin(), unit.end());
+            const auto last =
+                m_hasStartCodes ? std::uint8_t{1} : static_cast<std::uint8_t>(unit.size());
+            bytes = joined({bytes, {0, 0, 0, last}, unit});
         }
         return bytes;
     }
 
+    mutable Demuxer m_demuxer;
+    bool m_hasStartCodes;
     Bytes m_needless;
     Bytes m_needed;
+};
+
+/// Judges packets one after the other.
+class Judge {
+public:
+    explicit Judge(const PacketMaker& maker) : m_disposability(maker.parameters()) {}
+
+    bool isNeedless(const Bytes& bytes, int flags = 0) {
+        const PacketPtr packet = makePacket();
+        EXPECT_EQ(av_new_packet(packet.get(), static_cast<int>(bytes.size())), 0);
+        std::ranges::copy(bytes, packet->data);
+        packet->flags = flags;
+        return m_disposability.judge(*packet) == Dispensable::entirely;
+    }
+
+    void restart() { m_disposability.restart(); }
 
 private:
-    mutable Demuxer m_demuxer;
+    Disposability m_disposability;
+};
+
+/// H.264 whose packets have lengths of four bytes in front of their units.
+class NeedlessPacket : public testing::Test {
+protected:
+    [[nodiscard]] bool isNeedless(const Bytes& bytes) const {
+        return Judge(m_maker).isNeedless(bytes);
+    }
+
+    PacketMaker m_maker{{}};
 };
 
 TEST_F(NeedlessPacket, hasOnlyPicturesMessagesAndFiller) {
-    EXPECT_TRUE(isNeedless(m_needless));
-    EXPECT_TRUE(isNeedless(followedBy({{0x06, 0x80}, {0x0c, 0xff}, {0x01, 0x80}})));
-    EXPECT_FALSE(isNeedless(m_needed));
-    EXPECT_FALSE(isNeedless(followedBy({{0x41, 0x80}}))) << "a picture that others refer to";
-    EXPECT_FALSE(isNeedless(followedBy({{0x68, 0x80}}))) << "parameters";
-    EXPECT_FALSE(isNeedless(followedBy({{0x0b}}))) << "the end of a stream";
+    EXPECT_TRUE(isNeedless(m_maker.needless()));
+    EXPECT_TRUE(isNeedless(m_maker.followedBy({{0x06, 0x80}, {0x0c, 0xff}, {0x01, 0x80}})));
+    EXPECT_FALSE(isNeedless(m_maker.needed()));
+    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x41, 0x80}}))) << "a picture others refer to";
+    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x68, 0x80}}))) << "parameters";
+    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x0b}}))) << "the end of a stream";
     EXPECT_FALSE(isNeedless({}));
 }
 
 TEST_F(NeedlessPacket, isCutOffNowhere) {
-    EXPECT_FALSE(isNeedless(Bytes(m_needless.begin(), m_needless.end() - 1)));
-    EXPECT_FALSE(isNeedless(Bytes(m_needless.begin(), m_needless.begin() + 4)));
-    Bytes bytes = m_needless;
+    const Bytes& whole = m_maker.needless();
+    EXPECT_FALSE(isNeedless(Bytes(whole.begin(), whole.end() - 1)));
+    EXPECT_FALSE(isNeedless(Bytes(whole.begin(), whole.begin() + 4)));
+    Bytes bytes = whole;
     bytes.insert(bytes.end(), {0, 0});
     EXPECT_FALSE(isNeedless(bytes));
     bytes.insert(bytes.end(), {0, 0});
@@ -166,10 +222,115 @@ TEST_F(NeedlessPacket, isCutOffNowhere) {
 /// Some files state lengths and have start codes all the same, which decoders notice.
 TEST_F(NeedlessPacket, hasLengthsWhereTheStreamSaysSo) {
     Bytes bytes{0, 0, 0, 1, 0x09, 0xf0};
-    bytes.insert(bytes.end(), m_needed.begin(), m_needed.end());
+    bytes.insert(bytes.end(), m_maker.needed().begin(), m_maker.needed().end());
     std::ranges::copy(Bytes{0, 0, 0, 1}, bytes.begin() + 6);
     EXPECT_FALSE(isNeedless(bytes));
+    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x06, 0x80, 0, 0, 1, 0x68, 0xee}})))
+        << "parameters inside of a message";
 }
+
+TEST_F(NeedlessPacket, isNotMarkedAsDamaged) {
+    EXPECT_FALSE(Judge(m_maker).isNeedless(m_maker.needless(), AV_PKT_FLAG_CORRUPT));
+}
+
+/// Some cameras and recorders send the parameters of pictures along with each of them. The units
+/// here are of a codec, or of packets, of one kind each.
+struct ParameterUnits {
+    const char* name;
+    Recipe recipe;
+    /// Of number 5, others of number 5, and of number 6: no picture of the stream has those.
+    Bytes parameters, others, second;
+    /// What parameters of pictures build on.
+    Bytes ofSequence;
+};
+
+class RepeatedParameters : public testing::TestWithParam<ParameterUnits> {};
+
+TEST_P(RepeatedParameters, areNotNeededAgain) {
+    const ParameterUnits& units = GetParam();
+    const PacketMaker maker(units.recipe);
+    Judge judge(maker);
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters}))) << "the first time";
+    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_TRUE(judge.isNeedless(maker.needless()));
+    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters, units.second})));
+    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.second, units.parameters})));
+}
+
+TEST_P(RepeatedParameters, areNeededAgainAfterOthersOfTheirNumber) {
+    const ParameterUnits& units = GetParam();
+    const PacketMaker maker(units.recipe);
+    Judge judge(maker);
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.others})));
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
+}
+
+TEST_P(RepeatedParameters, areNeededAgainAfterWhatTheyBuildOn) {
+    const ParameterUnits& units = GetParam();
+    const PacketMaker maker(units.recipe);
+    Judge judge(maker);
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.ofSequence})));
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
+}
+
+TEST_P(RepeatedParameters, areNeededAgainAfterARestart) {
+    const ParameterUnits& units = GetParam();
+    const PacketMaker maker(units.recipe);
+    Judge judge(maker);
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    judge.restart();
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+}
+
+TEST_P(RepeatedParameters, areNotKnownFromBehindAPicture) {
+    const ParameterUnits& units = GetParam();
+    const PacketMaker maker(units.recipe);
+    Judge judge(maker);
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(judge.isNeedless(maker.followedBy({units.parameters})));
+    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+}
+
+TEST_P(RepeatedParameters, areNotKnownFromADamagedPacket) {
+    const ParameterUnits& units = GetParam();
+    const PacketMaker maker(units.recipe);
+    Judge judge(maker);
+    const Bytes repeating = maker.precededBy({units.parameters});
+    EXPECT_FALSE(judge.isNeedless(repeating, AV_PKT_FLAG_CORRUPT));
+    EXPECT_FALSE(judge.isNeedless(repeating));
+    EXPECT_TRUE(judge.isNeedless(repeating));
+    if (units.recipe.container == "ts")
+        return;
+    EXPECT_FALSE(judge.isNeedless(Bytes(repeating.begin(), repeating.end() - 1)));
+    EXPECT_FALSE(judge.isNeedless(repeating)) << "after one whose lengths are wrong";
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, RepeatedParameters,
+                         testing::Values(ParameterUnits{"H264",
+                                                        {.codec = VideoCodec::h264},
+                                                        {0x68, 0x34, 0x80},
+                                                        {0x68, 0x36, 0x80},
+                                                        {0x68, 0x3c, 0x80},
+                                                        {0x6f, 0x80, 0x80}},
+                                         ParameterUnits{
+                                             "H264InATransportStream",
+                                             {.codec = VideoCodec::h264, .container = "ts"},
+                                             {0x68, 0x34, 0x80},
+                                             {0x68, 0x36, 0x80},
+                                             {0x68, 0x3c, 0x80},
+                                             {0x6f, 0x80, 0x80}},
+                                         ParameterUnits{"Hevc",
+                                                        {.codec = VideoCodec::hevc},
+                                                        {0x44, 0x01, 0x34, 0x80},
+                                                        {0x44, 0x01, 0x36, 0x80},
+                                                        {0x44, 0x01, 0x3c, 0x80},
+                                                        {0x42, 0x01, 0x80, 0x80}}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 } // namespace
 } // namespace media::ffmpeg

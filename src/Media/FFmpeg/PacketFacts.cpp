@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -35,6 +36,8 @@ bool isWholeKeyFrame(const AVPacket& packet) {
            packet.pts != AV_NOPTS_VALUE;
 }
 
+constexpr std::array<std::uint8_t, 3> kStartCode{0, 0, 1};
+
 /// The units of an H.264 or HEVC packet, each with its length or a start code in front of it.
 class Units {
 public:
@@ -46,7 +49,8 @@ public:
             skipPastStartCode();
     }
 
-    /// Empty, and the last, where the lengths are not those of the packet; none at its end.
+    /// Empty, and the last, where the lengths are not those of the packet or a start code stands
+    /// inside of a unit, with which decoders take it for two; none at the packet's end.
     std::optional<std::span<const std::uint8_t>> next() {
         if (m_rest.empty())
             return std::nullopt;
@@ -59,16 +63,16 @@ public:
         for (const std::uint8_t byte : m_rest.first(std::min(m_lengthBytes, m_rest.size())))
             length = length << 8 | byte;
         m_rest = m_rest.subspan(std::min(m_lengthBytes, m_rest.size()));
-        if (length > m_rest.size())
-            m_rest = {};
         const auto unit = m_rest.first(std::min(length, m_rest.size()));
         m_rest = m_rest.subspan(unit.size());
-        return unit;
+        if (unit.size() == length && std::ranges::search(unit, kStartCode).empty())
+            return unit;
+        m_rest = {};
+        return m_rest;
     }
 
 private:
     void skipPastStartCode() {
-        constexpr std::array<std::uint8_t, 3> kStartCode{0, 0, 1};
         const auto found = std::ranges::search(m_rest, kStartCode);
         m_rest = std::span(found.end(), m_rest.end());
     }
@@ -76,6 +80,24 @@ private:
     std::span<const std::uint8_t> m_rest;
     std::size_t m_lengthBytes;
 };
+
+/// Units begin with a header of these lengths, in bytes.
+constexpr std::size_t kH264Header = 1;
+constexpr std::size_t kHevcHeader = 2;
+
+/// The first number behind a unit's header, in the coding of Exp-Golomb; none if it is not small.
+std::optional<unsigned> firstNumber(std::span<const std::uint8_t> unit, std::size_t header) {
+    constexpr std::size_t kBytes = 2;
+    if (unit.size() < header + kBytes)
+        return std::nullopt;
+    const unsigned bits = static_cast<unsigned>(unit[header]) << 8 | unit[header + 1];
+    const int zeros = std::countl_zero(static_cast<std::uint16_t>(bits));
+    const int length = 2 * zeros + 1;
+    constexpr int kKnownBits = 16;
+    if (length > kKnownBits)
+        return std::nullopt;
+    return (bits >> (kKnownBits - length)) - 1;
+}
 
 } // namespace
 
@@ -92,18 +114,25 @@ Disposability::Disposability(const AVCodecParameters& parameters)
 Dispensable Disposability::judge(const AVPacket& packet) {
     switch (m_codec) {
     case AV_CODEC_ID_H264:
-        return isWholeFrame(packet) && isH264NonReference(packet) ? Dispensable::entirely
-                                                                  : Dispensable::no;
-    case AV_CODEC_ID_HEVC:
-        return m_layout && isHevcNonReference(packet) ? Dispensable::entirely : Dispensable::no;
+    case AV_CODEC_ID_HEVC: {
+        // Both have to see every packet.
+        const bool isWhole = isWholeFrame(packet);
+        return isNonReference(packet) && isWhole ? Dispensable::entirely : Dispensable::no;
+    }
     default:
         return canSkipNonReference(m_codec) ? Dispensable::bySkipping : Dispensable::no;
     }
 }
 
+void Disposability::restart() {
+    m_pictureParameters.clear();
+}
+
 /// Not one field of a frame, whose other field may be in the next packet: a decoder that got only
-/// one of them would take what follows for the other.
+/// one of them would take what follows for the other. HEVC has none that belong together.
 bool Disposability::isWholeFrame(const AVPacket& packet) {
+    if (!m_parser)
+        return true;
     std::uint8_t* data = nullptr;
     int size = 0;
     av_parser_parse2(m_parser.get(), m_parserContext.get(), &data, &size, packet.data, packet.size,
@@ -130,44 +159,112 @@ std::optional<Disposability::Layout> Disposability::layoutOf(const AVCodecParame
     return Layout{(data[kHevcLayoutByte] & 3U) + 1U, layers};
 }
 
-/// The units of the picture say so for their own temporal layer, and there is none above it.
-/// Beside them is nothing that others may need.
-bool Disposability::isHevcNonReference(const AVPacket& packet) const {
-    constexpr unsigned kFirstOtherUnit = 32;
-    constexpr unsigned kFirstReservedPicture = 16;
-    constexpr std::array<unsigned, 4> kHarmless{35, 38, 39, 40}; // delimiter, filler, messages
+/// No unit of the picture says that another refers to it, and beside it is nothing that others may
+/// need and do not have already.
+bool Disposability::isNonReference(const AVPacket& packet) {
+    if (!m_layout)
+        return false;
+    bool isNeeded = false;
     bool hasPicture = false;
+    // What a decoder takes from a damaged packet is not known.
+    bool forgetsParameters = (packet.flags & AV_PKT_FLAG_CORRUPT) != 0;
     for (Units units(packet, m_layout->lengthBytes); const auto unit = units.next();) {
-        if (unit->size() < 2)
-            return false;
-        const unsigned type = (*unit)[0] >> 1 & 63U;
-        const int layer = ((*unit)[1] & 7) - 1;
-        const bool isNeedlessPicture =
-            type < kFirstReservedPicture && type % 2 == 0 && layer == m_layout->layers - 1;
-        if (type < kFirstOtherUnit ? !isNeedlessPicture
-                                   : std::ranges::find(kHarmless, type) == kHarmless.end())
-            return false;
-        hasPicture = hasPicture || isNeedlessPicture;
+        switch (useOf(*unit)) {
+        case Use::needlessPicture:
+            hasPicture = true;
+            break;
+        case Use::none:
+            break;
+        case Use::pictureParameters:
+            isNeeded = !isRepetition(*unit) || isNeeded;
+            // Behind the picture a decoder with several threads may miss them.
+            forgetsParameters = forgetsParameters || hasPicture;
+            break;
+        case Use::streamParameters:
+            m_pictureParameters.clear();
+            isNeeded = true;
+            break;
+        case Use::needed:
+            hasPicture = isNeeded = true;
+            break;
+        case Use::damaged:
+            forgetsParameters = true;
+            break;
+        }
     }
-    return hasPicture;
+    if (forgetsParameters)
+        m_pictureParameters.clear();
+    return hasPicture && !isNeeded && !forgetsParameters;
 }
 
-/// No unit of the picture says that another refers to it, and there are no parameters beside it.
-bool Disposability::isH264NonReference(const AVPacket& packet) const {
-    constexpr unsigned kLastPicture = 5;
-    constexpr std::array<unsigned, 3> kHarmless{6, 9, 12}; // messages, delimiter, filler
-    bool hasPicture = false;
-    for (Units units(packet, m_layout->lengthBytes); const auto unit = units.next();) {
-        if (unit->empty())
-            return false;
-        const unsigned type = (*unit)[0] & 31U;
-        const bool isReferredTo = ((*unit)[0] >> 5 & 3U) != 0;
-        const bool isNeedlessPicture = type > 0 && type <= kLastPicture && !isReferredTo;
-        if (!isNeedlessPicture && std::ranges::find(kHarmless, type) == kHarmless.end())
-            return false;
-        hasPicture = hasPicture || isNeedlessPicture;
+/// Whether these very parameters came before, and no others with their number since. Some cameras
+/// and recorders send them along with every picture.
+bool Disposability::isRepetition(Unit pictureParameters) {
+    const bool isHevc = m_codec == AV_CODEC_ID_HEVC;
+    const auto number = firstNumber(pictureParameters, isHevc ? kHevcHeader : kH264Header);
+    if (!number) {
+        m_pictureParameters.clear();
+        return false;
     }
-    return hasPicture;
+    std::vector<std::uint8_t>& known = m_pictureParameters[*number];
+    if (std::ranges::equal(known, pictureParameters))
+        return true;
+    known.assign(pictureParameters.begin(), pictureParameters.end());
+    return false;
+}
+
+Disposability::Use Disposability::useOf(Unit unit) const {
+    return m_codec == AV_CODEC_ID_HEVC ? useOfHevc(unit) : useOfH264(unit);
+}
+
+Disposability::Use Disposability::useOfH264(Unit unit) const {
+    if (unit.size() < kH264Header)
+        return Use::damaged;
+    const bool isReferredTo = (unit[0] >> 5 & 3U) != 0;
+    switch (unit[0] & 31U) { // Rec. ITU-T H.264, table 7-1
+    case 1:                  // slices and parts of slices
+    case 2:
+    case 3:
+    case 4:
+    case 5:
+        return isReferredTo ? Use::needed : Use::needlessPicture;
+    case 6:  // messages
+    case 9:  // delimiter
+    case 12: // filler
+        return Use::none;
+    case 7:  // of a sequence
+    case 13: // their extension
+    case 15: // of a subset
+        return Use::streamParameters;
+    case 8:
+        return Use::pictureParameters;
+    default:
+        return Use::needed;
+    }
+}
+
+/// A picture that none refers to says so for its own temporal layer, and there is none above it.
+Disposability::Use Disposability::useOfHevc(Unit unit) const {
+    if (unit.size() < kHevcHeader)
+        return Use::damaged;
+    constexpr unsigned kFirstReservedPicture = 16;
+    const int layer = (unit[1] & 7) - 1;
+    switch (const unsigned type = unit[0] >> 1 & 63U) { // Rec. ITU-T H.265, table 7-1
+    case 32:                                            // of the whole video
+    case 33:                                            // of a sequence
+        return Use::streamParameters;
+    case 34:
+        return Use::pictureParameters;
+    case 35: // delimiter
+    case 38: // filler
+    case 39: // messages
+    case 40:
+        return Use::none;
+    default:
+        return type < kFirstReservedPicture && type % 2 == 0 && layer == m_layout->layers - 1
+                   ? Use::needlessPicture
+                   : Use::needed;
+    }
 }
 
 bool isShownRightBefore(const AVPacket& first, const AVPacket& second, AVCodecID codec) {

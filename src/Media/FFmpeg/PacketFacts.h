@@ -2,7 +2,11 @@
 
 #include "Media/FFmpeg/Handles.h"
 
+#include <cstdint>
+#include <map>
 #include <optional>
+#include <span>
+#include <vector>
 
 namespace media::ffmpeg {
 
@@ -23,10 +27,16 @@ public:
     explicit Disposability(const AVCodecParameters& parameters);
 
     /// Every packet has to be shown to it, in decoding order from a key frame on: some bring what
-    /// it takes to understand those that follow.
+    /// it takes to understand those that follow. Those that can't be done without have to go to
+    /// the decoder.
     [[nodiscard]] Dispensable judge(const AVPacket& packet);
 
+    /// To be called where the order of packets breaks, or the decoder is another one.
+    void restart();
+
 private:
+    using Unit = std::span<const std::uint8_t>;
+
     /// What an H.264 or HEVC stream says of itself.
     struct Layout {
         /// Of the lengths in front of its units; 0: start codes stand there.
@@ -35,13 +45,32 @@ private:
         int layers = 1;
     };
 
+    /// What a unit of a packet is to others.
+    enum class Use {
+        /// A picture, or a part of one, that none refers to.
+        needlessPicture,
+        /// Of no consequence for any picture.
+        none,
+        pictureParameters,
+        /// Those that parameters of pictures build on.
+        streamParameters,
+        /// Others may need it.
+        needed,
+        damaged,
+    };
+
     static std::optional<Layout> layoutOf(const AVCodecParameters& parameters);
-    [[nodiscard]] bool isHevcNonReference(const AVPacket& packet) const;
-    [[nodiscard]] bool isH264NonReference(const AVPacket& packet) const;
+    [[nodiscard]] Use useOf(Unit unit) const;
+    [[nodiscard]] Use useOfH264(Unit unit) const;
+    [[nodiscard]] Use useOfHevc(Unit unit) const;
+    [[nodiscard]] bool isNonReference(const AVPacket& packet);
     [[nodiscard]] bool isWholeFrame(const AVPacket& packet);
+    [[nodiscard]] bool isRepetition(Unit pictureParameters);
 
     AVCodecID m_codec;
     std::optional<Layout> m_layout;
+    /// The latest parameters of pictures by their number, since the latest ones of the stream.
+    std::map<unsigned, std::vector<std::uint8_t>> m_pictureParameters;
     /// H.264 only.
     ParserPtr m_parser;
     CodecContextPtr m_parserContext;
