@@ -58,6 +58,7 @@ EditState::EditState() {
 EditState::~EditState() {
     Q_ASSERT(isMainThread());
     m_loads.request_stop();
+    m_strip.request_stop();
 }
 
 media::Size EditState::rotatedDisplaySize() const {
@@ -90,6 +91,7 @@ QCoro::Task<EditState::LoadedVideo> EditState::open(const QUrl& url, const std::
 QCoro::Task<> EditState::loadAsset(QUrl url) {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const std::stop_token stop = m_loads.get_token();
+    std::stop_token stripStop;
     LoadedVideo video;
     QString failure;
     try {
@@ -113,10 +115,14 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
             co_return;
         }
         self->publish(url, video);
+        self->m_strip.request_stop();
+        self->m_strip = {};
+        stripStop = self->m_strip.get_token();
     }
-    auto strip = Thumbnailer::filmstrip(video.asset, video.duration, kThumbnailCount, stop);
+    auto strip = Thumbnailer::filmstrip(video.asset, video.duration, kThumbnailCount, stripStop);
     const QList<QImage> images = co_await strip;
-    if (const auto self = weak.lock())
+    const auto self = weak.lock();
+    if (self && !stripStop.stop_requested())
         self->m_thumbnails = images;
 }
 

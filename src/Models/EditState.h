@@ -189,6 +189,8 @@ private:
     std::optional<std::stop_source> m_exportTask;
     /// Ends the work of pending loads with the object: nobody is left to see its result.
     std::stop_source m_loads;
+    /// Ends the making of the filmstrip when another video takes the place of its own.
+    std::stop_source m_strip;
     /// Loads that have neither published their video nor failed.
     int m_openCount = 0;
 };

@@ -42,7 +42,6 @@ TEST(Workers, carryExceptionsWithTheirType) {
                  OddFailure);
 }
 
-// Two exports on a machine with two processors once kept every other window waiting.
 // g++ 12 once destroyed what the work had captured twice.
 TEST(Workers, keepWhatTheWorkHoldsExactlyAsLongAsItRuns) {
     auto held = std::make_shared<QString>(QStringLiteral("held"));
@@ -54,6 +53,7 @@ TEST(Workers, keepWhatTheWorkHoldsExactlyAsLongAsItRuns) {
     EXPECT_TRUE(weak.expired());
 }
 
+// Two exports on a machine with two processors once kept every other window waiting.
 TEST(Workers, neverWaitBehindLongOnes) {
     constexpr int kCount = 40;
     std::latch all(kCount);
