@@ -73,8 +73,8 @@ bool canTakeSmallUnits(const VideoEncoding& encoding) {
 }
 
 /// The side of the coding tree units; none where no HEVC is possible. Small ones wherever they are
-/// allowed: at this quality others would nearly always be divided, and trying them takes a fifth
-/// of the encoder's time.
+/// allowed: at this quality others would nearly always be divided, and trying them takes a tenth
+/// to a quarter of the encoder's time.
 std::optional<int> hevcUnit(const VideoEncoding& encoding) {
     const int unit = canTakeSmallUnits(encoding) ? kHevcSmallUnit : kHevcUsualUnit;
     return std::min(encoding.width, encoding.height) < unit ? std::nullopt : std::optional(unit);
