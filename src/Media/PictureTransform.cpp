@@ -1,5 +1,6 @@
 #include "Media/PictureTransform.h"
 
+#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/Pixels/CanvasPainter.h"
 #include "Media/Pixels/FramePool.h"
 #include "Media/Pixels/RecentlyUsed.h"
@@ -34,7 +35,7 @@ void removePlacedSideData(AVFrame& frame) {
 /// Forgets how the source was coded, which an encoder would take for a wish.
 void forgetCoding(AVFrame& frame) {
     frame.pict_type = AV_PICTURE_TYPE_NONE;
-    frame.key_frame = 0;
+    ffmpeg::forgetKeyPicture(frame);
 }
 
 /// The first pixel shown if an axis is shown as it is, from an even one on.

@@ -1,5 +1,6 @@
 #include "Media/Export/Deinterlacer.h"
 #include "Media/ExportFixture.h"
+#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/SyntheticPicture.h"
 #include "Media/VideoReader.h"
 #include "TestSupport/Inspection.h"
@@ -81,7 +82,7 @@ TEST(Deinterlacer, doesWhatTheFilterOfItsNameDoes) {
             for (std::size_t i = 1; i + 1 < woven.size(); ++i) {
                 const auto result =
                     Deinterlacer::apply(*woven[i], woven[i - 1].get(), woven[i + 1].get());
-                EXPECT_EQ(result->interlaced_frame, 0);
+                EXPECT_FALSE(ffmpeg::isInterlaced(*result));
                 for (int plane = 0; plane < 3; ++plane) {
                     // The filter has other rules for the outermost lines.
                     for (int y = 5; y < test::planeHeight(*result, plane) - 5; ++y) {
@@ -100,8 +101,7 @@ TEST(Deinterlacer, doesWhatTheFilterOfItsNameDoes) {
 
 TEST(Deinterlacer, leavesWhatDoesNotMoveAsItIs) {
     const auto picture = test::drawNoise(AV_PIX_FMT_YUV422P10, 64, 48);
-    picture->interlaced_frame = 1;
-    picture->top_field_first = 1;
+    ffmpeg::setInterlaced(*picture, true);
     const auto result = Deinterlacer::apply(*picture, picture.get(), picture.get());
     EXPECT_NE(result->data[0], picture->data[0]);
     for (int plane = 0; plane < 3; ++plane) {
@@ -151,7 +151,7 @@ TEST(Deinterlacer, doesWithPackedPicturesWhatItDoesWithPlanarOnes) {
                                                 packed(*woven[0], format, bytes).get(),
                                                 packed(*woven[2], format, bytes).get());
         const auto wanted = packed(*expected, format, bytes);
-        EXPECT_EQ(result->interlaced_frame, 0);
+        EXPECT_FALSE(ffmpeg::isInterlaced(*result));
         for (int y = 0; y < wanted->height; ++y) {
             EXPECT_EQ(std::memcmp(result->data[0] + std::ptrdiff_t{y} * result->linesize[0],
                                   wanted->data[0] + std::ptrdiff_t{y} * wanted->linesize[0],

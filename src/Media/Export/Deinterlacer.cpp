@@ -1,5 +1,6 @@
 #include "Media/Export/Deinterlacer.h"
 
+#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/Pixels/FieldInterpolation.h"
 
 #include <bit>
@@ -64,8 +65,7 @@ ffmpeg::FramePtr emptyLike(const AVFrame& frame) {
     result->height = frame.height;
     if (av_frame_get_buffer(result.get(), 0) < 0 || av_frame_copy_props(result.get(), &frame) < 0)
         throw std::bad_alloc();
-    result->interlaced_frame = 0;
-    result->top_field_first = 0;
+    ffmpeg::setProgressive(*result);
     return result;
 }
 
@@ -76,7 +76,7 @@ ffmpeg::FramePtr Deinterlacer::apply(const AVFrame& frame, const AVFrame* previo
     const AVPixFmtDescriptor* format =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
     const auto depth = format ? sampleDepth(*format) : std::nullopt;
-    if (!frame.interlaced_frame || !depth)
+    if (!ffmpeg::isInterlaced(frame) || !depth)
         return ffmpeg::referenced(frame);
     if (!previous || !isSameKind(*previous, frame))
         previous = &frame;
@@ -89,7 +89,7 @@ ffmpeg::FramePtr Deinterlacer::apply(const AVFrame& frame, const AVFrame* previo
     const auto made = memoryOf(*result, *format, *depth);
     for (std::size_t i = 0; i < now.size(); ++i) {
         pixels::interpolateSecondField({before[i], now[i], after[i]}, *depth,
-                                       frame.top_field_first != 0, made[i]);
+                                       ffmpeg::isTopFieldFirst(frame), made[i]);
     }
     return result;
 }

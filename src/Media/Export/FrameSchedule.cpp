@@ -1,5 +1,7 @@
 #include "Media/Export/FrameSchedule.h"
 
+#include "Media/FFmpeg/LibavReleases.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -152,7 +154,7 @@ public:
         result.duration = std::min(m_step, std::max<std::int64_t>(m_duration - result.pts, 1));
         result.isRepeat = m_shownTicks == source->ticks;
         result.frame = ffmpeg::referenced(*source->frame);
-        if (source->frame->interlaced_frame && !result.isRepeat)
+        if (ffmpeg::isInterlaced(*source->frame) && !result.isRepeat)
             m_source.addNeighbours(result, stop);
         m_shownTicks = source->ticks;
         ++m_number;

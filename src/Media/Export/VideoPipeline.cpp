@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/Export/Deinterlacer.h"
+#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/SourceInfo.h"
 #include "Media/ThreadPriority.h"
 
@@ -145,7 +146,8 @@ ffmpeg::FramePtr VideoPipeline::transformed(const ScheduledFrame& scheduled) {
         return m_transform->apply(
             *Deinterlacer::apply(frame, scheduled.previous.get(), scheduled.following.get()));
     }
-    if (m_fieldTransform && frame.interlaced_frame && frame.format != m_encoder->context().pix_fmt)
+    if (m_fieldTransform && ffmpeg::isInterlaced(frame) &&
+        frame.format != m_encoder->context().pix_fmt)
         return m_fieldTransform->apply(frame);
     return m_transform->apply(frame);
 }

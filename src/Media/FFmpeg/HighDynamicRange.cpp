@@ -1,5 +1,7 @@
 #include "Media/FFmpeg/HighDynamicRange.h"
 
+#include "Media/FFmpeg/LibavReleases.h"
+
 #include <cmath>
 #include <cstring>
 
@@ -9,20 +11,17 @@ namespace {
 
 /// The data of one kind that the container holds or else the picture.
 template<typename Data>
-std::optional<Data> sideData(const AVStream& stream, AVPacketSideDataType packetType,
-                             const AVFrame& picture, AVFrameSideDataType frameType) {
-    std::size_t size = 0;
-    const std::uint8_t* bytes = av_stream_get_side_data(&stream, packetType, &size);
-    if (!bytes) {
-        if (const AVFrameSideData* data = av_frame_get_side_data(&picture, frameType)) {
-            bytes = data->data;
-            size = data->size;
-        }
+std::optional<Data> described(const AVStream& stream, AVPacketSideDataType packetType,
+                              const AVFrame& picture, AVFrameSideDataType frameType) {
+    std::span<const std::uint8_t> bytes = sideData(stream, packetType);
+    if (bytes.empty()) {
+        if (const AVFrameSideData* data = av_frame_get_side_data(&picture, frameType))
+            bytes = {data->data, data->size};
     }
-    if (!bytes || size < sizeof(Data))
+    if (bytes.size() < sizeof(Data))
         return std::nullopt;
     Data result;
-    std::memcpy(&result, bytes, sizeof result);
+    std::memcpy(&result, bytes.data(), sizeof result);
     return result;
 }
 
@@ -39,17 +38,17 @@ template<typename Data>
 void attachOne(AVStream& stream, AVPacketSideDataType type, const std::optional<Data>& data) {
     if (!data)
         return;
-    std::uint8_t* bytes = allocated(av_stream_new_side_data(&stream, type, sizeof(Data)));
-    std::memcpy(bytes, &*data, sizeof(Data));
+    std::memcpy(addSideData(stream, type, sizeof(Data)), &*data, sizeof(Data));
 }
 
 } // namespace
 
 HighDynamicRange describeDynamicRange(const AVStream& stream, const AVFrame& picture) {
-    return {sideData<AVMasteringDisplayMetadata>(stream, AV_PKT_DATA_MASTERING_DISPLAY_METADATA,
-                                                 picture, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA),
-            sideData<AVContentLightMetadata>(stream, AV_PKT_DATA_CONTENT_LIGHT_LEVEL, picture,
-                                             AV_FRAME_DATA_CONTENT_LIGHT_LEVEL)};
+    return {described<AVMasteringDisplayMetadata>(stream, AV_PKT_DATA_MASTERING_DISPLAY_METADATA,
+                                                  picture,
+                                                  AV_FRAME_DATA_MASTERING_DISPLAY_METADATA),
+            described<AVContentLightMetadata>(stream, AV_PKT_DATA_CONTENT_LIGHT_LEVEL, picture,
+                                              AV_FRAME_DATA_CONTENT_LIGHT_LEVEL)};
 }
 
 std::string x265Parameters(const HighDynamicRange& range) {

@@ -3,6 +3,7 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/TrackFacts.h"
 
 #include <algorithm>
@@ -144,8 +145,8 @@ private:
 
 /// By a picture, and where that has no fields, as some of a stream that has them, by the container.
 AVFieldOrder fieldOrderOf(const AVCodecParameters& parameters, const AVFrame& picture) {
-    if (picture.interlaced_frame)
-        return picture.top_field_first ? AV_FIELD_TT : AV_FIELD_BB;
+    if (isInterlaced(picture))
+        return isTopFieldFirst(picture) ? AV_FIELD_TT : AV_FIELD_BB;
     return parameters.field_order == AV_FIELD_UNKNOWN ? AV_FIELD_PROGRESSIVE
                                                       : parameters.field_order;
 }

@@ -2,6 +2,7 @@
 
 #include "Media/Export/OutputFile.h"
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/Timecode.h"
 
@@ -132,8 +133,7 @@ void setDisplayMatrix(AVStream& stream, const AffineTransform& transform) {
         fixed(transform.a * kOne),  fixed(transform.b * kOne),  0,
         fixed(transform.c * kOne),  fixed(transform.d * kOne),  0,
         fixed(transform.tx * kOne), fixed(transform.ty * kOne), 1 << 30};
-    std::uint8_t* data =
-        allocated(av_stream_new_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, sizeof matrix));
+    std::uint8_t* data = addSideData(stream, AV_PKT_DATA_DISPLAYMATRIX, sizeof matrix);
     std::copy_n(reinterpret_cast<const std::uint8_t*>(matrix.data()), sizeof matrix, data);
 }
 
@@ -144,7 +144,7 @@ struct Muxer::Io {
     /// errno of the first write that failed.
     int error = 0;
 
-    static int write(void* opaque, std::uint8_t* data, int count) {
+    static int write(void* opaque, WrittenByte* data, int count) {
         auto& io = *static_cast<Io*>(opaque);
         if (io.error == 0)
             io.error = io.file.write(data, count);

@@ -1,6 +1,7 @@
 #include "Media/FFmpeg/TrackFacts.h"
 
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/LibavReleases.h"
 
 #include <algorithm>
 #include <string_view>
@@ -44,12 +45,11 @@ ColorDescription describeColor(const AVCodecParameters& parameters) {
 }
 
 AffineTransform displayTransform(const AVStream& stream) {
-    std::size_t size = 0;
-    const std::uint8_t* data = av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
-    if (!data || size < 9 * sizeof(std::int32_t))
+    const auto data = sideData(stream, AV_PKT_DATA_DISPLAYMATRIX);
+    if (data.size() < 9 * sizeof(std::int32_t))
         return {};
     std::int32_t matrix[9];
-    std::copy_n(data, sizeof matrix, reinterpret_cast<std::uint8_t*>(matrix));
+    std::copy_n(data.data(), sizeof matrix, reinterpret_cast<std::uint8_t*>(matrix));
     constexpr double kOne = 65536;
     const AffineTransform transform{matrix[0] / kOne, matrix[1] / kOne, matrix[3] / kOne,
                                     matrix[4] / kOne, matrix[6] / kOne, matrix[7] / kOne};
