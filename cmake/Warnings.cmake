@@ -1,5 +1,6 @@
 # brisklet_warnings: the warning set of our own code. Whether a warning stops the build is the
-# caller's choice (the presets say yes), so that packagers with other compilers are not broken.
+# caller's choice: the presets for development and continuous integration say yes, those for users
+# and packagers no, whose compilers may be newer than ours and warn of more.
 add_library(brisklet_warnings INTERFACE)
 target_compile_options(brisklet_warnings INTERFACE
     -Wall -Wextra -Wpedantic
