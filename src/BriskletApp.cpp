@@ -15,6 +15,7 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <chrono>
 #include <functional>
 

@@ -1,5 +1,7 @@
 #include "UpdaterFixture.h"
 
+#include <QTimeZone>
+
 namespace brisklet {
 namespace {
 
@@ -174,7 +176,7 @@ TEST_F(UpdaterTest, leavesNothingBehindWhenTheDownloadIsCancelled) {
 TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {
     serveFeed(item("1.2"));
     m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
-    const QDateTime noon(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC);
+    const QDateTime noon(QDate(2030, 1, 1), QTime(12, 0), QTimeZone::utc());
     m_updater->checkIfDue(noon);
     EXPECT_TRUE(m_updater->canCheckForUpdates()) << "The user has not agreed.";
     m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
@@ -194,7 +196,7 @@ TEST_F(UpdaterTest, keepsTheFailureOfACheckByItselfToItself) {
     m_server.answers.clear();
     m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
     m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
-    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC));
+    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), QTimeZone::utc()));
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
     EXPECT_FALSE(m_driver.isSettled());
 }
@@ -204,14 +206,14 @@ TEST_F(UpdaterTest, offersASkippedReleaseOnlyByCommand) {
     m_driver.choose(UpdateChoice::skipThisVersion);
     m_driver.forget();
     m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
-    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC));
+    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), QTimeZone::utc()));
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
     EXPECT_FALSE(m_driver.offered);
     check();
     EXPECT_TRUE(m_driver.offered);
     m_driver.choose(UpdateChoice::remindLater);
     m_driver.forget();
-    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 3), QTime(12, 0), Qt::UTC));
+    m_updater->checkIfDue(QDateTime(QDate(2030, 1, 3), QTime(12, 0), QTimeZone::utc()));
     ASSERT_TRUE(pumpUntil([this] { return m_driver.offered.has_value(); }));
 }
 
