@@ -1,5 +1,6 @@
 #include "Export/AVFoundationExporter.h"
 #include "Support/FileUrl.h"
+#include "TestSupport/DisplayRotation.h"
 #include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"
@@ -37,10 +38,13 @@ std::filesystem::path plainSource() {
 std::filesystem::path sourceTurnedBy(int degrees) {
     if (degrees == 0)
         return plainSource();
-    // ffmpeg counts the other way round.
-    return cachedMedia("geometry-turned-" + std::to_string(degrees) + ".mov",
-                       {"-i", plainSource(), "-c", "copy", "-metadata:s:v:0",
-                        "rotate=" + std::to_string(360 - degrees)});
+    return cachedMedia("geometry-turned-clockwise-" + std::to_string(degrees) + ".mov",
+                       [degrees](const std::filesystem::path& path) {
+                           std::filesystem::copy_file(
+                               plainSource(), path,
+                               std::filesystem::copy_options::overwrite_existing);
+                           testsupport::setDisplayRotation(path, degrees, kWidth, kHeight);
+                       });
 }
 
 constexpr auto kPrecise = ":flags=lanczos+accurate_rnd+full_chroma_int+full_chroma_inp";

@@ -1,5 +1,6 @@
 #include "Export/AVFoundationExporter.h"
 #include "Support/FileUrl.h"
+#include "TestSupport/DisplayRotation.h"
 #include "TestSupport/FrameRule.h"
 #include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
@@ -107,17 +108,18 @@ Fixture makeSource(const SourceKind& kind) {
         << storedTurn(rotation);
     std::vector<std::string> arguments = {"-i",        inner.path,    "-map",           "0",
                                           "-vf",       pad.str(),     "-c:a",           "copy",
-                                          "-fps_mode", "passthrough", "-enc_time_base", "-1"};
+                                          "-fps_mode", "passthrough", "-enc_time_base", "1:90000"};
     arguments.insert(arguments.end(), kind.encoder.begin(), kind.encoder.end());
     const std::string name = inner.path.filename().string();
     Fixture source;
     source.path = testsupport::cachedMedia("room-around-" + name, arguments);
     if (rotation != 0) {
-        // ffmpeg writes a display matrix only for what it does not encode.
-        source.path =
-            testsupport::cachedMedia("turned-room-around-" + name,
-                                     {"-i", source.path, "-map", "0", "-c", "copy",
-                                      "-metadata:s:v:0", "rotate=" + std::to_string(rotation)});
+        source.path = testsupport::cachedMedia(
+            "turned-room-around-" + name, [&](const std::filesystem::path& path) {
+                std::filesystem::copy_file(source.path, path,
+                                           std::filesystem::copy_options::overwrite_existing);
+                testsupport::setDisplayRotation(path, rotation, kHeight, kWidth);
+            });
     }
     source.frames = testsupport::readNumberedFrames(source.path, 0, numbersOnly());
     source.clockStart = source.frames.front().seconds;

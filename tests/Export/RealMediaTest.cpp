@@ -81,16 +81,21 @@ std::filesystem::path pathOfSample(const Sample& sample) {
     return testsupport::sampleMedia(sample.name).value();
 }
 
+/// Whether ffmpeg decodes anything of a stream, by ffmpeg's name for it.
+bool decodes(const std::filesystem::path& path, const std::string& stream) {
+    const auto result =
+        testsupport::runProcess({"ffmpeg", "-nostdin", "-v", "quiet", "-i", "file:" + path.string(),
+                                 "-map", stream, "-frames", "1", "-f", "framemd5", "-"});
+    // A line for each frame, after those of the head.
+    return result.output.find("\n0,") != std::string::npos;
+}
+
 /// How many of a file's audio tracks ffmpeg decodes anything of.
 std::size_t audibleTracks(const std::filesystem::path& path) {
     std::size_t audible = 0;
     const std::size_t count = probe(path).streamsOf("audio").size();
     for (std::size_t track = 0; track < count; ++track) {
-        const auto result = testsupport::runProcess(
-            {"ffmpeg", "-nostdin", "-v", "quiet", "-i", "file:" + path.string(), "-map",
-             "0:a:" + std::to_string(track), "-frames:a", "1", "-f", "framemd5", "-"});
-        // A line for each frame, after those of the head.
-        if (result.output.find("\n0,") != std::string::npos)
+        if (decodes(path, "0:a:" + std::to_string(track)))
             ++audible;
     }
     return audible;
@@ -214,6 +219,13 @@ TEST_P(UnfitMedia, isToldInASentence) {
     const TemporaryFolder folder;
     ExportRequest request = requestFor(pathOfSample(sample), 1);
     request.outputURL = urlOf(folder / "out.mp4");
+    if (sample.expectation == "opens" && decodes(pathOfSample(sample), "0:v:0")) {
+        // Newer releases of ffmpeg know more codecs.
+        AVFoundationExporter::run(request, {}, {});
+        EXPECT_EQ(testsupport::warningsWhilePlaying(folder / "out.mp4"), "");
+        EXPECT_FALSE(testsupport::readPackets(folder / "out.mp4").empty());
+        return;
+    }
     try {
         AVFoundationExporter::run(request, {}, {});
         FAIL() << "no error";

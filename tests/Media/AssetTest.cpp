@@ -2,10 +2,14 @@
 
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
+#include "TestSupport/ColourTags.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/MediaCache.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace media {
 namespace {
@@ -57,11 +61,13 @@ TEST(Asset, describesItsTracks) {
 }
 
 TEST(Asset, tellsTheColourThatTheFileStatesAndNoOther) {
-    const auto tagged = cachedMedia("tagged-bt2020-pq.mp4",
-                                    {"-f", "lavfi", "-i", "testsrc2=s=64x48:d=0.2", "-pix_fmt",
-                                     "yuv420p10le", "-c:v", "libx264", "-color_primaries", "bt2020",
-                                     "-color_trc", "smpte2084", "-colorspace", "bt2020nc",
-                                     "-color_range", "pc", "-chroma_sample_location", "topleft"});
+    std::vector<std::string> arguments = {
+        "-f",       "lavfi",       "-i",   "testsrc2=s=64x48:d=0.2",
+        "-pix_fmt", "yuv420p10le", "-c:v", "libx264"};
+    std::ranges::copy(testsupport::colourArguments({"bt2020", "smpte2084", "bt2020nc", "pc"}),
+                      std::back_inserter(arguments));
+    std::ranges::copy(testsupport::h264ChromaArguments("topleft"), std::back_inserter(arguments));
+    const auto tagged = cachedMedia("tagged-bt2020-pq.mp4", arguments);
     const ColorDescription color = firstTrack(*Asset::open(tagged)).color;
     EXPECT_EQ(color.primaries, "bt2020");
     EXPECT_EQ(color.transfer, "smpte2084");

@@ -6,6 +6,7 @@
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
 #include "Media/Mp4Boxes.h"
+#include "TestSupport/ColourTags.h"
 
 #include <gmock/gmock.h>
 
@@ -122,10 +123,9 @@ std::filesystem::path chartOf(const Case& row) {
                                            {.range = row.range, .matrix = row.matrix});
     std::vector<std::string> tags;
     if (row.isTagged()) {
-        tags = {"-color_primaries", av_color_primaries_name(row.primaries()),
-                "-color_trc",       av_color_transfer_name(row.transfer()),
-                "-colorspace",      av_color_space_name(row.matrix),
-                "-color_range",     av_color_range_name(row.range)};
+        tags = testsupport::colourArguments(
+            {av_color_primaries_name(row.primaries()), av_color_transfer_name(row.transfer()),
+             av_color_space_name(row.matrix), av_color_range_name(row.range)});
     }
     return test::chartFile("colour-fields-" + row.name() + ".mkv", *picture, 4, tags);
 }

@@ -1,6 +1,7 @@
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
 #include "Media/Mp4Boxes.h"
+#include "TestSupport/ColourTags.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
@@ -9,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <iterator>
 
 /// What an exported file is made of: codecs, colour, geometry, index, metadata.
 namespace media {
@@ -203,11 +205,14 @@ TEST_F(ExportedFile, keepsTheColourTagsAndInventsNone) {
         {"hlg", "bt2020", "arib-std-b67", "bt2020nc", "tv", "topleft", "yuv420p10le"}};
     for (const Tags& row : rows) {
         SCOPED_TRACE(row.name);
-        const auto source = cachedMedia(
-            std::string("colour-") + row.name + ".mp4",
-            {"-f", "lavfi", "-i", "testsrc2=s=128x96:d=1:r=10", "-pix_fmt", row.format,
-             "-color_primaries", row.primaries, "-color_trc", row.transfer, "-colorspace",
-             row.matrix, "-color_range", row.range, "-chroma_sample_location", row.location});
+        std::vector<std::string> arguments = {
+            "-f", "lavfi", "-i", "testsrc2=s=128x96:d=1:r=10", "-pix_fmt", row.format};
+        std::ranges::copy(
+            testsupport::colourArguments({row.primaries, row.transfer, row.matrix, row.range}),
+            std::back_inserter(arguments));
+        std::ranges::copy(testsupport::h264ChromaArguments(row.location),
+                          std::back_inserter(arguments));
+        const auto source = cachedMedia(std::string("colour-") + row.name + ".mp4", arguments);
         const auto asset = Asset::open(source);
         const auto straight = video(exported(source, 0, 0.5));
         const auto track = asset->tracks(MediaType::video)[0];
@@ -231,26 +236,40 @@ TEST_F(ExportedFile, keepsTheColourTagsAndInventsNone) {
 }
 
 TEST_F(ExportedFile, keepsMasteringDisplayAndLightLevel) {
-    const auto source = cachedMedia(
-        "mastering.mkv",
-        {"-f", "lavfi", "-i", "testsrc2=s=128x96:d=1:r=10", "-pix_fmt", "yuv420p10le", "-c:v",
-         "libx265", "-preset", "ultrafast", "-color_primaries", "bt2020", "-color_trc", "smpte2084",
-         "-colorspace", "bt2020nc", "-x265-params",
-         "log-level=error:hdr10=1:master-display=G(13250,34500)B(7500,3000)R(34000,16000)"
-         "WP(15635,16450)L(10000000,50):max-cll=1000,400"});
+    std::vector<std::string> arguments = {
+        "-f",
+        "lavfi",
+        "-i",
+        "testsrc2=s=128x96:d=1:r=10",
+        "-pix_fmt",
+        "yuv420p10le",
+        "-c:v",
+        "libx265",
+        "-preset",
+        "ultrafast",
+        "-x265-params",
+        "log-level=error:hdr10=1:master-display=G(13250,34500)B(7500,3000)R(34000,16000)"
+        "WP(15635,16450)L(10000000,50):max-cll=1000,400"};
+    std::ranges::copy(testsupport::colourArguments({"bt2020", "smpte2084", "bt2020nc", "tv"}),
+                      std::back_inserter(arguments));
+    const auto source = cachedMedia("mastering.mkv", arguments);
     for (const FileType type : {FileType::mpeg4, FileType::quickTimeMovie}) {
         const std::string facts =
             testsupport::runProcessOrThrow({"ffprobe", "-v", "error", "-select_streams", "v",
                                             "-read_intervals", "%+#1", "-show_frames", "-of",
-                                            "compact", exported(source, 0, 0.5, type)})
+                                            "json", exported(source, 0, 0.5, type)})
                 .output;
-        EXPECT_THAT(facts, testing::HasSubstr("|red_x=34000/50000|red_y=16000/50000|"));
-        EXPECT_THAT(facts, testing::HasSubstr("|green_x=13250/50000|green_y=34500/50000|"));
-        EXPECT_THAT(facts, testing::HasSubstr("|blue_x=7500/50000|blue_y=3000/50000|"));
-        EXPECT_THAT(facts, testing::HasSubstr("|white_point_x=15635/50000|"));
-        EXPECT_THAT(facts, testing::HasSubstr("|min_luminance=50/10000|"));
-        EXPECT_THAT(facts, testing::HasSubstr("|max_luminance=10000000/10000"));
-        EXPECT_THAT(facts, testing::HasSubstr("|max_content=1000|max_average=400"));
+        EXPECT_THAT(facts, testing::HasSubstr("\"red_x\": \"34000/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"red_y\": \"16000/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"green_x\": \"13250/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"green_y\": \"34500/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"blue_x\": \"7500/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"blue_y\": \"3000/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"white_point_x\": \"15635/50000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"min_luminance\": \"50/10000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"max_luminance\": \"10000000/10000\""));
+        EXPECT_THAT(facts, testing::HasSubstr("\"max_content\": 1000"));
+        EXPECT_THAT(facts, testing::HasSubstr("\"max_average\": 400"));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "TestSupport/Fixture.h"
 
 #include "TestSupport/ClickTrack.h"
+#include "TestSupport/DisplayRotation.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/NumberedPicture.h"
 #include "TestSupport/Process.h"
@@ -247,50 +248,6 @@ InputSource numberedPictures(const Recipe& recipe) {
     };
 }
 
-std::string bigEndian(std::int32_t value) {
-    const auto bits = static_cast<std::uint32_t>(value);
-    std::string bytes;
-    for (const int shift : {24, 16, 8, 0})
-        bytes += static_cast<char>((bits >> shift) & 0xFFU);
-    return bytes;
-}
-
-/// The track header's matrix that turns the picture clockwise and moves it back into the positive
-/// quadrant, as cameras write it: 16.16 fixed point, the third column 2.30.
-std::string matrixFor(const Recipe& recipe) {
-    constexpr std::int32_t kOne = 1 << 16;
-    const auto [cosine, sine] =
-        std::map<int, std::pair<int, int>>{{90, {0, 1}}, {180, {-1, 0}}, {270, {0, -1}}}.at(
-            recipe.displayRotation);
-    const int moveX = recipe.displayRotation == 90    ? recipe.height
-                      : recipe.displayRotation == 180 ? recipe.width
-                                                      : 0;
-    const int moveY = recipe.displayRotation == 270   ? recipe.width
-                      : recipe.displayRotation == 180 ? recipe.height
-                                                      : 0;
-    std::string bytes;
-    for (const std::int32_t value : {cosine * kOne, sine * kOne, 0, -sine * kOne, cosine * kOne, 0,
-                                     moveX * kOne, moveY * kOne, 1 << 30})
-        bytes += bigEndian(value);
-    return bytes;
-}
-
-/// Writes the matrix into the finished file: ffmpeg offers no option for it when it encodes.
-void setDisplayRotation(const Recipe& recipe, const std::filesystem::path& path) {
-    std::ifstream input(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(input), {}};
-    const std::size_t header = bytes.find("tkhd", bytes.rfind("moov"));
-    if (header == std::string::npos)
-        throw std::runtime_error("Only MP4 and MOV can have a display rotation.");
-    // Version 0 of the header: the matrix stands 40 bytes into its payload. The video comes first.
-    const std::string matrix = matrixFor(recipe);
-    bytes.replace(header + 44, matrix.size(), matrix);
-    std::ofstream output(path, std::ios::binary);
-    output << bytes;
-    if (!output.flush())
-        throw std::runtime_error("Cannot write " + path.string());
-}
-
 void generate(const Recipe& recipe, const std::filesystem::path& path) {
     const TemporaryFolder folder;
     Arguments arguments = {"ffmpeg",
@@ -321,7 +278,7 @@ void generate(const Recipe& recipe, const std::filesystem::path& path) {
     arguments.push_back("file:" + path.string());
     runProcessOrThrow(arguments, {.input = numberedPictures(recipe)});
     if (recipe.displayRotation != 0)
-        setDisplayRotation(recipe, path);
+        setDisplayRotation(path, recipe.displayRotation, recipe.width, recipe.height);
 }
 
 Fixture inspect(const std::filesystem::path& path) {

@@ -271,11 +271,11 @@ std::vector<ProbedPacket> readPackets(const std::filesystem::path& path,
 }
 
 std::string warningsWhilePlaying(const std::filesystem::path& path) {
-    // In the file's own time base: in that of the average frame rate, frames of a variable one fall
-    // together and ffmpeg complains about itself.
+    // In a time base as fine as any file's: in that of the average frame rate, frames of a variable
+    // one fall together and ffmpeg complains about itself.
     const ProcessResult result = runProcess(
         {"ffmpeg", "-nostdin", "-v", "warning", "-i", urlFor(path), "-map", "0:v?", "-map", "0:a?",
-         "-fps_mode", "passthrough", "-enc_time_base", "-1", "-f", "null", "-"});
+         "-fps_mode", "passthrough", "-enc_time_base:v", "1:1000000", "-f", "null", "-"});
     if (result.succeeded() || !result.errors.empty())
         return result.errors;
     return "ffmpeg ended with status " + std::to_string(result.exitStatus);

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScreen>
 #include <QTest>
 
 #include <memory>
@@ -27,6 +28,9 @@ class ControlsViewTest : public EditStateFixture {
 protected:
     ControlsViewTest() {
         reset();
+        // At the bottom of the screen, as the controls stand in a large window: the menu opens
+        // above them. One that opens under the pointer takes a click there for one that closes it.
+        m_window.move(0, m_window.screen()->availableGeometry().bottom() - m_controls->height());
         m_window.show();
         m_window.activateWindow();
         // Shortcuts belong to the active window.
