@@ -16,6 +16,14 @@ def is_installed():
     return Atspi is not None
 
 
+# What newer releases of Qt and AT-SPI call a button, and one that has a menu besides.
+OLDER_ROLES = {
+    "button": "push button",
+    "push button menu": "push button",
+    "button menu": "push button",
+}
+
+
 class Element:
     def __init__(self, node):
         self.node = node
@@ -29,7 +37,8 @@ class Element:
 
     @property
     def role(self):
-        return self.node.get_role_name()
+        role = self.node.get_role_name()
+        return OLDER_ROLES.get(role, role)
 
     @property
     def description(self):
@@ -128,7 +137,12 @@ class Accessibility:
 
     def focused(self):
         """What has the keyboard; None where nothing has."""
-        focused = [each for each in self.elements() if "focused" in each.states]
+        # The current item of a list says so, too, in newer releases of Qt, wherever the keyboard is.
+        focused = [
+            each
+            for each in self.elements()
+            if "focused" in each.states and "transient" not in each.states
+        ]
         # One that passes the keyboard on to a part of it says that it has it, too.
         return focused[-1] if focused else None
 
