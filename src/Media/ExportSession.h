@@ -1,40 +1,16 @@
 #pragma once
 
 #include "Media/Composition.h"
+#include "Media/EncoderSettings.h"
 
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <stop_token>
-#include <string>
 
 namespace media {
 
 enum class FileType { mpeg4, quickTimeMovie };
-
-/// What the encoders are asked for. The defaults are the program's "highest quality"; the table
-/// of measurements behind them stands in docs/architecture.md.
-struct EncoderSettings {
-    /// H.264 for 8-bit standard-range sources (libx264).
-    std::string h264Preset = "superfast";
-    /// Further parameters of x264, as "name=value:…". Predicting motion a little better saves what
-    /// it costs; more for complex pictures is where this preset falls behind slower ones; weighing
-    /// how many B pictures to use is not worth its price; bits go to flat areas by how uneven the
-    /// picture is as a whole; blocks of 4 × 4 cost more than they save; edges of blocks are
-    /// smoothed a little more.
-    std::string h264Parameters = "subme=2:qcomp=0.85:b-adapt=0:aq-mode=2:aq-strength=0.9:"
-                                 "partitions=i8x8:deblock=1,1";
-    double h264Crf = 17.1;
-    /// For pictures that are scaled down: what grain they had is averaged away, and without it
-    /// this preset falls further behind.
-    double h264ReducedCrf = 16.1;
-    /// HEVC Main 10 for deeper or HDR sources (libx265).
-    std::string hevcPreset = "ultrafast";
-    /// Further parameters of x265: what is judged is likeness to the source, not its look of
-    /// detail; edges of blocks are smoothed more, which is nearer to the source.
-    std::string hevcParameters = "psy-rd=0:deblock=2,2";
-    double hevcCrf = 11;
-};
 
 /// Turns a composition into a file: demux → decode → transform → encode → mux, each stage on its
 /// own thread with bounded queues between them.

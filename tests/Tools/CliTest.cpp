@@ -92,6 +92,8 @@ TEST(Cli, tellsWhatIsWrongWithItsArguments) {
         {{"export", "a", "b.mp4", "--crop", "0,0,0,1"}, "--crop needs fractions"},
         {{"export", "a", "b.mp4", "--crop", "0.5,0,0.6,1"}, "--crop needs fractions"},
         {{"export", "a", "b.mp4", "--rotate", "1.5"}, "--rotate needs a whole number"},
+        {{"export", "a", "b.mp4", "--h264-preset", "quick"}, "--h264-preset knows no \"quick\""},
+        {{"export", "a", "b.mp4", "--hevc-preset="}, "--hevc-preset knows no"},
         {{"export", "a", "b.mp4", "--max-short-edge", "0"}, "--max-short-edge needs"},
         {{"export", "a", "b.mp4", "--mute=yes"}, "--mute takes no value"},
         {{"export", "a", "b.mp4", "--progress", "xml"}, "--progress knows json only"},

@@ -1,5 +1,6 @@
 #include "Media/FFmpeg/Check.h"
 
+#include "Media/FFmpeg/CaughtWarnings.h"
 #include "Media/FFmpeg/Handles.h"
 
 #include <array>
@@ -10,7 +11,11 @@ namespace media::ffmpeg {
 
 void silenceLog() {
     static std::once_flag once;
-    std::call_once(once, [] { av_log_set_level(AV_LOG_QUIET); });
+    std::call_once(once, [] {
+        av_log_set_level(AV_LOG_QUIET);
+        // Unlike the level it leaves encoders a way to say what they refuse.
+        av_log_set_callback(&CaughtWarnings::hear);
+    });
 }
 
 std::string sentenceFor(int code) {

@@ -1,6 +1,7 @@
 #include "Media/FFmpeg/Decoder.h"
 
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/ClassicLocale.h"
 
 #include <algorithm>
 #include <thread>
@@ -23,6 +24,7 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
     m_context->thread_count = threads > 0 ? threads : usualThreads();
+    const ClassicLocale classic;
     check(avcodec_open2(m_context.get(), codec, nullptr));
 }
 

@@ -1,6 +1,7 @@
 #include "Media/FFmpeg/Demuxer.h"
 
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/ClassicLocale.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -116,6 +117,7 @@ Demuxer::Demuxer(std::shared_ptr<const SourceFile> file, const AVInputFormat* fo
     context->interrupt_callback = {&Io::isStopped, m_io.get()};
     context->format_whitelist = av_strdup(kContainers);
     context->protocol_whitelist = av_strdup("file");
+    const ClassicLocale classic;
     // On failure libav frees the context and sets it to null. No name is handed over: only content
     // counts.
     const int result = avformat_open_input(&context, "", format, nullptr);
@@ -130,6 +132,7 @@ Demuxer::~Demuxer() = default;
 
 void Demuxer::findStreamInfo(const std::stop_token& stop) {
     const CallScope scope(*m_io, m_ioContext.get(), stop);
+    const ClassicLocale classic;
     const int result = avformat_find_stream_info(m_context.get(), nullptr);
     if (stop.stop_requested())
         throw Cancelled();

@@ -1,17 +1,17 @@
 #include "Media/FFmpeg/Encoder.h"
 
-#include "Media/ExportSession.h"
+#include "Media/EncoderSettings.h"
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/ClassicLocale.h"
+#include "Media/FFmpeg/EncoderOptions.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <string>
 
 extern "C" {
 #include <libavutil/channel_layout.h>
-#include <libavutil/opt.h>
 #include <libavutil/pixdesc.h>
 }
 
@@ -52,10 +52,6 @@ void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
     if (source.format == AV_PIX_FMT_YUVJ420P || source.format == AV_PIX_FMT_YUVJ422P ||
         source.format == AV_PIX_FMT_YUVJ444P || source.format == AV_PIX_FMT_YUVJ440P)
         context.color_range = AVCOL_RANGE_JPEG;
-}
-
-void setOption(AVCodecContext& context, const char* name, const std::string& value) {
-    check(av_opt_set(context.priv_data, name, value.c_str(), 0));
 }
 
 /// The side of what x265 codes: whole coding units.
@@ -124,28 +120,29 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
     context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     copyColor(*context, *track.parameters);
     context->field_order = encoding.fieldOrder;
+    EncoderOptions options(*context);
     if (isHevc) {
         context->codec_tag = MKTAG('h', 'v', 'c', '1');
-        setOption(*context, "preset", settings.hevcPreset);
-        setOption(*context, "crf", std::to_string(settings.hevcCrf));
-        setOption(*context, "forced-idr", "1");
-        std::string parameters =
-            "log-level=none:" + settings.hevcParameters + ":ctu=" + std::to_string(*unit);
-        parameters += x265Parameters(track.dynamicRange);
-        setOption(*context, "x265-params", parameters);
+        options.setPreset(settings.hevcPreset);
+        options.setConstantRateFactor(settings.hevcCrf);
+        options.set("forced-idr", 1);
+        options.add({"log-level", "none"});
+        options.addAll(settings.hevcParameters);
+        options.add({"ctu", *unit});
+        options.addAll(x265Parameters(track.dynamicRange));
+        options.open("x265-params");
     } else {
-        std::string parameters = settings.h264Parameters;
+        options.setPreset(settings.h264Preset);
+        options.setConstantRateFactor(encoding.isReduced ? settings.h264ReducedCrf
+                                                         : settings.h264Crf);
+        options.addAll(settings.h264Parameters);
         // Pairs of lines of both fields are coded together, in pairs of macroblocks.
         if (encoding.fieldOrder != AV_FIELD_PROGRESSIVE && encoding.height % 4 == 0) {
             context->flags |= AV_CODEC_FLAG_INTERLACED_DCT;
-            parameters += isTopFirst(encoding.fieldOrder) ? ":tff=1" : ":bff=1";
+            options.add({isTopFirst(encoding.fieldOrder) ? "tff" : "bff", 1});
         }
-        setOption(*context, "x264-params", parameters);
-        setOption(*context, "preset", settings.h264Preset);
-        setOption(*context, "crf",
-                  std::to_string(encoding.isReduced ? settings.h264ReducedCrf : settings.h264Crf));
+        options.open("x264-params");
     }
-    check(avcodec_open2(context.get(), context->codec, nullptr));
     return Encoder(std::move(context));
 }
 
@@ -158,6 +155,7 @@ std::optional<Encoder> Encoder::forAudio(int sampleRate, const AVChannelLayout& 
     context->bit_rate =
         layout.nb_channels * std::min(kAacBitRatePerChannel, kAacMostBitsPerSample * sampleRate);
     context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
+    const ClassicLocale classic;
     if (avcodec_open2(context.get(), context->codec, nullptr) < 0)
         return std::nullopt;
     return Encoder(std::move(context));

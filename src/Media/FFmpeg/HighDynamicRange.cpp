@@ -1,9 +1,12 @@
 #include "Media/FFmpeg/HighDynamicRange.h"
 
+#include "Media/FFmpeg/EncoderOptions.h"
 #include "Media/FFmpeg/LibavReleases.h"
 
 #include <cmath>
 #include <cstring>
+#include <string>
+#include <utility>
 
 namespace media::ffmpeg {
 
@@ -27,7 +30,7 @@ std::optional<Data> described(const AVStream& stream, AVPacketSideDataType packe
 
 /// Written as the standard counts: chromaticities in 1/50000, luminances in 1/10000 cd/m².
 std::string counted(AVRational value, int unit) {
-    return std::to_string(std::llround(av_q2d(value) * unit));
+    return textOf(static_cast<int>(std::lround(av_q2d(value) * unit)));
 }
 
 std::string pair(const char* name, AVRational first, AVRational second, int unit) {
@@ -51,24 +54,28 @@ HighDynamicRange describeDynamicRange(const AVStream& stream, const AVFrame& pic
                                               AV_FRAME_DATA_CONTENT_LIGHT_LEVEL)};
 }
 
-std::string x265Parameters(const HighDynamicRange& range) {
-    std::string parameters;
+EncoderParameters x265Parameters(const HighDynamicRange& range) {
+    EncoderParameters parameters;
     if (const auto& display = range.masteringDisplay;
         display && display->has_primaries && display->has_luminance) {
         constexpr int kChromaticity = 50'000;
         constexpr int kLuminance = 10'000;
         const auto& [red, green, blue] = display->display_primaries;
-        parameters += ":master-display=" + pair("G", green[0], green[1], kChromaticity) +
-                      pair("B", blue[0], blue[1], kChromaticity) +
-                      pair("R", red[0], red[1], kChromaticity) +
-                      pair("WP", display->white_point[0], display->white_point[1], kChromaticity) +
-                      pair("L", display->max_luminance, display->min_luminance, kLuminance);
+        parameters.push_back(
+            {"master-display",
+             pair("G", green[0], green[1], kChromaticity) +
+                 pair("B", blue[0], blue[1], kChromaticity) +
+                 pair("R", red[0], red[1], kChromaticity) +
+                 pair("WP", display->white_point[0], display->white_point[1], kChromaticity) +
+                 pair("L", display->max_luminance, display->min_luminance, kLuminance)});
     }
     if (range.lightLevel) {
-        parameters += ":max-cll=" + std::to_string(range.lightLevel->MaxCLL) + "," +
-                      std::to_string(range.lightLevel->MaxFALL);
+        parameters.push_back({"max-cll", std::pair(static_cast<int>(range.lightLevel->MaxCLL),
+                                                   static_cast<int>(range.lightLevel->MaxFALL))});
     }
-    return parameters.empty() ? parameters : ":hdr10=1" + parameters;
+    if (!parameters.empty())
+        parameters.insert(parameters.begin(), {"hdr10", 1});
+    return parameters;
 }
 
 void attach(AVStream& stream, const HighDynamicRange& range) {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Media/EncoderSettings.h"
 #include "Media/FFmpeg/Handles.h"
 
 #include <optional>
-#include <string>
 
 extern "C" {
 #include <libavutil/mastering_display_metadata.h>
@@ -20,8 +20,8 @@ struct HighDynamicRange {
 /// From the container and, where it does not say, from a decoded picture.
 HighDynamicRange describeDynamicRange(const AVStream& stream, const AVFrame& picture);
 
-/// The same as parameters of x265, each with a colon in front; empty where there is nothing to say.
-std::string x265Parameters(const HighDynamicRange& range);
+/// The same as parameters of x265; none where there is nothing to say.
+EncoderParameters x265Parameters(const HighDynamicRange& range);
 
 /// Has a muxer write it for an output stream.
 void attach(AVStream& stream, const HighDynamicRange& range);

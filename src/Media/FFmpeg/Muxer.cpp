@@ -2,6 +2,7 @@
 
 #include "Media/Export/OutputFile.h"
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/Timecode.h"
@@ -252,6 +253,7 @@ void Muxer::writeHeader(std::int64_t expectedPackets) {
     checkIo(av_opt_set_int(m_context->priv_data, "moov_size", m_roomBytes, 0));
     if (hasNamedEntries(m_context->metadata))
         checkIo(av_opt_set(m_context->priv_data, "movflags", "+use_metadata_tags", 0));
+    const ClassicLocale classic;
     checkIo(avformat_write_header(m_context.get(), nullptr));
     // The index is written at the very end, with all that is known by then.
     check(av_dict_set(&m_context->metadata, "encoder", "Brisklet " BRISKLET_VERSION, 0));
@@ -269,6 +271,7 @@ void Muxer::finish() {
         turnReservedRoomIntoFreeBox();
         checkIo(av_opt_set_int(m_context->priv_data, "moov_size", 0, 0));
     }
+    const ClassicLocale classic;
     checkIo(av_write_trailer(m_context.get()));
     avio_flush(m_ioContext.get());
     checkIo(m_ioContext->error);

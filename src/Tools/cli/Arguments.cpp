@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstddef>
 #include <string_view>
 
@@ -81,8 +80,9 @@ std::optional<media::Rect> parseCrop(const std::string& text) {
 
 std::optional<ExportFormat> formatOf(const std::string& name) {
     std::string upper = name;
-    std::ranges::transform(upper, upper.begin(), [](unsigned char character) {
-        return static_cast<char>(std::toupper(character));
+    // In some languages the capital of an i is another letter.
+    std::ranges::transform(upper, upper.begin(), [](char c) {
+        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
     });
     if (upper == "MP4" || upper == "M4V")
         return ExportFormat::mp4;
@@ -103,12 +103,23 @@ ExportFormat parseFormat(const ArgumentList& list, const std::filesystem::path& 
     throw UsageError("the name of the output does not say which format: add --format mp4 or mov");
 }
 
+std::optional<media::EncoderPreset> parsePreset(const ArgumentList& list, const char* option) {
+    const auto name = list.value(option);
+    if (!name)
+        return std::nullopt;
+    for (const auto& [preset, known] : media::kEncoderPresets) {
+        if (*name == known)
+            return preset;
+    }
+    throw UsageError(std::string(option) + " knows no \"" + *name + "\"");
+}
+
 std::optional<media::EncoderSettings> parseEncoders(const ArgumentList& list) {
     media::EncoderSettings settings;
-    settings.h264Preset = list.value("--h264-preset").value_or(settings.h264Preset);
+    settings.h264Preset = parsePreset(list, "--h264-preset").value_or(settings.h264Preset);
     if (const auto crf = list.number("--h264-crf"))
         settings.h264Crf = settings.h264ReducedCrf = *crf;
-    settings.hevcPreset = list.value("--hevc-preset").value_or(settings.hevcPreset);
+    settings.hevcPreset = parsePreset(list, "--hevc-preset").value_or(settings.hevcPreset);
     settings.hevcCrf = list.number("--hevc-crf").value_or(settings.hevcCrf);
     const bool areChanged = list.has("--h264-preset") || list.has("--h264-crf") ||
                             list.has("--hevc-preset") || list.has("--hevc-crf");
