@@ -1,3 +1,4 @@
+#include "Application.h"
 #include "BriskletApp.h"
 #include "CommandLine.h"
 #include "Media/Engine.h"
@@ -6,7 +7,6 @@
 #include "Support/LeakCheck.h"
 #include "Support/Workers.h"
 
-#include <QApplication>
 #include <QDBusConnection>
 #include <QIcon>
 #include <QTimer>
@@ -96,7 +96,7 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     if (isPlain && !everything.files.empty())
         loadEngineAhead();
 
-    const QApplication application(argc, argv);
+    const brisklet::Application application(argc, argv);
     setUpApplication();
     const CommandLine commandLine = CommandLine::parse(argumentsOf(argc, argv));
     if (commandLine.unknownOption) {

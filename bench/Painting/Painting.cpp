@@ -1,9 +1,9 @@
+#include "Application.h"
 #include "Models/EditState.h"
 #include "Support/FileUrl.h"
 #include "Support/Workers.h"
 #include "Views/ContentView.h"
 
-#include <QApplication>
 #include <QEvent>
 
 #include <algorithm>
@@ -87,7 +87,7 @@ void measureAll(QWidget& window, EditState& state) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication application(argc, argv);
+    const brisklet::Application application(argc, argv);
     if (argc != 2) {
         std::fputs("usage: painting SOURCE\n", stderr);
         return EXIT_FAILURE;

@@ -162,6 +162,29 @@ TEST_F(FileDialogPanelsTest, completesANameThatLacksTheExtension) {
     EXPECT_EQ(*answer.value, urlOf(m_folder / "holiday v1.2.mp4"));
 }
 
+TEST_F(FileDialogPanelsTest, takesTheExtensionInCapitals) {
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    typeAndAccept(panel, QStringLiteral("HOLIDAY.MP4"));
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, urlOf(m_folder / "HOLIDAY.MP4"));
+}
+
+// The Turkish capital of an i is another letter than I.
+TEST_F(FileDialogPanelsTest, completesANameWithAnotherExtensionInCapitals) {
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    typeAndAccept(panel, QStringLiteral(u"film.AVİ"));
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, urlOf(m_folder / "film.AVİ.mp4"));
+}
+
 // The dialog confirms the name that was typed, which is not the one that would be replaced.
 TEST_F(FileDialogPanelsTest, asksAgainWhenACompletedNameIsTaken) {
     std::ofstream(m_folder / "holiday v1.2.mp4") << "old";

@@ -1,16 +1,29 @@
+#include "Application.h"
 #include "Support/LeakCheck.h"
 
-#include <QApplication>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
+
+#include <clocale>
+#include <cstdio>
 
 namespace {
 
 /// No window outlives the application, so that one that is forgotten is found to be a leak.
 int runTests(int argc, char** argv) {
-    const QApplication application(argc, argv);
+    const brisklet::Application application(argc, argv);
     return RUN_ALL_TESTS();
+}
+
+/// Takes on the locale that the tests are to run in, if one is asked for. False where the machine
+/// has not got it.
+bool takeOnLocale() {
+    const QByteArray locale = qgetenv("BRISKLET_TEST_LOCALE");
+    if (locale.isEmpty())
+        return true;
+    qputenv("LC_ALL", locale);
+    return std::setlocale(LC_ALL, "") != nullptr;
 }
 
 } // namespace
@@ -28,6 +41,10 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     testing::InitGoogleMock(&argc, argv);
+    if (!takeOnLocale()) {
+        std::puts("[  SKIPPED ] The locale is not installed.");
+        return 0;
+    }
     const int status = runTests(argc, argv);
     brisklet::checkForLeaks();
     return status;

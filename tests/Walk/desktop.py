@@ -58,8 +58,9 @@ def _end_with_parent():
 class Desktop:
     """Use it in a with statement."""
 
-    def __init__(self, screen="1800x1200", scale=1, dark=False):
+    def __init__(self, screen="1800x1200", scale=1, dark=False, locale="C.UTF-8"):
         self.screen = screen
+        self.locale = locale
         self.scale = scale
         self.dark = dark
         self.folder = Path(tempfile.mkdtemp(prefix="brisklet-desktop-"))
@@ -104,7 +105,7 @@ class Desktop:
         for name in FOREIGN_SETTINGS:
             os.environ.pop(name, None)
         os.environ.update(
-            LC_ALL="C.UTF-8",
+            LC_ALL=self.locale,
             QT_QPA_PLATFORM="xcb",
             QT_QPA_PLATFORMTHEME="",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",

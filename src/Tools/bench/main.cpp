@@ -1,8 +1,9 @@
+#include "Application.h"
 #include "Support/LeakCheck.h"
 #include "Support/Workers.h"
 #include "Tools/bench/Benchmarks.h"
 
-#include <QApplication>
+#include <QByteArray>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -80,6 +81,10 @@ double percentile(const std::vector<double>& sorted, double share) {
     const auto rank =
         static_cast<std::size_t>(std::ceil(share * static_cast<double>(sorted.size())));
     return sorted[std::clamp<std::size_t>(rank, 1, sorted.size()) - 1];
+}
+
+void print(double milliseconds) {
+    std::puts(QByteArray::number(milliseconds, 'f', 1).constData());
 }
 
 void print(const QJsonObject& figures) {
@@ -164,18 +169,18 @@ void runBenchmark(const std::string& name, const std::vector<std::string>& opera
     } else if (name == "windows") {
         runWindows(operands);
     } else if (name == "open" && operands.size() == 1) {
-        std::printf("%.1f\n", open(operands[0]));
+        print(open(operands[0]));
     } else if (name == "play") {
         runPlay(operands);
     } else if (name == "startup" && operands.empty()) {
-        std::printf("%.1f\n", startup(start));
+        print(startup(start));
     } else {
         throw UsageError("\"" + name + "\" with these arguments is no benchmark");
     }
 }
 
 int run(int argc, char** argv, Clock::time_point start) {
-    QApplication application(argc, argv);
+    const brisklet::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("brisklet"));
     QApplication::setQuitOnLastWindowClosed(false);
     const std::vector<std::string> arguments(argv + 1, argv + std::max(argc, 1));
