@@ -22,6 +22,11 @@ namespace {
 constexpr QSize kInitialSize(960, 680);
 constexpr QSize kSmallestSize(720, 480);
 
+/// Qt replaces "[*]" in titles, unless it is doubled.
+QString asTitle(QString name) {
+    return name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
 } // namespace
 
 WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, QWidget* parent)
@@ -96,7 +101,7 @@ void WindowRootView::appear() {
 
 void WindowRootView::showTitle() {
     const auto& url = m_state->videoURL();
-    setWindowTitle(url ? displayName(*url) : QStringLiteral("Brisklet"));
+    setWindowTitle(url ? asTitle(displayName(*url)) : QStringLiteral("Brisklet"));
 }
 
 void WindowRootView::changeEvent(QEvent* event) {
