@@ -1,5 +1,6 @@
 #include "Platform/FileManagerEntries.h"
 
+#include "Platform/Failures.h"
 #include "Platform/MimeTypes.h"
 
 #include <QByteArray>
@@ -155,6 +156,18 @@ void write(const fs::path& path, const QByteArray& content, bool isExecutable) {
         fail("written", path, file.errorString().toStdString());
 }
 
+/// Together with the folders that it leaves empty.
+void remove(const fs::path& dataFolder, const fs::path& place) {
+    std::error_code error;
+    const bool isRemoved = fs::remove(dataFolder / place, error);
+    if (error && error != std::errc::not_a_directory)
+        fail("removed", dataFolder / place, error.message());
+    // Only folders that are empty now can be removed this way.
+    fs::path folder = place.parent_path();
+    for (; isRemoved && !folder.empty(); folder = folder.parent_path())
+        fs::remove(dataFolder / folder, error);
+}
+
 } // namespace
 
 fs::path dataFolder() {
@@ -163,27 +176,24 @@ fs::path dataFolder() {
 }
 
 void install(const fs::path& dataFolder, const fs::path& program) {
+    Failures failures;
     for (const Entry& entry : kEntries) {
         const fs::path path = dataFolder / entry.place;
-        if (isFree(path))
-            write(path, entry.content(program), entry.isExecutable);
+        failures.in([&] {
+            if (isFree(path))
+                write(path, entry.content(program), entry.isExecutable);
+        });
     }
+    failures.throwAny();
 }
 
 void uninstall(const fs::path& dataFolder) {
+    Failures failures;
     for (const Entry& entry : kEntries) {
-        const fs::path path = dataFolder / entry.place;
-        if (!isFree(path))
-            continue;
-        std::error_code error;
-        const bool isRemoved = fs::remove(path, error);
-        if (error && error != std::errc::not_a_directory)
-            fail("removed", path, error.message());
-        // Only folders that are empty now can be removed this way.
-        fs::path folder = fs::path(entry.place).parent_path();
-        for (; isRemoved && !folder.empty(); folder = folder.parent_path())
-            fs::remove(dataFolder / folder, error);
+        if (isFree(dataFolder / entry.place))
+            failures.in([&] { remove(dataFolder, entry.place); });
     }
+    failures.throwAny();
 }
 
 } // namespace brisklet::FileManagerEntries

@@ -11,12 +11,12 @@ namespace brisklet::FileManagerEntries {
 /// The user's data folder ($XDG_DATA_HOME), where file managers look.
 std::filesystem::path dataFolder();
 
-/// Writes the entries, which start `program` (an absolute path). Throws std::runtime_error with a
-/// sentence for the user where a file cannot be written.
+/// Writes the entries, which start `program` (an absolute path): all that can be written. Throws
+/// std::runtime_error afterwards with a line for the user about those that cannot.
 void install(const std::filesystem::path& dataFolder, const std::filesystem::path& program);
 
-/// Removes the entries that install() wrote, and the folders that it leaves empty. Throws
-/// std::runtime_error where one cannot be removed.
+/// Removes the entries that install() wrote, and the folders that it leaves empty. Throws likewise
+/// about those that cannot be removed.
 void uninstall(const std::filesystem::path& dataFolder);
 
 } // namespace brisklet::FileManagerEntries

@@ -1,5 +1,6 @@
 #include "Platform/QuickActionInstallation.h"
 
+#include "Platform/Failures.h"
 #include "Platform/FileManagerEntries.h"
 #include "Support/QuickAction.h"
 
@@ -29,13 +30,21 @@ std::filesystem::path ownProgram() {
 } // namespace
 
 void install() {
-    FileManagerEntries::install(FileManagerEntries::dataFolder(), ownProgram());
-    QuickAction::shared().install();
+    Failures failures;
+    failures.in(
+        [] { FileManagerEntries::install(FileManagerEntries::dataFolder(), ownProgram()); });
+    failures.in([] { QuickAction::shared().install(); });
+    // What is not installed is not offered to be removed either.
+    if (!QuickAction::shared().isInstalled())
+        failures.in([] { FileManagerEntries::uninstall(FileManagerEntries::dataFolder()); });
+    failures.throwAny();
 }
 
 void uninstall() {
-    QuickAction::shared().uninstall();
-    FileManagerEntries::uninstall(FileManagerEntries::dataFolder());
+    Failures failures;
+    failures.in([] { QuickAction::shared().uninstall(); });
+    failures.in([] { FileManagerEntries::uninstall(FileManagerEntries::dataFolder()); });
+    failures.throwAny();
 }
 
 } // namespace brisklet::QuickActionInstallation

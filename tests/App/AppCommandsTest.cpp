@@ -249,6 +249,38 @@ TEST_F(AppCommandsTest, showsWhyTheQuickActionCannotBeRemovedInTheFocusedWindow)
     EXPECT_TRUE(QuickAction::shared().isInstalled());
 }
 
+// The file managers kept their entries when the user had deleted the Library folder.
+TEST_F(AppCommandsTest, removesTheEntriesOfFileManagersAlsoWhereTheWorkflowIsGone) {
+    const std::filesystem::path data = qgetenv("XDG_DATA_HOME").toStdString();
+    m_focusedValues.setEditState(m_state);
+    action("Install Finder Quick Action")->trigger();
+    EXPECT_TRUE(std::filesystem::exists(data / "nautilus/scripts/Trim Video"));
+    std::filesystem::remove_all(QuickAction::workflowPath().parent_path().parent_path());
+    action("Remove Finder Quick Action")->trigger();
+    EXPECT_FALSE(std::filesystem::exists(data / "nautilus"));
+    EXPECT_FALSE(std::filesystem::exists(data / "Thunar"));
+    EXPECT_EQ(m_state->errorMessage(),
+              QStringLiteral("Couldn't update the Quick Action: “Trim Video.workflow” couldn't be "
+                             "removed: It doesn't exist."));
+    EXPECT_TRUE(QuickAction::shared().isInstalled());
+}
+
+TEST_F(AppCommandsTest, removesAnInstallationThatIsIncomplete) {
+    const std::filesystem::path data = qgetenv("XDG_DATA_HOME").toStdString();
+    m_focusedValues.setEditState(m_state);
+    std::filesystem::create_directories(data / "nemo");
+    std::ofstream(data / "nemo/actions") << "no folder";
+    action("Install Finder Quick Action")->trigger();
+    EXPECT_TRUE(m_state->errorMessage().has_value());
+    m_state->clearErrorMessage();
+    action("Remove Finder Quick Action")->trigger();
+    EXPECT_EQ(m_state->errorMessage(), std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists(QuickAction::workflowPath()));
+    EXPECT_FALSE(std::filesystem::exists(data / "nautilus"));
+    EXPECT_NE(action("Install Finder Quick Action"), nullptr);
+    std::filesystem::remove_all(data / "nemo");
+}
+
 TEST_F(AppCommandsTest, keepsTheFailureOfTheQuickActionToItselfWithoutAWindow) {
     QuickAction::shared().setInstalled(true);
     action("Remove Finder Quick Action")->trigger();

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -56,6 +57,30 @@ TEST_F(InstallModeTest, addsItselfToTheFileManagers) {
     install();
     const std::string script = contentOf(dataFolder() / "nautilus/scripts/Trim Video");
     EXPECT_NE(script.find(fs::canonical(BRISKLET_APP).string()), std::string::npos) << script;
+}
+
+// One entry that could not be written kept all that follow it away, the workflow among them.
+TEST_F(InstallModeTest, installsAllThatCanBeAndSaysWhatCannot) {
+    fs::create_directories(dataFolder() / "nemo");
+    std::ofstream(dataFolder() / "kio") << "no folder";
+    std::ofstream(dataFolder() / "nemo/actions") << "no folder";
+    const auto result = install();
+    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(std::ranges::count(result.output, '\n'), 1) << result.output;
+    EXPECT_TRUE(result.output.starts_with("Quick Action install failed: “")) << result.output;
+    EXPECT_NE(result.output.find("kio/servicemenus"), std::string::npos) << result.output;
+    EXPECT_NE(result.output.find("nemo/actions"), std::string::npos) << result.output;
+    EXPECT_TRUE(fs::exists(workflow()));
+    EXPECT_TRUE(fs::exists(dataFolder() / "nautilus/scripts/Trim Video"));
+    EXPECT_TRUE(fs::exists(dataFolder() / "Thunar/sendto"));
+}
+
+// Without the workflow the menu offers to install, and nothing would remove the entries again.
+TEST_F(InstallModeTest, leavesNoEntriesBehindWhereTheWorkflowCannotBeWritten) {
+    std::ofstream(m_home / "Library") << "no folder";
+    EXPECT_EQ(install().exitStatus, 1);
+    EXPECT_FALSE(fs::exists(dataFolder() / "nautilus"));
+    EXPECT_FALSE(fs::exists(dataFolder() / "kio"));
 }
 
 TEST_F(InstallModeTest, saysWhyItFailed) {
