@@ -1,6 +1,7 @@
 #include "Models/EditState.h"
 
 #include "Media/Error.h"
+#include "Support/FileNames.h"
 #include "Support/FileUrl.h"
 #include "Support/MainThread.h"
 #include "Support/PlaybackSettings.h"
@@ -34,6 +35,8 @@ struct EditState::LoadedVideo {
     double duration = 0;
     /// None when the file has no video track.
     std::optional<media::Size> displaySize;
+    /// Bytes of a name in its folder.
+    int longestName = 0;
 };
 
 EditState::EditState() {
@@ -84,6 +87,7 @@ QCoro::Task<EditState::LoadedVideo> EditState::open(const QUrl& url, const std::
         const auto tracks = loaded.asset->tracks(media::MediaType::video);
         if (!tracks.empty())
             loaded.displaySize = media::orientedSize(tracks.front());
+        loaded.longestName = longestNameIn(path.parent_path());
         return loaded;
     });
 }
@@ -127,6 +131,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
 }
 
 void EditState::publish(const QUrl& url, const LoadedVideo& video) {
+    m_longestName = video.longestName;
     m_videoURL = url;
     m_duration = video.duration;
     m_displaySize = *video.displaySize;

@@ -2,6 +2,7 @@
 
 #include "Export/AVFoundationExporter.h"
 #include "Media/Error.h"
+#include "Support/FileNames.h"
 #include "Support/FileUrl.h"
 #include "Support/MainThread.h"
 
@@ -20,14 +21,19 @@ bool coversPicture(const media::Rect& crop) {
         .contains(media::Rect{0, 0, 1, 1});
 }
 
-SaveProposal proposalFor(const QUrl& source, ExportFormat format) {
+SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestName) {
     const bool isQuickTime = format == ExportFormat::mov;
-    const QString extension = isQuickTime ? QStringLiteral("mov") : QStringLiteral("mp4");
-    return {.fileName = displayBaseName(source) + QStringLiteral(" Trimmed.") + extension,
+    const QString mp4 = QStringLiteral("mp4");
+    const QString mov = QStringLiteral("mov");
+    const QString& extension = isQuickTime ? mov : mp4;
+    return {.fileName = fittedName(displayBaseName(source), QStringLiteral(" Trimmed.") + extension,
+                                   longestName),
             .folder = urlOf(pathOf(source).parent_path()),
             .typeName =
                 isQuickTime ? QStringLiteral("QuickTime movie") : QStringLiteral("MPEG-4 movie"),
-            .extension = extension};
+            .extension = extension,
+            .otherExtension = isQuickTime ? mp4 : mov,
+            .source = source};
 }
 
 } // namespace
@@ -40,26 +46,31 @@ void EditState::presentExportPanel() {
 QCoro::Task<> EditState::askForOutput() {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const auto panels = m_filePanels;
-    auto panel = panels->saveMovie(proposalFor(*videoURL(), ExportSettings::shared().format()));
+    // Another window may change the shared one while the panel is open.
+    const ExportFormat format = ExportSettings::shared().format();
+    auto panel = panels->saveMovie(proposalFor(*videoURL(), format, m_longestName));
     const std::optional<QUrl> url = co_await panel;
     const auto self = weak.lock();
     if (self && url)
-        self->exportTo(*url);
+        self->startExport(*url, format);
 }
 
 void EditState::exportTo(const QUrl& outputURL) {
+    startExport(outputURL, ExportSettings::shared().format());
+}
+
+void EditState::startExport(const QUrl& outputURL, ExportFormat format) {
     if (!videoURL() || m_exportProgress.value())
         return;
     m_playerController.player()->pause();
-    ExportRequest request = exportRequest(outputURL);
+    ExportRequest request = exportRequest(outputURL, format);
     m_exportTask.emplace();
     const std::stop_token stop = m_exportTask->get_token();
     m_exportProgress = 0.0;
     runExport(shared_from_this(), std::move(request), stop);
 }
 
-ExportRequest EditState::exportRequest(const QUrl& outputURL) const {
-    const ExportSettings& settings = ExportSettings::shared();
+ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportFormat format) const {
     std::optional<media::Rect> crop = cropRect();
     if (crop && coversPicture(*crop))
         crop.reset();
@@ -70,8 +81,8 @@ ExportRequest EditState::exportRequest(const QUrl& outputURL) const {
             .cropRect = crop,
             .rotation = m_rotation,
             .outputURL = outputURL,
-            .format = settings.format(),
-            .maxShortEdge = maxShortEdge(settings.resolution())};
+            .format = format,
+            .maxShortEdge = maxShortEdge(ExportSettings::shared().resolution())};
 }
 
 QCoro::Task<> EditState::runExport(std::shared_ptr<EditState> state, ExportRequest request,

@@ -17,6 +17,10 @@ struct SaveProposal {
     /// with no other extension.
     QString typeName;
     QString extension;
+    /// The extension of the other type, which is replaced where a user types it.
+    QString otherExtension;
+    /// The file that the movie is made of; the panel does not let the user replace it.
+    QUrl source;
 };
 
 /// Asks the user for files. The panels are modal to their window; the answer is none when the user
@@ -28,9 +32,10 @@ public:
     FilePanels& operator=(const FilePanels&) = delete;
     virtual ~FilePanels() = default;
 
-    /// One existing movie file.
+    /// One existing movie file, which may be on another computer.
     virtual QCoro::Task<std::optional<QUrl>> openMovie() = 0;
-    /// Where to write a movie. Replacing an existing file has been confirmed by the user.
+    /// Where on this computer to write a movie. Replacing an existing file has been confirmed by
+    /// the user.
     virtual QCoro::Task<std::optional<QUrl>> saveMovie(SaveProposal proposal) = 0;
 };
 

@@ -132,6 +132,8 @@ TEST_F(EditStateExportTest, proposesTheSourcesNameInTheChosenFormat) {
     EXPECT_EQ(m_panels->proposals[0].extension, QStringLiteral("mp4"));
     EXPECT_EQ(m_panels->proposals[1].fileName, QStringLiteral("Holiday Trimmed.mov"));
     EXPECT_EQ(m_panels->proposals[1].extension, QStringLiteral("mov"));
+    EXPECT_EQ(m_panels->proposals[1].otherExtension, QStringLiteral("mp4"));
+    EXPECT_EQ(m_panels->proposals[1].source, urlOf(m_folder / "Holiday.MOV"));
     EXPECT_EQ(pathOf(m_panels->proposals[1].folder), m_folder.path());
     // Both were cancelled.
     EXPECT_EQ(state().exportProgress(), std::nullopt);
@@ -146,6 +148,59 @@ TEST_F(EditStateExportTest, exportsToWhatTheSavePanelAnswers) {
     ASSERT_TRUE(pumpUntil([this] { return state().exportProgress().has_value(); }));
     ASSERT_TRUE(waitForExport());
     EXPECT_EQ(probe(m_folder / "out.mov").format.text("tags.major_brand"), "qt  ");
+}
+
+// The format is everybody's: chosen in another window meanwhile, it made a QuickTime file of the
+// name that was proposed for an MPEG-4 one.
+TEST_F(EditStateExportTest, exportsInTheFormatThatThePanelWasOpenedFor) {
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    m_panels->toSave = urlOf(m_folder / "out.mp4");
+    m_panels->whileOpen = [] { ExportSettings::shared().setFormat(ExportFormat::mov); };
+    state().presentExportPanel();
+    ASSERT_TRUE(pumpUntil([this] { return state().exportProgress().has_value(); }));
+    ASSERT_TRUE(waitForExport());
+    EXPECT_NE(probe(m_folder / "out.mp4").format.text("tags.major_brand"), "qt  ");
+    // Without a panel it is the one chosen now.
+    state().exportTo(urlOf(m_folder / "out.mov"));
+    ASSERT_TRUE(waitForExport());
+    EXPECT_EQ(probe(m_folder / "out.mov").format.text("tags.major_brand"), "qt  ");
+}
+
+// A name may have 255 bytes, and the proposal is longer than the name of its source.
+TEST_F(EditStateExportTest, proposesANameThatTheFolderCanHold) {
+    // 3 bytes and one letter on the screen; 25 bytes and one letter.
+    const std::string accented = "e\u0301";
+    const std::string family = "\U0001F468\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466";
+
+    struct Case {
+        std::string letter;
+        int count;
+        int kept;
+    };
+
+    for (const Case& name :
+         {Case{"a", 250, 243}, Case{"a", 243, 243}, Case{accented, 83, 81}, Case{family, 10, 9}}) {
+        std::string base;
+        for (int i = 0; i < name.count; ++i)
+            base += name.letter;
+        const auto source = m_folder / (base + ".mp4");
+        std::filesystem::copy_file(makeFixture({.duration = 1}).path, source);
+        state().load(urlOf(source));
+        ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(source); }));
+        m_panels->toSave = std::nullopt;
+        state().presentExportPanel();
+        ASSERT_TRUE(pumpUntil([this] { return !m_panels->proposals.empty(); }));
+        const std::string proposed = m_panels->proposals.back().fileName.toStdString();
+        m_panels->proposals.clear();
+        base.resize(name.letter.size() * static_cast<std::size_t>(name.kept));
+        EXPECT_EQ(proposed, base + " Trimmed.mp4");
+        EXPECT_LE(proposed.size(), 255U);
+        // And the export finds room for it.
+        state().exportTo(urlOf(m_folder / proposed));
+        ASSERT_TRUE(waitForExport());
+        EXPECT_EQ(state().errorMessage(), std::nullopt);
+        EXPECT_TRUE(std::filesystem::exists(m_folder / proposed));
+    }
 }
 
 TEST_F(EditStateExportTest, doesNothingWithoutAVideo) {

@@ -2,6 +2,7 @@
 
 #include "Support/FilePanels.h"
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -19,12 +20,16 @@ public:
 
     QCoro::Task<std::optional<QUrl>> saveMovie(brisklet::SaveProposal proposal) override {
         proposals.push_back(proposal);
+        if (whileOpen)
+            whileOpen();
         std::optional<QUrl> answer = toSave;
         co_return answer;
     }
 
     std::optional<QUrl> toOpen;
     std::optional<QUrl> toSave;
+    /// What happens elsewhere while the save panel is on screen.
+    std::function<void()> whileOpen;
     int openCount = 0;
     std::vector<brisklet::SaveProposal> proposals;
 };
