@@ -3,6 +3,7 @@
 #include "ExportMonitor.h"
 #include "Models/EditState.h"
 #include "Platform/Appearance.h"
+#include "Platform/DesktopMounts.h"
 #include "Platform/FileTransferPortal.h"
 #include "Platform/PromptThread.h"
 #include "Platform/StartupNotification.h"
@@ -120,6 +121,7 @@ WindowRootView* BriskletApp::openWindow() {
     });
     if (m_exportMonitor != nullptr) {
         m_exportMonitor->watch(window);
+        window->setRemoteFiles(std::make_shared<DesktopMounts>(m_session->bus()));
         window->content().setFileTransfer(
             [bus = m_session->bus()](const QByteArray& key, auto done) {
                 retrieveTransferredFiles(bus, key, std::move(done));

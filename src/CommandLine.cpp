@@ -2,27 +2,9 @@
 
 #include "Support/FileUrl.h"
 
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
 namespace brisklet {
-
-namespace {
-
-QUrl fileOf(std::string_view argument) {
-    const std::filesystem::path path(argument);
-    std::error_code ignored;
-    if (argument.starts_with("file:") && !std::filesystem::exists(path, ignored)) {
-        const auto size = static_cast<qsizetype>(argument.size());
-        QUrl url = QUrl::fromEncoded(QByteArray(argument.data(), size));
-        if (url.isValid())
-            return url;
-    }
-    return urlOf(path);
-}
-
-} // namespace
 
 CommandLine CommandLine::parse(std::span<const char* const> arguments) {
     CommandLine result;
@@ -37,7 +19,7 @@ CommandLine CommandLine::parse(std::span<const char* const> arguments) {
         if (argument.empty())
             continue;
         if (!isOption)
-            result.files.push_back(fileOf(argument));
+            result.files.push_back(urlOfArgument(argument));
         else if (argument == "--")
             takesOptions = false;
         else if (argument == "--help" || argument == "-h")

@@ -21,7 +21,7 @@ struct CommandLine {
     std::optional<std::string> unknownOption;
 
     /// `arguments` without the program's own name. "--" ends the options. Relative names are taken
-    /// from the current folder; file URLs are taken too.
+    /// from the current folder; URLs are taken too, of files elsewhere as well.
     static CommandLine parse(std::span<const char* const> arguments);
 };
 

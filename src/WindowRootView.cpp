@@ -66,6 +66,11 @@ void WindowRootView::buildLayout() {
     layout->addWidget(m_content, 1);
 }
 
+void WindowRootView::setRemoteFiles(const std::shared_ptr<RemoteFiles>& remoteFiles) {
+    m_state->setRemoteFiles(remoteFiles);
+    m_state->setFilePanels(std::make_shared<FileDialogPanels>(this, remoteFiles));
+}
+
 void WindowRootView::bringToFront() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();

@@ -14,6 +14,7 @@ class AppCommands;
 class ContentView;
 class EditState;
 class FocusedValues;
+class RemoteFiles;
 class Updater;
 
 /// One editor window: the menu bar over the content, and a model of its own that lives as long.
@@ -37,6 +38,9 @@ public:
     [[nodiscard]] const std::shared_ptr<EditState>& state() const { return m_state; }
 
     [[nodiscard]] ContentView& content() const { return *m_content; }
+
+    /// Who finds files that are not on this computer. To be set before the window is shown.
+    void setRemoteFiles(const std::shared_ptr<RemoteFiles>& remoteFiles);
 
     /// Puts the window over the others and gives it the keyboard, as far as the desktop lets it.
     void bringToFront();

@@ -99,6 +99,8 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
     LoadedVideo video;
     QString failure;
     try {
+        auto finding = findFile(m_remoteFiles, url);
+        url = co_await finding;
         auto opening = open(url, stop);
         video = co_await opening;
         if (!video.displaySize)

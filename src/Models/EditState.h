@@ -6,6 +6,7 @@
 #include "Player/PlayerController.h"
 #include "Support/FilePanels.h"
 #include "Support/OpenBridge.h"
+#include "Support/RemoteFiles.h"
 
 #include <QCoroTask>
 #include <QImage>
@@ -97,6 +98,11 @@ public:
     /// the questions it is asked.
     void setFilePanels(std::shared_ptr<FilePanels> panels) { m_filePanels = std::move(panels); }
 
+    /// Who finds files that are not on this computer; without one they are refused.
+    void setRemoteFiles(std::shared_ptr<RemoteFiles> remoteFiles) {
+        m_remoteFiles = std::move(remoteFiles);
+    }
+
     /// Starts loading and returns; a load cannot be cancelled. The old video stays until the new
     /// one is ready; a failure changes nothing but errorMessage().
     void load(const QUrl& url) override;
@@ -186,6 +192,9 @@ private:
 
     PlayerController m_playerController;
     std::shared_ptr<FilePanels> m_filePanels;
+    std::shared_ptr<RemoteFiles> m_remoteFiles;
+    /// Bytes that a name beside the open video may have.
+    int m_longestName = 0;
     /// Stops the running export; none while none runs.
     std::optional<std::stop_source> m_exportTask;
     /// Ends the work of pending loads with the object: nobody is left to see its result.

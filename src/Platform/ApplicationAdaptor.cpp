@@ -1,5 +1,7 @@
 #include "Platform/ApplicationAdaptor.h"
 
+#include "Support/FileUrl.h"
+
 namespace brisklet {
 
 ApplicationAdaptor::ApplicationAdaptor(DesktopApplication* application)
@@ -16,6 +18,9 @@ void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platfo
         const QUrl url = QUrl::fromEncoded(uri.toUtf8());
         if (url.isValid() && !url.isEmpty())
             files << url;
+        else if (!uri.isEmpty())
+            // Not to be passed over in silence: that there is no such file is told in a window.
+            files << urlOf(uri.toStdString());
     }
     Q_EMIT m_application->filesOpened(files, platformData);
 }

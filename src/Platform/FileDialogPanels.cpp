@@ -1,19 +1,22 @@
 #include "Platform/FileDialogPanels.h"
 
+#include "Platform/SavePlace.h"
 #include "Support/FileUrl.h"
 #include "Support/Preferences.h"
 
 #include <QCoroFuture>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFuture>
+#include <QMessageBox>
 #include <QPromise>
 #include <QStandardPaths>
 
 #include <array>
 #include <memory>
-#include <system_error>
+#include <string>
 #include <utility>
 
 namespace brisklet {
@@ -52,14 +55,17 @@ QUrl folderToOpenIn() {
 }
 
 void rememberFolderOf(const QUrl& file) {
-    if (!file.isLocalFile())
+    if (!isOnThisComputer(file))
         return;
     const auto preferences = openPreferences();
-    storePreference(*preferences, openFolderKey(), QFileInfo(file.toLocalFile()).absolutePath());
+    const std::string folder = pathOf(file).parent_path().string();
+    storePreference(*preferences, openFolderKey(), QFile::decodeName(folder.c_str()));
 }
 
 /// Shows the dialog and gives what it answers. The dialog deletes itself.
 QFuture<Answer> ask(QFileDialog* dialog) {
+    // Not every desktop's own dialog keeps to it.
+    dialog->setSupportedSchemes({QStringLiteral("file")});
     const auto promise = std::make_shared<QPromise<Answer>>();
     promise->start();
     const auto answer = [promise](Answer url) {
@@ -90,14 +96,24 @@ QFileDialog* makeSavePanel(QWidget* window, const SaveProposal& proposal) {
     return dialog;
 }
 
-bool exists(const QUrl& file) {
-    std::error_code ignored;
-    return std::filesystem::exists(std::filesystem::symlink_status(pathOf(file), ignored));
+/// Tells the user something over the window; over when it is dismissed or the window goes.
+QFuture<void> tell(QWidget* window, const QString& sentence) {
+    auto* box = new QMessageBox(QMessageBox::Warning, QFileDialog::tr("Export"), sentence,
+                                QMessageBox::Ok, window);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    const auto promise = std::make_shared<QPromise<void>>();
+    promise->start();
+    QObject::connect(box, &QObject::destroyed, [promise] { promise->finish(); });
+    QFuture<void> future = promise->future();
+    box->open();
+    return future;
 }
 
 } // namespace
 
-FileDialogPanels::FileDialogPanels(QWidget* window) : m_window(window) {}
+FileDialogPanels::FileDialogPanels(QWidget* window, std::shared_ptr<RemoteFiles> remoteFiles)
+    : m_window(window), m_remoteFiles(std::move(remoteFiles)) {}
 
 QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
     auto* dialog = new QFileDialog(m_window, QFileDialog::tr("Open"));
@@ -118,17 +134,23 @@ QCoro::Task<std::optional<QUrl>> FileDialogPanels::saveMovie(SaveProposal propos
     while (m_window) {
         const QFuture<Answer> asked = ask(makeSavePanel(m_window, proposal));
         const Answer answer = co_await asked;
-        const QString suffix = QLatin1Char('.') + proposal.extension;
-        if (!answer || displayName(*answer).endsWith(suffix, Qt::CaseInsensitive))
-            co_return answer;
-        // A name that was typed with another extension, or with a full stop in it.
-        const std::filesystem::path path = pathOf(*answer).concat(suffix.toStdString());
-        const QUrl completed = urlOf(path);
-        if (!exists(completed))
-            co_return completed;
-        // The user has not been asked about replacing this one: ask again, with its full name.
-        proposal.folder = urlOf(path.parent_path());
-        proposal.fileName = displayName(completed);
+        if (!answer)
+            co_return std::nullopt;
+        auto finding = findSavePlace(m_remoteFiles, *answer, proposal);
+        const SavePlace place = co_await finding;
+        if (place.objection.isEmpty() && !place.isToBeConfirmed)
+            co_return place.file;
+        if (!place.objection.isEmpty()) {
+            if (!m_window)
+                break;
+            const QFuture<void> told = tell(m_window, place.objection);
+            co_await told;
+        } else {
+            // The user has not been asked about replacing this one: ask again, with its full name.
+            proposal.fileName = displayName(place.file);
+        }
+        if (isOnThisComputer(place.file))
+            proposal.folder = urlOf(pathOf(place.file).parent_path());
     }
     co_return std::nullopt;
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "Support/FilePanels.h"
+#include "Support/RemoteFiles.h"
 
 #include <QPointer>
 #include <QWidget>
+
+#include <memory>
 
 namespace brisklet {
 
@@ -12,13 +15,16 @@ namespace brisklet {
 /// movie was picked last is kept in the user's preferences. Main thread.
 class FileDialogPanels final : public FilePanels {
 public:
-    explicit FileDialogPanels(QWidget* window);
+    /// `remoteFiles` finds a place to save in that is not on this computer; without it such a place
+    /// is refused.
+    explicit FileDialogPanels(QWidget* window, std::shared_ptr<RemoteFiles> remoteFiles = nullptr);
 
     QCoro::Task<std::optional<QUrl>> openMovie() override;
     QCoro::Task<std::optional<QUrl>> saveMovie(SaveProposal proposal) override;
 
 private:
     QPointer<QWidget> m_window;
+    std::shared_ptr<RemoteFiles> m_remoteFiles;
 };
 
 } // namespace brisklet

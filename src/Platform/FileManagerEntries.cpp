@@ -24,6 +24,10 @@ constexpr const char* kMark = "# Written by Brisklet, which replaces and removes
 /// No entry of this program is anywhere near this long.
 constexpr qint64 kLongestEntry = 65536;
 
+// Entries ask for addresses (%U). Asked for paths (%F), some file managers pass over files that are
+// not on this computer without a word, and others copy the whole video here first, so that the
+// export would land beside the copy.
+
 /// One argument of an Exec line, which is quoted twice there: by the rules of the line, and by
 /// those of all texts in the file.
 QByteArray quotedForDesktopEntry(const fs::path& program) {
@@ -63,7 +67,7 @@ QByteArray dolphinServiceMenu(const fs::path& program) {
            "Name=Trim Video\n"
            "Icon=com.quorvan.brisklet\n"
            "Exec=" +
-           quotedForDesktopEntry(program) + " %F\n";
+           quotedForDesktopEntry(program) + " %U\n";
 }
 
 QByteArray thunarSendTo(const fs::path& program) {
@@ -73,7 +77,7 @@ QByteArray thunarSendTo(const fs::path& program) {
            "Name=Trim Video\n"
            "Icon=com.quorvan.brisklet\n"
            "Exec=" +
-           quotedForDesktopEntry(program) + " %F\nMimeType=" + mimeTypeList() + "\n";
+           quotedForDesktopEntry(program) + " %U\nMimeType=" + mimeTypeList() + "\n";
 }
 
 QByteArray nemoAction(const fs::path& program) {
@@ -97,6 +101,13 @@ QByteArray nautilusScript(const fs::path& program) {
     // Scripts are offered for all files; what is known to be no video is left out here.
     return QByteArray("#!/bin/sh\n") + kMark +
            "\n"
+           // Of a folder that is not on this computer there are addresses instead of names.
+           "if [ $# -eq 0 ]; then\n"
+           "    set -f\n"
+           "    IFS='\n"
+           "'\n"
+           "    set -- $NAUTILUS_SCRIPT_SELECTED_URIS\n"
+           "fi\n"
            "for file do\n"
            "    shift\n"
            "    case $(xdg-mime query filetype \"$file\" 2>/dev/null) in\n"

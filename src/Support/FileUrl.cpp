@@ -2,8 +2,12 @@
 
 #include <QByteArray>
 #include <QStringDecoder>
+#include <QSysInfo>
 
+#include <algorithm>
+#include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace brisklet {
 
@@ -11,6 +15,21 @@ namespace {
 
 QString textOf(const std::filesystem::path& path) {
     return QString::fromUtf8(QByteArray::fromStdString(path.string()));
+}
+
+/// The path of any URL, also of one whose file is elsewhere.
+std::filesystem::path pathWithin(const QUrl& url) {
+    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
+    return {QByteArray::fromPercentEncoding(encoded).toStdString()};
+}
+
+bool isHere(const QString& host) {
+    if (host.isEmpty() || host == u"localhost")
+        return true;
+    // The machine may know itself by its full name or by the first part of that.
+    const QString own = QSysInfo::machineHostName();
+    return host.compare(own, Qt::CaseInsensitive) == 0 ||
+           host.compare(own.section(u'.', 0, 0), Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
@@ -28,19 +47,52 @@ QUrl urlOf(const std::filesystem::path& path) {
     return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/"), QUrl::StrictMode);
 }
 
+bool beginsLikeUrl(std::string_view text) {
+    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+    const auto isOfScheme = [&](char c) {
+        return isLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
+    };
+    const std::size_t end = text.find(":/");
+    return end != std::string_view::npos && end > 0 && isLetter(text.front()) &&
+           std::ranges::all_of(text.substr(0, end), isOfScheme);
+}
+
+QUrl urlOfArgument(std::string_view argument) {
+    const std::filesystem::path path(argument);
+    std::error_code ignored;
+    if (beginsLikeUrl(argument) && !std::filesystem::exists(path.parent_path(), ignored)) {
+        const auto size = static_cast<qsizetype>(argument.size());
+        QUrl url = QUrl::fromEncoded(QByteArray(argument.data(), size));
+        if (url.isValid())
+            return url;
+    }
+    return urlOf(path);
+}
+
+bool isOnThisComputer(const QUrl& url) {
+    return (url.scheme().isEmpty() || url.scheme() == u"file") && isHere(url.host());
+}
+
 std::filesystem::path pathOf(const QUrl& url) {
-    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
-    return {QByteArray::fromPercentEncoding(encoded).toStdString()};
+    if (!isOnThisComputer(url))
+        throw std::runtime_error(notOnThisComputer(url).toStdString());
+    return pathWithin(url);
+}
+
+QString notOnThisComputer(const QUrl& url) {
+    // Without a password that may stand in it.
+    return u'\u201C' + url.toDisplayString() +
+           QStringLiteral("\u201D is not on this computer, and no folder here leads to it.");
 }
 
 QString displayName(const QUrl& url) {
-    const std::filesystem::path path = pathOf(url);
+    const std::filesystem::path path = pathWithin(url);
     // A folder may well be given with a slash at its end.
     return textOf(path.has_filename() ? path.filename() : path.parent_path().filename());
 }
 
 QString displayBaseName(const QUrl& url) {
-    return textOf(pathOf(url).stem());
+    return textOf(pathWithin(url).stem());
 }
 
 } // namespace brisklet

@@ -4,6 +4,7 @@
 #include <QUrl>
 
 #include <filesystem>
+#include <string_view>
 
 namespace brisklet {
 
@@ -14,8 +15,25 @@ namespace brisklet {
 /// The URL of a file; a relative path is taken from the current folder.
 QUrl urlOf(const std::filesystem::path& path);
 
-/// The path that a file URL names, byte for byte.
+/// Whether the text has the form of a URL, such as "file:/a.mov" or "sftp://host/a.mov". A path may
+/// have it too.
+bool beginsLikeUrl(std::string_view text);
+
+/// The URL that an argument of a command line names: a path, unless it begins like a URL and there
+/// is no such folder.
+QUrl urlOfArgument(std::string_view argument);
+
+/// Whether the URL names a file of this computer: one without a host, or with a name of this
+/// computer. Looks at no file.
+bool isOnThisComputer(const QUrl& url);
+
+/// The path that a file URL names, byte for byte. Throws std::runtime_error with a sentence for the
+/// user where the file is not on this computer: the path of an address elsewhere may well lead to
+/// another file here.
 std::filesystem::path pathOf(const QUrl& url);
+
+/// That sentence.
+QString notOnThisComputer(const QUrl& url);
 
 /// The last component of the path, extension included, as text for people: what is no UTF-8 shows
 /// as replacement characters.

@@ -44,7 +44,9 @@ protected:
         return {.fileName = QStringLiteral("Holiday Trimmed.mp4"),
                 .folder = urlOf(m_folder.path()),
                 .typeName = QStringLiteral("MPEG-4 movie"),
-                .extension = QStringLiteral("mp4")};
+                .extension = QStringLiteral("mp4"),
+                .otherExtension = QStringLiteral("mov"),
+                .source = {}};
     }
 
     /// The folder that the Open panel begins in; picks `file` there, or nothing.
@@ -160,6 +162,59 @@ TEST_F(FileDialogPanelsTest, completesANameThatLacksTheExtension) {
     typeAndAccept(panel, QStringLiteral("holiday v1.2"));
     ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
     EXPECT_EQ(*answer.value, urlOf(m_folder / "holiday v1.2.mp4"));
+}
+
+TEST_F(FileDialogPanelsTest, looksAmongTheFilesOfThisComputerOnly) {
+    for (const bool isToSave : {false, true}) {
+        auto task = isToSave ? m_panels.saveMovie(proposal()) : m_panels.openMovie();
+        Settled<Answer> answer;
+        auto settling = settle(task, answer);
+        QFileDialog* panel = waitForPanel();
+        ASSERT_NE(panel, nullptr);
+        EXPECT_EQ(panel->supportedSchemes(), QStringList{QStringLiteral("file")});
+        panel->reject();
+        ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+        testsupport::pumpPending();
+    }
+}
+
+// It became b.mov.mp4.
+TEST_F(FileDialogPanelsTest, takesItsOwnExtensionForThatOfTheOtherFormat) {
+    struct Case {
+        const char* typed;
+        const char* answered;
+    };
+
+    for (const Case& name :
+         {Case{"b.mov", "b.mp4"}, Case{"b.MOV", "b.mp4"}, Case{"b.c.mov", "b.c.mp4"},
+          Case{"b.mp4", "b.mp4"}, Case{"b.MP4", "b.MP4"}, Case{"holiday.2024", "holiday.2024.mp4"},
+          Case{".mov", ".mov.mp4"}, Case{"b.movie", "b.movie.mp4"}}) {
+        auto task = m_panels.saveMovie(proposal());
+        Settled<Answer> answer;
+        auto settling = settle(task, answer);
+        QFileDialog* panel = waitForPanel();
+        ASSERT_NE(panel, nullptr);
+        typeAndAccept(panel, QString::fromLatin1(name.typed));
+        ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+        EXPECT_EQ(*answer.value, urlOf(m_folder / name.answered)) << name.typed;
+        testsupport::pumpPending();
+    }
+}
+
+TEST_F(FileDialogPanelsTest, asksAgainWhenTheNameWithItsOwnExtensionIsTaken) {
+    std::ofstream(m_folder / "b.mp4") << "old";
+    auto task = m_panels.saveMovie(proposal());
+    Settled<Answer> answer;
+    auto settling = settle(task, answer);
+    QFileDialog* panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    typeAndAccept(panel, QStringLiteral("b.mov"));
+    QFileDialog* second = waitForPanel(panel);
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(second->selectedUrls(), QList<QUrl>{urlOf(m_folder / "b.mp4")});
+    second->reject();
+    ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+    EXPECT_EQ(*answer.value, std::nullopt);
 }
 
 TEST_F(FileDialogPanelsTest, takesTheExtensionInCapitals) {

@@ -91,6 +91,33 @@ TEST_F(FileManagerEntriesTest, saysWhichCannotBeWritten) {
     }
 }
 
+TEST_F(FileManagerEntriesTest, removesAllThatCanBeAndSaysWhatCannot) {
+    install();
+    // A folder that is ours by its name only is not removed, and stands in nobody's way.
+    fs::remove(m_data / kPlaces[0]);
+    fs::create_directories(m_data / kPlaces[0] / "x");
+    entries::uninstall(m_data.path());
+    for (const std::size_t other : {1U, 2U, 3U})
+        EXPECT_FALSE(fs::exists(m_data / kPlaces[other])) << kPlaces[other];
+    EXPECT_TRUE(fs::exists(m_data / kPlaces[0] / "x"));
+}
+
+// In a folder of another computer Nautilus gives addresses instead of names.
+TEST_F(FileManagerEntriesTest, startsTheProgramWithTheAddressesOfVideosElsewhere) {
+    const fs::path program = m_data / "program";
+    std::ofstream(program) << "#!/bin/sh\nprintf '%s\\n' \"$@\"\n";
+    fs::permissions(program, fs::perms::owner_all);
+    entries::install(m_data.path(), program);
+    const auto result = testsupport::runProcess(
+        {(m_data / kPlaces[1]).string()},
+        {.additionalEnvironment = {
+             "NAUTILUS_SCRIPT_SELECTED_URIS=sftp://nas/a%20b.mp4\nsftp://nas/*.mov\n"}});
+    EXPECT_EQ(result.output, "--\nsftp://nas/a%20b.mp4\nsftp://nas/*.mov\n");
+    for (const std::size_t named : {0U, 2U, 3U})
+        EXPECT_NE(contentOf(m_data / kPlaces[named]).find(" %U\n"), std::string::npos)
+            << kPlaces[named];
+}
+
 TEST_F(FileManagerEntriesTest, startsTheProgramWithTheSelectedVideosWhateverTheirNames) {
     const fs::path program = m_data / "it's a $(program)";
     std::ofstream(program) << "#!/bin/sh\nprintf '%s\\n' \"$@\"\n";
@@ -113,7 +140,7 @@ TEST_F(FileManagerEntriesTest, keepsToTheRulesOfDesktopFiles) {
     entries::install(m_data.path(), "/opt/100% \"good\"/$x`y\\z/brisklet");
     const fs::path entry = m_data / kPlaces[3];
     EXPECT_NE(contentOf(entry).find("Exec=\"/opt/100%% \\\\\"good\\\\\"/\\\\$x\\\\`y\\\\\\\\z/"
-                                    "brisklet\" %F\n"),
+                                    "brisklet\" %U\n"),
               std::string::npos)
         << contentOf(entry);
     if (testsupport::runProcess({"sh", "-c", "command -v desktop-file-validate"}).exitStatus != 0)

@@ -217,6 +217,42 @@ TEST(Cli, saysWhyASourceDoesNotOpen) {
     }
 }
 
+TEST(Cli, takesAnAddressForWhatItIs) {
+    const TemporaryFolder folder;
+    const auto source = folder / "a b.mp4";
+    std::filesystem::copy_file(makeFixture({.duration = 1}).path, source);
+    const std::string path = folder.path().string();
+    EXPECT_EQ(cli({"probe", "file://" + path + "/a%20b.mp4"}).exitStatus, 0);
+    EXPECT_EQ(cli({"probe", "file://localhost" + path + "/a%20b.mp4"}).exitStatus, 0);
+    for (const std::string start : {"sftp://nas", "file://otherhost"}) {
+        const std::string address = start + path + "/a%20b.mp4";
+        const std::string refusal = "“" + start + path +
+                                    "/a b.mp4” is not on this computer, and no folder here leads "
+                                    "to it.";
+        expectFailure(cli({"probe", address}), refusal);
+        expectFailure(cli({"filmstrip", address, path}), refusal);
+        expectFailure(cli({"frame", address, "0", path + "/x.png"}), refusal);
+        expectFailure(cli({"export", address, path + "/out.mp4"}), refusal);
+    }
+    expectFailure(cli({"export", source.string(), "sftp://nas" + path + "/out.mp4"}),
+                  "“sftp://nas" + path + "/out.mp4” is not on this computer");
+    EXPECT_FALSE(std::filesystem::exists(folder / "out.mp4"));
+    EXPECT_EQ(cli({"export", source.string(), "file://" + path + "/o%41.mp4"}).exitStatus, 0);
+    EXPECT_TRUE(std::filesystem::exists(folder / "oA.mp4"));
+}
+
+// What begins like an address may be the path of a file.
+TEST(Cli, takesAFileForAFileWhateverItsName) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder / "sftp:");
+    const auto source = folder / "sftp:" / "x.mp4";
+    std::filesystem::copy_file(makeFixture({.duration = 1}).path, source);
+    const auto result =
+        testsupport::runProcess({"sh", "-c", "cd \"$1\" && \"$0\" probe sftp://x.mp4", BRISKLET_CLI,
+                                 folder.path().string()});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors;
+}
+
 TEST(Cli, saysWhenThereIsNoPicture) {
     const TemporaryFolder folder;
     const std::string sound = folder / "sound.m4a";

@@ -1,5 +1,6 @@
 #include "Tools/cli/Arguments.h"
 
+#include "Support/FileUrl.h"
 #include "Tools/cli/ArgumentList.h"
 
 #include <algorithm>
@@ -31,16 +32,23 @@ void expectOperands(const ArgumentList& list, std::size_t count, const char* nam
         throw UsageError("a name is empty");
 }
 
+/// A path stays as it is; an address becomes the path that it names. Throws where that is not on
+/// this computer.
+std::filesystem::path fileOf(const std::string& operand) {
+    return beginsLikeUrl(operand) ? pathOf(urlOfArgument(operand)) : std::filesystem::path(operand);
+}
+
 ProbeCommand parseProbe(std::span<char* const> arguments) {
     const ArgumentList list(arguments, kNoOptions);
     expectOperands(list, 1, "SOURCE");
-    return {list.operands()[0]};
+    return {fileOf(list.operands()[0])};
 }
 
 FilmstripCommand parseFilmstrip(std::span<char* const> arguments) {
     const ArgumentList list(arguments, kFilmstripOptions);
     expectOperands(list, 2, "SOURCE DIRECTORY");
-    FilmstripCommand command{.source = list.operands()[0], .directory = list.operands()[1]};
+    FilmstripCommand command{.source = fileOf(list.operands()[0]),
+                             .directory = fileOf(list.operands()[1])};
     command.count = list.integer("--count").value_or(command.count);
     if (command.count < 1 || command.count > kMostStills)
         throw UsageError("--count needs a number from 1 to " + std::to_string(kMostStills));
@@ -53,7 +61,7 @@ FrameCommand parseFrame(std::span<char* const> arguments) {
     const auto seconds = parseNumber(list.operands()[1]);
     if (!seconds || *seconds < 0)
         throw UsageError("SECONDS needs a number from 0, not \"" + list.operands()[1] + "\"");
-    return {list.operands()[0], *seconds, list.operands()[2]};
+    return {fileOf(list.operands()[0]), *seconds, fileOf(list.operands()[2])};
 }
 
 std::optional<media::Rect> parseCrop(const std::string& text) {
@@ -139,8 +147,8 @@ ExportCommand parseExport(std::span<char* const> arguments) {
     const ArgumentList list(arguments, kExportOptions);
     expectOperands(list, 2, "SOURCE OUTPUT");
     ExportCommand command;
-    command.source = list.operands()[0];
-    command.output = list.operands()[1];
+    command.source = fileOf(list.operands()[0]);
+    command.output = fileOf(list.operands()[1]);
     parseRange(command, list);
     if (const auto crop = list.value("--crop"))
         command.crop = parseCrop(*crop);

@@ -63,8 +63,9 @@ struct ExportCommand {
 using Command = std::variant<HelpCommand, VersionCommand, ProbeCommand, FilmstripCommand,
                              FrameCommand, ExportCommand>;
 
-/// Reads the arguments, without the program's own name. File names are taken byte for byte.
-/// Throws UsageError.
+/// Reads the arguments, without the program's own name. File names are taken byte for byte, and
+/// file URLs too. Throws UsageError; std::runtime_error for an address that is not on this
+/// computer.
 Command parseArguments(std::span<char* const> arguments);
 
 /// One line for each command.

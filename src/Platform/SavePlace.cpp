@@ -1,0 +1,72 @@
+#include "Platform/SavePlace.h"
+
+#include "Support/FileUrl.h"
+#include "Support/Workers.h"
+
+#include <QObject>
+
+#include <exception>
+#include <filesystem>
+#include <system_error>
+
+namespace brisklet {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What the disk knows of a name.
+struct Taken {
+    bool exists = false;
+    bool isSource = false;
+};
+
+/// Links are followed, and other names of the same file found out.
+Taken lookAt(const fs::path& file, const fs::path& source) {
+    std::error_code ignored;
+    return {.exists = fs::exists(fs::symlink_status(file, ignored)),
+            .isSource = fs::equivalent(file, source, ignored)};
+}
+
+bool hasExtension(const fs::path& file, const QString& extension) {
+    return displayName(urlOf(file)).endsWith(u'.' + extension, Qt::CaseInsensitive);
+}
+
+/// A name that was typed without the extension gets it, also where another full stop stands in it;
+/// that of the other type gives way to it.
+fs::path withExtension(fs::path file, const SaveProposal& proposal) {
+    const std::string extension = '.' + proposal.extension.toStdString();
+    if (hasExtension(file, proposal.extension))
+        return file;
+    if (file.has_extension() && !proposal.otherExtension.isEmpty() &&
+        hasExtension(file, proposal.otherExtension))
+        return file.replace_extension(extension);
+    return file += extension;
+}
+
+} // namespace
+
+QCoro::Task<SavePlace> findSavePlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl answer,
+                                     SaveProposal proposal) {
+    SavePlace place{.file = answer, .isToBeConfirmed = false, .objection = {}};
+    try {
+        auto finding = findPlace(remoteFiles, answer);
+        const QUrl found = co_await finding;
+        const fs::path named = pathOf(found);
+        const fs::path file = withExtension(named, proposal);
+        const fs::path source = proposal.source.isEmpty() ? fs::path() : pathOf(proposal.source);
+        auto looking = runOnWorker([file, source] { return lookAt(file, source); });
+        const Taken taken = co_await looking;
+        place.file = urlOf(file);
+        place.isToBeConfirmed = taken.exists && file != named;
+        if (taken.isSource)
+            place.objection =
+                QObject::tr("“%1” is the video that is being edited. Choose another name.")
+                    .arg(displayName(place.file));
+    } catch (const std::exception& error) {
+        place.objection = QString::fromUtf8(error.what());
+    }
+    co_return place;
+}
+
+} // namespace brisklet

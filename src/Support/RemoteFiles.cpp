@@ -1,0 +1,39 @@
+#include "Support/RemoteFiles.h"
+
+#include "Support/FileUrl.h"
+
+#include <QByteArray>
+
+#include <stdexcept>
+#include <utility>
+
+namespace brisklet {
+
+QCoro::Task<QUrl> findFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
+    if (isOnThisComputer(url))
+        co_return url;
+    std::optional<QUrl> found;
+    if (remoteFiles) {
+        auto finding = remoteFiles->find(url);
+        found = co_await finding;
+    }
+    if (!found)
+        throw std::runtime_error(notOnThisComputer(url).toStdString());
+    co_return std::move(*found);
+}
+
+QCoro::Task<QUrl> findPlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
+    if (isOnThisComputer(url))
+        co_return url;
+    std::optional<QUrl> folder;
+    if (remoteFiles) {
+        auto finding = remoteFiles->find(url.adjusted(QUrl::RemoveFilename));
+        folder = co_await finding;
+    }
+    if (!folder)
+        throw std::runtime_error(notOnThisComputer(url).toStdString());
+    const QByteArray name = url.fileName(QUrl::FullyEncoded).toLatin1();
+    co_return urlOf(pathOf(*folder) / QByteArray::fromPercentEncoding(name).toStdString());
+}
+
+} // namespace brisklet
