@@ -8,6 +8,7 @@
 
 #include <exception>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace brisklet {
@@ -66,8 +67,7 @@ QCoro::Task<> AVFoundationExporter::exportVideo(ExportRequest request,
 void AVFoundationExporter::run(const ExportRequest& request,
                                const ExportProgressHandler& onProgress,
                                const std::stop_token& stop) {
-    const auto asset = media::Asset::open(pathOf(request.sourceURL), stop);
-    media::Composition toExport = composition(asset, request);
+    media::Composition toExport = composition(source(request, stop), request);
     const auto rendering = videoComposition(toExport.videoTrack->source, request);
     std::shared_ptr<media::ExportSession> session = makeSession(std::move(toExport), request);
     session->setVideoComposition(rendering);
@@ -81,6 +81,20 @@ void AVFoundationExporter::run(const ExportRequest& request,
         // Its encoders may be in the middle of a large picture; nobody has to wait for that.
         startWorker([session = std::move(session)] {});
         throw;
+    }
+}
+
+std::shared_ptr<const media::Asset> AVFoundationExporter::source(const ExportRequest& request,
+                                                                 const std::stop_token& stop) {
+    if (request.asset)
+        return request.asset;
+    try {
+        return media::Asset::open(pathOf(request.sourceURL), stop);
+    } catch (const media::Error& error) {
+        // The other failures of an export speak of the new file.
+        std::throw_with_nested(media::Error("Couldn't open “" +
+                                            displayName(request.sourceURL).toStdString() +
+                                            "”: " + error.what()));
     }
 }
 

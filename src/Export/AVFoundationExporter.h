@@ -13,8 +13,8 @@ namespace brisklet {
 class AVFoundationExporter final : public ExportBackend {
 public:
     /// A failure to set up the export. Failures of the source file and of the export itself come
-    /// as media::Error.
-    class ExportError final : public std::runtime_error {
+    /// as media::Error. Not final: a cause can only be nested in what can be derived from.
+    class ExportError : public std::runtime_error {
     public:
         enum class Kind { noVideoTrack, sessionCreationFailed };
 
@@ -34,6 +34,11 @@ public:
     /// at the output stays what it was unless the export succeeds.
     static void run(const ExportRequest& request, const ExportProgressHandler& onProgress,
                     const std::stop_token& stop);
+
+    /// The request's asset, or where it has none its source, opened by name on the calling thread.
+    /// Throws media::Error, which names the file; media::Cancelled.
+    static std::shared_ptr<const media::Asset> source(const ExportRequest& request,
+                                                      const std::stop_token& stop);
 
     /// The request as the media layer takes it: a composition of the kept range of the first video
     /// track and, unless muted, of all audio tracks. Throws ExportError without a video track.

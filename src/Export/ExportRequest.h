@@ -5,7 +5,12 @@
 
 #include <QUrl>
 
+#include <memory>
 #include <optional>
+
+namespace media {
+class Asset;
+}
 
 namespace brisklet {
 
@@ -29,6 +34,9 @@ struct ExportRequest {
     ExportFormat format = ExportFormat::mp4;
     /// In pixels; none for no cap.
     std::optional<int> maxShortEdge;
+    /// The source as it was opened for the edit, whatever has become of its name since; null to
+    /// have it opened by its name.
+    std::shared_ptr<const media::Asset> asset = nullptr;
 };
 
 } // namespace brisklet

@@ -24,6 +24,11 @@ namespace media {
 
 namespace {
 
+void expectOtherFile(const ffmpeg::SourceFile& source, const std::filesystem::path& output) {
+    if (source.isSameFileAs(output))
+        throw Error("The video can’t be exported over itself.");
+}
+
 /// Runs stages on threads of their own. The first failure stops all of them.
 class Stages {
 public:
@@ -92,6 +97,8 @@ private:
     void report(const AVPacket& packet, AVRational timeBase, std::atomic<double>& progress) const;
 
     Time m_duration;
+    std::shared_ptr<const ffmpeg::SourceFile> m_source;
+    std::filesystem::path m_outputPath;
     // The stages' stop token goes to all that follows; their threads end before any of it.
     std::stop_source m_stop;
     std::optional<VideoPipeline> m_video;
@@ -107,6 +114,8 @@ ExportRun::ExportRun(const Composition& composition,
                      const EncoderSettings& settings, const std::filesystem::path& outputPath,
                      FileType fileType)
     : m_duration(composition.videoTrack->range.duration()),
+      m_source(composition.asset->file()),
+      m_outputPath(outputPath),
       m_video(std::in_place, composition, videoComposition, settings, m_stop.get_token()),
       m_file(outputPath),
       m_muxer(m_file, fileType, composition.asset->info(), composition.videoTrack->range),
@@ -151,6 +160,9 @@ void ExportRun::complete(const std::stop_token& stop) {
     m_sounds.clear();
     m_video.reset();
     proveExport(m_file.reader(), planned, stop);
+    // Much may have happened meanwhile, to the source and to its name.
+    m_source->expectUnchanged();
+    expectOtherFile(*m_source, m_outputPath);
     if (stop.stop_requested())
         throw Cancelled();
     m_file.commit();
@@ -226,6 +238,7 @@ public:
 };
 
 void ExportSession::Private::exportFile(const std::stop_token& stop) {
+    composition.asset->file()->expectUnchanged();
     auto run =
         std::make_unique<ExportRun>(composition, videoComposition, settings, outputPath, fileType);
     run->writeMedia(stop, progress);
@@ -242,8 +255,7 @@ ExportSession::ExportSession(Composition composition, std::filesystem::path outp
     : d(std::make_unique<Private>()) {
     if (!composition.asset || !composition.videoTrack)
         throw Error("There is no video to export.");
-    if (composition.asset->file()->isSameFileAs(outputPath))
-        throw Error("The video can’t be exported over itself.");
+    expectOtherFile(*composition.asset->file(), outputPath);
     d->composition = std::move(composition);
     d->outputPath = std::move(outputPath);
     d->fileType = fileType;

@@ -133,6 +133,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
 }
 
 void EditState::publish(const QUrl& url, const LoadedVideo& video) {
+    m_asset = video.asset;
     m_longestName = video.longestName;
     m_videoURL = url;
     m_duration = video.duration;

@@ -190,6 +190,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QString>, m_errorMessage,
                                &EditState::errorMessageChanged)
 
+    /// The open file behind videoURL(), whatever has become of its name.
+    std::shared_ptr<const media::Asset> m_asset;
     PlayerController m_playerController;
     std::shared_ptr<FilePanels> m_filePanels;
     std::shared_ptr<RemoteFiles> m_remoteFiles;

@@ -82,7 +82,8 @@ ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportFormat forma
             .rotation = m_rotation,
             .outputURL = outputURL,
             .format = format,
-            .maxShortEdge = maxShortEdge(ExportSettings::shared().resolution())};
+            .maxShortEdge = maxShortEdge(ExportSettings::shared().resolution()),
+            .asset = m_asset};
 }
 
 QCoro::Task<> EditState::runExport(std::shared_ptr<EditState> state, ExportRequest request,

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -201,10 +202,41 @@ TEST(AVFoundationExporter, refusesToWriteOverItsSource) {
     EXPECT_EQ(filesIn(folder.path()), 3U);
 }
 
+// An error of a type that nothing may derive from once lost its cause.
+TEST(AVFoundationExporter, keepsTheCauseOfARefusalBesideTheMessage) {
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(makeFixture({}).path, folder / "source.mp4");
+    std::string cause;
+    try {
+        runExport(requestFor(folder / "source.mp4", folder / "source.mp4"));
+        FAIL() << "no error";
+    } catch (const AVFoundationExporter::ExportError& error) {
+        try {
+            std::rethrow_if_nested(error);
+        } catch (const media::Error& nested) {
+            cause = nested.what();
+        }
+    }
+    EXPECT_EQ(cause, "The video can’t be exported over itself.");
+}
+
+TEST(AVFoundationExporter, exportsTheOpenFileWhateverItsNameLeadsTo) {
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(makeFixture({}).path, folder / "source.mp4");
+    ExportRequest request = requestFor(folder / "source.mp4", folder / "out.mp4");
+    request.asset = media::Asset::open(folder / "source.mp4");
+    std::filesystem::remove(folder / "source.mp4");
+    runExport(request);
+    const auto frames = testsupport::readNumberedFrames(folder / "out.mp4");
+    ASSERT_EQ(frames.size(), 30U);
+    EXPECT_EQ(frames.front().number, 15);
+}
+
 TEST(AVFoundationExporter, passesOnWhatIsWrongWithTheSource) {
     const TemporaryFolder folder;
     EXPECT_THROW(runExport(requestFor(folder / "missing.mp4", folder / "out.mp4")), media::Error);
-    EXPECT_NE(failureOf(requestFor(folder / "missing.mp4", folder / "out.mp4")), "");
+    EXPECT_EQ(failureOf(requestFor(folder / "missing.mp4", folder / "out.mp4")),
+              "Couldn't open “missing.mp4”: The file doesn’t exist.");
     EXPECT_EQ(filesIn(folder.path()), 0U);
 }
 

@@ -60,7 +60,7 @@ TEST_F(SlowSource, thatBreaksIsAnErrorAndLeavesNothing) {
     ASSERT_TRUE(running.waitForProgress(0.1));
     m_disk.setBroken(true);
     running.join();
-    EXPECT_EQ(running.error(), "The disk reported an error.");
+    EXPECT_EQ(running.error(), "The disk reported an error while the video was being read.");
     EXPECT_TRUE(contentsOf(m_folder / "out.mp4") == "old");
     EXPECT_THAT(namesIn(m_folder.path()), ElementsAre("out.mp4"));
 }

@@ -124,6 +124,8 @@ Demuxer::Demuxer(std::shared_ptr<const SourceFile> file, const AVInputFormat* fo
     m_context.reset(context);
     if (stop.stop_requested())
         throw Cancelled();
+    if (result < 0)
+        checkSource();
     // The probing of formats that are not accepted ends in an argument error.
     check(result == AVERROR(EINVAL) ? AVERROR_INVALIDDATA : result);
 }
@@ -188,10 +190,12 @@ Demuxer::Status Demuxer::read(AVPacket& packet, const std::stop_token& stop) {
 void Demuxer::checkSource() const {
     // libav takes every failed read for the end of the file.
     const int error = m_ioContext->error;
+    if (error == AVERROR(EIO))
+        throw Error("The disk reported an error while the video was being read.");
     if (error < 0 && error != AVERROR_EOF && error != AVERROR_EXIT)
-        check(error);
+        throw Error("The video can’t be read: " + sentenceFor(error));
     if (m_io->file->size() < m_io->file->openedSize())
-        throw Error("The file was cut short while it was being read.");
+        throw Error("The video was cut short while it was being read.");
 }
 
 bool Demuxer::seek(int streamIndex, std::int64_t timestamp, const std::stop_token& stop) {

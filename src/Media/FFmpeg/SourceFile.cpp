@@ -1,7 +1,9 @@
 #include "Media/FFmpeg/SourceFile.h"
 
 #include "Media/Error.h"
+#include "Media/FileName.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -63,7 +65,8 @@ SourceFile::SourceFile(int descriptor, std::filesystem::path path, const struct 
       m_path(std::move(path)),
       m_device(status.st_dev),
       m_inode(status.st_ino),
-      m_openedSize(status.st_size) {}
+      m_openedSize(status.st_size),
+      m_openedMiddle(middle()) {}
 
 SourceFile::~SourceFile() {
     ::close(m_descriptor);
@@ -82,6 +85,26 @@ std::int64_t SourceFile::read(std::int64_t offset, std::uint8_t* buffer, std::in
         if (errno != EINTR)
             return -errno;
     }
+}
+
+std::string SourceFile::middle() const {
+    constexpr std::int64_t kBytes = 4096;
+    std::string bytes(kBytes, '\0');
+    const std::int64_t offset = std::max<std::int64_t>(0, (m_openedSize - kBytes) / 2);
+    // One page is wanted; a slow disk shall not read ahead for it.
+    ::posix_fadvise(m_descriptor, 0, 0, POSIX_FADV_RANDOM);
+    const std::int64_t got = read(offset, reinterpret_cast<std::uint8_t*>(bytes.data()), kBytes);
+    ::posix_fadvise(m_descriptor, 0, 0, POSIX_FADV_NORMAL);
+    bytes.resize(static_cast<std::size_t>(std::max<std::int64_t>(0, got)));
+    return bytes;
+}
+
+void SourceFile::expectUnchanged() const {
+    const bool wasHole = m_openedMiddle.find_first_not_of('\0') == std::string::npos;
+    const std::string now = wasHole ? m_openedMiddle : middle();
+    // What cannot be read is told by whoever needs it.
+    if (now.size() == m_openedMiddle.size() && now != m_openedMiddle)
+        throw Error(quoted(m_path) + " was changed after it was opened.");
 }
 
 bool SourceFile::isSameFileAs(const std::filesystem::path& other) const {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -37,12 +38,21 @@ public:
     /// Whether `other` leads to this very file (device and inode, links followed).
     [[nodiscard]] bool isSameFileAs(const std::filesystem::path& other) const;
 
+    /// Throws Error if other content was written into the file since it was opened. Only its middle
+    /// is looked at: recorders and taggers write at the beginning and at the end of a file whose
+    /// pictures stay what they are.
+    void expectUnchanged() const;
+
 private:
+    /// Up to a page from the middle of what was there at opening.
+    [[nodiscard]] std::string middle() const;
+
     int m_descriptor;
     std::filesystem::path m_path;
     dev_t m_device;
     ino_t m_inode;
     std::int64_t m_openedSize;
+    std::string m_openedMiddle;
 };
 
 } // namespace media::ffmpeg

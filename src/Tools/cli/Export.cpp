@@ -26,7 +26,7 @@ ExportRequest requestOf(const ExportCommand& command) {
 void runMeasured(const ExportCommand& command, const ExportRequest& request,
                  const ExportProgressHandler& onProgress, const std::stop_token& stop) {
     auto composition =
-        AVFoundationExporter::composition(media::Asset::open(command.source, stop), request);
+        AVFoundationExporter::composition(AVFoundationExporter::source(request, stop), request);
     const auto rendering =
         AVFoundationExporter::videoComposition(composition.videoTrack->source, request);
     const auto fileType = command.format == ExportFormat::mov ? media::FileType::quickTimeMovie

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace media {
+
+/// The last component of a path in quotes, as sentences name files. The name's bytes stay as they
+/// are, text or not. Any thread.
+std::string quoted(const std::filesystem::path& path);
+
+} // namespace media
