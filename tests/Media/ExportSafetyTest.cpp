@@ -1,5 +1,6 @@
 #include "Media/ChildProcess.h"
 #include "Media/Error.h"
+#include "Media/Export/OutputFile.h"
 #include "Media/ExportFixture.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/Inspection.h"
@@ -27,7 +28,7 @@ using testsupport::TemporaryFolder;
 TEST(BadOutput, anExportIntoAMissingFolderSaysSo) {
     const TemporaryFolder folder;
     EXPECT_EQ(errorOf([&] { exportRange(makeFixture({}).path, 0, 1, folder / "missing/out.mp4"); }),
-              "The folder for the new file doesn’t exist.");
+              "The folder “missing” for the new file doesn’t exist.");
     EXPECT_THAT(namesIn(folder.path()), IsEmpty());
 }
 
@@ -45,7 +46,8 @@ TEST(BadOutput, anExportIntoAProtectedFolderSaysSo) {
     std::filesystem::permissions(folder.path(), static_cast<std::filesystem::perms>(0755));
     if (said == "skip")
         GTEST_SKIP() << "this user cannot become another one";
-    EXPECT_EQ(said, "You don’t have permission to write to this folder.");
+    EXPECT_EQ(said, "You don’t have permission to write to the folder “" +
+                        folder.path().filename().string() + "”.");
     EXPECT_EQ(contentsOf(folder / "out.mp4"), "old");
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4", "out.mp4"));
 }
@@ -181,6 +183,75 @@ TEST(ExportOntoItsSource, isRefusedThroughTheLinkThatWasOpenedToo) {
     std::filesystem::create_symlink("a.mp4", folder / "link.mp4");
     EXPECT_NE(errorOf([&] { exportRange(folder / "link.mp4", 0, 1, folder / "a.mp4"); }), "");
     EXPECT_NE(errorOf([&] { exportRange(folder / "link.mp4", 0, 1, folder / "link.mp4"); }), "");
+}
+
+TEST(ExportOntoItsSource, isRefusedWhenTheSourceTakesTheNameMeanwhile) {
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(longFixture().path, folder / "a.mp4");
+    ExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
+                          FileType::mpeg4);
+    RunningExport running(session);
+    EXPECT_TRUE(running.waitForProgress(0.05));
+    std::filesystem::rename(folder / "a.mp4", folder / "out.mp4");
+    const bool isInTime = session.progress() < 0.9;
+    running.join();
+    if (!isInTime)
+        GTEST_SKIP() << "the export was quicker than the test";
+    EXPECT_EQ(running.error(), "The video can’t be exported over itself.");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre("out.mp4"));
+    EXPECT_EQ(std::filesystem::file_size(folder / "out.mp4"),
+              std::filesystem::file_size(longFixture().path));
+}
+
+/// Two exports at once to one destination: the second is refused, the first goes on undisturbed.
+class ExportToATakenDestination : public testing::Test {
+protected:
+    static constexpr const char* kTaken = "“out.mp4” is being written by another export.";
+
+    [[nodiscard]] static std::string errorAt(const std::filesystem::path& output) {
+        return errorOf([&] { exportRange(makeFixture({}).path, 0, 1, output); });
+    }
+
+    /// Goes on with the first export, which another has tried to disturb.
+    void expectFirstToEndWell() {
+        const std::string text = "first";
+        EXPECT_EQ(m_first.write(reinterpret_cast<const std::uint8_t*>(text.data()),
+                                static_cast<std::int64_t>(text.size())),
+                  0);
+        m_first.commit();
+        EXPECT_EQ(contentsOf(m_folder / "out.mp4"), text);
+    }
+
+    TemporaryFolder m_folder;
+    OutputFile m_first{m_folder / "out.mp4"};
+};
+
+TEST_F(ExportToATakenDestination, isRefusedAndLeavesTheFirstAlone) {
+    EXPECT_EQ(errorAt(m_folder / "out.mp4"), kTaken);
+    expectFirstToEndWell();
+    EXPECT_THAT(namesIn(m_folder.path()), ElementsAre("out.mp4"));
+    EXPECT_EQ(errorAt(m_folder / "out.mp4"), "");
+    EXPECT_THAT(namesIn(m_folder.path()), ElementsAre("out.mp4"));
+}
+
+TEST_F(ExportToATakenDestination, isRefusedUnderEveryOtherSpelling) {
+    std::filesystem::create_directory(m_folder / "sub");
+    std::filesystem::create_directory_symlink(m_folder.path(), m_folder / "again");
+    // A link that leads nowhere is a name like others.
+    writeFile(m_folder / "out.mp4", "old");
+    std::filesystem::create_symlink("out.mp4", m_folder / "link.mp4");
+    EXPECT_EQ(errorAt(m_folder / "sub/../out.mp4"), kTaken);
+    EXPECT_EQ(errorAt(m_folder / "again/./out.mp4"), kTaken);
+    EXPECT_EQ(errorAt(m_folder / "link.mp4"), "“link.mp4” is being written by another export.");
+    EXPECT_EQ(errorAt(m_folder / "sub/out.mp4"), "");
+    EXPECT_EQ(errorAt(m_folder / "other.mp4"), "");
+    expectFirstToEndWell();
+}
+
+TEST_F(ExportToATakenDestination, isRefusedInAnotherProcessToo) {
+    makeFixture({});
+    EXPECT_EQ(inChildProcess([this] { return errorAt(m_folder / "out.mp4"); }), kTaken);
+    expectFirstToEndWell();
 }
 
 TEST(ExportOntoSomethingElse, neverReplacesFoldersPipesOrDevices) {

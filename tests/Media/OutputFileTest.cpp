@@ -8,9 +8,11 @@
 #include <gmock/gmock.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace media {
 namespace {
@@ -111,11 +113,76 @@ TEST(OutputFile, writesIntoTheFileThatALinkLeadsTo) {
     EXPECT_THAT(namesIn(folder / "elsewhere"), ElementsAre("a.mp4"));
 }
 
+TEST(OutputFile, isAloneAtItsDestination) {
+    const TemporaryFolder folder;
+    const std::string longName(255, 'x');
+    for (const std::string& name : {std::string("a.mp4"), longName}) {
+        {
+            OutputFile first(folder / name);
+            EXPECT_EQ(append(first, "first"), 0);
+            EXPECT_EQ(openError(folder / name),
+                      "“" + name + "” is being written by another export.");
+            first.commit();
+            writeCompletely(folder / name, "after the first");
+        }
+        EXPECT_EQ(contentsOf(folder / name), "after the first");
+        EXPECT_THAT(namesIn(folder.path()), ElementsAre(name));
+        std::filesystem::remove(folder / name);
+    }
+}
+
+TEST(OutputFile, freesItsDestinationWhenItIsDiscarded) {
+    const TemporaryFolder folder;
+    OutputFile first(folder / "a.mp4");
+    first.discard();
+    writeCompletely(folder / "a.mp4", "second");
+    EXPECT_EQ(append(first, "first"), 0);
+    EXPECT_EQ(contentsOf(folder / "a.mp4"), "second");
+}
+
+TEST(OutputFile, takesTheLeftoverOfAKilledOneAway) {
+    const TemporaryFolder folder;
+    const std::string said = inChildProcess([&]() -> std::string {
+        OutputFile file(folder / "a.mp4");
+        append(file, std::string(100'000, 'x'));
+        ::kill(::getpid(), SIGKILL);
+        return "";
+    });
+    EXPECT_EQ(said, "signal 9");
+    ASSERT_EQ(namesIn(folder.path()).size(), 1U);
+    writeCompletely(folder / "a.mp4", "new");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4"));
+    EXPECT_EQ(contentsOf(folder / "a.mp4"), "new");
+}
+
+TEST(OutputFile, neverWritesThroughWhatOthersPutInItsPlace) {
+    const TemporaryFolder folder;
+    std::string temporary;
+    {
+        const OutputFile file(folder / "a.mp4");
+        temporary = namesIn(folder.path()).at(0);
+    }
+    writeFile(folder / "precious", "precious");
+    std::filesystem::create_symlink("precious", folder / temporary);
+    writeCompletely(folder / "a.mp4", "content");
+    EXPECT_EQ(contentsOf(folder / "precious"), "precious");
+    std::filesystem::remove(folder / temporary);
+    std::filesystem::create_directory(folder / temporary);
+    writeCompletely(folder / "a.mp4", "again");
+    EXPECT_EQ(contentsOf(folder / "a.mp4"), "again");
+    std::filesystem::remove(folder / temporary);
+    ASSERT_EQ(::mkfifo((folder / temporary).c_str(), 0666), 0);
+    writeCompletely(folder / "a.mp4", "once more");
+    EXPECT_EQ(contentsOf(folder / "a.mp4"), "once more");
+}
+
 TEST(OutputFile, refusesAFolderThatIsMissing) {
     const TemporaryFolder folder;
-    EXPECT_EQ(openError(folder / "missing/a.mp4"), "The folder for the new file doesn’t exist.");
+    EXPECT_EQ(openError(folder / "missing/a.mp4"),
+              "The folder “missing” for the new file doesn’t exist.");
     writeFile(folder / "file", "");
-    EXPECT_EQ(openError(folder / "file/a.mp4"), "The folder for the new file doesn’t exist.");
+    EXPECT_EQ(openError(folder / "file/a.mp4"),
+              "The folder “file” for the new file doesn’t exist.");
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
@@ -144,7 +211,7 @@ TEST(OutputFile, neverReplacesADeviceOrAPipe) {
 
 TEST(OutputFile, refusesANameThatIsTooLong) {
     const TemporaryFolder folder;
-    EXPECT_EQ(openError(folder / std::string(256, 'x')), "The file name is too long.");
+    EXPECT_EQ(openError(folder / std::string(256, 'x')), "The name of the new file is too long.");
     EXPECT_THAT(namesIn(folder.path()), IsEmpty());
 }
 
@@ -163,7 +230,8 @@ TEST(OutputFile, refusesAFolderWithoutPermission) {
     std::filesystem::permissions(folder.path(), static_cast<std::filesystem::perms>(0755));
     if (said == "skip")
         GTEST_SKIP() << "this user cannot become another one";
-    EXPECT_EQ(said, "You don’t have permission to write to this folder.");
+    EXPECT_EQ(said, "You don’t have permission to write to the folder “" +
+                        folder.path().filename().string() + "”.");
     EXPECT_THAT(namesIn(folder.path()), IsEmpty());
 }
 
@@ -177,7 +245,8 @@ TEST(OutputFile, refusesADiskThatIsWriteProtected) {
     });
     if (said == "skip")
         GTEST_SKIP() << "no file system can be mounted here";
-    EXPECT_EQ(said, "The disk is write-protected.");
+    EXPECT_EQ(said, "The disk with the folder “" + folder.path().filename().string() +
+                        "” is write-protected.");
 }
 
 TEST(OutputFile, tellsThatTheDiskIsFullAndFreesIt) {

@@ -208,6 +208,30 @@ TEST(CliExport, failsWithOneLineAndLeavesNothing) {
     EXPECT_EQ(std::filesystem::file_size(copy), std::filesystem::file_size(source));
 }
 
+TEST(CliExport, saysWhichFileIsMeant) {
+    const TemporaryFolder folder;
+    const std::string source = makeFixture({.container = "mp4", .duration = 2}).path;
+    EXPECT_EQ(exported({folder / "holiday.mov", folder / "out.mp4"}).errors,
+              "Export failed: Couldn't open “holiday.mov”: The file doesn’t exist.\n");
+    EXPECT_EQ(exported({source, folder / "missing" / "out.mp4"}).errors,
+              "Export failed: The folder “missing” for the new file doesn’t exist.\n");
+}
+
+TEST(CliExport, isRefusedWhereAnotherProcessIsExporting) {
+    const std::string source =
+        makeFixture({.container = "mp4", .duration = 6, .width = 640, .height = 480}).path;
+    const TemporaryFolder folder;
+    RunningExport running(source, folder / "out.mp4");
+    running.waitFor(0);
+    EXPECT_EQ(exported({source, folder / "out.mp4"}).errors,
+              "Export failed: “out.mp4” is being written by another export.\n");
+    EXPECT_EQ(namesIn(folder.path()).size(), 1U);
+    running.send(SIGKILL);
+    EXPECT_EQ(running.finish(), 128 + SIGKILL);
+    EXPECT_EQ(exported({source, folder / "out.mp4", "--end", "1"}).exitStatus, 0);
+    EXPECT_THAT(namesIn(folder.path()), testing::ElementsAre("out.mp4"));
+}
+
 TEST(CliExport, leavesNothingWhenInterrupted) {
     const std::string source =
         makeFixture({.container = "mp4", .duration = 6, .width = 640, .height = 480}).path;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Media/Export/TemporaryFile.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -18,7 +20,8 @@ class SourceFile;
 class OutputFile {
 public:
     /// Creates the temporary file. Throws Error (a sentence for the user) if the folder is missing
-    /// or not writable, or if the destination is something else than a regular file.
+    /// or not writable, if the destination is something else than a regular file, or if another
+    /// export, of this process or another, is writing there.
     explicit OutputFile(const std::filesystem::path& destination);
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
@@ -39,16 +42,19 @@ public:
     /// What has been written so far, opened for reading. Throws Error.
     [[nodiscard]] std::shared_ptr<const ffmpeg::SourceFile> reader() const;
 
-    /// Removes the temporary file at once; what is written from now on goes nowhere.
+    /// Removes the temporary file at once, and frees the destination for others; what is written
+    /// from now on goes nowhere.
     void discard();
+
+    /// Throws the Error for a failure of write().
+    [[noreturn]] void throwError(int code) const;
 
     /// Throws Error if the data cannot be brought to disk or the file not be given its name.
     void commit();
 
 private:
     std::filesystem::path m_destination;
-    std::filesystem::path m_temporary;
-    int m_descriptor = -1;
+    TemporaryFile m_file;
     std::int64_t m_position = 0;
     std::int64_t m_size = 0;
     std::int64_t m_writebackEnd = 0;

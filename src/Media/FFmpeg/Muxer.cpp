@@ -293,7 +293,7 @@ void Muxer::turnReservedRoomIntoFreeBox() {
 
 void Muxer::checkIo(int result) {
     if (m_io->error != 0)
-        check(-m_io->error);
+        m_io->file.throwError(m_io->error);
     check(result);
 }
 
