@@ -1,6 +1,8 @@
 #include "Media/BuiltInEngine.h"
 
+#include "Media/Error.h"
 #include "Media/FFmpeg/DemuxerPool.h"
+#include "Media/FFmpeg/Encryption.h"
 #include "Media/FFmpeg/Inspection.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
@@ -18,6 +20,17 @@ namespace {
 /// freed pictures leave holes in its heaps. Bytes.
 constexpr int kMappedBlockBytes = 1024 * 1024;
 
+std::unique_ptr<ffmpeg::Demuxer> openDemuxer(const std::shared_ptr<const ffmpeg::SourceFile>& file,
+                                             const std::stop_token& stop) {
+    try {
+        return std::make_unique<ffmpeg::Demuxer>(file, nullptr, stop);
+    } catch (const Error&) {
+        // libav gives up on some encrypted files as if they were damaged.
+        ffmpeg::expectNoEncryption(*file);
+        throw;
+    }
+}
+
 class BuiltInEngine final : public Engine {
 public:
     BuiltInEngine() { ::mallopt(M_MMAP_THRESHOLD, kMappedBlockBytes); }
@@ -25,7 +38,7 @@ public:
     [[nodiscard]] std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
                                                          std::stop_token stop) const override {
         auto file = ffmpeg::SourceFile::open(path);
-        auto demuxer = std::make_unique<ffmpeg::Demuxer>(file, nullptr, stop);
+        auto demuxer = openDemuxer(file, stop);
         auto info = std::make_unique<ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
         auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format);
         demuxers->giveBack(std::move(demuxer));

@@ -34,7 +34,7 @@ using testsupport::TemporaryFolder;
 
 constexpr auto kDamaged = "It is not a video file, or it is damaged.";
 constexpr auto kNotRegular = "It is not a regular file.";
-constexpr auto kCutShort = "The file was cut short while it was being read.";
+constexpr auto kCutShort = "The video was cut short while it was being read.";
 
 std::string openError(const std::filesystem::path& path) {
     return errorOf([&] { static_cast<void>(Asset::open(path)); });
@@ -177,6 +177,60 @@ TEST(BadInput, anMp4WithoutItsIndexIsDamaged) {
     EXPECT_EQ(openError(folder / "cut.mp4"), kDamaged);
     writeFile(folder / "cut.mp4", whole.substr(0, 48));
     EXPECT_EQ(openError(folder / "cut.mp4"), kDamaged);
+}
+
+/// Media that nobody without a key can decode, in a file of which nothing is damaged.
+std::filesystem::path encrypted(const std::string& name,
+                                const std::vector<std::string>& options = {}) {
+    std::vector<std::string> arguments = {"-f", "lavfi", "-i", "testsrc2=s=160x120:d=2"};
+    for (const char* argument :
+         {"-f", "lavfi", "-i", "sine=d=2", "-pix_fmt", "yuv420p", "-encryption_scheme",
+          "cenc-aes-ctr", "-encryption_key", "00112233445566778899aabbccddeeff", "-encryption_kid",
+          "00112233445566778899aabbccddeeff"})
+        arguments.emplace_back(argument);
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return cachedMedia(name, arguments);
+}
+
+constexpr auto kEncrypted = "It is encrypted or copy-protected.";
+
+TEST(BadInput, anEncryptedFileIsNotCalledDamaged) {
+    EXPECT_EQ(openError(encrypted("encrypted.mp4")), kEncrypted);
+    EXPECT_EQ(openError(encrypted("encrypted.mov")), kEncrypted);
+}
+
+TEST(BadInput, anEncryptedFileWhoseHeadersCannotBeReadIsNotCalledDamaged) {
+    const auto sample = testsupport::sampleMedia("mp4-fragmented-encrypted-clearkey.mp4");
+    if (!sample)
+        GTEST_SKIP() << "the sample media are not here";
+    EXPECT_EQ(openError(*sample), kEncrypted);
+}
+
+TEST(BadInput, anEncryptedFileIsCalledThatWhereItIsDamagedToo) {
+    const TemporaryFolder folder;
+    std::string bytes = contentsOf(encrypted("encrypted.mp4"));
+    writeFile(folder / "cut.mp4", bytes.substr(0, bytes.rfind("stts")));
+    EXPECT_EQ(openError(folder / "cut.mp4"), kEncrypted);
+    // More samples than there are: libav refuses such a file as a whole.
+    bytes.replace(bytes.find("senc") + 8, 4, "\0\0\xff\xff", 4);
+    writeFile(folder / "damaged.mp4", bytes);
+    EXPECT_EQ(openError(folder / "damaged.mp4"), kEncrypted);
+}
+
+TEST(BadInput, aDamagedFileIsNotCalledEncrypted) {
+    const TemporaryFolder folder;
+    const std::string whole = contentsOf(remuxed(makeFixture({}), false));
+    writeFile(folder / "cut.mp4", whole.substr(0, whole.find("stts")) + "encvencv");
+    EXPECT_THAT(openError(folder / "cut.mp4"), testing::Not(testing::AnyOf("", kEncrypted)));
+    writeFile(folder / "cut.mp4", whole.substr(0, whole.rfind("moov") - 4) + "encvencv");
+    EXPECT_EQ(openError(folder / "cut.mp4"), kDamaged);
+}
+
+TEST(BadInput, anyFileMayHaveATagThatSpeaksOfEncryption) {
+    const auto path = cachedMedia("tagged-encryption.mkv",
+                                  {"-f", "lavfi", "-i", "testsrc2=s=160x120:d=1", "-metadata",
+                                   "encryption=none", "-metadata", "ASF_Protection_Type=none"});
+    EXPECT_EQ(openError(path), "");
 }
 
 TEST(BadInput, anMp4CutInItsMediaShowsAndExportsWhatIsThere) {

@@ -3,6 +3,7 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/Encryption.h"
 #include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/TrackFacts.h"
 
@@ -84,6 +85,8 @@ private:
     /// False at the end of the file.
     bool readPacket(const std::stop_token& stop) {
         const bool hasPacket = m_demuxer.read(*m_packet, stop) == Demuxer::Status::packet;
+        if (hasPacket)
+            expectNoEncryption(*m_packet);
         if (hasPacket && m_packet->stream_index != m_track.facts.streamIndex) {
             noteSound();
             av_packet_unref(m_packet.get());
@@ -339,6 +342,7 @@ std::string findTimecode(const AVFormatContext& context, int pictureStream) {
 SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
     demuxer.findStreamInfo(stop);
     AVFormatContext& context = demuxer.context();
+    expectNoEncryption(context);
     SourceInfo info;
     info.format = context.iformat;
     for (unsigned i = 0; i < context.nb_streams; ++i) {
