@@ -110,9 +110,7 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     app.launch(filesOf(commandLine), &session,
                isStartedByBus ? BriskletApp::EmptyStart::wait : BriskletApp::EmptyStart::window);
     QTimer::singleShot(kIconDelay, &application, showIcon);
-    const int status = QApplication::exec();
-    brisklet::waitForWorkers();
-    return status;
+    return brisklet::leaveWith(QApplication::exec());
 }
 
 } // namespace

@@ -15,7 +15,7 @@ bool isMainThread() {
 
 void postToMainThread(std::function<void()> work) {
     // The application object stands for its thread: it outlives every window, and the events of a
-    // destroyed receiver are dropped by Qt. Workers end before it does (waitForWorkers()).
+    // destroyed receiver are dropped by Qt. Workers end before it does (leaveWith()).
     if (QCoreApplication* application = QCoreApplication::instance())
         QMetaObject::invokeMethod(application, std::move(work), Qt::QueuedConnection);
 }

@@ -2,9 +2,15 @@
 
 #include <QThreadPool>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace brisklet {
 
 namespace {
+
+/// Encoders in the middle of a large picture take a second or two.
+constexpr std::chrono::seconds kLongestWindingDown(3);
 
 /// Not Qt's global pool: that one has a thread per processor, which two exports would keep busy
 /// while every other window waits.
@@ -24,8 +30,17 @@ void startWorker(std::function<void()> work) {
     pool().start(std::move(work));
 }
 
-void waitForWorkers() {
-    pool().waitForDone();
+bool waitForWorkers(std::optional<std::chrono::milliseconds> limit) {
+    return pool().waitForDone(limit ? static_cast<int>(limit->count()) : -1);
+}
+
+int leaveWith(int status) {
+    if (!waitForWorkers(kLongestWindingDown)) {
+        std::fflush(nullptr);
+        // Nothing that such a worker may still use can be destroyed.
+        std::_Exit(status);
+    }
+    return status;
 }
 
 } // namespace brisklet

@@ -20,9 +20,15 @@ namespace brisklet {
 /// short one never waits behind them.
 void startWorker(std::function<void()> work);
 
-/// Blocks until every worker has ended. The program calls it once its last window is gone, so that
-/// no worker outlives the application object.
-void waitForWorkers();
+/// Blocks until every worker has ended; false if some have not within the limit. The program calls
+/// it once its last window is gone, so that no worker outlives the application object.
+bool waitForWorkers(std::optional<std::chrono::milliseconds> limit = std::nullopt);
+
+/// Ends the process with that exit status: after a few seconds for workers that wind down, which
+/// have been told to stop, and past those that still do not end by then, as those that wait for a
+/// disk that does not answer. Exports must have ended or been cancelled; a cancelled one has
+/// removed its file and at most frees encoders. Returns the status where all have ended.
+int leaveWith(int status);
 
 namespace detail {
 

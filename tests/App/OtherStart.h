@@ -44,6 +44,11 @@ public:
 
     [[nodiscard]] int exitCode() const { return m_process.exitCode(); }
 
+    /// Asks it to end, as a session that ends does.
+    void terminate() { m_process.terminate(); }
+
+    [[nodiscard]] bool hasCrashed() const { return m_process.exitStatus() == QProcess::CrashExit; }
+
     /// Whether this file is part of the running process.
     [[nodiscard]] bool hasLoaded(const QByteArray& file) const {
         QFile maps(QStringLiteral("/proc/%1/maps").arg(m_process.processId()));

@@ -4,7 +4,8 @@
 //     slow-disk FOLDER MOUNT-POINT BYTES-PER-SECOND
 //
 // While FOLDER holds a file named "stalled", reading waits, and FOLDER gets a file "awaited"; while
-// it holds one named "broken", reading fails. Ends, and unmounts, with the process that started it.
+// it holds one named "broken", reading fails. Whoever waits can be killed. Ends, and unmounts, with
+// the process that started it.
 #define FUSE_USE_VERSION 31
 #include <fuse.h>
 
@@ -30,6 +31,11 @@ double bytesPerSecond = 0;
 
 std::string behind(const char* path) {
     return folder.string() + path;
+}
+
+void* setUp(fuse_conn_info*, fuse_config* settings) {
+    settings->intr = 1;
+    return nullptr;
 }
 
 int status(const char* path, struct stat* result, fuse_file_info*) {
@@ -60,6 +66,8 @@ int read(const char*, char* buffer, std::size_t size, off_t offset, fuse_file_in
     using namespace std::chrono_literals;
     while (std::filesystem::exists(folder / "stalled")) {
         std::ofstream(folder / "awaited");
+        if (fuse_interrupted() != 0)
+            return -EINTR;
         std::this_thread::sleep_for(5ms);
     }
     if (std::filesystem::exists(folder / "broken"))
@@ -87,6 +95,7 @@ int main(int argc, char* argv[]) {
     folder = argv[1];
     bytesPerSecond = std::strtod(argv[3], nullptr);
     fuse_operations operations = {};
+    operations.init = setUp;
     operations.getattr = status;
     operations.readdir = list;
     operations.open = open;

@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <cstdlib>
 #include <latch>
 #include <memory>
 #include <stdexcept>
@@ -66,6 +68,24 @@ TEST(Workers, neverWaitBehindLongOnes) {
     }
     brisklet::waitForWorkers();
     EXPECT_EQ(done, kCount);
+}
+
+TEST(Workers, areNotWaitedForWithoutEndWhereThereIsALimit) {
+    std::latch disk(1);
+    brisklet::startWorker([&disk] { disk.wait(); });
+    EXPECT_FALSE(brisklet::waitForWorkers(std::chrono::milliseconds(1)));
+    disk.count_down();
+    EXPECT_TRUE(brisklet::waitForWorkers());
+}
+
+TEST(WorkersDeathTest, thatNeverEndDoNotKeepTheProcess) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(
+        {
+            brisklet::startWorker([] { std::latch(1).wait(); });
+            std::exit(brisklet::leaveWith(7) + 1);
+        },
+        testing::ExitedWithCode(7), "");
 }
 
 TEST(MainThread, runsWhatIsPostedInOrderAndLater) {

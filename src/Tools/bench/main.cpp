@@ -196,8 +196,7 @@ int run(int argc, char** argv, Clock::time_point start) {
         std::fprintf(stderr, "brisklet-bench: %s\n", error.what());
         status = kFailed;
     }
-    brisklet::waitForWorkers();
-    return status;
+    return brisklet::leaveWith(status);
 }
 
 } // namespace

@@ -45,8 +45,7 @@ int perform(const Work& command) {
         return kDone;
     } catch (const media::Cancelled&) {
         // Encoders may still be winding down, and must not outlive main().
-        brisklet::waitForWorkers();
-        return kInterrupted;
+        return brisklet::leaveWith(kInterrupted);
     } catch (const std::exception& error) {
         // Whoever interrupts is not interested in what else went wrong because of it.
         if (interruption.token().stop_requested())
