@@ -27,7 +27,7 @@ constexpr int kMostAttempts = 20;
 constexpr int kAnswerTimeoutMs = 20000;
 
 [[noreturn]] void throwUnanswered() {
-    throw std::runtime_error("Brisklet is running already, but it doesn't answer.");
+    throw std::runtime_error("Brisklet is running already, but it doesn’t answer.");
 }
 
 } // namespace

@@ -147,7 +147,7 @@ bool isFree(const fs::path& path) {
 }
 
 [[noreturn]] void fail(const char* what, const fs::path& path, const std::string& reason) {
-    throw std::runtime_error("“" + path.string() + "” couldn't be " + what + ": " + reason);
+    throw std::runtime_error("“" + path.string() + "” couldn’t be " + what + ": " + reason);
 }
 
 void write(const fs::path& path, const QByteArray& content, bool isExecutable) {

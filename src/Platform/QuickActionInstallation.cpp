@@ -23,7 +23,7 @@ std::filesystem::path ownProgram() {
         program = QFile::encodeName(QStandardPaths::findExecutable(QStringLiteral("brisklet")))
                       .toStdString();
     if (program.empty())
-        throw std::runtime_error("The place of the program couldn't be found out.");
+        throw std::runtime_error("The place of the program couldn’t be found out.");
     return program;
 }
 

@@ -18,7 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void fail(const char* what, const fs::path& item, const std::string& reason) {
-    throw std::runtime_error("“" + item.filename().string() + "” couldn't be " + what + ": " +
+    throw std::runtime_error("“" + item.filename().string() + "” couldn’t be " + what + ": " +
                              reason);
 }
 
@@ -91,7 +91,7 @@ void QuickAction::uninstall() {
     std::error_code error;
     const bool isThere = fs::exists(fs::symlink_status(workflowPath(), error));
     if (!isThere)
-        fail("removed", workflowPath(), "It doesn't exist.");
+        fail("removed", workflowPath(), "It doesn’t exist.");
     fs::remove_all(workflowPath(), error);
     if (error)
         fail("removed", workflowPath(), error.message());

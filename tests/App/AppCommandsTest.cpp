@@ -244,8 +244,8 @@ TEST_F(AppCommandsTest, showsWhyTheQuickActionCannotBeRemovedInTheFocusedWindow)
     m_focusedValues.setEditState(m_state);
     action("Remove Finder Quick Action")->trigger();
     EXPECT_EQ(m_state->errorMessage(),
-              QStringLiteral("Couldn't update the Quick Action: “Trim Video.workflow” couldn't be "
-                             "removed: It doesn't exist."));
+              QStringLiteral("Couldn't update the Quick Action: “Trim Video.workflow” couldn’t be "
+                             "removed: It doesn’t exist."));
     EXPECT_TRUE(QuickAction::shared().isInstalled());
 }
 

@@ -88,7 +88,7 @@ TEST_F(InstallModeTest, saysWhyItFailed) {
     const auto result = install();
     EXPECT_EQ(result.exitStatus, 1);
     EXPECT_EQ(result.output,
-              "Quick Action install failed: “Contents” couldn't be made: Not a directory\n");
+              "Quick Action install failed: “Contents” couldn’t be made: Not a directory\n");
 }
 
 } // namespace

@@ -44,7 +44,7 @@ TEST_F(UpdaterTest, refusesAFeedThatIsNoFeed) {
         m_server.answers[QStringLiteral("/feed.xml")] = {.body = body};
         check();
         EXPECT_EQ(m_driver.failure,
-                  QStringLiteral("Couldn't check for updates: The update feed is damaged."));
+                  QStringLiteral("Couldn’t check for updates: The update feed is damaged."));
         expectNothingChanged();
     }
 }
@@ -59,20 +59,20 @@ TEST_F(UpdaterTest, refusesAFeedThatExpandsWithoutEnd) {
     m_server.answers[QStringLiteral("/feed.xml")] = {.body = document};
     check();
     EXPECT_EQ(m_driver.failure,
-              QStringLiteral("Couldn't check for updates: The update feed is damaged."));
+              QStringLiteral("Couldn’t check for updates: The update feed is damaged."));
 }
 
 TEST_F(UpdaterTest, refusesAHugeAndAnEndlessFeed) {
     m_server.answers[QStringLiteral("/feed.xml")] = {.body = QByteArray(2 << 20, ' ')};
     check();
-    EXPECT_EQ(m_driver.failure, QStringLiteral("Couldn't check for updates: The server sends "
+    EXPECT_EQ(m_driver.failure, QStringLiteral("Couldn’t check for updates: The server sends "
                                                "more than it should."));
     m_driver.failure.clear();
     m_driver.checkingCount = 0;
     m_server.answers[QStringLiteral("/feed.xml")] = {.body = QByteArray(65536, ' '),
                                                      .isEndless = true};
     check();
-    EXPECT_EQ(m_driver.failure, QStringLiteral("Couldn't check for updates: The server sends "
+    EXPECT_EQ(m_driver.failure, QStringLiteral("Couldn’t check for updates: The server sends "
                                                "more than it should."));
     expectNothingChanged();
 }
@@ -93,7 +93,7 @@ TEST_F(UpdaterTest, refusesPlainHttpToOtherMachines) {
     m_configuration.feed = QUrl(QStringLiteral("http://updates.invalid/feed.xml"));
     check();
     EXPECT_EQ(m_driver.failure,
-              QStringLiteral("Couldn't check for updates: “http://updates.invalid/feed.xml” is "
+              QStringLiteral("Couldn’t check for updates: “http://updates.invalid/feed.xml” is "
                              "not a secure address."));
     expectNothingChanged();
 }
@@ -116,13 +116,13 @@ TEST_F(UpdaterTest, followsASafeRedirectionAndNoEndlessOne) {
     m_driver.forget();
     m_server.answers[QStringLiteral("/feed.xml")].headers = "Location: /feed.xml\r\n";
     check();
-    EXPECT_TRUE(m_driver.failure.startsWith(QStringLiteral("Couldn't check for updates: ")));
+    EXPECT_TRUE(m_driver.failure.startsWith(QStringLiteral("Couldn’t check for updates: ")));
 }
 
 TEST_F(UpdaterTest, saysThatThereIsNoSuchFeed) {
     m_server.answers.clear();
     check();
-    EXPECT_TRUE(m_driver.failure.startsWith(QStringLiteral("Couldn't check for updates: ")));
+    EXPECT_TRUE(m_driver.failure.startsWith(QStringLiteral("Couldn’t check for updates: ")));
     expectNothingChanged();
 }
 
@@ -130,12 +130,12 @@ TEST_F(UpdaterTest, refusesAPackageOfAnotherLength) {
     m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].body.chop(1);
     install();
     EXPECT_EQ(m_driver.failure,
-              QStringLiteral("The update is incomplete. It hasn't been installed."));
+              QStringLiteral("The update is incomplete. It hasn’t been installed."));
     expectNothingChanged();
     m_driver.forget();
     m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].body += "..";
     install();
-    EXPECT_EQ(m_driver.failure, QStringLiteral("The update couldn't be downloaded: The server "
+    EXPECT_EQ(m_driver.failure, QStringLiteral("The update couldn’t be downloaded: The server "
                                                "sends more than it should."));
     expectNothingChanged();
 }
@@ -143,7 +143,7 @@ TEST_F(UpdaterTest, refusesAPackageOfAnotherLength) {
 TEST_F(UpdaterTest, refusesAPackageThatWasChanged) {
     m_server.answers[QStringLiteral("/brisklet_1.3_amd64.deb")].body[500000] = '!';
     install();
-    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("isn't genuine")));
+    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("isn’t genuine")));
     expectNothingChanged();
 }
 
@@ -151,7 +151,7 @@ TEST_F(UpdaterTest, refusesAPackageOfAnotherKey) {
     crypto_sign_keypair(bytes(m_publicKey), bytes(m_secretKey));
     serveFeed(item("1.3"));
     install();
-    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("isn't genuine")));
+    EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("isn’t genuine")));
     expectNothingChanged();
 }
 

@@ -77,7 +77,7 @@ TEST_F(UpdaterTlsTest, refusesAServerThatNobodyTrusts) {
     ASSERT_TRUE(identify("IP:127.0.0.1"));
     check();
     EXPECT_TRUE(m_driver.failure.startsWith(
-        QStringLiteral("Couldn't check for updates: The connection to “127.0.0.1” isn't secure: ")))
+        QStringLiteral("Couldn’t check for updates: The connection to “127.0.0.1” isn’t secure: ")))
         << m_driver.failure.toStdString();
     EXPECT_TRUE(m_driver.failure.contains(QStringLiteral("certificate")))
         << m_driver.failure.toStdString();

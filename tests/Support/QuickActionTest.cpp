@@ -307,7 +307,7 @@ TEST_F(QuickActionTest, saysWhyItCannotBeWritten) {
         QuickAction::writeWorkflow(m_folder / "file" / "Trim Video.workflow");
         FAIL() << "A bundle inside a file was written.";
     } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "“Contents” couldn't be made: Not a directory");
+        EXPECT_STREQ(error.what(), "“Contents” couldn’t be made: Not a directory");
     }
 }
 

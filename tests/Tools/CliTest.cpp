@@ -271,9 +271,9 @@ TEST(Cli, saysWhenAStillCannotBeWritten) {
     const TemporaryFolder folder;
     const std::string source = makeFixture({.container = "mp4", .duration = 2}).path;
     expectFailure(cli({"frame", source, "0", folder / "missing" / "out.png"}),
-                  "Couldn't write “out.png”: No such file or directory.");
+                  "Couldn’t write “out.png”: No such file or directory.");
     const std::string notAFolder = written(folder / "file", "x");
-    expectFailure(cli({"filmstrip", source, notAFolder}), "Couldn't make the folder “file”");
+    expectFailure(cli({"filmstrip", source, notAFolder}), "Couldn’t make the folder “file”");
 }
 
 } // namespace

@@ -102,7 +102,7 @@ void Download::take() {
     if (m_received > m_limits.most)
         finish(tr("The server sends more than it should."));
     else if (m_into.write(bytes) != bytes.size())
-        finish(tr("The download can't be stored: %1").arg(m_into.errorString()));
+        finish(tr("The download can’t be stored: %1").arg(m_into.errorString()));
     else
         Q_EMIT progressed(m_received);
 }
@@ -120,7 +120,7 @@ void Download::complete() {
 QString Download::networkFailure() const {
     if (m_distrust.isEmpty())
         return m_reply->errorString();
-    return tr("The connection to “%1” isn't secure: %2.").arg(m_reply->url().host(), m_distrust);
+    return tr("The connection to “%1” isn’t secure: %2.").arg(m_reply->url().host(), m_distrust);
 }
 
 void Download::finish(const QString& failure) {

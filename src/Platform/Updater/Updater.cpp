@@ -157,7 +157,7 @@ QNetworkAccessManager& Updater::network() {
 
 void Updater::feedArrived(const QString& failure) {
     if (!failure.isEmpty()) {
-        fail(tr("Couldn't check for updates: %1").arg(failure));
+        fail(tr("Couldn’t check for updates: %1").arg(failure));
         return;
     }
     std::optional<AppcastItem> update;
@@ -165,7 +165,7 @@ void Updater::feedArrived(const QString& failure) {
         update = newestUpdate(parseAppcast(m_feed.data()), m_configuration.currentVersion,
                               m_configuration.systemVersion);
     } catch (const std::exception& error) {
-        fail(tr("Couldn't check for updates: %1").arg(QString::fromUtf8(error.what())));
+        fail(tr("Couldn’t check for updates: %1").arg(QString::fromUtf8(error.what())));
         return;
     }
     const bool isByItself = m_mode == Mode::byItself;
@@ -216,7 +216,7 @@ void Updater::downloadPackage(const AppcastItem& item) {
     }
     if (!folder.mkpath(QStringLiteral(".")) ||
         !m_package->open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        fail(tr("The update can't be stored: %1").arg(m_package->errorString()));
+        fail(tr("The update can’t be stored: %1").arg(m_package->errorString()));
         return;
     }
     m_driver.showDownload(item, [self = QPointer(this)] {
@@ -228,17 +228,17 @@ void Updater::downloadPackage(const AppcastItem& item) {
 
 void Updater::packageArrived(const QString& failure) {
     if (!failure.isEmpty()) {
-        fail(tr("The update couldn't be downloaded: %1").arg(failure));
+        fail(tr("The update couldn’t be downloaded: %1").arg(failure));
         return;
     }
     const bool isStored = m_package->flush() && m_package->error() == QFileDevice::NoError;
     m_package->close();
     if (!isStored)
-        fail(tr("The update can't be stored: %1").arg(m_package->errorString()));
+        fail(tr("The update can’t be stored: %1").arg(m_package->errorString()));
     else if (m_package->size() != m_item.length)
-        fail(tr("The update is incomplete. It hasn't been installed."));
+        fail(tr("The update is incomplete. It hasn’t been installed."));
     else if (!isSigned(m_package->fileName(), m_item.signature, m_configuration.publicKey))
-        fail(tr("The update isn't genuine: its signature is wrong. It hasn't been installed."));
+        fail(tr("The update isn’t genuine: its signature is wrong. It hasn’t been installed."));
     else
         openChecked();
 }
@@ -248,7 +248,7 @@ void Updater::openChecked() {
     name.chop(QStringLiteral(".part").size());
     QFile::remove(name);
     if (!m_package->rename(name)) {
-        fail(tr("The update can't be stored: %1").arg(m_package->errorString()));
+        fail(tr("The update can’t be stored: %1").arg(m_package->errorString()));
         return;
     }
     m_package.reset();

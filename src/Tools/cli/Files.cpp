@@ -19,7 +19,7 @@ struct Close {
 };
 
 [[noreturn]] void throwWriteError(const std::filesystem::path& path, int code) {
-    throw CommandError("Couldn't write " + quotedName(path) + ": " +
+    throw CommandError("Couldn’t write " + quotedName(path) + ": " +
                        std::generic_category().message(code) + ".");
 }
 
@@ -55,7 +55,7 @@ void writeFile(const std::filesystem::path& path, const QByteArray& content) {
 void writeToStandardOutput(const QByteArray& content) {
     const auto size = static_cast<std::size_t>(content.size());
     if (std::fwrite(content.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
-        throw CommandError("Couldn't write the answer: " + std::generic_category().message(errno) +
+        throw CommandError("Couldn’t write the answer: " + std::generic_category().message(errno) +
                            ".");
 }
 

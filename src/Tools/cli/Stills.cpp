@@ -39,7 +39,7 @@ QByteArray pngOf(media::ImagePtr image) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!toQImage(std::move(image)).save(&buffer, "PNG"))
-        throw CommandError("Couldn't write the picture as PNG.");
+        throw CommandError("Couldn’t write the picture as PNG.");
     return bytes;
 }
 
@@ -53,7 +53,7 @@ void createDirectory(const std::filesystem::path& directory) {
     std::error_code error;
     std::filesystem::create_directories(directory, error);
     if (error)
-        throw CommandError("Couldn't make the folder " + quotedName(directory) + ": " +
+        throw CommandError("Couldn’t make the folder " + quotedName(directory) + ": " +
                            error.message() + ".");
 }
 
@@ -85,7 +85,7 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
                                  {QStringLiteral("actual"), still->time.seconds()}});
     }
     if (times.isEmpty())
-        throw CommandError("Couldn't make a filmstrip of " + quotedName(command.source) + ": " +
+        throw CommandError("Couldn’t make a filmstrip of " + quotedName(command.source) + ": " +
                            lastFailure);
     writeToStandardOutput(QJsonDocument(times).toJson());
 }
@@ -96,7 +96,7 @@ void run(const FrameCommand& command, const std::stop_token& stop) {
     try {
         writeFile(command.output, pngOf(generator->image(timeOf(command.seconds), stop).image));
     } catch (const media::Error& error) {
-        throw CommandError("Couldn't make the picture: " + std::string(error.what()));
+        throw CommandError("Couldn’t make the picture: " + std::string(error.what()));
     }
 }
 
