@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/DemuxerPool.h"
+#include "Media/FFmpeg/LatestPackets.h"
 #include "Media/FFmpeg/PacketFacts.h"
 #include "Media/FFmpeg/PresentationTimes.h"
 #include "Media/FFmpeg/SourceInfo.h"
@@ -25,6 +26,8 @@ constexpr std::int64_t kNearTicks = 2 * kComparisonTimescale;
 constexpr std::int64_t kShortRunTicks = kComparisonTimescale / 2;
 /// The first step back when a container lands behind the frame that was asked for.
 constexpr std::int64_t kFirstStepBackTicks = kComparisonTimescale / 2;
+/// How much more than needed is decoded rather than looked for a shorter way (1/600 s).
+constexpr std::int64_t kLongestDetourTicks = 2 * kComparisonTimescale;
 /// How much later than it is decoded a key frame may be shown.
 constexpr std::int64_t kLongestReorderTicks = kComparisonTimescale / 5;
 
@@ -69,7 +72,7 @@ public:
         m_completeFrom = completeFrom;
         m_bestTicks = kNoTarget;
         if (isAheadNearby(ticks)) {
-            fill(1, stop);
+            fill(1, stop, ticks);
             // The picture of a packet that was read ahead need not decode.
             if (!m_queue.empty() && m_queue.front().ticks <= ticks)
                 return;
@@ -93,9 +96,9 @@ public:
         if (hasKeyFrameAtHand || hasKeyFrameWithin(earliest, latest) || m_queue.empty() ||
             !isAheadNearby(earliest))
             reposition(goal, latest, stop);
-        fill(1, stop);
+        fill(1, stop, latest);
         while (!m_queue.empty() && m_queue.front().ticks < earliest) {
-            fill(2, stop);
+            fill(2, stop, latest);
             if (m_queue.size() < 2 || m_queue[1].ticks > latest)
                 break;
             m_queue.pop_front();
@@ -107,11 +110,13 @@ public:
                (m_queue.front().ticks <= latest || isFirst(m_queue.front()));
     }
 
-    const DecodedFrame* peek(const std::stop_token& stop) {
+    const DecodedFrame* peek(const std::stop_token& stop, std::int64_t until) {
         startIfNew(stop);
-        fill(1, stop);
+        fill(1, stop, until);
         return m_queue.empty() ? nullptr : &m_queue.front();
     }
+
+    [[nodiscard]] bool hasEnded() const { return m_isDrained && m_queue.empty(); }
 
     std::optional<DecodedFrame> next(const std::stop_token& stop) {
         startIfNew(stop);
@@ -160,7 +165,8 @@ private:
     }
 
     [[nodiscard]] bool hasKeyFrameWithin(std::int64_t earliest, std::int64_t latest) {
-        const auto key = keyFrameBefore(latest);
+        const bool hasIndex = ffmpeg::statesPresentationTimes(*m_asset->info().format);
+        const auto key = hasIndex ? keyFrameBefore(ticks) : std::nullopt;
         return key &&
                ffmpeg::assetTime(m_asset->info(), m_track, *key).comparisonTicks() >= earliest;
     }
@@ -173,8 +179,11 @@ private:
         const std::int64_t last = m_queue.empty() ? *next : m_queue.back().ticks;
         if (m_isDrained || last > ticks)
             return true;
-        const bool hasIndex = ffmpeg::statesPresentationTimes(*m_asset->info().format);
-        const auto key = hasIndex ? keyFrameBefore(ticks) : std::nullopt;
+        // Among packets of which no picture comes, the search goes on where it stands.
+        if (m_taken.areAllAfter(last) && ticks - m_taken.latest() <= kNearTicks)
+            return true;
+        const auto key =
+            m_demuxer->statesPresentationTimes() ? keyFrameBefore(ticks) : std::nullopt;
         if (key && m_lastReadDts != AV_NOPTS_VALUE)
             return *key <= m_lastReadDts;
         return ticks - last <= kNearTicks;
@@ -197,7 +206,7 @@ private:
     void advanceTo(std::int64_t ticks, const std::stop_token& stop) {
         fill(1, stop);
         while (!m_queue.empty() && m_queue.front().knownEnd.value_or(ticks) <= ticks) {
-            fill(2, stop);
+            fill(2, stop, ticks);
             if (m_queue.size() < 2 || m_queue[1].ticks > ticks)
                 break;
             m_queue.pop_front();
@@ -216,24 +225,58 @@ private:
     void reposition(std::int64_t ticks, std::int64_t latest, const std::stop_token& stop) {
         m_isPositioned = true;
         const std::int64_t first = m_track.facts.startTime.comparisonTicks();
+        const std::int64_t limit = std::max(latest, first);
         const bool canSeek = !ffmpeg::isBareBitstream(*m_asset->info().format);
+        std::int64_t vain = ticks;
         for (std::int64_t back = 0; canSeek; back = back == 0 ? kFirstStepBackTicks : back * 4) {
-            const std::int64_t timestamp = ffmpeg::streamTimestamp(
-                m_asset->info(), m_track, Time{ticks - back, kComparisonTimescale});
-            if (!m_demuxer->seek(m_track.facts.streamIndex, timestamp, stop))
+            const Landing landing = landAt(ticks - back, limit, back == 0 ? limit : vain, stop);
+            if (landing == Landing::refused)
                 break;
-            restart();
-            m_awaitsKeyFrame = decodesWithoutReferences(m_track.parameters->codec_id);
-            fill(1, stop);
-            if (!m_queue.empty() && m_queue.front().ticks <= std::max(latest, first))
+            if (landing == Landing::inTime) {
+                approachLatestLanding(ticks - back, vain, limit, stop);
                 return;
-            if (ticks - back <= first)
+            }
+            vain = ticks - back;
+            if (vain <= first)
                 break;
         }
         m_demuxer->reopen(stop);
         if (m_hasNewParameters)
             openDecoder();
         restart();
+    }
+
+    enum class Landing { refused, inTime, tooLate };
+
+    /// Starts decoding at the random-access point before `ticks`; in time if the first picture that
+    /// comes out begins at or before `limit`. It is given up when none has come by `vain`: from
+    /// there on, it is known, none comes in time.
+    Landing landAt(std::int64_t ticks, std::int64_t limit, std::int64_t vain,
+                   const std::stop_token& stop) {
+        const std::int64_t timestamp =
+            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale});
+        if (!m_demuxer->seek(m_track.facts.streamIndex, timestamp, stop))
+            return Landing::refused;
+        restart();
+        m_awaitsKeyFrame = decodesWithoutReferences(m_track.parameters->codec_id);
+        fill(1, stop, vain);
+        const bool isInTime = !m_queue.empty() && m_queue.front().ticks <= limit;
+        return isInTime ? Landing::inTime : Landing::tooLate;
+    }
+
+    /// Having landed in time from `inTime`, but too late from `vain`: where a long part does not
+    /// decode, the steps back may have gone far beyond its beginning, and all that lies between
+    /// would be decoded. Any later place from which the landing is in time will do.
+    void approachLatestLanding(std::int64_t inTime, std::int64_t vain, std::int64_t limit,
+                               const std::stop_token& stop) {
+        bool isThere = true;
+        while (vain - inTime > kLongestDetourTicks) {
+            const std::int64_t middle = inTime + (vain - inTime) / 2;
+            isThere = landAt(middle, limit, vain, stop) == Landing::inTime;
+            (isThere ? inTime : vain) = middle;
+        }
+        if (!isThere)
+            landAt(inTime, limit, vain, stop);
     }
 
     void restart() {
@@ -244,6 +287,7 @@ private:
         m_alone.reset();
         m_isFresh = true;
         m_times.clear();
+        m_taken.clear();
         m_isDrained = false;
         m_isDraining = false;
         m_awaitsKeyFrame = false;
@@ -252,8 +296,9 @@ private:
         m_gaplessFrom = kNoTarget;
     }
 
-    /// Decodes until `count` frames are queued or the track has ended.
-    void fill(std::size_t count, const std::stop_token& stop) {
+    /// Decodes until `count` frames are queued or the track has ended, or until it is certain that
+    /// the next one begins after `until`.
+    void fill(std::size_t count, const std::stop_token& stop, std::int64_t until = kNoLimit) {
         while ((m_queue.size() < count || m_alone) && !m_isDrained) {
             if (stop.stop_requested())
                 throw Cancelled();
@@ -263,6 +308,8 @@ private:
                 enqueue(std::move(frame));
                 break;
             case ffmpeg::Decoder::Status::needsInput:
+                if (!m_alone && m_taken.areAllAfter(until))
+                    return;
                 feed(stop);
                 break;
             case ffmpeg::Decoder::Status::endOfStream:
@@ -285,6 +332,7 @@ private:
             m_decoder->send(nullptr);
             return;
         }
+        m_taken.note(takenAt(*m_ahead.front()));
         if (m_awaitsKeyFrame && !(m_ahead.front()->flags & AV_PKT_FLAG_KEY)) {
             m_ahead.pop_front();
             return;
@@ -297,6 +345,15 @@ private:
         m_ahead.pop_front();
         if (m_alone)
             m_decoder->send(nullptr);
+    }
+
+    /// When the picture of a packet is shown, or at least decoded; kNoTarget if that is not known.
+    [[nodiscard]] std::int64_t takenAt(const AVPacket& packet) const {
+        const bool isShownAt = packet.pts != AV_NOPTS_VALUE && !m_track.lacksPresentationTimes;
+        const std::int64_t timestamp = isShownAt ? packet.pts : packet.dts;
+        if (timestamp == AV_NOPTS_VALUE)
+            return kNoTarget;
+        return ffmpeg::assetTime(m_asset->info(), m_track, timestamp).comparisonTicks();
     }
 
     void send(const AVPacket& packet) {
@@ -380,6 +437,7 @@ private:
     /// Packets that were read but not handed to the decoder yet.
     std::deque<ffmpeg::PacketPtr> m_ahead;
     std::deque<DecodedFrame> m_queue;
+    ffmpeg::LatestPackets m_taken;
     /// A borrowed demuxer may stand anywhere until the first move.
     bool m_isPositioned = false;
     /// The decoder was given nothing since it was moved.
@@ -431,8 +489,12 @@ std::optional<DecodedFrame> VideoReader::next(const std::stop_token& stop) {
     return d->next(stop);
 }
 
-const DecodedFrame* VideoReader::peek(const std::stop_token& stop) {
-    return d->peek(stop);
+const DecodedFrame* VideoReader::peek(const std::stop_token& stop, std::int64_t until) {
+    return d->peek(stop, until);
+}
+
+bool VideoReader::hasEnded() const {
+    return d->hasEnded();
 }
 
 } // namespace media

@@ -3,6 +3,8 @@
 #include "Media/Asset.h"
 #include "Media/FFmpeg/Handles.h"
 
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -80,8 +82,14 @@ public:
     /// passed over. A new reader starts at the first frame. Throws Error when reading fails.
     std::optional<DecodedFrame> next(const std::stop_token& stop = {});
 
-    /// The frame that next() will return, without moving; null after the last.
-    const DecodedFrame* peek(const std::stop_token& stop = {});
+    /// The frame that next() will return, without moving; null after the last. Where nothing
+    /// decodes, not much is read beyond `until`: null if no frame begins at or before that tick.
+    const DecodedFrame* peek(const std::stop_token& stop = {}, std::int64_t until = kNoLimit);
+
+    /// Whether the last frame has been returned.
+    [[nodiscard]] bool hasEnded() const;
+
+    static constexpr std::int64_t kNoLimit = std::numeric_limits<std::int64_t>::max();
 
 private:
     class Private;

@@ -15,6 +15,9 @@ constexpr std::int64_t kFinestTimescale = 1'000'000;
 /// The fallback's ticks are those of transport streams, a whole number for the usual frame rates.
 constexpr std::int32_t kFallbackTimescale = 90'000;
 
+/// A picture farther away than this is no neighbour whose fields tell anything.
+constexpr std::int64_t kFarthestNeighbourTicks = kComparisonTimescale;
+
 /// A timescale in which both the source's times and cuts at 1/600 s are whole numbers.
 std::int32_t timescaleFor(std::int64_t sourceTimescale) {
     const std::int64_t common = std::lcm<std::int64_t>(sourceTimescale, kComparisonTimescale);
@@ -46,16 +49,19 @@ public:
         if (isFirst)
             m_reader.seek(m_range.start.comparisonTicks(), stop);
         m_hasStarted = true;
+        if (m_isOver)
+            return std::nullopt;
         for (;;) {
             auto source = m_reader.next(stop);
             if (!source || (!isFirst && source->ticks >= m_endTicks))
                 return std::nullopt;
-            const DecodedFrame* following = m_reader.peek(stop);
+            const DecodedFrame* following = m_reader.peek(stop, m_endTicks);
             if (following && following->ticks <= source->ticks)
                 continue;
             ScheduledFrame result;
             result.pts = isFirst ? 0 : std::max(m_nextPts, exportTime(source->time));
             const bool isLast = !following || following->ticks >= m_endTicks;
+            m_isOver = isLast;
             const std::int64_t end = isLast ? m_duration : exportTime(following->time);
             result.duration = std::max<std::int64_t>(end - result.pts, 1);
             result.frame = std::move(source->frame);
@@ -77,6 +83,7 @@ private:
     std::int64_t m_expectedFrames = 0;
     std::int64_t m_nextPts = 0;
     bool m_hasStarted = false;
+    bool m_isOver = false;
 };
 
 /// The source picture at a tick that never decreases.
@@ -93,8 +100,8 @@ public:
         }
         if (!m_current)
             begin(ticks, stop);
-        for (const DecodedFrame* following = m_reader.peek(stop);
-             following && following->ticks <= ticks; following = m_reader.peek(stop)) {
+        for (const DecodedFrame* following = m_reader.peek(stop, ticks);
+             following && following->ticks <= ticks; following = m_reader.peek(stop, ticks)) {
             m_previous = std::move(m_current);
             m_current = m_reader.next(stop);
         }
@@ -106,7 +113,8 @@ public:
             return;
         if (m_previous)
             frame.previous = ffmpeg::referenced(*m_previous->frame);
-        if (const DecodedFrame* following = m_reader.peek(stop))
+        const std::int64_t latest = m_current->ticks + kFarthestNeighbourTicks;
+        if (const DecodedFrame* following = m_reader.peek(stop, latest))
             frame.following = ffmpeg::referenced(*following->frame);
     }
 

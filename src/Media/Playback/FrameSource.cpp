@@ -15,6 +15,9 @@ namespace {
 /// Frames at full size that wait to be rendered: what comes in a third of a second at 1080p.
 constexpr std::size_t kPassedBytes = std::size_t{48} << 20;
 
+/// How far behind a goal it is looked for where its frame ends, if nothing decodes there (1/600 s).
+constexpr std::int64_t kFarthestEndTicks = kComparisonTimescale / 2;
+
 /// How many frames before one are worth decoding, when the next ones will be those (1/600 s).
 constexpr std::int64_t kBackwardTicks = kComparisonTimescale * 3 / 10;
 
@@ -125,7 +128,7 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
         m_share.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
         ++m_decodedCount;
     }
-    const std::int64_t end = endOf(*m_unfinished, stop);
+    const std::int64_t end = endOf(*m_unfinished, goal.ticks, stop);
     Decoded decoded{std::exchange(m_unfinished, nullptr), 0, end, true};
     m_nextTicks = end;
     const std::int64_t ticks = decoded.begin = decoded.frame->ticks;
@@ -140,12 +143,18 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
     return decoded;
 }
 
-/// Where the frame after the one decoded last begins.
-std::int64_t FrameSource::endOf(const DecodedFrame& frame, const std::stop_token& stop) {
+/// Where the frame after the one decoded last begins; where nothing decodes for long after the
+/// goal, until when at least it does not.
+std::int64_t FrameSource::endOf(const DecodedFrame& frame, std::int64_t goal,
+                                const std::stop_token& stop) {
     if (frame.knownEnd)
         return *frame.knownEnd;
-    const DecodedFrame* following = m_reader->peek(stop);
-    return following ? following->ticks : CachedFrame::kForever;
+    const std::int64_t from =
+        goal == CachedFrame::kForever ? frame.ticks : std::max(frame.ticks, goal);
+    const std::int64_t until = from + kFarthestEndTicks;
+    if (const DecodedFrame* following = m_reader->peek(stop, until))
+        return following->ticks;
+    return m_reader->hasEnded() ? CachedFrame::kForever : until + 1;
 }
 
 void FrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {

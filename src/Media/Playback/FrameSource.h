@@ -108,7 +108,7 @@ private:
     VideoReader& reader();
     bool arriveAtKept(std::int64_t ticks, PreviewSize size);
     std::optional<Decoded> decode(const Goal& goal, const std::stop_token& stop);
-    std::int64_t endOf(const DecodedFrame& frame, const std::stop_token& stop);
+    std::int64_t endOf(const DecodedFrame& frame, std::int64_t goal, const std::stop_token& stop);
     void pass(Decoded decoded, const Goal& goal, PreviewSize size);
     void keep(const Decoded& decoded, PreviewSize size);
     [[nodiscard]] CachedFrame rendered(const Decoded& decoded, PreviewSize size);
