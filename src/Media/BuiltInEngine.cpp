@@ -40,7 +40,7 @@ public:
         auto file = ffmpeg::SourceFile::open(path);
         auto demuxer = openDemuxer(file, stop);
         auto info = std::make_unique<ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
-        auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format);
+        auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format, info->pictures);
         demuxers->giveBack(std::move(demuxer));
         return std::make_shared<const Asset>(std::move(file), std::move(info), std::move(demuxers));
     }

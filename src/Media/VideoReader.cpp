@@ -48,7 +48,7 @@ public:
           m_disposability(*m_track.parameters),
           m_times(m_asset->info(), m_track) {
         openDecoder();
-        if (!ffmpeg::statesPresentationTimes(*m_asset->info().format))
+        if (!m_demuxer->statesPresentationTimes())
             m_demuxer->findStreamInfo();
         if (m_track.needsGeneratedTimes)
             m_demuxer->generatePresentationTimes();
@@ -156,17 +156,13 @@ private:
 
     /// The dts of the last key frame that the container's index knows at or before `ticks`.
     [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(std::int64_t ticks) {
-        AVStream* stream = m_demuxer->context().streams[m_track.facts.streamIndex];
-        const std::int64_t timestamp =
-            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale});
-        const AVIndexEntry* entry =
-            avformat_index_get_entry_from_timestamp(stream, timestamp, AVSEEK_FLAG_BACKWARD);
-        return entry ? std::optional(entry->timestamp) : std::nullopt;
+        return m_demuxer->keyFrameBefore(
+            m_track.facts.streamIndex,
+            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale}));
     }
 
     [[nodiscard]] bool hasKeyFrameWithin(std::int64_t earliest, std::int64_t latest) {
-        const bool hasIndex = ffmpeg::statesPresentationTimes(*m_asset->info().format);
-        const auto key = hasIndex ? keyFrameBefore(ticks) : std::nullopt;
+        const auto key = keyFrameBefore(latest);
         return key &&
                ffmpeg::assetTime(m_asset->info(), m_track, *key).comparisonTicks() >= earliest;
     }
@@ -226,7 +222,7 @@ private:
         m_isPositioned = true;
         const std::int64_t first = m_track.facts.startTime.comparisonTicks();
         const std::int64_t limit = std::max(latest, first);
-        const bool canSeek = !ffmpeg::isBareBitstream(*m_asset->info().format);
+        const bool canSeek = !m_demuxer->canOnlyReadOn();
         std::int64_t vain = ticks;
         for (std::int64_t back = 0; canSeek; back = back == 0 ? kFirstStepBackTicks : back * 4) {
             const Landing landing = landAt(ticks - back, limit, back == 0 ? limit : vain, stop);

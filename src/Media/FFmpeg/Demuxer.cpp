@@ -2,6 +2,7 @@
 
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
+#include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -146,6 +147,35 @@ void Demuxer::generatePresentationTimes() {
     m_context->flags |= AVFMT_FLAG_GENPTS;
 }
 
+void Demuxer::usePictures(std::shared_ptr<const PictureIndex> pictures) {
+    m_pictures = std::move(pictures);
+    moveTo(m_pictures->first());
+}
+
+bool Demuxer::statesPresentationTimes() const {
+    return m_pictures || ffmpeg::statesPresentationTimes(*m_context->iformat);
+}
+
+bool Demuxer::canOnlyReadOn() const {
+    return !m_pictures && isBareBitstream(*m_context->iformat);
+}
+
+std::optional<std::int64_t> Demuxer::keyFrameBefore(int streamIndex, std::int64_t timestamp) const {
+    if (m_pictures) {
+        const PictureIndex::Entry* key = m_pictures->keyFrameDecodedBefore(timestamp);
+        return key ? std::optional(key->dts) : std::nullopt;
+    }
+    const AVIndexEntry* entry = avformat_index_get_entry_from_timestamp(
+        m_context->streams[streamIndex], timestamp, AVSEEK_FLAG_BACKWARD);
+    return entry ? std::optional(entry->timestamp) : std::nullopt;
+}
+
+void Demuxer::moveTo(const PictureIndex::Entry& entry) {
+    avformat_flush(m_context.get());
+    // A failure shows when the next packet is read.
+    avio_seek(m_ioContext.get(), entry.position, SEEK_SET);
+}
+
 void Demuxer::selectOnly(const std::vector<int>& streamIndexes) {
     for (unsigned i = 0; i < m_context->nb_streams; ++i) {
         const bool wanted =
@@ -164,7 +194,9 @@ Demuxer::Status Demuxer::read(AVPacket& packet, const std::stop_token& stop) {
         const int result = av_read_frame(m_context.get(), &packet);
         if (result >= 0) {
             // Streams that turn up in mid-file were never selected.
-            if (m_context->streams[packet.stream_index]->discard != AVDISCARD_ALL)
+            const bool isSelected =
+                m_context->streams[packet.stream_index]->discard != AVDISCARD_ALL;
+            if (isSelected && (!m_pictures || m_pictures->stamp(packet)))
                 return Status::packet;
             av_packet_unref(&packet);
             continue;
@@ -200,6 +232,12 @@ void Demuxer::checkSource() const {
 
 bool Demuxer::seek(int streamIndex, std::int64_t timestamp, const std::stop_token& stop) {
     const CallScope scope(*m_io, m_ioContext.get(), stop);
+    if (m_pictures) {
+        const PictureIndex::Entry* key = m_pictures->keyFrameShownBefore(timestamp);
+        if (key)
+            moveTo(*key);
+        return key != nullptr;
+    }
     const int result = av_seek_frame(m_context.get(), streamIndex, timestamp, AVSEEK_FLAG_BACKWARD);
     if (stop.stop_requested())
         throw Cancelled();
@@ -207,6 +245,11 @@ bool Demuxer::seek(int streamIndex, std::int64_t timestamp, const std::stop_toke
 }
 
 void Demuxer::reopen(const std::stop_token& stop) {
+    if (m_pictures) {
+        const CallScope scope(*m_io, m_ioContext.get(), stop);
+        moveTo(m_pictures->first());
+        return;
+    }
     std::vector<enum AVDiscard> discards;
     for (unsigned i = 0; i < m_context->nb_streams; ++i)
         discards.push_back(m_context->streams[i]->discard);

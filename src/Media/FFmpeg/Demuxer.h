@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Media/FFmpeg/Handles.h"
+#include "Media/FFmpeg/PictureIndex.h"
 #include "Media/FFmpeg/SourceFile.h"
 
 #include <memory>
+#include <optional>
 #include <stop_token>
 #include <vector>
 
@@ -30,6 +32,22 @@ public:
     /// first read().
     void generatePresentationTimes();
 
+    /// Reads a bare bitstream as if it lay in a container, by the index of its pictures, from its
+    /// first packet on.
+    void usePictures(std::shared_ptr<const PictureIndex> pictures);
+
+    /// Whether every packet has its presentation time by itself, so that none need be parsed to
+    /// find it, and the demuxer comes back to a position exactly.
+    [[nodiscard]] bool statesPresentationTimes() const;
+
+    /// Whether times and positions only make sense when the file is read from its start.
+    [[nodiscard]] bool canOnlyReadOn() const;
+
+    /// The dts of the last key frame that is known to be decoded at or before `timestamp`; both in
+    /// the time base of the stream.
+    [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(int streamIndex,
+                                                             std::int64_t timestamp) const;
+
     /// Leaves out the packets of all other streams from now on.
     void selectOnly(const std::vector<int>& streamIndexes);
 
@@ -49,7 +67,10 @@ private:
     /// Throws Error if the file could not be read, or has become shorter since it was opened.
     void checkSource() const;
 
+    void moveTo(const PictureIndex::Entry& entry);
+
     struct Io;
+    std::shared_ptr<const PictureIndex> m_pictures;
     std::unique_ptr<Io> m_io;
     IoContextPtr m_ioContext;
     FormatContextPtr m_context;

@@ -12,8 +12,10 @@ namespace media::ffmpeg {
 /// take a while to parse. Any thread.
 class DemuxerPool {
 public:
-    DemuxerPool(std::shared_ptr<const SourceFile> file, const AVInputFormat* format)
-        : m_file(std::move(file)), m_format(format) {}
+    /// `pictures`: of a bare bitstream; null for others.
+    DemuxerPool(std::shared_ptr<const SourceFile> file, const AVInputFormat* format,
+                std::shared_ptr<const PictureIndex> pictures)
+        : m_file(std::move(file)), m_format(format), m_pictures(std::move(pictures)) {}
 
     /// A demuxer for the caller alone, at no particular position and with no particular selection:
     /// one that was given back, or a new one. Throws Error; Cancelled.
@@ -25,6 +27,7 @@ public:
 private:
     std::shared_ptr<const SourceFile> m_file;
     const AVInputFormat* m_format;
+    std::shared_ptr<const PictureIndex> m_pictures;
     Guarded<std::unique_ptr<Demuxer>> m_idle;
 };
 

@@ -58,7 +58,7 @@ public:
     }
 
     FirstPictures read(const std::stop_token& stop) {
-        const bool mustJudge = !statesPresentationTimes(*m_demuxer.context().iformat);
+        const bool mustJudge = !m_demuxer.statesPresentationTimes();
         for (int read = 0; !m_timestamp || (mustJudge && m_packets < kPacketsToJudge) ||
                            (isAwaitingSound() && read < kPacketsForSound);
              ++read) {
@@ -286,6 +286,8 @@ Ends measureEnds(Demuxer& demuxer, const std::vector<SourceTrack>& tracks,
 
 Time findDuration(Demuxer& demuxer, const SourceFile& file, const SourceInfo& info,
                   const std::stop_token& stop) {
+    if (info.pictures)
+        return timeOf(info.pictures->end(), info.tracks.front().timeBase) - info.origin;
     const bool isIndexed = indexReachesEnd(demuxer.context(), file, info.tracks);
     const Ends ends = isIndexed ? Ends{} : measureEnds(demuxer, info.tracks, stop);
     Time latest = info.origin;
@@ -321,6 +323,11 @@ void describeChapters(SourceInfo& info, const AVFormatContext& context) {
     }
 }
 
+void setFrameRate(SourceTrack& track, AVRational rate) {
+    track.averageFrameRate = rate;
+    track.facts.nominalFrameRate = static_cast<float>(av_q2d(rate));
+}
+
 /// Time codes stand with the picture, with a track of their own or with the whole file.
 std::string findTimecode(const AVFormatContext& context, int pictureStream) {
     const auto of = [](const AVDictionary* metadata) -> std::string {
@@ -341,9 +348,12 @@ std::string findTimecode(const AVFormatContext& context, int pictureStream) {
 
 SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
     demuxer.findStreamInfo(stop);
-    AVFormatContext& context = demuxer.context();
-    expectNoEncryption(context);
+    expectNoEncryption(demuxer.context());
     SourceInfo info;
+    info.pictures = PictureIndex::read(demuxer, stop);
+    if (info.pictures)
+        demuxer.usePictures(info.pictures);
+    AVFormatContext& context = demuxer.context();
     info.format = context.iformat;
     for (unsigned i = 0; i < context.nb_streams; ++i) {
         if (isUsableStream(context, *context.streams[i]))
@@ -364,6 +374,8 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
         video->dynamicRange =
             describeDynamicRange(*context.streams[video->facts.streamIndex], reader->picture());
         video->fieldOrder = fieldOrderOf(*video->parameters, reader->picture());
+        if (info.pictures)
+            setFrameRate(*video, info.pictures->frameRate());
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;

@@ -3,7 +3,9 @@
 #include "Media/Asset.h"
 #include "Media/FFmpeg/Handles.h"
 #include "Media/FFmpeg/HighDynamicRange.h"
+#include "Media/FFmpeg/PictureIndex.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,8 @@ struct SourceChapter {
 struct SourceInfo {
     /// Short name of the demuxer, handed to later openings so that nothing is guessed twice.
     const AVInputFormat* format = nullptr;
+    /// Of a bare bitstream whose pictures can be put in order; null for others.
+    std::shared_ptr<const PictureIndex> pictures;
     /// The container time that is the asset's time 0.
     Time origin;
     Time duration;

@@ -1,0 +1,138 @@
+#include "Media/FFmpeg/PictureIndex.h"
+
+#include "Media/FFmpeg/CodedPictures.h"
+#include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/DisplayOrder.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace media::ffmpeg {
+
+namespace {
+
+constexpr AVRational kUsualFrameRate{25, 1};
+/// Above this a frame rate is taken to be a tick rate.
+constexpr double kHighestFrameRate = 1000;
+/// More pictures than that, a day and a half of 60 a second, only a made-up file has: it is taken
+/// to end there.
+constexpr std::size_t kMostPackets = 8'000'000;
+
+/// The codec of a bitstream whose packets tell the order of their pictures.
+std::optional<AVCodecID> orderedCodec(const AVFormatContext& context) {
+    constexpr std::string_view kFormats[] = {"h264", "hevc", "mpegvideo", "m4v"};
+    const bool isKnown =
+        std::ranges::find(kFormats, std::string_view(context.iformat->name)) != std::end(kFormats);
+    if (!isKnown || context.nb_streams != 1)
+        return std::nullopt;
+    return context.streams[0]->codecpar->codec_id;
+}
+
+/// Without times in the packets the stream's averages are guesses; its other rate is what its
+/// headers state.
+AVRational frameRateOf(const AVStream& stream, AVRational statedInSequence) {
+    for (const AVRational rate : {statedInSequence, stream.r_frame_rate, stream.avg_frame_rate}) {
+        if (rate.num > 0 && rate.den > 0 && av_q2d(rate) <= kHighestFrameRate)
+            return rate;
+    }
+    return kUsualFrameRate;
+}
+
+/// Collects the packets of a bitstream and gives each its times in the end.
+class Collection {
+public:
+    void add(const AVPacket& packet, const CodedPicture& picture) {
+        PictureIndex::Entry entry;
+        entry.position = packet.pos;
+        entry.isKey = (packet.flags & AV_PKT_FLAG_KEY) != 0;
+        if (picture.isSecondField && !m_entries.empty()) {
+            // The fields of one frame share a place in the order, each adds half a frame to it.
+            m_slots.push_back(m_slots.back());
+            m_order.extendLast(picture.halves);
+            entry.isKey = false;
+        } else {
+            m_slots.push_back(m_order.add(picture));
+        }
+        m_entries.push_back(entry);
+    }
+
+    [[nodiscard]] std::size_t size() const { return m_entries.size(); }
+
+    std::shared_ptr<const PictureIndex> indexed(AVRational frameRate, AVRational timeBase) {
+        if (m_entries.empty())
+            return nullptr;
+        const AVRational half{frameRate.den, 2 * frameRate.num};
+        const auto timeOf = [&](std::int64_t halves) {
+            return av_rescale_q(halves, half, timeBase);
+        };
+        const std::vector<DisplayOrder::Place> places = m_order.finish();
+        for (std::size_t i = 0; i < m_entries.size(); ++i) {
+            const DisplayOrder::Place& place = places[m_slots[i]];
+            PictureIndex::Entry& entry = m_entries[i];
+            entry.dts = timeOf(place.decodedAt - m_order.delay());
+            entry.duration = timeOf(place.halves);
+            if (place.shownAt)
+                entry.pts = timeOf(*place.shownAt);
+        }
+        return std::make_shared<const PictureIndex>(std::move(m_entries), frameRate,
+                                                    timeOf(m_order.end()));
+    }
+
+private:
+    std::vector<PictureIndex::Entry> m_entries;
+    /// By packet: the number of its picture.
+    std::vector<std::size_t> m_slots;
+    DisplayOrder m_order;
+};
+
+} // namespace
+
+PictureIndex::PictureIndex(std::vector<Entry> entries, AVRational frameRate, std::int64_t end)
+    : m_entries(std::move(entries)), m_frameRate(frameRate), m_end(end) {
+    std::ranges::copy_if(m_entries, std::back_inserter(m_keyFrames), [](const Entry& entry) {
+        return entry.isKey && entry.pts != AV_NOPTS_VALUE;
+    });
+    std::ranges::stable_sort(m_keyFrames, {}, &Entry::pts);
+}
+
+std::shared_ptr<const PictureIndex> PictureIndex::read(Demuxer& demuxer,
+                                                       const std::stop_token& stop) {
+    const auto codec = orderedCodec(demuxer.context());
+    if (!codec || !CodedPictures::canRead(*codec))
+        return nullptr;
+    const AVStream& stream = *demuxer.context().streams[0];
+    CodedPictures pictures(*stream.codecpar);
+    Collection collection;
+    demuxer.reopen(stop);
+    const PacketPtr packet = makePacket();
+    while (collection.size() < kMostPackets &&
+           demuxer.read(*packet, stop) == Demuxer::Status::packet) {
+        if (const auto picture = pictures.next(*packet))
+            collection.add(*packet, *picture);
+        av_packet_unref(packet.get());
+    }
+    const AVStream& reopened = *demuxer.context().streams[0];
+    return collection.indexed(frameRateOf(reopened, pictures.statedFrameRate()),
+                              reopened.time_base);
+}
+
+bool PictureIndex::stamp(AVPacket& packet) const {
+    const auto entry = std::ranges::lower_bound(m_entries, packet.pos, {}, &Entry::position);
+    const bool isKnown = entry != m_entries.end() && entry->position == packet.pos;
+    packet.pts = isKnown ? entry->pts : AV_NOPTS_VALUE;
+    packet.dts = isKnown ? entry->dts : AV_NOPTS_VALUE;
+    packet.duration = isKnown ? entry->duration : 0;
+    return !isKnown || entry->pts != AV_NOPTS_VALUE;
+}
+
+const PictureIndex::Entry* PictureIndex::keyFrameShownBefore(std::int64_t pts) const {
+    const auto after = std::ranges::upper_bound(m_keyFrames, pts, {}, &Entry::pts);
+    return after == m_keyFrames.begin() ? nullptr : &*std::prev(after);
+}
+
+const PictureIndex::Entry* PictureIndex::keyFrameDecodedBefore(std::int64_t dts) const {
+    const auto after = std::ranges::upper_bound(m_keyFrames, dts, {}, &Entry::dts);
+    return after == m_keyFrames.begin() ? nullptr : &*std::prev(after);
+}
+
+} // namespace media::ffmpeg
