@@ -42,4 +42,21 @@ TEST(CliSources, bareBitstreamsHaveALengthAndAPictureAtEachTime) {
     EXPECT_EQ(frames.back().number, 59);
 }
 
+/// Thirty frames a second with two gaps are 28 on average, and on a grid of 28 some were lost.
+TEST(CliSources, gapsCostNoPictureOnAGrid) {
+    const TemporaryFolder folder;
+    const auto source = testsupport::cachedMedia(
+        "gaps-cli.mp4", {"-i", makeFixture({.audioTracks = 0}).path.string(), "-vf",
+                         "select='not(between(n,20,24)+between(n,40,43))'", "-fps_mode",
+                         "passthrough", "-enc_time_base", "1:90000", "-c:v", "libx264"});
+    const std::string output = folder / "out.mp4";
+    ASSERT_EQ(cli({"export", source.string(), output, "--max-short-edge", "120"}).exitStatus, 0);
+    EXPECT_EQ(testsupport::probe(output).streamsOf("video").at(0).text("r_frame_rate"), "30/1");
+    std::vector<int> shown;
+    for (const auto& frame : testsupport::readNumberedFrames(output))
+        shown.push_back(frame.number);
+    for (const auto& frame : testsupport::readNumberedFrames(source))
+        EXPECT_THAT(shown, testing::Contains(frame.number));
+}
+
 } // namespace

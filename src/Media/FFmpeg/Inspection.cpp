@@ -5,6 +5,7 @@
 #include "Media/FFmpeg/Demuxer.h"
 #include "Media/FFmpeg/Encryption.h"
 #include "Media/FFmpeg/LibavReleases.h"
+#include "Media/FFmpeg/PrevailingRate.h"
 #include "Media/FFmpeg/TrackFacts.h"
 
 #include <algorithm>
@@ -35,6 +36,16 @@ struct FirstPictures {
 
 /// How many packets are looked at to learn whether a track states its presentation times.
 constexpr int kPacketsToJudge = 16;
+
+/// How much is read of a container without an index of all pictures to learn at which distances
+/// they follow one another.
+constexpr int kTimesToJudge = 64;
+constexpr std::int64_t kBytesToJudge = 4'000'000;
+/// By which part an average has to differ from the rate that prevails; too little to lose a
+/// picture.
+constexpr double kSmallestDeviation = 0.0025;
+/// No decoder keeps more pictures to put them in order.
+constexpr std::size_t kMostReordered = 16;
 
 /// How many packets are read in search of the second one of a sound.
 constexpr int kPacketsForSound = 64;
@@ -70,6 +81,22 @@ public:
         return judged();
     }
 
+    /// When the first pictures are shown or, if not all say so, decoded; after read(), and as far
+    /// as little has to be read for it.
+    std::vector<std::int64_t> times(const std::stop_token& stop) {
+        while (m_packets < kTimesToJudge && m_bytes < kBytesToJudge && readPacket(stop)) {
+        }
+        if (m_packetsWithoutPts > 0)
+            return std::ranges::find(m_dts, AV_NOPTS_VALUE) == m_dts.end()
+                       ? m_dts
+                       : std::vector<std::int64_t>();
+        // Between the last ones some may be missing that are decoded later.
+        std::vector<std::int64_t> shown = m_pts;
+        std::ranges::sort(shown);
+        shown.resize(shown.size() - std::min(shown.size(), kMostReordered));
+        return shown;
+    }
+
     /// When the second packet of a stream is presented; its time base. Known of Vorbis only.
     [[nodiscard]] std::optional<std::int64_t> secondPacket(int stream) const {
         const auto entry = m_soundTimes.find(stream);
@@ -87,6 +114,7 @@ private:
         const bool hasPacket = m_demuxer.read(*m_packet, stop) == Demuxer::Status::packet;
         if (hasPacket)
             expectNoEncryption(*m_packet);
+        m_bytes += hasPacket ? m_packet->size : 0;
         if (hasPacket && m_packet->stream_index != m_track.facts.streamIndex) {
             noteSound();
             av_packet_unref(m_packet.get());
@@ -95,6 +123,8 @@ private:
         if (hasPacket) {
             ++m_packets;
             m_packetsWithoutPts += m_packet->pts == AV_NOPTS_VALUE ? 1 : 0;
+            m_pts.push_back(m_packet->pts);
+            m_dts.push_back(m_packet->dts);
             if (m_firstDts == AV_NOPTS_VALUE)
                 m_firstDts = m_packet->dts;
         }
@@ -142,6 +172,9 @@ private:
     std::int64_t m_firstDts = AV_NOPTS_VALUE;
     /// The first two times of each stream whose first packet is silent.
     std::map<int, std::vector<std::int64_t>> m_soundTimes;
+    std::int64_t m_bytes = 0;
+    std::vector<std::int64_t> m_pts;
+    std::vector<std::int64_t> m_dts;
     int m_packets = 0;
     int m_packetsWithoutPts = 0;
 };
@@ -328,6 +361,26 @@ void setFrameRate(SourceTrack& track, AVRational rate) {
     track.facts.nominalFrameRate = static_cast<float>(av_q2d(rate));
 }
 
+/// The rate that prevails in a track, where the average over all is another because of gaps. Fields
+/// that come one by one and those that come in pairs are at different distances, but no gaps.
+void findFrameRate(SourceTrack& track, const SourceInfo& info, Demuxer& demuxer,
+                   FirstPicturesReader& reader, const std::stop_token& stop) {
+    if (info.pictures) {
+        setFrameRate(track, info.pictures->frameRate());
+        return;
+    }
+    AVFormatContext& context = demuxer.context();
+    std::vector<std::int64_t> times =
+        indexedTimes(context, *context.streams[track.facts.streamIndex]);
+    if (times.empty() && !track.isInterlaced())
+        times = reader.times(stop);
+    const auto rate = rateBetweenGaps(std::move(times), track.timeBase);
+    const double average = static_cast<double>(track.facts.nominalFrameRate);
+    // Where there is no real difference the container knows better than its rounded times.
+    if (rate && std::abs(*rate - average) > kSmallestDeviation * *rate)
+        track.facts.nominalFrameRate = static_cast<float>(*rate);
+}
+
 /// Time codes stand with the picture, with a track of their own or with the whole file.
 std::string findTimecode(const AVFormatContext& context, int pictureStream) {
     const auto of = [](const AVDictionary* metadata) -> std::string {
@@ -374,8 +427,7 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
         video->dynamicRange =
             describeDynamicRange(*context.streams[video->facts.streamIndex], reader->picture());
         video->fieldOrder = fieldOrderOf(*video->parameters, reader->picture());
-        if (info.pictures)
-            setFrameRate(*video, info.pictures->frameRate());
+        findFrameRate(*video, info, demuxer, *reader, stop);
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;

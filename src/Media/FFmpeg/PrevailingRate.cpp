@@ -1,0 +1,66 @@
+#include "Media/FFmpeg/PrevailingRate.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string_view>
+
+namespace media::ffmpeg {
+
+namespace {
+
+/// Distances that differ from the middle one by less than this part of it are the same one: clocks
+/// of cameras are not even, and containers round.
+constexpr std::int64_t kToleranceDivisor = 10;
+/// How many of all distances have to be the same for the others to be gaps.
+constexpr double kPrevailingPart = 0.75;
+constexpr std::size_t kFewestDistances = 8;
+
+std::vector<std::int64_t> distances(std::vector<std::int64_t> times) {
+    std::ranges::sort(times);
+    std::vector<std::int64_t> result;
+    for (std::size_t i = 1; i < times.size(); ++i) {
+        if (times[i] > times[i - 1])
+            result.push_back(times[i] - times[i - 1]);
+    }
+    return result;
+}
+
+} // namespace
+
+std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRational timeBase) {
+    std::vector<std::int64_t> all = distances(std::move(times));
+    if (all.size() < kFewestDistances)
+        return std::nullopt;
+    const auto middle = all.begin() + static_cast<std::ptrdiff_t>(all.size() / 2);
+    std::ranges::nth_element(all, middle);
+    const std::int64_t usual = *middle;
+    const std::int64_t tolerance = std::max<std::int64_t>(1, usual / kToleranceDivisor);
+    std::size_t count = 0;
+    double sum = 0;
+    for (const std::int64_t distance : all) {
+        if (std::abs(distance - usual) <= tolerance) {
+            ++count;
+            sum += static_cast<double>(distance);
+        }
+    }
+    if (count == all.size() ||
+        static_cast<double>(count) < kPrevailingPart * static_cast<double>(all.size()))
+        return std::nullopt;
+    return static_cast<double>(count) / (sum * av_q2d(timeBase));
+}
+
+std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream& stream) {
+    std::vector<std::int64_t> times;
+    if (!std::string_view(context.iformat->name).starts_with("mov"))
+        return times;
+    const int count = avformat_index_get_entries_count(&stream);
+    times.reserve(static_cast<std::size_t>(std::max(count, 0)));
+    for (int i = 0; i < count; ++i) {
+        const AVIndexEntry* entry = avformat_index_get_entry(&stream, i);
+        if (!(entry->flags & AVINDEX_DISCARD_FRAME))
+            times.push_back(entry->timestamp);
+    }
+    return times;
+}
+
+} // namespace media::ffmpeg

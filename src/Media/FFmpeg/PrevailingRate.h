@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Media/FFmpeg/Handles.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace media::ffmpeg {
+
+/// Frames per second of pictures that follow one another at one distance but for gaps between some
+/// of them, of which an average knows nothing. None where there are no such gaps, where the
+/// distances are of all kinds, or where there are too few to tell. `times` in any order, in
+/// `timeBase`.
+std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRational timeBase);
+
+/// When the samples are decoded that a container's index lists, as far as they are shown; in the
+/// stream's time base. Empty for containers whose index does not list all.
+std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream& stream);
+
+} // namespace media::ffmpeg
