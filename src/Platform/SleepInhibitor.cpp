@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QVariantMap>
 
 #include <utility>
@@ -14,8 +15,16 @@ namespace {
 /// The portal's flag for suspending.
 constexpr uint kSuspend = 4;
 
+QString portalService() {
+    return QStringLiteral("org.freedesktop.portal.Desktop");
+}
+
+QString screenSaverService() {
+    return QStringLiteral("org.freedesktop.ScreenSaver");
+}
+
 QDBusMessage screenSaverCall(const QString& method) {
-    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
+    return QDBusMessage::createMethodCall(screenSaverService(),
                                           QStringLiteral("/org/freedesktop/ScreenSaver"),
                                           QStringLiteral("org.freedesktop.ScreenSaver"), method);
 }
@@ -32,22 +41,23 @@ SleepInhibitor::~SleepInhibitor() {
 void SleepInhibitor::inhibit(const QString& reason) {
     m_isWanted = true;
     // The answer to an earlier question still comes, and serves this one.
-    if (m_isAsked || m_release.type() != QDBusMessage::InvalidMessage)
+    if (m_isAsked || m_isRefused || m_release.type() != QDBusMessage::InvalidMessage)
         return;
     m_isAsked = true;
+    m_reason = reason;
     askPortal(reason);
 }
 
 void SleepInhibitor::release() {
     m_isWanted = false;
+    m_isRefused = false;
     if (m_release.type() != QDBusMessage::InvalidMessage)
         m_bus.send(std::exchange(m_release, QDBusMessage()));
 }
 
 void SleepInhibitor::askPortal(const QString& reason) {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"),
-        QStringLiteral("/org/freedesktop/portal/desktop"),
+        portalService(), QStringLiteral("/org/freedesktop/portal/desktop"),
         QStringLiteral("org.freedesktop.portal.Inhibit"), QStringLiteral("Inhibit"));
     call << QString() << kSuspend << QVariantMap{{QStringLiteral("reason"), reason}};
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
@@ -57,9 +67,9 @@ void SleepInhibitor::askPortal(const QString& reason) {
         if (reply.isError())
             askScreenSaver(reason);
         else
-            hold(QDBusMessage::createMethodCall(
-                QStringLiteral("org.freedesktop.portal.Desktop"), reply.value().path(),
-                QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close")));
+            hold(QDBusMessage::createMethodCall(portalService(), reply.value().path(),
+                                                QStringLiteral("org.freedesktop.portal.Request"),
+                                                QStringLiteral("Close")));
     });
 }
 
@@ -72,6 +82,8 @@ void SleepInhibitor::askScreenSaver(const QString& reason) {
         const QDBusPendingReply<uint> reply = *watcher;
         if (reply.isError()) {
             m_isAsked = false;
+            m_isRefused = m_isWanted;
+            watchServices();
             return;
         }
         QDBusMessage releasingCall = screenSaverCall(QStringLiteral("UnInhibit"));
@@ -85,6 +97,22 @@ void SleepInhibitor::hold(const QDBusMessage& releasingCall) {
     m_release = releasingCall;
     if (!m_isWanted)
         release();
+}
+
+void SleepInhibitor::watchServices() {
+    if (m_services != nullptr)
+        return;
+    m_services = new QDBusServiceWatcher(this);
+    m_services->setConnection(m_bus);
+    m_services->setWatchMode(QDBusServiceWatcher::WatchForRegistration);
+    m_services->setWatchedServices({portalService(), screenSaverService()});
+    connect(m_services, &QDBusServiceWatcher::serviceRegistered, this,
+            &SleepInhibitor::serviceAppeared);
+}
+
+void SleepInhibitor::serviceAppeared() {
+    if (std::exchange(m_isRefused, false))
+        inhibit(m_reason);
 }
 
 } // namespace brisklet

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 
+class QDBusServiceWatcher;
+
 namespace brisklet {
 
 /// Keeps the computer from going to sleep, through the desktop portal or, where there is none,
@@ -18,7 +20,8 @@ public:
     /// Lets the computer sleep.
     ~SleepInhibitor() override;
 
-    /// `reason` is a sentence for the user. Does nothing while it inhibits already.
+    /// `reason` is a sentence for the user. Does nothing while it inhibits already. A refusal holds
+    /// until release(), or until one of the services appears anew.
     void inhibit(const QString& reason);
     void release();
 
@@ -26,10 +29,16 @@ private:
     void askPortal(const QString& reason);
     void askScreenSaver(const QString& reason);
     void hold(const QDBusMessage& releasingCall);
+    void watchServices();
+    void serviceAppeared();
 
     QDBusConnection m_bus;
     bool m_isWanted = false;
     bool m_isAsked = false;
+    bool m_isRefused = false;
+    QString m_reason;
+    /// Made with the first refusal.
+    QDBusServiceWatcher* m_services = nullptr;
     /// Ends what was granted; of no type while nothing was.
     QDBusMessage m_release;
 };

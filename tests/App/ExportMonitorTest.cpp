@@ -88,6 +88,62 @@ TEST_F(ExportMonitorTest, letsTheComputerSleepThoughTheAnswerComesTooLate) {
     }));
 }
 
+/// A service that refused was asked again at each report of progress: 1578 times in 81 seconds.
+TEST_F(ExportMonitorTest, asksAServiceThatRefusesOncePerExport) {
+    testsupport::FakeScreenSaver& screenSaver = m_desktop->screenSaver;
+    screenSaver.isRefusing = true;
+    for (int exports = 1; exports <= 2; ++exports) {
+        ASSERT_TRUE(startLongExport(*m_window));
+        int reports = 0;
+        const auto counting =
+            QObject::connect(m_window->state().get(), &EditState::exportProgressChanged, m_window,
+                             [&reports] { ++reports; });
+        // Each report finds the refusal of the one before: the answers arrive between them.
+        ASSERT_TRUE(pumpUntil([&] { return screenSaver.refusals >= exports && reports >= 5; }));
+        QObject::disconnect(counting);
+        EXPECT_EQ(screenSaver.refusals, exports);
+        m_window->state()->cancelExport();
+        ASSERT_TRUE(waitForEnd());
+    }
+    EXPECT_EQ(screenSaver.refusals, 2);
+    EXPECT_EQ(screenSaver.everInhibited, 0);
+}
+
+TEST_F(ExportMonitorTest, asksAgainWhenAServiceAppears) {
+    testsupport::FakeScreenSaver& screenSaver = m_desktop->screenSaver;
+    screenSaver.isRefusing = true;
+    SleepInhibitor inhibitor(m_bus.connect());
+    inhibitor.inhibit(QStringLiteral("Reason"));
+    ASSERT_TRUE(pumpUntil([&] { return screenSaver.refusals == 1; }));
+    screenSaver.isRefusing = false;
+    // Until the refusal has arrived the one that appears is not yet of interest.
+    ASSERT_TRUE(pumpUntil([&] {
+        screenSaver.disappear();
+        screenSaver.appear();
+        return screenSaver.inhibitors == 1;
+    }));
+    EXPECT_EQ(screenSaver.reason, QStringLiteral("Reason"));
+    inhibitor.release();
+    EXPECT_TRUE(pumpUntil([&] { return screenSaver.inhibitors == 0; }));
+}
+
+TEST_F(ExportMonitorTest, asksNoServiceThatAppearsAfterTheExport) {
+    testsupport::FakeScreenSaver& screenSaver = m_desktop->screenSaver;
+    screenSaver.isRefusing = true;
+    SleepInhibitor inhibitor(m_bus.connect());
+    inhibitor.inhibit(QStringLiteral("Reason"));
+    ASSERT_TRUE(pumpUntil([&] { return screenSaver.refusals == 1; }));
+    inhibitor.release();
+    screenSaver.disappear();
+    screenSaver.appear();
+    // What comes after it on the same bus has been heard.
+    testsupport::FakePortal portal(m_bus.connect());
+    SleepInhibitor other(m_bus.connect());
+    other.inhibit(QStringLiteral("Other"));
+    ASSERT_TRUE(pumpUntil([&] { return portal.inhibitions == 1; }));
+    EXPECT_EQ(screenSaver.refusals, 1);
+}
+
 TEST_F(ExportMonitorTest, showsTheProgressInTheTaskbar) {
     ASSERT_TRUE(startLongExport(*m_window));
     EXPECT_TRUE(pumpUntil(

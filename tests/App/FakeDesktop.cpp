@@ -7,7 +7,15 @@ namespace testsupport {
 FakeScreenSaver::FakeScreenSaver(QDBusConnection bus) : m_bus(std::move(bus)) {
     m_bus.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), this,
                          QDBusConnection::ExportAllSlots);
+    appear();
+}
+
+void FakeScreenSaver::appear() {
     m_bus.registerService(QStringLiteral("org.freedesktop.ScreenSaver"));
+}
+
+void FakeScreenSaver::disappear() {
+    m_bus.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
 }
 
 FakePortal::FakePortal(QDBusConnection bus) : m_bus(std::move(bus)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusObjectPath>
 #include <QObject>
 #include <QStringList>
@@ -9,13 +10,19 @@
 namespace testsupport {
 
 /// The session's screen saver.
-class FakeScreenSaver final : public QObject {
+class FakeScreenSaver final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
 
 public:
     explicit FakeScreenSaver(QDBusConnection bus);
 
+    /// Takes its name again, as after a restart: whoever holds it back is told that it is there.
+    void appear();
+    void disappear();
+
+    bool isRefusing = false;
+    int refusals = 0;
     int inhibitors = 0;
     int everInhibited = 0;
     QString reason;
@@ -23,6 +30,11 @@ public:
 public Q_SLOTS:
 
     uint Inhibit(const QString& /*application*/, const QString& why) {
+        if (isRefusing) {
+            ++refusals;
+            sendErrorReply(QDBusError::AccessDenied, QStringLiteral("Refused"));
+            return 0;
+        }
         ++inhibitors;
         ++everInhibited;
         reason = why;
