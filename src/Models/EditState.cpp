@@ -221,12 +221,13 @@ void EditState::seekPlayer(double to) {
 
 void EditState::setTrimStartToPlayhead() {
     // std::max gives its first argument where the second is NaN.
-    m_trimStart = std::min(std::max(0.0, m_currentTime.value()), m_trimEnd - kMinimumRange);
+    const double latest = std::max(m_trimEnd - kMinimumRange, 0.0);
+    m_trimStart = std::min(std::max(0.0, m_currentTime.value()), latest);
 }
 
 void EditState::setTrimEndToPlayhead() {
-    m_trimEnd =
-        std::max(std::min(m_currentTime.value(), m_duration.value()), m_trimStart + kMinimumRange);
+    const double earliest = std::min(m_trimStart + kMinimumRange, m_duration.value());
+    m_trimEnd = std::max(std::min(m_currentTime.value(), m_duration.value()), earliest);
 }
 
 void EditState::rotateLeft() {

@@ -117,7 +117,8 @@ public:
     void togglePlayback();
     /// Moves the playhead, limited to the file, and keeps the play state.
     void seek(double to);
-    /// Move one end of the range to the playhead, 0.1 s from the other end at the least.
+    /// Move one end of the range to the playhead, 0.1 s from the other end at the least, but not
+    /// out of the file: one that is shorter stays whole.
     void setTrimStartToPlayhead();
     void setTrimEndToPlayhead();
     /// A quarter turn counter-clockwise; a crop keeps covering the same part of the picture.

@@ -70,12 +70,20 @@ std::optional<HandleEdge> TimelineGeometry::handleAt(const QPointF& point) const
     return std::nullopt;
 }
 
+double TimelineGeometry::latestStart() const {
+    return std::max(trimEnd - kMinimumRange, 0.0);
+}
+
+double TimelineGeometry::earliestEnd() const {
+    return std::min(trimStart + kMinimumRange, duration);
+}
+
 double TimelineGeometry::clampedStart(double time) const {
-    return std::min(std::max(time, 0.0), trimEnd - kMinimumRange);
+    return std::min(std::max(time, 0.0), latestStart());
 }
 
 double TimelineGeometry::clampedEnd(double time) const {
-    return std::max(std::min(time, duration), trimStart + kMinimumRange);
+    return std::max(std::min(time, duration), earliestEnd());
 }
 
 } // namespace brisklet

@@ -51,8 +51,13 @@ struct TimelineGeometry {
     /// The handle under a point of the strip; they lie above everything else.
     [[nodiscard]] std::optional<HandleEdge> handleAt(const QPointF& point) const;
 
+    /// How near the ends of the range may come to each other: kMinimumRange, but neither leaves the
+    /// file. So a file that is shorter than that stays whole.
+    [[nodiscard]] double latestStart() const;
+    [[nodiscard]] double earliestEnd() const;
+
     /// What a handle that is put at `time` makes of its end of the range: inside the file, and
-    /// kMinimumRange away from the other end, which wins.
+    /// away from the other end, which wins.
     [[nodiscard]] double clampedStart(double time) const;
     [[nodiscard]] double clampedEnd(double time) const;
 

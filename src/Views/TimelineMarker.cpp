@@ -88,11 +88,11 @@ double TimelineMarker::value() const {
 }
 
 double TimelineMarker::minimum() const {
-    return m_role == Role::trimEnd ? m_state->trimStart() + TimelineGeometry::kMinimumRange : 0;
+    return m_role == Role::trimEnd ? timeline::geometryOf(*m_state, 0, 0, 0).earliestEnd() : 0;
 }
 
 double TimelineMarker::maximum() const {
-    return m_role == Role::trimStart ? m_state->trimEnd() - TimelineGeometry::kMinimumRange
+    return m_role == Role::trimStart ? timeline::geometryOf(*m_state, 0, 0, 0).latestStart()
                                      : m_state->duration();
 }
 

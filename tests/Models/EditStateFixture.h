@@ -61,5 +61,7 @@ protected:
 };
 
 inline const testsupport::Recipe kTenSeconds{.duration = 10};
+/// Two frames: less than the shortest range that the handles make.
+inline const testsupport::Recipe kTwoFrames{.duration = 2.0 / 30, .audioTracks = 0};
 
 } // namespace brisklet

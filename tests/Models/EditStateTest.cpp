@@ -359,6 +359,20 @@ TEST_F(EditStateTest, mutesThePlayerAtOnce) {
     state().setMuted(false);
     EXPECT_FALSE(player().isMuted());
     // The flag wins over whatever has been done to the player meanwhile, changed or not.
+/// The range of a shorter file began before the file, or ended after it.
+TEST_F(EditStateTest, keepsAFileWholeThatIsShorterThanTheShortestRange) {
+    ASSERT_TRUE(loadAndWait(kTwoFrames));
+    const double duration = state().duration();
+    ASSERT_LT(duration, 0.1);
+    for (const double time : {0.0, duration / 2, duration}) {
+        state().seek(time);
+        state().setTrimStartToPlayhead();
+        EXPECT_EQ(state().trimStart(), 0) << time;
+        state().setTrimEndToPlayhead();
+        EXPECT_EQ(state().trimEnd(), duration) << time;
+    }
+}
+
     player().setMuted(true);
     const QSignalSpy spy(&state(), &EditState::isMutedChanged);
     state().setMuted(false);

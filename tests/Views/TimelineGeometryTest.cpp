@@ -155,13 +155,30 @@ TEST(TimelineGeometry, keepsTheEndsInsideTheFileAndApart) {
     EXPECT_EQ(geometry.clampedEnd(11), 10);
 }
 
-TEST(TimelineGeometry, letsTheOtherEndWinInFilesThatAreTooShort) {
+/// The start of a shorter file was put before its beginning, and its handle beside the strip.
+TEST(TimelineGeometry, keepsAFileWholeThatIsShorterThanTheShortestRange) {
     TimelineGeometry geometry = tenSeconds();
     geometry.duration = 0.04;
     geometry.trimStart = 0;
     geometry.trimEnd = 0.04;
-    EXPECT_EQ(geometry.clampedEnd(0.04), 0.1);
-    EXPECT_EQ(geometry.clampedStart(0), 0.04 - 0.1);
+    for (const double time : {-1.0, 0.0, 0.02, 0.04, 1.0}) {
+        EXPECT_EQ(geometry.clampedStart(time), 0) << time;
+        EXPECT_EQ(geometry.clampedEnd(time), 0.04) << time;
+    }
+}
+
+TEST(TimelineGeometry, neverRoundsAnEndOutOfTheFile) {
+    TimelineGeometry geometry = tenSeconds();
+    // Sums and differences of these do not come out even.
+    for (const double duration : {0.1, 0.3, 0.7, 1.1, 6.1, 9.9}) {
+        geometry.duration = geometry.trimEnd = duration;
+        geometry.trimStart = geometry.clampedStart(duration);
+        EXPECT_GE(geometry.trimStart, 0) << duration;
+        EXPECT_LE(geometry.clampedEnd(0), duration) << duration;
+        geometry.trimStart = 0;
+        geometry.trimEnd = geometry.clampedEnd(0);
+        EXPECT_GE(geometry.clampedStart(0), 0) << duration;
+    }
 }
 
 } // namespace
