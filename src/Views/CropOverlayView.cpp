@@ -4,6 +4,7 @@
 #include "Views/CropKeys.h"
 #include "Views/CropOverlayAccessible.h"
 #include "Views/CropPainting.h"
+#include "Views/FocusReasons.h"
 
 #include <QAccessible>
 #include <QFocusEvent>
@@ -211,11 +212,8 @@ void CropOverlayView::keyPressEvent(QKeyEvent* event) {
 }
 
 void CropOverlayView::focusInEvent(QFocusEvent* event) {
-    const Qt::FocusReason reason = event->reason();
-    // A window or a menu that gives the focus back leaves it as visible as it was.
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-        m_isFocusShown = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                         reason == Qt::ShortcutFocusReason;
+    if (!isPassingFocus(event->reason()))
+        m_isFocusShown = isKeyboardFocus(event->reason());
     update();
     QWidget::focusInEvent(event);
 }
@@ -232,6 +230,8 @@ void CropOverlayView::paintEvent(QPaintEvent* /*event*/) {
     CropPainting(painter, m_geometry, cropViewRect(), palette())
         .paint(hasFocus() && m_isFocusShown ? CropPainting::Focus::shown
                                             : CropPainting::Focus::hidden);
+    if (!isPassingFocus(event->reason()))
+        m_isFocusShown = false;
 }
 
 void CropOverlayView::announce() {

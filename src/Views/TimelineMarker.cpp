@@ -2,6 +2,7 @@
 
 #include "Media/Player.h"
 #include "Models/EditState.h"
+#include "Views/FocusReasons.h"
 #include "Views/TimelineEdits.h"
 #include "Views/TimelineMarkerAccessible.h"
 
@@ -21,11 +22,6 @@ constexpr int kShiftFactor = 10;
 
 HandleEdge edgeOf(TimelineMarker::Role role) {
     return role == TimelineMarker::Role::trimStart ? HandleEdge::leading : HandleEdge::trailing;
-}
-
-bool isKeyboardReason(Qt::FocusReason reason) {
-    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-           reason == Qt::ShortcutFocusReason;
 }
 
 } // namespace
@@ -172,15 +168,16 @@ void TimelineMarker::apply(const TimelineMove& move) {
 
 void TimelineMarker::focusInEvent(QFocusEvent* event) {
     const Qt::FocusReason reason = event->reason();
-    // A window or a menu that gives the focus back leaves it as visible as it was.
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-        m_isFocusShown = isKeyboardReason(reason) ||
-                         (reason == Qt::OtherFocusReason && m_role != Role::playhead);
+    if (!isPassingFocus(reason))
+        m_isFocusShown =
+            isKeyboardFocus(reason) || (reason == Qt::OtherFocusReason && m_role != Role::playhead);
     Q_EMIT focusShownChanged();
     QWidget::focusInEvent(event);
 }
 
 void TimelineMarker::focusOutEvent(QFocusEvent* event) {
+    if (!isPassingFocus(event->reason()))
+        m_isFocusShown = false;
     Q_EMIT focusShownChanged();
     QWidget::focusOutEvent(event);
 }

@@ -320,6 +320,21 @@ TEST_F(CropOverlayViewTest, takesTheArrowsFromTheWindowOnlyWithTheFocus) {
     expectCrop({0.25 + 1.0 / 640, 0.25, 0.5, 0.5});
 }
 
+/// A look into the menus took its ring from the crop.
+TEST_F(CropOverlayViewTest, showsItsFocusAgainAfterTheMenuBar) {
+    state().setCropRect(m_middle);
+    m_overlay->setFocus(Qt::TabFocusReason);
+    const QImage focused = m_window.grab().toImage();
+    m_overlay->clearFocus();
+    ASSERT_FALSE(m_window.grab().toImage() == focused);
+    m_overlay->setFocus(Qt::TabFocusReason);
+    QWidget bar(&m_window);
+    bar.setFocusPolicy(Qt::TabFocus);
+    bar.setFocus(Qt::MenuBarFocusReason);
+    m_overlay->setFocus(Qt::MenuBarFocusReason);
+    EXPECT_TRUE(m_window.grab().toImage() == focused);
+}
+
 TEST_F(CropOverlayViewTest, letsGoOfTheFocusWithItsCrop) {
     QWidget other(&m_window);
     other.setFocusPolicy(Qt::TabFocus);

@@ -3,7 +3,9 @@
 #include "Views/TimelineStage.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QKeySequence>
+#include <QMenuBar>
 #include <QShortcut>
 #include <QSignalSpy>
 
@@ -201,6 +203,68 @@ TEST_F(TimelineMarkerTest, leavesTheRangeAloneWhereTheWindowPutTheFocusOnAHandle
     EXPECT_EQ(steps.count(), 1);
     EXPECT_EQ(state().trimStart(), 0);
     EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+}
+
+/// A look into the menus took the ring and the keys from the handle.
+TEST_F(TimelineMarkerTest, hasItsRingAndItsKeysAgainAfterTheMenuBar) {
+    QMenuBar bar(&m_window);
+    bar.addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("Entry"));
+    bar.show();
+    for (const Role role : {Role::trimStart, Role::trimEnd}) {
+        focus(role);
+        press(Qt::Key_F, Qt::AltModifier);
+        QWidget* menu = QApplication::activePopupWidget();
+        ASSERT_NE(menu, nullptr);
+        EXPECT_FALSE(marker(role).isFocusShown());
+        QTest::keyClick(menu, Qt::Key_Escape);
+        press(Qt::Key_Escape);
+        ASSERT_TRUE(marker(role).hasFocus());
+        EXPECT_TRUE(marker(role).isFocusShown());
+    }
+    press(Qt::Key_Left);
+    EXPECT_NEAR(state().trimEnd(), 10 - kFrame, 1e-9);
+}
+
+TEST_F(TimelineMarkerTest, hasItsRingAgainWhenItsWindowIsActiveAgain) {
+    focus(Role::trimStart);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    EXPECT_TRUE(marker(Role::trimStart).isFocusShown());
+}
+
+/// The ring of earlier came back with a focus that nobody asked for, and the keys with it.
+TEST_F(TimelineMarkerTest, forgetsItsRingWhenTheFocusReallyGoesElsewhere) {
+    focus(Role::trimStart);
+    marker(Role::trimStart).clearFocus();
+    marker(Role::trimStart).setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+}
+
+TEST_F(TimelineMarkerTest, staysInAFileShorterThanTheShortestRange) {
+    ASSERT_TRUE(loadAndWait(kTwoFrames));
+    ASSERT_TRUE(pumpUntil([this] { return state().duration() < 0.1; }));
+    const double duration = state().duration();
+    for (const Role role : {Role::trimStart, Role::trimEnd}) {
+        const double only = role == Role::trimStart ? 0 : duration;
+        EXPECT_EQ(accessible(role).valueInterface()->minimumValue().toDouble(), only);
+        EXPECT_EQ(accessible(role).valueInterface()->maximumValue().toDouble(), only);
+        focus(role);
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End})
+            press(key);
+        accessible(role).valueInterface()->setCurrentValue(0.05);
+        EXPECT_EQ(state().trimStart(), 0);
+        EXPECT_EQ(state().trimEnd(), duration);
+    }
+    m_pointer.drag(leadingHandle(), {400, kMiddle});
+    m_pointer.drag(trailingHandle(), {400, kMiddle});
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_EQ(state().trimEnd(), duration);
+    EXPECT_TRUE(QRectF(strip().rect()).contains(strip().geometryNow().handle(HandleEdge::leading)));
 }
 
 TEST_F(TimelineMarkerTest, givesTheFocusToThePlayheadWhenTheMouseTakesOver) {
