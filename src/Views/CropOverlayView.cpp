@@ -7,6 +7,7 @@
 #include "Views/FocusReasons.h"
 
 #include <QAccessible>
+#include <QCursor>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -54,6 +55,7 @@ CropOverlayView::CropOverlayView(std::shared_ptr<EditState> state, int handleSiz
     connect(m_state.get(), &EditState::cropRectChanged, this, &CropOverlayView::followCrop);
     connect(m_state.get(), &EditState::displaySizeChanged, this, &CropOverlayView::announce);
     connect(m_state.get(), &EditState::rotationChanged, this, &CropOverlayView::endDrag);
+    connect(&m_escape, &DragEscape::interrupted, this, &CropOverlayView::endDrag);
     followCrop();
 }
 
@@ -127,6 +129,7 @@ void CropOverlayView::mousePressEvent(QMouseEvent* event) {
         return;
     }
     m_drag = Drag{.grip = *grip, .pressedAt = event->position()};
+    m_escape.begin([this] { takeDragBack(); });
     showCursor(event->position());
 }
 
@@ -141,7 +144,7 @@ void CropOverlayView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CropOverlayView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !m_drag) {
+    if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
     }
@@ -168,6 +171,14 @@ void CropOverlayView::dragBy(const QPointF& translation) {
 
 void CropOverlayView::endDrag() {
     m_drag.reset();
+    m_escape.end();
+}
+
+void CropOverlayView::takeDragBack() {
+    const auto start = std::exchange(m_drag, std::nullopt)->start;
+    if (start)
+        write(*start);
+    showCursor(mapFromGlobal(QCursor::pos()));
 }
 
 void CropOverlayView::write(const media::Rect& crop) {
@@ -219,6 +230,8 @@ void CropOverlayView::focusInEvent(QFocusEvent* event) {
 }
 
 void CropOverlayView::focusOutEvent(QFocusEvent* event) {
+    if (!isPassingFocus(event->reason()))
+        m_isFocusShown = false;
     update();
     QWidget::focusOutEvent(event);
 }
@@ -230,8 +243,6 @@ void CropOverlayView::paintEvent(QPaintEvent* /*event*/) {
     CropPainting(painter, m_geometry, cropViewRect(), palette())
         .paint(hasFocus() && m_isFocusShown ? CropPainting::Focus::shown
                                             : CropPainting::Focus::hidden);
-    if (!isPassingFocus(event->reason()))
-        m_isFocusShown = false;
 }
 
 void CropOverlayView::announce() {

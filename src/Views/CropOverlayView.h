@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Views/CropGeometry.h"
+#include "Views/DragEscape.h"
 
 #include <QWidget>
 
@@ -17,6 +18,8 @@ class EditState;
 /// the way of the mouse, while there is no crop; presses beside the crop go on to the parent.
 ///
 ///     no drag ──press, 10 points of way──▶ drag ──release, end of the crop, turn──▶ no drag
+///
+/// Escape during a drag puts the crop back as it was before.
 ///
 /// Main thread.
 class CropOverlayView final : public QWidget {
@@ -66,6 +69,7 @@ private:
     [[nodiscard]] std::optional<Grip> gripAt(const QPointF& point) const;
     void dragBy(const QPointF& translation);
     void endDrag();
+    void takeDragBack();
     void write(const media::Rect& crop);
     void showCursor(const QPointF& point);
     void announce();
@@ -73,6 +77,7 @@ private:
     std::shared_ptr<EditState> m_state;
     CropGeometry m_geometry;
     std::optional<Drag> m_drag;
+    DragEscape m_escape{*this};
     /// What was asked to be painted last.
     QRectF m_shown;
     bool m_isFocusShown = false;

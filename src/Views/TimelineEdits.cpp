@@ -44,6 +44,28 @@ void moveEdge(EditState& state, HandleEdge edge, double time) {
     state.seek(moved);
 }
 
+DragStart dragStart(EditState& state) {
+    const media::Player& player = *state.playerController().player();
+    return {.item = player.currentItem(),
+            .trimStart = state.trimStart(),
+            .trimEnd = state.trimEnd(),
+            .currentTime = state.currentTime(),
+            .isPlaying = player.rate() != 0.0F};
+}
+
+void takeBack(EditState& state, const DragStart& start, Dragged dragged) {
+    media::Player& player = *state.playerController().player();
+    if (player.currentItem() != start.item)
+        return;
+    if (dragged == Dragged::edge) {
+        state.setTrimStart(start.trimStart);
+        state.setTrimEnd(start.trimEnd);
+    }
+    state.seek(start.currentTime);
+    if (start.isPlaying)
+        player.play();
+}
+
 double frameDuration(EditState& state) {
     const auto item = state.playerController().player()->currentItem();
     if (!item)

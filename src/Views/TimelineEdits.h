@@ -4,6 +4,12 @@
 
 #include <QString>
 
+#include <memory>
+
+namespace media {
+class PlayerItem;
+}
+
 namespace brisklet {
 
 class EditState;
@@ -18,6 +24,23 @@ TimelineGeometry geometryOf(const EditState& state, double width, double stripHe
 
 /// Puts one end of the range to `time`, as near as it may go; pauses; shows the frame there.
 void moveEdge(EditState& state, HandleEdge edge, double time);
+
+/// What drags on the strip change, as it is before one begins.
+struct DragStart {
+    std::shared_ptr<const media::PlayerItem> item;
+    double trimStart = 0;
+    double trimEnd = 0;
+    double currentTime = 0;
+    bool isPlaying = false;
+};
+
+DragStart dragStart(EditState& state);
+
+/// Whether a drag moves the playhead only, or an end of the range too.
+enum class Dragged { playhead, edge };
+
+/// Puts back what a drag has changed; nothing where another video has been loaded meanwhile.
+void takeBack(EditState& state, const DragStart& start, Dragged dragged);
 
 /// Seconds that a frame of the open video lasts, by its nominal rate; 1/30 where it has none.
 double frameDuration(EditState& state);

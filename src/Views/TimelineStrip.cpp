@@ -7,6 +7,7 @@
 #include "Views/TimelineEdits.h"
 #include "Views/TimelineMarker.h"
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -85,6 +86,7 @@ void TimelineStrip::observe() {
     connect(state, &EditState::trimEndChanged, this, &TimelineStrip::refresh);
     connect(state, &EditState::currentTimeChanged, this, &TimelineStrip::refresh);
     connect(state, &EditState::thumbnailsChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_escape, &DragEscape::interrupted, this, &TimelineStrip::endDrag);
     for (TimelineMarker* marker : m_markers)
         connect(marker, &TimelineMarker::focusShownChanged, this, qOverload<>(&QWidget::update));
 }
@@ -145,9 +147,9 @@ void TimelineStrip::mousePressEvent(QMouseEvent* event) {
         return;
     }
     const auto handle = geometryNow().handleAt(event->position());
-    m_drag = !handle                          ? Drag::playhead
-             : *handle == HandleEdge::leading ? Drag::leading
-                                              : Drag::trailing;
+    beginDrag(!handle                          ? Drag::playhead
+              : *handle == HandleEdge::leading ? Drag::leading
+                                               : Drag::trailing);
     moveFocusFromOthers();
     dragTo(event->position().x());
 }
@@ -155,7 +157,7 @@ void TimelineStrip::mousePressEvent(QMouseEvent* event) {
 void TimelineStrip::mouseMoveEvent(QMouseEvent* event) {
     // The release went elsewhere where a dialog took the pointer.
     if (!(event->buttons() & Qt::LeftButton))
-        m_drag = Drag::none;
+        endDrag();
     if (m_drag == Drag::none)
         showCursor(event->position());
     else
@@ -165,8 +167,24 @@ void TimelineStrip::mouseMoveEvent(QMouseEvent* event) {
 void TimelineStrip::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
-    m_drag = Drag::none;
+    endDrag();
     showCursor(event->position());
+}
+
+void TimelineStrip::beginDrag(Drag drag) {
+    m_drag = drag;
+    const auto dragged =
+        drag == Drag::playhead ? timeline::Dragged::playhead : timeline::Dragged::edge;
+    m_escape.begin([this, dragged, start = timeline::dragStart(*m_state)] {
+        m_drag = Drag::none;
+        timeline::takeBack(*m_state, start, dragged);
+        showCursor(mapFromGlobal(QCursor::pos()));
+    });
+}
+
+void TimelineStrip::endDrag() {
+    m_drag = Drag::none;
+    m_escape.end();
 }
 
 void TimelineStrip::dragTo(double position) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Views/DragEscape.h"
 #include "Views/TimelineFilmstrip.h"
 #include "Views/TimelineGeometry.h"
 
@@ -16,7 +17,7 @@ class TimelineMarker;
 
 /// The filmstrip with the kept range, its two handles and the playhead. A drag on a handle moves
 /// that end of the range, one anywhere else moves the playhead; both go by where the pointer is,
-/// not by how far it came. Main thread.
+/// not by how far it came. Escape takes a drag back. Main thread.
 class TimelineStrip final : public QWidget {
     Q_OBJECT
 
@@ -46,6 +47,8 @@ private:
     void refresh();
     void repaintDifference(const TimelineGeometry& before, const TimelineGeometry& now);
     void placeMarkers(const TimelineGeometry& geometry);
+    void beginDrag(Drag drag);
+    void endDrag();
     void dragTo(double position);
     void moveFocusFromOthers();
     void showCursor(const QPointF& position);
@@ -64,6 +67,7 @@ private:
     /// What was asked to be painted last.
     TimelineGeometry m_shown;
     Drag m_drag = Drag::none;
+    DragEscape m_escape{*this};
 };
 
 } // namespace brisklet

@@ -1,0 +1,55 @@
+#include "Views/DragEscape.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <QWindow>
+
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+bool isEscape(const QKeyEvent& event) {
+    constexpr auto kOther = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return event.key() == Qt::Key_Escape && !(event.modifiers() & kOther);
+}
+
+} // namespace
+
+void DragEscape::begin(std::function<void()> takeBack) {
+    m_takeBack = std::move(takeBack);
+    // The one that is installed last hears of the key first.
+    qApp->installEventFilter(this);
+}
+
+void DragEscape::end() {
+    m_takeBack = {};
+    qApp->removeEventFilter(this);
+}
+
+bool DragEscape::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if ((type == QEvent::WindowBlocked && watched == m_view.window()->windowHandle()) ||
+        (type == QEvent::Hide && watched == &m_view)) {
+        Q_EMIT interrupted();
+        return false;
+    }
+    if ((type != QEvent::ShortcutOverride && type != QEvent::KeyPress) || !hasEscapeKey() ||
+        !isEscape(*static_cast<QKeyEvent*>(event)))
+        return false;
+    event->accept();
+    if (const auto takeBack =
+            type == QEvent::KeyPress ? std::exchange(m_takeBack, {}) : std::function<void()>())
+        takeBack();
+    return true;
+}
+
+bool DragEscape::hasEscapeKey() const {
+    const QWidget* active = QApplication::activeWindow();
+    return (active == nullptr || active->parentWidget() == nullptr) &&
+           QApplication::activePopupWidget() == nullptr;
+}
+
+} // namespace brisklet

@@ -1,0 +1,206 @@
+#include "AppFixture.h"
+
+#include "QtSupport/Pointer.h"
+#include "Views/ContentView.h"
+#include "Views/CropOverlayView.h"
+#include "Views/ErrorAlert.h"
+#include "Views/TimelineStrip.h"
+
+#include <QPointer>
+#include <QPointingDevice>
+
+#include <memory>
+#include <optional>
+
+namespace brisklet {
+namespace {
+
+using testsupport::Pointer;
+using testsupport::pumpPending;
+using testsupport::pumpUntil;
+
+/// Escape while the mouse drags something in a real window. It closed the window, and with it went
+/// the whole edit.
+class DragEscapeTest : public AppFixture {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(loadAndWait(*m_window, video(10)));
+        state().setTrimStart(2);
+        state().setTrimEnd(8);
+        state().seek(5);
+        pumpPending();
+        m_strip = m_window->findChild<TimelineStrip*>();
+        m_overlay = m_window->findChild<CropOverlayView*>();
+        ASSERT_NE(m_strip, nullptr);
+        ASSERT_NE(m_overlay, nullptr);
+        m_timeline = std::make_unique<Pointer>(*m_strip);
+        m_crop = std::make_unique<Pointer>(*m_overlay);
+    }
+
+    EditState& state() { return *m_window->state(); }
+
+    void pressEscape(Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape, modifiers);
+    }
+
+    QPoint at(double seconds) const {
+        return {qRound(m_strip->geometryNow().x(seconds)), m_strip->height() / 2};
+    }
+
+    QPoint handle(HandleEdge edge) const {
+        return m_strip->geometryNow().handle(edge).center().toPoint();
+    }
+
+    void expectAsBefore() {
+        EXPECT_TRUE(m_window && m_window->isVisible());
+        EXPECT_EQ(state().trimStart(), 2);
+        EXPECT_EQ(state().trimEnd(), 8);
+        EXPECT_EQ(state().currentTime(), 5);
+    }
+
+    /// What the held mouse does after the drag was taken back, and the release.
+    void expectNothingUntilRelease(const Pointer& pointer, const QPoint& point) {
+        pointer.moveTo(point);
+        pointer.moveTo(point + QPoint(5, 0));
+        expectAsBefore();
+        pointer.release(point);
+        expectAsBefore();
+    }
+
+    void expectClosedByEscape() {
+        pressEscape();
+        EXPECT_TRUE(pumpUntil([this] { return m_window.isNull(); }));
+    }
+
+    QPointer<WindowRootView> m_window = openWindow();
+    TimelineStrip* m_strip = nullptr;
+    CropOverlayView* m_overlay = nullptr;
+    std::unique_ptr<Pointer> m_timeline;
+    std::unique_ptr<Pointer> m_crop;
+};
+
+TEST_F(DragEscapeTest, putsAHandleBackAndThePlayheadWithIt) {
+    for (const HandleEdge edge : {HandleEdge::leading, HandleEdge::trailing}) {
+        m_timeline->press(handle(edge));
+        m_timeline->moveTo(at(4));
+        ASSERT_EQ(state().currentTime(),
+                  edge == HandleEdge::leading ? state().trimStart() : state().trimEnd());
+        ASSERT_NE(state().currentTime(), 5);
+        pressEscape();
+        expectAsBefore();
+        expectNothingUntilRelease(*m_timeline, at(6));
+    }
+    expectClosedByEscape();
+}
+
+TEST_F(DragEscapeTest, putsAScrubbedPlayheadBack) {
+    m_timeline->press(at(6));
+    m_timeline->moveTo(at(7));
+    ASSERT_NE(state().currentTime(), 5);
+    pressEscape();
+    expectAsBefore();
+    expectNothingUntilRelease(*m_timeline, at(3));
+    // The next drag is one like any other.
+    m_timeline->drag(at(6), at(7));
+    EXPECT_NEAR(state().currentTime(), 7, 0.05);
+    expectClosedByEscape();
+}
+
+TEST_F(DragEscapeTest, keepsWhatWasSetToThePlayheadWhileItWasScrubbed) {
+    m_timeline->press(at(4));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_BracketLeft);
+    const double set = state().trimStart();
+    ASSERT_NEAR(set, 4, 0.05);
+    pressEscape();
+    EXPECT_EQ(state().currentTime(), 5);
+    EXPECT_EQ(state().trimStart(), set);
+    m_timeline->release(at(4));
+}
+
+TEST_F(DragEscapeTest, goesOnPlayingWhereAHandlePausedIt) {
+    state().togglePlayback();
+    ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    m_timeline->press(handle(HandleEdge::trailing));
+    m_timeline->moveTo(at(7));
+    ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
+    pressEscape();
+    EXPECT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+    EXPECT_EQ(state().trimEnd(), 8);
+    EXPECT_LT(state().currentTime(), 7);
+    m_timeline->release(at(7));
+}
+
+TEST_F(DragEscapeTest, putsTheCropBack) {
+    const media::Rect before{0.25, 0.25, 0.5, 0.5};
+    state().setCropRect(before);
+    pumpPending();
+    const QRectF crop = m_overlay->cropViewRect();
+    for (const QPoint& start :
+         {crop.center().toPoint(), crop.topLeft().toPoint(), crop.bottomRight().toPoint()}) {
+        m_crop->press(start);
+        m_crop->moveTo(start + QPoint(30, 20));
+        ASSERT_NE(state().cropRect(), before);
+        pressEscape();
+        EXPECT_EQ(state().cropRect(), before);
+        expectNothingUntilRelease(*m_crop, start + QPoint(40, 40));
+        EXPECT_EQ(state().cropRect(), before);
+    }
+    expectClosedByEscape();
+}
+
+TEST_F(DragEscapeTest, closesNothingWhileTheMouseIsStillHeld) {
+    m_timeline->press(at(6));
+    pressEscape();
+    pressEscape();
+    pressEscape(Qt::ShiftModifier);
+    pumpPending();
+    expectAsBefore();
+    m_timeline->release(at(6));
+    expectClosedByEscape();
+}
+
+TEST_F(DragEscapeTest, takesBackADragByTouch) {
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    QWindow* window = m_window->windowHandle();
+    const auto inWindow = [this](const QPoint& point) { return m_strip->mapTo(m_window, point); };
+    QTest::touchEvent(window, screen.get()).press(0, inWindow(at(6)), window);
+    QTest::touchEvent(window, screen.get()).move(0, inWindow(at(7)), window);
+    ASSERT_NEAR(state().currentTime(), 7, 0.05);
+    pressEscape();
+    expectAsBefore();
+    QTest::touchEvent(window, screen.get()).move(0, inWindow(at(3)), window);
+    expectAsBefore();
+    QTest::touchEvent(window, screen.get()).release(0, inWindow(at(3)), window);
+    expectAsBefore();
+    expectClosedByEscape();
+}
+
+/// The release goes to nobody while an alert stands over the window.
+TEST_F(DragEscapeTest, leavesTheKeyToAnAlertThatEndsTheDrag) {
+    m_timeline->press(at(6));
+    state().setErrorMessage(QStringLiteral("Message"));
+    auto* alert = m_window->findChild<ErrorAlert*>();
+    ASSERT_NE(alert, nullptr);
+    ASSERT_TRUE(testsupport::showActive(*alert));
+    m_timeline->release(at(6));
+    QTest::keyClick(alert->windowHandle(), Qt::Key_Escape);
+    ASSERT_TRUE(pumpUntil([this] { return !state().errorMessage(); }));
+    EXPECT_NEAR(state().currentTime(), 6, 0.05) << "The drag was over, not taken back.";
+    ASSERT_TRUE(testsupport::showActive(*m_window));
+    expectClosedByEscape();
+}
+
+TEST_F(DragEscapeTest, putsNothingOfTheVideoBeforeIntoTheNextOne) {
+    m_timeline->press(handle(HandleEdge::leading));
+    m_timeline->moveTo(at(4));
+    ASSERT_TRUE(loadAndWait(*m_window, video(1)));
+    pressEscape();
+    EXPECT_TRUE(m_window && m_window->isVisible());
+    EXPECT_EQ(state().trimStart(), 0);
+    EXPECT_EQ(state().trimEnd(), state().duration());
+    EXPECT_EQ(state().currentTime(), 0);
+    m_timeline->release(at(0.5));
+}
+
+} // namespace
+} // namespace brisklet
