@@ -73,7 +73,7 @@ void AppCommands::makeFileActions() {
     m_close = add(tr("Close Video"));
     // The menu shows the first; the second is what desktop programs close a window with.
     m_close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)});
-    connect(m_close, &QAction::triggered, this, &AppCommands::closeKeyWindow);
+    connect(m_close, &QAction::triggered, this, &AppCommands::closeWindow);
 }
 
 void AppCommands::makeClipActions() {
@@ -105,6 +105,7 @@ void AppCommands::makeClipActions() {
 }
 
 void AppCommands::fill(QMenuBar& menuBar) {
+    m_menuBar = &menuBar;
     QMenu* application = menuBar.addMenu(tr("&Brisklet"));
     application->addActions({m_about, m_checkForUpdates});
     application->addSeparator();
@@ -176,7 +177,7 @@ void AppCommands::toggleQuickAction() {
 }
 
 void AppCommands::showAbout() {
-    auto* box = new QMessageBox(QApplication::activeWindow());
+    auto* box = new QMessageBox(window());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::NonModal);
     box->setWindowTitle(tr("About Brisklet"));
@@ -188,9 +189,13 @@ void AppCommands::showAbout() {
     box->show();
 }
 
-void AppCommands::closeKeyWindow() {
-    if (QWidget* window = QApplication::activeWindow())
-        window->close();
+QWidget* AppCommands::window() const {
+    return m_menuBar ? m_menuBar->window() : nullptr;
+}
+
+void AppCommands::closeWindow() {
+    if (QWidget* closed = window())
+        closed->close();
 }
 
 } // namespace brisklet

@@ -2,12 +2,14 @@
 
 #include <QKeySequence>
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 class QAction;
 class QMenu;
 class QMenuBar;
+class QWidget;
 
 namespace brisklet {
 
@@ -15,14 +17,15 @@ class EditState;
 class FocusedValues;
 class Updater;
 
-/// The commands of one menu bar. They act on the model of the active editor window, whichever it is
-/// at that moment, and keep no state of their own: what is enabled follows that model at once.
-/// Main thread.
+/// The commands of one menu bar. They act on a focused model, whichever that is at the moment, and
+/// on the window of the menu bar. They keep no state of their own: what is enabled follows that
+/// model at once. Main thread.
 class AppCommands final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both outlive this.
+    /// Both outlive this. A window gives its menus focused values of their own: assistive
+    /// technology chooses from the menus of any window, and means that one.
     AppCommands(Updater& updater, FocusedValues& focusedValues, QObject* parent = nullptr);
     ~AppCommands() override;
 
@@ -45,12 +48,14 @@ private:
 
     void stepFrames(int count);
     void toggleQuickAction();
-    static void showAbout();
-    static void closeKeyWindow();
+    [[nodiscard]] QWidget* window() const;
+    void showAbout();
+    void closeWindow();
 
     Updater& m_updater;
     FocusedValues& m_focusedValues;
     std::weak_ptr<EditState> m_observed;
+    QPointer<QMenuBar> m_menuBar;
 
     QAction* m_about = nullptr;
     QAction* m_checkForUpdates = nullptr;

@@ -1,7 +1,6 @@
 #include "WindowRootView.h"
 
 #include "AppCommands.h"
-#include "FocusedValues.h"
 #include "Models/EditState.h"
 #include "Platform/FileDialogPanels.h"
 #include "Support/FileUrl.h"
@@ -33,12 +32,13 @@ WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, Q
     : QWidget(parent),
       m_focusedValues(focusedValues),
       m_state(std::make_shared<EditState>()),
-      m_commands(new AppCommands(updater, focusedValues, this)),
+      m_commands(new AppCommands(updater, m_ownValues, this)),
       m_content(new ContentView(m_state)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setMinimumSize(kSmallestSize);
     resize(kInitialSize);
     m_state->setFilePanels(std::make_shared<FileDialogPanels>(this));
+    m_ownValues.setEditState(m_state);
     buildLayout();
     connect(m_state.get(), &EditState::videoURLChanged, this, &WindowRootView::showTitle);
     connect(m_state.get(), &EditState::exportProgressChanged, this, &WindowRootView::followExport);
@@ -49,6 +49,8 @@ WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, Q
 WindowRootView::~WindowRootView() {
     // An export may keep the model for a while; this window no longer listens to it.
     m_state->disconnect(this);
+    // They refer to members, which go before children do.
+    delete m_commands;
     if (m_focusedValues.editState() == m_state)
         m_focusedValues.setEditState(nullptr);
 }

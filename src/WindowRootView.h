@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FocusedValues.h"
+
 #include <QPointer>
 #include <QWidget>
 
@@ -13,13 +15,13 @@ namespace brisklet {
 class AppCommands;
 class ContentView;
 class EditState;
-class FocusedValues;
 class RemoteFiles;
 class Updater;
 
 /// One editor window: the menu bar over the content, and a model of its own that lives as long.
-/// Publishes the model to the commands while it is the active window, and takes files from the open
-/// bridge. Asks before it closes while an export runs. Deletes itself when closed. Main thread.
+/// Publishes the model to the program while it is the active window, and to its own menus always;
+/// takes files from the open bridge. Asks before it closes while an export runs. Deletes itself
+/// when closed. Main thread.
 class WindowRootView final : public QWidget {
     Q_OBJECT
 
@@ -83,6 +85,8 @@ private:
 
     FocusedValues& m_focusedValues;
     std::shared_ptr<EditState> m_state;
+    /// For the commands of its own menus, whichever window is active.
+    FocusedValues m_ownValues;
     AppCommands* m_commands;
     ContentView* m_content;
     QPointer<QMessageBox> m_closeQuestion;

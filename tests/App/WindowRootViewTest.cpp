@@ -4,7 +4,9 @@
 #include "Views/ControlsView.h"
 #include "Views/ErrorAlert.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPointer>
 #include <QWindow>
 
@@ -21,6 +23,18 @@ class WindowRootViewTest : public AppFixture {
 protected:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(m_window, key, modifiers);
+    }
+
+    /// A command of the window's own menus.
+    static QAction* command(const WindowRootView& window, const char* title) {
+        for (const QAction* menu : window.findChild<QMenuBar*>()->actions()) {
+            for (QAction* entry : menu->menu()->actions()) {
+                if (entry->text() == QString::fromUtf8(title))
+                    return entry;
+            }
+        }
+        ADD_FAILURE() << "There is no command \"" << title << '"';
+        return nullptr;
     }
 
     QPointer<WindowRootView> m_window = openWindow();
@@ -177,6 +191,43 @@ TEST_F(WindowRootViewTest, takesTheQuestionBackWhenTheExportEnds) {
     EXPECT_TRUE(m_window->isVisible());
     EXPECT_EQ(visibleQuestion(*m_window), nullptr);
     EXPECT_TRUE(std::filesystem::exists(m_folder / "out.mp4"));
+}
+
+/// Assistive technology chooses entries of any menu. Those of a window that was not the active one
+/// changed and closed the active one.
+TEST_F(WindowRootViewTest, obeysItsOwnMenusWhileAnotherWindowIsActive) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(10)));
+    m_window->state()->seek(2);
+    QPointer<WindowRootView> second = openWindow();
+    ASSERT_EQ(QApplication::activeWindow(), second);
+    EXPECT_TRUE(command(*m_window, "Export…")->isEnabled());
+    EXPECT_FALSE(command(*second, "Export…")->isEnabled());
+    command(*m_window, "Set Trim Start at Playhead")->trigger();
+    EXPECT_EQ(m_window->state()->trimStart(), 2);
+
+    ASSERT_TRUE(loadAndWait(*second, video(5)));
+    second->state()->seek(1);
+    command(*m_window, "Next Frame")->trigger();
+    EXPECT_TRUE(pumpUntil([this] { return m_window->state()->currentTime() > 2; }));
+    EXPECT_EQ(second->state()->currentTime(), 1);
+
+    command(*m_window, "Close Video")->trigger();
+    EXPECT_TRUE(pumpUntil([this] { return m_window.isNull(); }));
+    EXPECT_TRUE(second && second->isVisible());
+}
+
+TEST_F(WindowRootViewTest, offersToCloseByItsOwnMenuWhileAnotherWindowExports) {
+    WindowRootView* second = openWindow();
+    ASSERT_TRUE(startLongExport(*second));
+    EXPECT_FALSE(command(*second, "Close Video")->isEnabled());
+    EXPECT_TRUE(command(*m_window, "Close Video")->isEnabled());
+}
+
+TEST_F(WindowRootViewTest, tellsAboutTheProgramOverTheWindowOfTheMenu) {
+    WindowRootView* second = openWindow();
+    command(*m_window, "About Brisklet")->trigger();
+    EXPECT_NE(visibleQuestion(*m_window), nullptr);
+    EXPECT_EQ(visibleQuestion(*second), nullptr);
 }
 
 TEST_F(WindowRootViewTest, mayGoWhileItsVideoLoadsAndPlays) {
