@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QStackedLayout>
+#include <QWindow>
 
 #include <utility>
 
@@ -107,12 +108,38 @@ void ContentView::showError() {
             m_alert->close();
         return;
     }
+    if (!m_isPlaced)
+        return;
     if (!m_alert) {
         m_alert = new ErrorAlert(this);
-        connect(m_alert, &QDialog::finished, this, [this] { m_state->clearErrorMessage(); });
+        connect(m_alert, &QDialog::finished, this, [this] {
+            // It is about to be deleted, and the next message needs one of its own.
+            m_alert.clear();
+            m_state->clearErrorMessage();
+        });
     }
     m_alert->setMessage(*message);
     m_alert->open();
+}
+
+void ContentView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QWindow* handle = window()->windowHandle();
+    if (!m_isPlaced && handle != nullptr)
+        handle->installEventFilter(this);
+}
+
+/// A file may fail before the window manager has found a place for its window. An alert is put over
+/// where its window is at that moment.
+bool ContentView::eventFilter(QObject* watched, QEvent* event) {
+    const auto* window = qobject_cast<QWindow*>(watched);
+    if (event->type() == QEvent::Expose && window != nullptr && window->isExposed()) {
+        watched->removeEventFilter(this);
+        m_isPlaced = true;
+        // Once the window knows of its place itself.
+        QMetaObject::invokeMethod(this, &ContentView::showError, Qt::QueuedConnection);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 bool ContentView::isDroppable(const QMimeData& mimeData) const {

@@ -37,6 +37,8 @@ public:
     /// Without one, drops that carry only such a key are refused.
     void setFileTransfer(FileTransfer transfer) { m_fileTransfer = std::move(transfer); }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /// While an export or an alert keeps the window: the sheet or alert over it, else null.
     [[nodiscard]] QWidget* attachedSheet() const;
 
@@ -44,6 +46,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -65,6 +68,8 @@ private:
     QPointer<ExportProgressView> m_exportSheet;
     QPointer<ErrorAlert> m_alert;
     bool m_isDragOver = false;
+    /// The window has been on the screen: before that nobody knows where it will be.
+    bool m_isPlaced = false;
 };
 
 } // namespace brisklet

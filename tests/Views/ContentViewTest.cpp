@@ -231,6 +231,41 @@ TEST_F(ContentViewTest, keepsTheVideoWhenAnotherFileCannotBeLoaded) {
     EXPECT_EQ(state().videoURL(), before);
 }
 
+/// The next message went into the dialog that was on its way out, and vanished with it.
+TEST_F(ContentViewTest, showsAFailureThatComesWhileAnAlertIsDismissed) {
+    state().setErrorMessage(QStringLiteral("First"));
+    const QPointer<ErrorAlert> first = shown<ErrorAlert>();
+    ASSERT_TRUE(first);
+    QTest::mouseClick(first->findChild<QPushButton*>(), Qt::LeftButton);
+    EXPECT_FALSE(state().errorMessage());
+    state().setErrorMessage(QStringLiteral("Second"));
+    ASSERT_TRUE(pumpUntil([&first] { return !first; }));
+    pumpPending();
+    auto* second = shown<ErrorAlert>();
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(second->message(), QStringLiteral("Second"));
+    EXPECT_EQ(m_content->attachedSheet(), second);
+    QTest::keyClick(second, Qt::Key_Escape);
+    EXPECT_TRUE(pumpUntil([this] { return !state().errorMessage(); }));
+    EXPECT_TRUE(pumpUntil([this] { return m_content->attachedSheet() == nullptr; }));
+}
+
+/// A file can fail before the window manager has found a place for its window. The alert was put
+/// over the place that the window would have had, where other windows are.
+TEST_F(ContentViewTest, waitsForThePlaceOfItsWindowBeforeItShowsAnAlert) {
+    m_content->hide();
+    ContentView content(m_state);
+    state().setErrorMessage(QStringLiteral("Message"));
+    EXPECT_EQ(content.attachedSheet(), nullptr);
+    content.show();
+    ASSERT_TRUE(pumpUntil([&content] {
+        const QWidget* alert = content.attachedSheet();
+        return alert != nullptr && alert->isVisible();
+    }));
+    state().clearErrorMessage();
+    EXPECT_TRUE(pumpUntil([&content] { return content.attachedSheet() == nullptr; }));
+}
+
 TEST_F(ContentViewTest, showsALongNameInAnAlertNoWiderThanTheOthers) {
     state().load(urlOf(m_folder / (std::string(250, 'x') + ".mov")));
     ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
