@@ -248,6 +248,45 @@ TEST_F(EditStateTest, staysAtTheEndOfTheFileWithoutLooping) {
     EXPECT_GT(state().currentTime(), 1.5);
 }
 
+/// Ends between two ticks, of which there are 30 a second.
+const testsupport::Recipe kEndsBetweenTicks{
+    .frameRate = {25, 1}, .duration = 2.04, .audioTracks = 0};
+
+/// The end of the file came before the next tick, and the playhead stayed there, past the handle.
+TEST_F(EditStateTest, stopsOnATrimEndJustBeforeTheEndOfTheFile) {
+    ASSERT_TRUE(loadAndWait(kEndsBetweenTicks));
+    for (const double distance : {0.0, 1.0 / 600, 3.0 / 600}) {
+        const double end = state().duration() - distance;
+        state().setTrimEnd(end);
+        state().seek(1.7);
+        state().togglePlayback();
+        ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+        ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
+        // Times are kept in 1/600 s.
+        pumpPending();
+        EXPECT_NEAR(state().currentTime(), end, 1e-6);
+        EXPECT_NEAR(player().currentTime().seconds(), end, 1e-6);
+        EXPECT_EQ(player().rate(), 0.0F);
+    }
+}
+
+TEST_F(EditStateTest, loopsFromATrimEndJustBeforeTheEndOfTheFile) {
+    PlaybackSettings::shared().setLoopEnabled(true);
+    ASSERT_TRUE(loadAndWait(kEndsBetweenTicks));
+    state().setTrimStart(1);
+    for (const double distance : {0.0, 1.0 / 600}) {
+        state().setTrimEnd(state().duration() - distance);
+        state().seek(1.7);
+        player().play();
+        ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+        ASSERT_TRUE(pumpUntil([this] { return state().currentTime() < 1.5; }));
+        ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
+        EXPECT_EQ(player().rate(), 1.0F);
+        player().pause();
+        ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
+    }
+}
+
 TEST_F(EditStateTest, followsTicksWhilePausedWithoutStopping) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     state().setTrimEnd(5);
@@ -320,6 +359,20 @@ TEST_F(EditStateTest, keepsATenthOfASecondWhenAnEndIsSetToThePlayhead) {
     EXPECT_EQ(state().currentTime(), 2);
 }
 
+/// The range of a shorter file began before the file, or ended after it.
+TEST_F(EditStateTest, keepsAFileWholeThatIsShorterThanTheShortestRange) {
+    ASSERT_TRUE(loadAndWait(kTwoFrames));
+    const double duration = state().duration();
+    ASSERT_LT(duration, 0.1);
+    for (const double time : {0.0, duration / 2, duration}) {
+        state().seek(time);
+        state().setTrimStartToPlayhead();
+        EXPECT_EQ(state().trimStart(), 0) << time;
+        state().setTrimEndToPlayhead();
+        EXPECT_EQ(state().trimEnd(), duration) << time;
+    }
+}
+
 TEST_F(EditStateTest, setsEachEndToThePlayhead) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     state().seek(3);
@@ -359,20 +412,6 @@ TEST_F(EditStateTest, mutesThePlayerAtOnce) {
     state().setMuted(false);
     EXPECT_FALSE(player().isMuted());
     // The flag wins over whatever has been done to the player meanwhile, changed or not.
-/// The range of a shorter file began before the file, or ended after it.
-TEST_F(EditStateTest, keepsAFileWholeThatIsShorterThanTheShortestRange) {
-    ASSERT_TRUE(loadAndWait(kTwoFrames));
-    const double duration = state().duration();
-    ASSERT_LT(duration, 0.1);
-    for (const double time : {0.0, duration / 2, duration}) {
-        state().seek(time);
-        state().setTrimStartToPlayhead();
-        EXPECT_EQ(state().trimStart(), 0) << time;
-        state().setTrimEndToPlayhead();
-        EXPECT_EQ(state().trimEnd(), duration) << time;
-    }
-}
-
     player().setMuted(true);
     const QSignalSpy spy(&state(), &EditState::isMutedChanged);
     state().setMuted(false);

@@ -111,11 +111,10 @@ void Player::Private::handleEnd(const PlaybackEvent& event) {
         wasPlaying = std::exchange(access->isPlaying, false);
         item = access->item;
     }
+    callObservers(observerTokens());
     const auto rateChanged = rateHandler;
-    if (wasPlaying && rateChanged)
+    if (m_isAlive && wasPlaying && rateChanged)
         rateChanged(0.0F);
-    if (m_isAlive && transport()->generation == event.generation)
-        callObservers(observerTokens());
     const auto ended = endHandler;
     if (m_isAlive && ended && transport()->item == item)
         ended(item);

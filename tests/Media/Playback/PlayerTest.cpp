@@ -59,7 +59,7 @@ TEST(Player, playsEveryFrameInOrderToTheEndAndReportsIt) {
     EXPECT_TRUE(std::is_sorted(numbers.begin(), numbers.end()));
 }
 
-TEST(Player, tellsTheEndTimeBetweenTheRateAndTheEnd) {
+TEST(Player, tellsTheEndTimeBeforeTheRateAndTheEnd) {
     const Fixture fixture = silentSeconds(1);
     PlayerStage stage;
     stage.load(fixture.path);
@@ -67,7 +67,7 @@ TEST(Player, tellsTheEndTimeBetweenTheRateAndTheEnd) {
     stage.player->play();
     ASSERT_TRUE(stage.pumpUntil([&] { return stage.endCount == 1; }));
     const std::vector<std::string> lastThree(stage.events.end() - 3, stage.events.end());
-    EXPECT_THAT(lastThree, ElementsAre("rate 0", "time", "end"));
+    EXPECT_THAT(lastThree, ElementsAre("time", "rate 0", "end"));
     EXPECT_EQ(stage.times.back(), endOf(stage).seconds());
 }
 
@@ -90,7 +90,7 @@ TEST(Player, endsAtOnceWhenPlayedAtTheEnd) {
     stage.events.clear();
     stage.player->play();
     ASSERT_TRUE(stage.pumpUntil([&] { return stage.endCount == 1; }));
-    EXPECT_THAT(stage.events, ElementsAre("rate 1", "rate 0", "time", "end"));
+    EXPECT_THAT(stage.events, ElementsAre("rate 1", "time", "rate 0", "end"));
     stage.player->play();
     ASSERT_TRUE(stage.pumpUntil([&] { return stage.endCount == 2; }));
     EXPECT_EQ(stage.player->rate(), 0.0F);
