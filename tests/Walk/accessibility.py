@@ -76,6 +76,10 @@ class Element:
         x, y, width, height = self.rect
         return x + width / 2, y + height / 2
 
+    def act(self):
+        """Does what the element is there for, as a click on it does."""
+        Atspi.Action.do_action(self.node, 0)
+
     def children(self):
         for index in range(self.node.get_child_count()):
             child = self.node.get_child_at_index(index)

@@ -162,6 +162,13 @@ class Hand:
             words += ["mousemove", round(x), round(y), "sleep", "0.01"]
         self._xdotool(*words, "mouseup", 1)
 
+    def hold(self, x, y):
+        """Presses the button of the mouse and keeps it down."""
+        self._xdotool("mousemove", round(x), round(y), "mousedown", 1)
+
+    def let_go(self):
+        self._xdotool("mouseup", 1)
+
     def press(self, *keys):
         for key in keys:
             self._xdotool("key", "--clearmodifiers", key)
