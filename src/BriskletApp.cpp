@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <utility>
 
 namespace brisklet {
 
@@ -47,9 +48,13 @@ void useLaunchData(const QVariantMap& platformData) {
 } // namespace
 
 BriskletApp::BriskletApp(const QString& applicationId, QObject* parent)
+    : BriskletApp(applicationId, builtInUpdaterConfiguration(), parent) {}
+
+BriskletApp::BriskletApp(const QString& applicationId, UpdaterConfiguration updates,
+                         QObject* parent)
     : QObject(parent),
       m_updateDriver(std::make_unique<UpdateDialogs>()),
-      m_updater(std::make_unique<Updater>(builtInUpdaterConfiguration(), *m_updateDriver,
+      m_updater(std::make_unique<Updater>(std::move(updates), *m_updateDriver,
                                           applicationId == releasedApplicationId())) {
     wakePromptly();
     QApplication::setQuitOnLastWindowClosed(false);

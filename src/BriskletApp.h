@@ -19,6 +19,7 @@ namespace brisklet {
 class ExportMonitor;
 class UpdateDriver;
 class Updater;
+struct UpdaterConfiguration;
 class WindowRootView;
 
 /// The program: its windows, what they share, and its place in the desktop's session. Ends the
@@ -31,6 +32,9 @@ public:
     /// `applicationId` decides whether the program checks for updates by itself.
     explicit BriskletApp(const QString& applicationId = builtInApplicationId(),
                          QObject* parent = nullptr);
+    /// With other updates than those that this program was built with.
+    BriskletApp(const QString& applicationId, UpdaterConfiguration updates,
+                QObject* parent = nullptr);
     ~BriskletApp() override;
 
     /// The identifier that this program was built with.

@@ -1,6 +1,5 @@
 #include "AppFixture.h"
 
-#include "Platform/Updater/Updater.h"
 #include "Support/OpenBridge.h"
 #include "TestSupport/Process.h"
 #include "Views/ContentView.h"
@@ -214,11 +213,6 @@ TEST_F(BriskletAppTest, leavesNothingUnfinishedWhenTheSystemEndsIt) {
     std::raise(SIGTERM);
     EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
-}
-
-TEST_F(BriskletAppTest, neverLooksForUpdatesByItselfUnderAnotherIdentifier) {
-    for (const char* identifier : {"com.quorvan.brisklet.devel", "com.quorvan.Brisklet", ""})
-        EXPECT_FALSE(BriskletApp(QString::fromLatin1(identifier)).updater().isStarted());
 }
 
 TEST(Program, printsHelpAndVersionWithoutADisplay) {

@@ -1,5 +1,6 @@
 #include "UpdaterFixture.h"
 
+#include <chrono>
 #include <QTimeZone>
 
 namespace brisklet {
@@ -192,12 +193,71 @@ TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {
     EXPECT_FALSE(m_driver.isSettled()) << "What a check by itself finds not to be there is silent.";
 }
 
+/// It never checked again, where the clock had been a year ahead once.
+TEST_F(UpdaterTest, checksByItselfThoughTheClockWasSetBack) {
+    serveFeed(item("1.2"));
+    m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, false);
+    const QDateTime noon(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC);
+    m_updater->checkIfDue(noon.addYears(1));
+    ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    m_updater->checkIfDue(noon);
+    EXPECT_FALSE(m_updater->canCheckForUpdates());
+    ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    EXPECT_EQ(m_server.requestCount, 2);
+}
+
+TEST_F(UpdaterTest, asksOnTheSecondStartWhetherItMayCheckByItself) {
+    m_configuration.firstLook = std::chrono::milliseconds(0);
+    const QString hasRun = QStringLiteral("hasRunBefore");
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
+    ASSERT_TRUE(pumpUntil([&] { return m_configuration.settings->value(hasRun).toBool(); }));
+    EXPECT_FALSE(m_driver.automaticAnswer);
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
+    ASSERT_TRUE(pumpUntil([this] { return m_driver.automaticAnswer != nullptr; }));
+    EXPECT_EQ(m_server.requestCount, 0);
+    m_driver.automaticAnswer(true);
+    ASSERT_TRUE(pumpUntil([this] { return m_driver.offered.has_value(); }));
+
+    // Who has said no is neither asked again nor kept up to date.
+    m_driver.forget();
+    m_configuration.settings->setValue(QStringLiteral("automaticChecks"), false);
+    const int before = m_server.requestCount;
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
+    Updater other(m_configuration, m_driver, false);
+    other.checkForUpdates();
+    ASSERT_TRUE(pumpUntil([this] { return m_driver.isSettled(); }));
+    EXPECT_FALSE(m_driver.automaticAnswer);
+    EXPECT_EQ(m_server.requestCount, before + 1);
+}
+
+TEST_F(UpdaterTest, leavesOutReleasesForOtherSystems) {
+    const auto forSystem = [this](const QByteArray& version, const QByteArray& system) {
+        return item(version).replace("<enclosure ", "<enclosure sparkle:os=\"" + system + "\" ");
+    };
+    serveFeed(forSystem("1.4", "macos") + forSystem("1.3", "linux") + forSystem("1.5", "windows"));
+    check();
+    ASSERT_TRUE(m_driver.offered);
+    EXPECT_EQ(m_driver.offered->version, QStringLiteral("1.3"));
+}
+
+TEST_F(UpdaterTest, refusesAPackageThatIsTooLarge) {
+    serveFeed("<item><sparkle:version>1.3</sparkle:version>" +
+              enclosure(qint64{1025} * 1024 * 1024, signatureOf(m_package)) + "</item>");
+    install();
+    EXPECT_EQ(m_driver.failure, QStringLiteral("The update is too large."));
+    EXPECT_EQ(m_server.requestCount, 1) << "It isn't asked for.";
+    expectNothingChanged();
+}
+
 TEST_F(UpdaterTest, keepsTheFailureOfACheckByItselfToItself) {
     m_server.answers.clear();
     m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
     m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
     m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), QTimeZone::utc()));
+    ASSERT_FALSE(m_updater->canCheckForUpdates());
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
+    EXPECT_EQ(m_server.requestCount, 1);
     EXPECT_FALSE(m_driver.isSettled());
 }
 
@@ -207,6 +267,7 @@ TEST_F(UpdaterTest, offersASkippedReleaseOnlyByCommand) {
     m_driver.forget();
     m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
     m_updater->checkIfDue(QDateTime(QDate(2030, 1, 1), QTime(12, 0), QTimeZone::utc()));
+    ASSERT_FALSE(m_updater->canCheckForUpdates());
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
     EXPECT_FALSE(m_driver.offered);
     check();

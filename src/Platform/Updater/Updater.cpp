@@ -23,8 +23,6 @@ constexpr qint64 kLongestPackage = qint64{1024} * 1024 * 1024;
 constexpr qint64 kSecondsADay = 24 * 60 * 60;
 /// Looking at the clock this often notices a day that passed in sleep.
 constexpr auto kClockInterval = 1h;
-/// The first look, well after the window stands.
-constexpr auto kFirstLook = 10s;
 
 QString skippedKey() {
     return QStringLiteral("skippedVersion");
@@ -70,7 +68,7 @@ Updater::Updater(UpdaterConfiguration configuration, UpdateDriver& driver, bool 
         m_daily.setInterval(kClockInterval);
         begin();
     });
-    m_daily.start(kFirstLook);
+    m_daily.start(m_configuration.firstLook);
 }
 
 Updater::~Updater() {
@@ -95,7 +93,7 @@ void Updater::begin() {
             return;
         self->m_configuration.settings->setValue(automaticKey(), allowed);
         if (allowed)
-            self->m_daily.start(kFirstLook);
+            self->m_daily.start(self->m_configuration.firstLook);
     });
 }
 

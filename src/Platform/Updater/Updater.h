@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <chrono>
 #include <memory>
 
 class QFile;
@@ -31,6 +32,8 @@ struct UpdaterConfiguration {
     QString downloadFolder;
     /// Remembers what the user chose and when it was checked last.
     std::shared_ptr<QSettings> settings;
+    /// From the start to the first look: the window stands well before.
+    std::chrono::milliseconds firstLook{10'000};
 };
 
 /// Looks for a newer release of the program in its feed, by command and once a day, offers it, and
