@@ -159,6 +159,59 @@ TEST(AVFoundationExporter, writesTheContainerThatTheFormatNames) {
     EXPECT_THAT(brandOf(ExportFormat::mp4), testing::AnyOf("isom", "mp42", "iso5", "iso6"));
 }
 
+/// What the encoder says about itself in the file, from such a word on.
+std::string encoderSettings(const std::filesystem::path& path, const std::string& begin) {
+    const std::string file = contentsOf(path);
+    const std::size_t start = file.find(begin);
+    if (start == std::string::npos)
+        return {};
+    const auto isText = [](char c) { return c >= ' ' && c <= '~'; };
+    const auto end =
+        std::find_if_not(file.begin() + static_cast<std::ptrdiff_t>(start), file.end(), isText);
+    return {file.begin() + static_cast<std::ptrdiff_t>(start), end};
+}
+
+TEST(AVFoundationExporter, asksForTheSameHighestQualityInBothFormats) {
+    const Fixture source = makeFixture({.duration = 1});
+    const TemporaryFolder folder;
+    for (const ExportFormat format : {ExportFormat::mp4, ExportFormat::mov}) {
+        const std::string name = format == ExportFormat::mov ? "out.mov" : "out.mp4";
+        ExportRequest request = requestFor(source.path, folder / name);
+        request.startTime = 0;
+        request.endTime = 0.2;
+        request.format = format;
+        runExport(request);
+        const std::string settings = encoderSettings(folder / name, "options: ");
+        for (const char* each : {" rc=crf ", " crf=17.1 ", " subme=2 ", " qcomp=0.85 ",
+                                 " aq=2:0.90", " deblock=1:1:1 ", " b_adapt=0 "})
+            EXPECT_THAT(settings, testing::HasSubstr(each)) << name;
+        // Scaled down it loses the grain that hides the encoder's errors.
+        request.maxShortEdge = 120;
+        runExport(request);
+        EXPECT_THAT(encoderSettings(folder / name, "options: "), testing::HasSubstr(" crf=16.1 "));
+    }
+}
+
+TEST(AVFoundationExporter, asksForTheSameHighestQualityOfDeepPicturesInBothFormats) {
+    const auto source = testsupport::cachedMedia(
+        "deep-halfsecond.mkv", {"-f", "lavfi", "-i", "testsrc2=s=320x240:r=30:d=0.5", "-pix_fmt",
+                                "yuv420p10le", "-c:v", "ffv1"});
+    const TemporaryFolder folder;
+    for (const ExportFormat format : {ExportFormat::mp4, ExportFormat::mov}) {
+        const std::string name = format == ExportFormat::mov ? "out.mov" : "out.mp4";
+        ExportRequest request = requestFor(source, folder / name);
+        request.startTime = 0;
+        request.endTime = 0.2;
+        request.format = format;
+        runExport(request);
+        EXPECT_EQ(probe(folder / name).streamsOf("video").at(0).text("codec_name"), "hevc");
+        const std::string settings = encoderSettings(folder / name, "options: ");
+        for (const char* each :
+             {" rc=crf ", " crf=11.0 ", " psy-rd=0.00 ", " deblock=2:2 ", " ctu=16 "})
+            EXPECT_THAT(settings, testing::HasSubstr(each)) << name;
+    }
+}
+
 TEST(AVFoundationExporter, replacesAnExistingFile) {
     const Fixture source = makeFixture({});
     const TemporaryFolder folder;

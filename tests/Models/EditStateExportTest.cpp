@@ -91,12 +91,27 @@ TEST_F(EditStateExportTest, sendsACropThatCoversThePictureAsNone) {
         const auto video = probe(m_folder / "out.mp4").streamsOf("video").at(0);
         return !video.text("side_data_list.side_data.0.rotation").empty();
     };
-    state().setCropRect(Rect{0.0005, 0, 0.9995, 1});
-    EXPECT_TRUE(hasMatrix());
-    state().setCropRect(Rect{0, 0, 1, 1});
-    EXPECT_TRUE(hasMatrix());
-    state().setCropRect(Rect{0.01, 0, 0.99, 1});
-    EXPECT_FALSE(hasMatrix());
+    state().setTrimEnd(0.1);
+    const auto shortBy = [](double left, double top, double right, double bottom) {
+        return Rect{left, top, 1 - left - right, 1 - top - bottom};
+    };
+    constexpr double kWithin = 0.0009;
+    constexpr double kBeyond = 0.0011;
+    for (const Rect& whole :
+         {shortBy(0, 0, 0, 0), Rect{0.0005, 0, 0.9995, 1}, shortBy(kWithin, 0, 0, 0),
+          shortBy(0, kWithin, 0, 0), shortBy(0, 0, kWithin, 0), shortBy(0, 0, 0, kWithin),
+          shortBy(kWithin, kWithin, kWithin, kWithin)}) {
+        state().setCropRect(whole);
+        EXPECT_TRUE(hasMatrix()) << whole.x << ' ' << whole.y << ' ' << whole.width << ' '
+                                 << whole.height;
+    }
+    for (const Rect& crop :
+         {Rect{0.01, 0, 0.99, 1}, shortBy(kBeyond, 0, 0, 0), shortBy(0, kBeyond, 0, 0),
+          shortBy(0, 0, kBeyond, 0), shortBy(0, 0, 0, kBeyond)}) {
+        state().setCropRect(crop);
+        EXPECT_FALSE(hasMatrix()) << crop.x << ' ' << crop.y << ' ' << crop.width << ' '
+                                  << crop.height;
+    }
 }
 
 TEST_F(EditStateExportTest, rendersACropUnchanged) {
@@ -130,8 +145,10 @@ TEST_F(EditStateExportTest, proposesTheSourcesNameInTheChosenFormat) {
     ASSERT_EQ(m_panels->proposals.size(), 2U);
     EXPECT_EQ(m_panels->proposals[0].fileName, QStringLiteral("Holiday Trimmed.mp4"));
     EXPECT_EQ(m_panels->proposals[0].extension, QStringLiteral("mp4"));
+    EXPECT_EQ(m_panels->proposals[0].typeName, QStringLiteral("MPEG-4 movie"));
     EXPECT_EQ(m_panels->proposals[1].fileName, QStringLiteral("Holiday Trimmed.mov"));
     EXPECT_EQ(m_panels->proposals[1].extension, QStringLiteral("mov"));
+    EXPECT_EQ(m_panels->proposals[1].typeName, QStringLiteral("QuickTime movie"));
     EXPECT_EQ(m_panels->proposals[1].otherExtension, QStringLiteral("mp4"));
     EXPECT_EQ(m_panels->proposals[1].source, urlOf(m_folder / "Holiday.MOV"));
     EXPECT_EQ(pathOf(m_panels->proposals[1].folder), m_folder.path());

@@ -325,6 +325,31 @@ TEST_F(EditStateTest, playsFromTheTrimStartWhenThePlayheadIsWithinAMarginOfTheTr
     EXPECT_EQ(player().currentTime(), (media::Time{1, 1}));
 }
 
+TEST_F(EditStateTest, playsOnFromWhereItStandsABitBeforeTheTrimEnd) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(1);
+    state().setTrimEnd(5);
+    for (const double time : {1.0, 4.9, 4.94}) {
+        state().seek(time);
+        state().togglePlayback();
+        EXPECT_GE(player().currentTime().seconds(), time - 1.0 / 600) << time;
+        player().pause();
+        ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
+    }
+}
+
+TEST_F(EditStateTest, keepsTheEndsInTheFileThoughThePlayerReportsATimeOutsideIt) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    state().setTrimStart(1);
+    state().setTrimEnd(9);
+    state().playerController().onTick(12);
+    state().setTrimEndToPlayhead();
+    EXPECT_EQ(state().trimEnd(), state().duration());
+    state().playerController().onTick(-1);
+    state().setTrimStartToPlayhead();
+    EXPECT_EQ(state().trimStart(), 0);
+}
+
 TEST_F(EditStateTest, seeksWithinTheFileAtOnce) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     state().seek(-3);
@@ -403,6 +428,28 @@ TEST_F(EditStateTest, turnsTheCropWithThePicture) {
     EXPECT_NEAR(state().cropRect()->y, crop.y, 1e-12);
     EXPECT_NEAR(state().cropRect()->width, crop.width, 1e-12);
     EXPECT_NEAR(state().cropRect()->height, crop.height, 1e-12);
+}
+
+TEST_F(EditStateTest, showsNoFilmstripOfTheVideoBefore) {
+    const auto before =
+        makeFixture({.duration = 30, .groupOfPictures = 250, .width = 640, .height = 480}).path;
+    const auto portrait = makeFixture({.duration = 2, .displayRotation = 90}).path;
+    bool isOfAnother = false;
+    QObject::connect(&state(), &EditState::thumbnailsChanged, &state(), [&] {
+        for (const QImage& image : state().thumbnails())
+            isOfAnother = isOfAnother ||
+                          (state().videoURL() == urlOf(portrait) && image.width() > image.height());
+    });
+    state().load(urlOf(before));
+    ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(before); }));
+    // While the strip of the one before is being made.
+    state().load(urlOf(portrait));
+    ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(portrait); }));
+    ASSERT_TRUE(pumpUntil([&] {
+        return !state().thumbnails().isEmpty() &&
+               state().thumbnails().first().width() < state().thumbnails().first().height();
+    }));
+    EXPECT_FALSE(isOfAnother);
 }
 
 TEST_F(EditStateTest, mutesThePlayerAtOnce) {

@@ -164,6 +164,34 @@ TEST_F(FileDialogPanelsTest, completesANameThatLacksTheExtension) {
     EXPECT_EQ(*answer.value, urlOf(m_folder / "holiday v1.2.mp4"));
 }
 
+TEST_F(FileDialogPanelsTest, takesQuickTimeMoviesOnlyWhereThatFormatIsChosen) {
+    struct Case {
+        const char* typed;
+        const char* answered;
+    };
+
+    for (const Case& name :
+         {Case{"Holiday", "Holiday.mov"}, Case{"holiday v1.2", "holiday v1.2.mov"},
+          Case{"Holiday.mp4", "Holiday.mov"}, Case{"Holiday.MOV", "Holiday.MOV"}}) {
+        auto task = m_panels.saveMovie({.fileName = QStringLiteral("Holiday Trimmed.mov"),
+                                        .folder = urlOf(m_folder.path()),
+                                        .typeName = QStringLiteral("QuickTime movie"),
+                                        .extension = QStringLiteral("mov"),
+                                        .otherExtension = QStringLiteral("mp4"),
+                                        .source = QUrl()});
+        Settled<Answer> answer;
+        auto settling = settle(task, answer);
+        QFileDialog* panel = waitForPanel();
+        ASSERT_NE(panel, nullptr);
+        EXPECT_EQ(panel->nameFilters(), QStringList{QStringLiteral("QuickTime movie (*.mov)")});
+        EXPECT_EQ(panel->selectedUrls(), QList<QUrl>{urlOf(m_folder / "Holiday Trimmed.mov")});
+        typeAndAccept(panel, QString::fromLatin1(name.typed));
+        ASSERT_TRUE(pumpUntil([&] { return answer.isSettled; }));
+        EXPECT_EQ(*answer.value, urlOf(m_folder / name.answered)) << name.typed;
+        testsupport::pumpPending();
+    }
+}
+
 TEST_F(FileDialogPanelsTest, looksAmongTheFilesOfThisComputerOnly) {
     for (const bool isToSave : {false, true}) {
         auto task = isToSave ? m_panels.saveMovie(proposal()) : m_panels.openMovie();

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QPalette>
 #include <QVariantMap>
@@ -103,10 +104,21 @@ TEST_F(PortalsTest, turnsDarkWithADarkDesktopAndLightAgainWithIt) {
 }
 
 TEST_F(PortalsTest, leavesTheLookOfALightDesktopAlone) {
-    FakePortal portal(m_bus.connect());
+    QPalette own = QApplication::palette();
+    own.setColor(QPalette::Window, QColor(0xfd, 0xf6, 0xe3));
+    QApplication::setPalette(own);
     const QPalette before = QApplication::palette();
-    const Appearance appearance(m_bus.connect());
-    ASSERT_TRUE(pumpUntil([&portal] { return portal.readCount > 0; }));
+    FakePortal portal(m_bus.connect());
+    QDBusConnection bus = m_bus.connect();
+    const Appearance appearance(bus);
+    ASSERT_TRUE(pumpUntil([&portal] { return portal.readCount == 1; }));
+    portal.change(2);
+    // The bus keeps the order: what came before this answer has been heard with it.
+    const QDBusPendingCall last = bus.asyncCall(QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"),
+        QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")));
+    ASSERT_TRUE(pumpUntil([&last] { return last.isFinished(); }));
     testsupport::pumpPending();
     EXPECT_EQ(QApplication::palette(), before);
 }

@@ -198,7 +198,7 @@ TEST_F(UpdaterTest, checksByItselfThoughTheClockWasSetBack) {
     serveFeed(item("1.2"));
     m_configuration.settings->setValue(QStringLiteral("automaticChecks"), true);
     m_updater = std::make_unique<Updater>(m_configuration, m_driver, false);
-    const QDateTime noon(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC);
+    const QDateTime noon(QDate(2030, 1, 1), QTime(12, 0), QTimeZone::utc());
     m_updater->checkIfDue(noon.addYears(1));
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
     m_updater->checkIfDue(noon);

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -113,25 +115,30 @@ TEST(PlayerController, doesNotHearTheEndOfAnotherPlayersItem) {
 }
 
 TEST(PlayerController, saysNothingAfterItIsGoneEvenIfThePlayerIsKept) {
-    auto controller = std::make_unique<PlayerController>();
-    Reports reports(*controller);
+    std::optional<PlayerController> controller(std::in_place);
+    const Reports reports(*controller);
     const auto player = controller->player();
-    player->replaceCurrentItem(itemOf({.duration = 10}));
+    player->replaceCurrentItem(shortItem());
     player->play();
     ASSERT_TRUE(pumpUntil([&] { return reports.ticks.size() > 2; }));
     controller.reset();
     const auto ticks = reports.ticks.size();
     const auto changes = reports.playing.size();
+    const auto ends = reports.ends;
     EXPECT_EQ(player->rate(), 0.0F);
+    // From here on it ticks, changes its rate and comes to its end with nobody to hear of it.
     const media::Time exactly{0, 600};
     bool hasSought = false;
-    player->seek(media::Time::fromSeconds(5, 600), exactly, exactly,
+    player->seek(media::Time::fromSeconds(0.5, 600), exactly, exactly,
                  [&hasSought](bool) { hasSought = true; });
     ASSERT_TRUE(pumpUntil([&] { return hasSought; }));
+    player->play();
+    ASSERT_TRUE(pumpUntil([&] { return player->rate() == 0.0F; }));
+    EXPECT_EQ(player->currentTime(), player->currentItem()->asset()->duration());
     pumpPending();
     EXPECT_EQ(reports.ticks.size(), ticks);
     EXPECT_EQ(reports.playing.size(), changes);
-    EXPECT_EQ(reports.ends, 0);
+    EXPECT_EQ(reports.ends, ends);
 }
 
 TEST(PlayerController, dropsEventsThatAreOnTheirWayWhenItIsReleased) {

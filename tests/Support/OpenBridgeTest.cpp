@@ -17,11 +17,16 @@ QUrl file(const char* name) {
 
 class FakeWindow final : public OpenTarget {
 public:
-    bool isEmpty() const override { return loaded.empty(); }
+    bool isEmpty() const override {
+        ++questions;
+        return loaded.empty();
+    }
 
     void load(const QUrl& url) override { loaded.push_back(url); }
 
     std::vector<QUrl> loaded;
+    /// How often it was asked whether it is empty.
+    mutable int questions = 0;
 };
 
 class OpenBridgeTest : public testing::Test {
@@ -119,12 +124,19 @@ TEST_F(OpenBridgeTest, recordsAWindowOnceAndKeepsItsPlace) {
     appear();
     OpenBridge::registerState(m_windows[0]);
     OpenBridge::open(file("a.mov"));
+    // It is the first to be asked, and asked once.
+    EXPECT_EQ(m_windows[0]->questions, 1);
+    EXPECT_EQ(m_windows[1]->questions, 0);
     OpenBridge::open(file("b.mov"));
+    EXPECT_EQ(m_windows[0]->questions, 2);
     OpenBridge::open(file("c.mov"));
     ASSERT_EQ(m_windows.size(), 3U);
     EXPECT_THAT(m_windows[0]->loaded, ElementsAre(file("a.mov")));
     EXPECT_THAT(m_windows[1]->loaded, ElementsAre(file("b.mov")));
     EXPECT_THAT(m_windows[2]->loaded, ElementsAre(file("c.mov")));
+    // One that is recorded twice would be asked twice.
+    EXPECT_EQ(m_windows[0]->questions, 3);
+    EXPECT_EQ(m_windows[1]->questions, 2);
 }
 
 TEST_F(OpenBridgeTest, keepsNoWindowAlive) {

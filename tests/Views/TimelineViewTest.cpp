@@ -3,11 +3,13 @@
 #include "Views/Theme.h"
 #include "Views/TimelineStage.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 
 namespace {
@@ -30,6 +32,24 @@ constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 class TimelineViewTest : public TimelineStage {
 protected:
     void SetUp() override { ASSERT_TRUE(loadAndWait(kTenSeconds)); }
+
+    /// A picture whose left half and right half have a colour each.
+    static QImage halves(int width, int height, const QColor& left, const QColor& right) {
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(left);
+        QPainter(&image).fillRect(width / 2, 0, width - width / 2, height, right);
+        return image;
+    }
+
+    /// The filmstrip of such stills, over white.
+    QImage painted(const QList<QImage>& stills) {
+        TimelineFilmstrip filmstrip;
+        QImage canvas(kWidth, 56, QImage::Format_RGB32);
+        canvas.fill(Qt::white);
+        QPainter painter(&canvas);
+        filmstrip.paint(painter, strip().geometryNow(), stills);
+        return canvas;
+    }
 };
 
 using EmptyTimelineViewTest = TimelineStage;
@@ -46,6 +66,13 @@ TEST_F(EmptyTimelineViewTest, putsEverythingAtTheStartWithoutADuration) {
 }
 
 TEST_F(EmptyTimelineViewTest, yieldsTimeZeroWhereverItIsDraggedWithoutADuration) {
+    for (const int x : {0, 12, 400, kWidth})
+        EXPECT_EQ(strip().geometryNow().time(x), 0) << x;
+    // The model keeps the playhead inside the file by itself, but not the ends of the range.
+    state().setTrimStart(2);
+    state().setTrimEnd(5);
+    m_pointer.drag(leadingHandle(), at(8));
+    EXPECT_EQ(state().trimStart(), 0);
     m_pointer.drag(at(5), at(8));
     EXPECT_EQ(state().currentTime(), 0);
 }
@@ -71,6 +98,14 @@ TEST_F(TimelineViewTest, showsTheTimesOfTheRangeAndThePosition) {
     EXPECT_EQ(view().positionLabel().text(), QStringLiteral("00:05.3 / 00:10.0"));
     EXPECT_EQ(view().endLabel().text(), QStringLiteral("00:07.5"));
     keepPicture(m_window, QStringLiteral("timeline"));
+}
+
+TEST_F(TimelineViewTest, showsTheDurationOfWhatWasLoaded) {
+    EXPECT_EQ(view().positionLabel().text(), QStringLiteral("00:00.0 / 00:10.0"));
+    ASSERT_TRUE(loadAndWait({.duration = 4}));
+    ASSERT_TRUE(pumpUntil([this] { return state().duration() < 5; }));
+    EXPECT_EQ(view().positionLabel().text(), QStringLiteral("00:00.0 / 00:04.0"));
+    EXPECT_EQ(view().endLabel().text(), QStringLiteral("00:04.0"));
 }
 
 TEST_F(TimelineViewTest, keepsItsTimesWhereTheyAre) {
@@ -279,6 +314,29 @@ TEST_F(TimelineViewTest, leavesNoTracesOfEarlierPlaces) {
     }
 }
 
+TEST_F(EmptyTimelineViewTest, showsTheFilmstripAsSoonAsItIsThere) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
+    state().load(urlOf(testsupport::makeFixture(kTenSeconds).path));
+    ASSERT_TRUE(pumpUntil([this] { return state().videoURL().has_value(); }));
+    pumpPending();
+    ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
+    pumpPending();
+    EXPECT_TRUE(onScreen(m_window) == paintedAtOnce(m_window));
+}
+
+// The release goes to a dialog that came meanwhile.
+TEST_F(TimelineViewTest, endsADragWhoseReleaseItDidNotSee) {
+    m_pointer.press(at(3));
+    m_pointer.moveTo(at(4));
+    ASSERT_DOUBLE_EQ(state().currentTime(), 4);
+    const QPointF point(at(7));
+    QMouseEvent move(QEvent::MouseMove, point, strip().mapToGlobal(point), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&strip(), &move);
+    EXPECT_DOUBLE_EQ(state().currentTime(), 4);
+    m_pointer.release(at(7));
+}
+
 TEST_F(TimelineViewTest, paintsOnlyTheTwoPlacesOfThePlayhead) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
     state().seek(2);
@@ -293,18 +351,37 @@ TEST_F(TimelineViewTest, paintsOnlyTheTwoPlacesOfThePlayhead) {
 TEST_F(TimelineViewTest, stretchesOneStillOverTheWholeStrip) {
     // A video without a filmstrip yet shows the placeholder; the model gives all stills at once, so
     // one alone comes from a file of which only one decodes near its middle.
-    TimelineFilmstrip filmstrip;
-    QImage still(160, 90, QImage::Format_RGB32);
-    still.fill(Qt::red);
-    QImage canvas(kWidth, 56, QImage::Format_RGB32);
-    canvas.fill(Qt::white);
-    QPainter painter(&canvas);
-    filmstrip.paint(painter, strip().geometryNow(), {still});
-    EXPECT_EQ(canvas.pixelColor(11, 20), QColor(Qt::white));
-    EXPECT_EQ(canvas.pixelColor(12, 0), QColor(Qt::red));
-    EXPECT_EQ(canvas.pixelColor(kWidth / 2, 55), QColor(Qt::red));
-    EXPECT_EQ(canvas.pixelColor(kWidth - 13, 20), QColor(Qt::red));
-    EXPECT_EQ(canvas.pixelColor(kWidth - 12, 20), QColor(Qt::white));
+    QImage still = halves(160, 90, Qt::red, Qt::blue);
+    // As wide as the strip it is 450 points high, of which the middle 56 are seen.
+    QPainter bands(&still);
+    bands.fillRect(0, 0, 160, 30, Qt::green);
+    bands.fillRect(0, 60, 160, 30, Qt::green);
+    bands.end();
+    const QImage strip = painted({still});
+    EXPECT_EQ(strip.pixelColor(11, 20), QColor(Qt::white));
+    for (const int x : {12, 100, kWidth / 2 - 10}) {
+        for (const int y : {0, 28, 55})
+            EXPECT_EQ(strip.pixelColor(x, y), QColor(Qt::red)) << x << ' ' << y;
+    }
+    for (const int x : {kWidth / 2 + 10, kWidth - 100, kWidth - 13}) {
+        for (const int y : {0, 28, 55})
+            EXPECT_EQ(strip.pixelColor(x, y), QColor(Qt::blue)) << x << ' ' << y;
+    }
+    EXPECT_EQ(strip.pixelColor(kWidth - 12, 20), QColor(Qt::white));
+}
+
+TEST_F(TimelineViewTest, showsTheStillsSideBySideInTheirOrder) {
+    const QImage strip = painted(
+        {halves(100, 56, Qt::red, Qt::darkRed), halves(100, 56, Qt::green, Qt::darkGreen),
+         halves(100, 56, Qt::blue, Qt::darkBlue), halves(100, 56, Qt::yellow, Qt::darkYellow)});
+    const std::array<QColor, 8> colours{Qt::red,  Qt::darkRed,  Qt::green,  Qt::darkGreen,
+                                        Qt::blue, Qt::darkBlue, Qt::yellow, Qt::darkYellow};
+    for (int half = 0; half < 8; ++half) {
+        for (const int beside : {-40, 40})
+            EXPECT_EQ(strip.pixelColor(kAxisStart + 50 + 100 * half + beside, 28),
+                      colours.at(static_cast<std::size_t>(half)))
+                << half;
+    }
 }
 
 } // namespace
