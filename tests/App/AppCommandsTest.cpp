@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
@@ -207,6 +208,17 @@ TEST_F(AppCommandsTest, stepsByFrames) {
     ASSERT_TRUE(isAt(1));
 }
 
+TEST_F(AppCommandsTest, tellsTheTimeAtOnceWhenItSteps) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    m_focusedValues.setEditState(m_state);
+    pumpPending();
+    PlayerController& controller = m_state->playerController();
+    int ticks = 0;
+    controller.onTick = [&ticks](double) { ++ticks; };
+    press(Qt::Key_Right);
+    EXPECT_GE(ticks, 1) << "before the player reports";
+}
+
 TEST_F(AppCommandsTest, togglesTheLoopInBothDirections) {
     EXPECT_FALSE(action("Loop Playback")->isChecked());
     press(Qt::Key_L);
@@ -214,6 +226,34 @@ TEST_F(AppCommandsTest, togglesTheLoopInBothDirections) {
     EXPECT_TRUE(action("Loop Playback")->isChecked());
     PlaybackSettings::shared().setLoopEnabled(false);
     EXPECT_FALSE(action("Loop Playback")->isChecked());
+}
+
+TEST_F(AppCommandsTest, showsInANewWindowThatTheLoopIsOn) {
+    PlaybackSettings::shared().setLoopEnabled(true);
+    AppCommands commands(m_updater, m_focusedValues);
+    QMenuBar menuBar;
+    commands.fill(menuBar);
+    EXPECT_TRUE(menuBar.actions().last()->menu()->actions().last()->isChecked());
+    PlaybackSettings::shared().setLoopEnabled(false);
+}
+
+TEST_F(AppCommandsTest, repeatOnlyTheStepsWhileAKeyIsHeld) {
+    for (const QAction* each : m_commands.findChildren<QAction*>()) {
+        const bool isStep = each == action("Previous Frame") || each == action("Next Frame");
+        EXPECT_EQ(each->autoRepeat(), isStep) << each->text().toStdString();
+    }
+}
+
+TEST_F(AppCommandsTest, tellsTheVersionOfTheProgram) {
+    const QString version = QApplication::applicationVersion();
+    QApplication::setApplicationVersion(QStringLiteral("98.7"));
+    action("About Brisklet")->trigger();
+    const auto* box = m_window.findChild<QMessageBox*>();
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(box->text(), QStringLiteral("Brisklet 98.7"));
+    EXPECT_TRUE(box->informativeText().contains(QStringLiteral("GNU General Public License")));
+    QApplication::setApplicationVersion(version);
 }
 
 TEST_F(AppCommandsTest, checksForUpdatesWhereThereIsAFeed) {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -152,6 +153,20 @@ TEST_F(ExportMonitorTest, showsTheProgressInTheTaskbar) {
               QStringLiteral("application://com.quorvan.brisklet.desktop"));
     m_window->state()->cancelExport();
     EXPECT_TRUE(pumpUntil([this] { return !m_desktop->launcher.isVisible; }));
+}
+
+TEST_F(ExportMonitorTest, showsTheMeanOfTwoExportsInTheTaskbar) {
+    const auto progressOf = [](const WindowRootView& window) {
+        return window.state()->exportProgress().value_or(0);
+    };
+    ASSERT_TRUE(startLongExport(*m_window, "one.mp4"));
+    ASSERT_TRUE(startLongExport(*m_other, "other.mp4"));
+    ASSERT_TRUE(
+        pumpUntil([&] { return progressOf(*m_window) > 0.1 && progressOf(*m_other) > 0.1; }));
+    EXPECT_TRUE(pumpUntil([&] {
+        const double mean = (progressOf(*m_window) + progressOf(*m_other)) / 2;
+        return std::abs(m_desktop->launcher.progress - mean) < 0.02;
+    }));
 }
 
 TEST_F(ExportMonitorTest, announcesTheEndInAWindowThatIsNotActive) {

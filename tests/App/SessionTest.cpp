@@ -91,13 +91,32 @@ TEST_F(SessionTest, opensNoOtherWindowForALaterStartWithoutFiles) {
     EXPECT_EQ(m_app->windows().size(), 1);
 }
 
-TEST_F(SessionTest, opensAWindowForTheAction) {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("com.quorvan.brisklet"), QStringLiteral("/com/quorvan/brisklet"),
-        QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
-    message << QStringLiteral("new-window") << QVariantList() << QVariantMap();
-    m_bus.connect().asyncCall(message);
-    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().size() == 2; }));
+TEST_F(SessionTest, opensAWindowForTheActionAndForNoOther) {
+    const QDBusConnection caller = m_bus.connect();
+    const auto act = [&caller](const char* action) {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            QStringLiteral("com.quorvan.brisklet"), QStringLiteral("/com/quorvan/brisklet"),
+            QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
+        message << QString::fromLatin1(action) << QVariantList() << QVariantMap();
+        const QDBusPendingCall call = caller.asyncCall(message);
+        EXPECT_TRUE(pumpUntil([&call] { return call.isFinished(); }));
+        EXPECT_FALSE(call.isError());
+    };
+    act("quit");
+    EXPECT_EQ(m_app->windows().size(), 1);
+    act("new-window");
+    EXPECT_EQ(m_app->windows().size(), 2);
+}
+
+TEST_F(SessionTest, bringsTheWindowInUseToTheFrontForALaterStartWithoutFiles) {
+    WindowRootView* second = openWindow();
+    openWindow();
+    ASSERT_TRUE(testsupport::showActive(*second));
+    second->showMinimized();
+    ASSERT_TRUE(handsOver({}));
+    EXPECT_TRUE(pumpUntil([second] { return !second->isMinimized(); }));
+    EXPECT_TRUE(pumpUntil([second] { return QApplication::activeWindow() == second; }));
+    EXPECT_EQ(m_app->windows().size(), 3);
 }
 
 TEST_F(SessionTest, usesTheTokenOfTheLaterStartToComeToTheFront) {

@@ -9,9 +9,11 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <optional>
 
 namespace {
@@ -106,6 +108,23 @@ TEST_F(UpdateDialogsTest, showsHowFarTheDownloadIsAndCancels) {
     EXPECT_TRUE(isCancelled);
     // What still comes changes nothing.
     m_dialogs.showDownloaded(500);
+}
+
+TEST_F(UpdateDialogsTest, letsTheProgramEndWithItsLastWindow) {
+    QWidget window;
+    window.show();
+    offer();
+    bool isLast = false;
+    QObject::connect(qApp, &QApplication::lastWindowClosed, &window, [&isLast] {
+        isLast = true;
+        QApplication::quit();
+    });
+    QTimer::singleShot(0, &window, &QWidget::close);
+    // Ends a hang.
+    QTimer::singleShot(std::chrono::seconds(10), &window, [] { QApplication::quit(); });
+    QApplication::exec();
+    EXPECT_TRUE(isLast);
+    EXPECT_NE(dialog(), nullptr);
 }
 
 TEST_F(UpdateDialogsTest, asksBeforeItChecksByItself) {

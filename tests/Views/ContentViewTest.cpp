@@ -1,6 +1,7 @@
 #include "Views/ContentView.h"
 
 #include "Models/EditStateFixture.h"
+#include "QtSupport/Pixels.h"
 #include "TestSupport/TemporaryFolder.h"
 #include "Views/ControlsView.h"
 #include "Views/CropOverlayView.h"
@@ -303,6 +304,79 @@ TEST_F(ContentViewTest, turnsThePictureWithinTheFittedRectangle) {
             return picture.width() >= fitted.width() - 2 && picture.height() >= fitted.height() - 2;
         }));
         state().rotateLeft();
+    }
+}
+
+TEST_F(ContentViewTest, standsInRowsTwelvePointsApart) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    const auto* editor = shown<EditorView>();
+    const QRect area = editor->videoArea().geometry();
+    const QRect timeline = editor->timeline().geometry();
+    const QRect controls = editor->controls().geometry();
+    EXPECT_EQ(area.topLeft(), QPoint(12, 12));
+    EXPECT_EQ(area.right() + 1, editor->width() - 12);
+    EXPECT_EQ(timeline.top() - area.bottom() - 1, 12);
+    EXPECT_EQ(timeline.left(), 12);
+    EXPECT_EQ(timeline.width(), area.width());
+    EXPECT_EQ(controls.top() - timeline.bottom() - 1, 12);
+    EXPECT_EQ(controls.right(), area.right());
+    EXPECT_EQ(controls.bottom() + 1, editor->height() - 12);
+}
+
+TEST_F(ContentViewTest, showsThePictureOnBlackWithRoundCorners) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    pumpPending();
+    auto* area = shown<VideoArea>();
+    const testsupport::Pixels pixels(*area);
+    const QColor around = area->palette().color(QPalette::Window);
+    const int right = area->width() - 1;
+    const int bottom = area->height() - 1;
+    for (const QPoint& corner :
+         {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)})
+        EXPECT_EQ(pixels.at(corner.x(), corner.y()), around) << corner.x() << ' ' << corner.y();
+    // The picture is less wide than the room for it.
+    ASSERT_GT(area->player().x(), 20);
+    for (const QPoint& point :
+         {QPoint(8, 8), QPoint(0, 8), QPoint(8, 0), QPoint(right - 8, bottom - 8),
+          QPoint(right, bottom - 8), QPoint(10, bottom / 2), QPoint(right - 10, bottom / 2)})
+        EXPECT_EQ(pixels.at(point.x(), point.y()), QColor(Qt::black))
+            << point.x() << ' ' << point.y();
+}
+
+TEST_F(ContentViewTest, showsThatADroppedFileWouldBeTaken) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.mov"))});
+    const auto hover = [&] {
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_content.get(), &enter);
+    };
+    const auto leave = [&] {
+        QDragLeaveEvent event;
+        QCoreApplication::sendEvent(m_content.get(), &event);
+    };
+    const auto picture = [this] { return m_content->grab().toImage(); };
+    // Where the border of the drop zone runs, and where the frame around the editor does.
+    for (const int distance : {25, 4}) {
+        const QImage before = picture();
+        const qreal scale = before.devicePixelRatio();
+        const QPoint border(qRound(distance * scale), before.height() / 2 + 4);
+        hover();
+        const QImage over = picture();
+        EXPECT_NE(over.pixel(border), before.pixel(border)) << distance;
+        leave();
+        EXPECT_TRUE(picture() == before) << distance;
+        if (!state().videoURL()) {
+            ASSERT_TRUE(loadAndWait(kTenSeconds));
+        }
+    }
+}
+
+TEST_F(ContentViewTest, fillsTheBarOfAnExportWithItsProgress) {
+    ExportProgressView sheet(m_state, m_content.get());
+    const auto* bar = sheet.findChild<QProgressBar*>();
+    for (const double fraction : {0.0, 0.25, 0.5, 1.0}) {
+        sheet.setProgress(fraction);
+        EXPECT_EQ(bar->value() - bar->minimum(), fraction * (bar->maximum() - bar->minimum()));
     }
 }
 

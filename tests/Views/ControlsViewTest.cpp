@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
+#include <QShortcut>
 #include <QTest>
 
 #include <memory>
@@ -92,6 +93,33 @@ TEST_F(ControlsViewTest, cropsAndRemovesTheCropByKey) {
     EXPECT_FALSE(state().cropRect());
     EXPECT_EQ(crop.toolTip(), QStringLiteral("Crop"));
     EXPECT_FALSE(m_controls->cropSize().isVisible());
+}
+
+TEST_F(ControlsViewTest, turnsTheSizeOfTheCropWithThePicture) {
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 2, .width = 1920, .height = 1080}));
+    // In the middle: its fractions are the same after a turn.
+    state().setCropRect(media::Rect{0.25, 0.25, 0.5, 0.5});
+    EXPECT_EQ(m_controls->cropSize().text(), QStringLiteral("960×540"));
+    press(Qt::Key_R);
+    EXPECT_EQ(m_controls->cropSize().text(), QStringLiteral("540×960"));
+}
+
+TEST_F(ControlsViewTest, pressesNoButtonTwiceWhileAKeyIsHeld) {
+    const auto keys = m_controls->findChildren<QShortcut*>();
+    EXPECT_EQ(keys.size(), 4);
+    for (const QShortcut* key : keys)
+        EXPECT_FALSE(key->autoRepeat()) << key->key().toString().toStdString();
+}
+
+TEST_F(ControlsViewTest, opensItsMenuByTheLeftButtonOnly) {
+    ExportButton& button = m_controls->exportButton();
+    for (const Qt::MouseButton other : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(&button, other, Qt::NoModifier, button.menuRect().center());
+        EXPECT_FALSE(menu().isVisible());
+    }
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, button.menuRect().center());
+    EXPECT_TRUE(menu().isVisible());
+    menu().close();
 }
 
 TEST_F(ControlsViewTest, isUprightAgainAfterFourTurns) {

@@ -234,6 +234,32 @@ TEST_F(CropOverlayViewTest, endsADragWithItsCrop) {
     expectCrop(m_middle);
 }
 
+TEST_F(CropOverlayViewTest, endsADragWhenThePictureIsTurned) {
+    state().setCropRect(m_middle);
+    m_pointer.press({400, 180});
+    m_pointer.moveTo({432, 180});
+    state().rotateLeft();
+    const auto turned = state().cropRect();
+    m_pointer.moveTo({480, 200});
+    EXPECT_EQ(state().cropRect(), turned);
+    m_pointer.release({480, 200});
+    EXPECT_EQ(state().cropRect(), turned);
+}
+
+// The release goes to a dialog that came meanwhile.
+TEST_F(CropOverlayViewTest, endsADragWhoseReleaseItDidNotSee) {
+    state().setCropRect(m_middle);
+    m_pointer.press({400, 180});
+    m_pointer.moveTo({432, 180});
+    expectCrop({0.3, 0.25, 0.5, 0.5});
+    const QPointF point(500, 200);
+    QMouseEvent move(QEvent::MouseMove, point, m_overlay->mapToGlobal(point), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_overlay, &move);
+    expectCrop({0.3, 0.25, 0.5, 0.5});
+    m_pointer.release({500, 200});
+}
+
 TEST_F(CropOverlayViewTest, dragsNothingOnAPictureWithoutArea) {
     state().setCropRect(m_middle);
     m_overlay->setVideoRect({400, 200, 0, 0});

@@ -7,9 +7,12 @@
 #include "Views/PlayerContainerView.h"
 
 #include <QImage>
+#include <QTransform>
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <chrono>
 #include <memory>
 
 namespace {
@@ -127,6 +130,23 @@ TEST(PlayerLayerView, showsTheFirstFrameOfItsPlayersItem) {
     EXPECT_EQ(container.layerView().videoRect(), QRectF(140, 0, 360, 480));
     controller.player()->replaceCurrentItem(nullptr);
     ASSERT_TRUE(pumpUntil([&] { return container.layerView().videoRect().isEmpty(); }));
+}
+
+TEST(PlayerLayerView, showsATurnedVideoAsSharpAsAnUprightOne) {
+    const auto asset = media::Asset::open(makeFixture({.width = 640, .height = 480}).path);
+    std::array<PlayerController, 2> controllers;
+    PlayerLayerView upright;
+    PlayerLayerView turned;
+    upright.resize(640, 480);
+    turned.resize(480, 640);
+    turned.setRotation(90);
+    upright.setPlayer(controllers[0].player());
+    turned.setPlayer(controllers[1].player());
+    for (PlayerController& controller : controllers)
+        controller.player()->replaceCurrentItem(std::make_shared<media::PlayerItem>(asset));
+    ASSERT_TRUE(pumpUntil([&] { return !upright.videoRect().isEmpty(); }));
+    const QImage wanted = painted(upright).transformed(QTransform().rotate(90));
+    EXPECT_TRUE(pumpUntil([&] { return painted(turned) == wanted; }, std::chrono::seconds(10)));
 }
 
 TEST(PlayerLayerView, mayGoWhileItsPlayerPlays) {
