@@ -208,11 +208,10 @@ void writeClicks(const Recipe& recipe, int track, const std::filesystem::path& p
 }
 
 Arguments audioInputArguments(const Recipe& recipe, const std::filesystem::path& path) {
-    return {"-itsoffset", shortest(recipe.audioStart),
-            "-f",         "s16le",
-            "-ar",        std::to_string(recipe.sampleRate),
-            "-ac",        std::to_string(recipe.channels),
-            "-i",         path.string()};
+    return {"-f",  "s16le",
+            "-ar", std::to_string(recipe.sampleRate),
+            "-ac", std::to_string(recipe.channels),
+            "-i",  path.string()};
 }
 
 Arguments audioOutputArguments(const Recipe& recipe) {
@@ -223,6 +222,10 @@ Arguments audioOutputArguments(const Recipe& recipe) {
                            "-metadata:s:a:" + std::to_string(track),
                            std::string("language=") +
                                kLanguages.at(static_cast<std::size_t>(track) % kLanguages.size())});
+        // Newer releases of ffmpeg do not move raw sound by -itsoffset.
+        if (recipe.audioStart != 0)
+            append(arguments, {"-filter:a:" + std::to_string(track),
+                               "asetpts=PTS+" + shortest(recipe.audioStart) + "/TB"});
     }
     if (recipe.audioTracks > 0) {
         const std::string encoder = encoderOf(recipe.audioCodec, recipe.container);

@@ -50,9 +50,11 @@ constexpr std::size_t kMostReordered = 16;
 /// How many packets are read in search of the second one of a sound.
 constexpr int kPacketsForSound = 64;
 
-/// Whether the first packet only prepares the decoder, although the container counts its time.
-bool beginsWithSilentPacket(const AVFormatContext& context, const AVStream& stream) {
-    return stream.codecpar->codec_id == AV_CODEC_ID_VORBIS &&
+/// Whether the container counts the time of what only prepares the decoder: the first packet of
+/// Vorbis, the first samples of Opus.
+bool beginsSilently(const AVFormatContext& context, const AVStream& stream) {
+    const AVCodecID codec = stream.codecpar->codec_id;
+    return (codec == AV_CODEC_ID_VORBIS || codec == AV_CODEC_ID_OPUS) &&
            std::string_view(context.iformat->name).starts_with("matroska");
 }
 
@@ -63,7 +65,7 @@ public:
         : m_demuxer(demuxer), m_track(track), m_decoder(*track.parameters, track.timeBase, 1) {
         const AVFormatContext& context = demuxer.context();
         for (unsigned i = 0; i < context.nb_streams; ++i) {
-            if (beginsWithSilentPacket(context, *context.streams[i]))
+            if (beginsSilently(context, *context.streams[i]))
                 m_soundTimes[context.streams[i]->index];
         }
     }
@@ -97,12 +99,14 @@ public:
         return shown;
     }
 
-    /// When the second packet of a stream is presented; its time base. Known of Vorbis only.
-    [[nodiscard]] std::optional<std::int64_t> secondPacket(int stream) const {
+    /// When the first or second packet (0, 1) of a stream is presented; its time base. Known of
+    /// those that begin silently only.
+    [[nodiscard]] std::optional<std::int64_t> packetTime(int stream, std::size_t number) const {
         const auto entry = m_soundTimes.find(stream);
-        if (entry == m_soundTimes.end() || entry->second.size() < 2)
+        if (entry == m_soundTimes.end() || entry->second.size() <= number ||
+            entry->second[number] == AV_NOPTS_VALUE)
             return std::nullopt;
-        return entry->second[1];
+        return entry->second[number];
     }
 
     /// The first picture, once read() has returned.
@@ -170,7 +174,7 @@ private:
     FramePtr m_frame = makeFrame();
     std::optional<std::int64_t> m_timestamp;
     std::int64_t m_firstDts = AV_NOPTS_VALUE;
-    /// The first two times of each stream whose first packet is silent.
+    /// The first two times of each stream that begins silently.
     std::map<int, std::vector<std::int64_t>> m_soundTimes;
     std::int64_t m_bytes = 0;
     std::vector<std::int64_t> m_pts;
@@ -209,13 +213,17 @@ CorrectedStarts correctedStarts(const AVFormatContext& context, const FirstPictu
         const AVCodecParameters& parameters = *stream.codecpar;
         if (stream.start_time == AV_NOPTS_VALUE)
             continue;
-        if (parameters.codec_id == AV_CODEC_ID_OPUS)
-            starts[stream.index] =
-                stream.start_time + av_rescale_q(parameters.initial_padding,
-                                                 {1, parameters.sample_rate}, stream.time_base);
-        const auto second = reader ? reader->secondPacket(stream.index) : std::nullopt;
-        if (second && *second != AV_NOPTS_VALUE)
+        const auto packet = [&](std::size_t number) {
+            return reader ? reader->packetTime(stream.index, number) : std::nullopt;
+        };
+        // By its first packet: newer releases of libav leave the dropped samples out of the start.
+        if (parameters.codec_id == AV_CODEC_ID_OPUS) {
+            starts[stream.index] = packet(0).value_or(stream.start_time) +
+                                   av_rescale_q(parameters.initial_padding,
+                                                {1, parameters.sample_rate}, stream.time_base);
+        } else if (const auto second = packet(1)) {
             starts[stream.index] = *second;
+        }
     }
     return starts;
 }
