@@ -93,13 +93,17 @@ TEST_F(FileManagerEntriesTest, saysWhichCannotBeWritten) {
 
 TEST_F(FileManagerEntriesTest, removesAllThatCanBeAndSaysWhatCannot) {
     install();
-    // A folder that is ours by its name only is not removed, and stands in nobody's way.
-    fs::remove(m_data / kPlaces[0]);
-    fs::create_directories(m_data / kPlaces[0] / "x");
-    entries::uninstall(m_data.path());
+    // A link to itself: nobody can remove anything in there.
+    fs::remove_all(m_data / "kio");
+    fs::create_symlink("kio", m_data / "kio");
+    try {
+        entries::uninstall(m_data.path());
+        FAIL() << "A file behind a link to itself was removed.";
+    } catch (const std::runtime_error& error) {
+        EXPECT_NE(std::string(error.what()).find("kio/servicemenus"), std::string::npos);
+    }
     for (const std::size_t other : {1U, 2U, 3U})
         EXPECT_FALSE(fs::exists(m_data / kPlaces[other])) << kPlaces[other];
-    EXPECT_TRUE(fs::exists(m_data / kPlaces[0] / "x"));
 }
 
 // In a folder of another computer Nautilus gives addresses instead of names.
