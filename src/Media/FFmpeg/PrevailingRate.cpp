@@ -14,6 +14,9 @@ constexpr std::int64_t kToleranceDivisor = 10;
 /// How many of all distances have to be the same for the others to be gaps.
 constexpr double kPrevailingPart = 0.75;
 constexpr std::size_t kFewestDistances = 8;
+/// Above this it is bursts that prevail, not a rate: a grid of it would be repetitions for the
+/// most.
+constexpr double kHighestRate = 240;
 
 std::vector<std::int64_t> distances(std::vector<std::int64_t> times) {
     std::ranges::sort(times);
@@ -46,7 +49,8 @@ std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRationa
     if (count == all.size() ||
         static_cast<double>(count) < kPrevailingPart * static_cast<double>(all.size()))
         return std::nullopt;
-    return static_cast<double>(count) / (sum * av_q2d(timeBase));
+    const double rate = static_cast<double>(count) / (sum * av_q2d(timeBase));
+    return rate <= kHighestRate ? std::optional(rate) : std::nullopt;
 }
 
 std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream& stream) {

@@ -10,8 +10,8 @@ namespace media::ffmpeg {
 
 /// Frames per second of pictures that follow one another at one distance but for gaps between some
 /// of them, of which an average knows nothing. None where there are no such gaps, where the
-/// distances are of all kinds, or where there are too few to tell. `times` in any order, in
-/// `timeBase`.
+/// distances are of all kinds, too few to tell or too short for a rate (over 240 a second). `times`
+/// in any order, in `timeBase`.
 std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRational timeBase);
 
 /// When the samples are decoded that a container's index lists, as far as they are shown; in the
