@@ -29,6 +29,13 @@ std::string nameOrNothing(const char* name) {
     return name ? name : "";
 }
 
+/// Whether the format itself says that the numbers use their full range.
+bool isFullRange(int format) {
+    return format == AV_PIX_FMT_YUVJ420P || format == AV_PIX_FMT_YUVJ422P ||
+           format == AV_PIX_FMT_YUVJ444P || format == AV_PIX_FMT_YUVJ440P ||
+           format == AV_PIX_FMT_YUVJ411P;
+}
+
 ColorDescription describeColor(const AVCodecParameters& parameters) {
     ColorDescription color;
     if (parameters.color_primaries != AVCOL_PRI_UNSPECIFIED)
@@ -37,7 +44,11 @@ ColorDescription describeColor(const AVCodecParameters& parameters) {
         color.transfer = nameOrNothing(av_color_transfer_name(parameters.color_trc));
     if (parameters.color_space != AVCOL_SPC_UNSPECIFIED)
         color.matrix = nameOrNothing(av_color_space_name(parameters.color_space));
-    if (parameters.color_range != AVCOL_RANGE_UNSPECIFIED)
+    // The pixel format comes from the stream, the tag since FFmpeg 9.0 from the container first;
+    // the decoder goes by the stream.
+    if (isFullRange(parameters.format))
+        color.range = nameOrNothing(av_color_range_name(AVCOL_RANGE_JPEG));
+    else if (parameters.color_range != AVCOL_RANGE_UNSPECIFIED)
         color.range = nameOrNothing(av_color_range_name(parameters.color_range));
     if (parameters.chroma_location != AVCHROMA_LOC_UNSPECIFIED)
         color.chromaLocation = nameOrNothing(av_chroma_location_name(parameters.chroma_location));
