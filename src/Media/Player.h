@@ -103,8 +103,9 @@ public:
     virtual void removeTimeObserver(Token token);
     /// Called after every change of rate(), with the new rate.
     virtual void setRateHandler(std::function<void(float rate)> handler);
-    /// Called when an item has played to its end, after the rate has become 0 and the time
-    /// observers have got the end time; the argument is that item.
+    /// Called when an item has played to its end, after the time observers have got the end time
+    /// and the rate handler the rate of 0, in this order: whoever stops before the end by the time
+    /// still knows that it played. The argument is that item.
     virtual void
     setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler);
 
