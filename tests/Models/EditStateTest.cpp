@@ -430,6 +430,28 @@ TEST_F(EditStateTest, turnsTheCropWithThePicture) {
     EXPECT_NEAR(state().cropRect()->height, crop.height, 1e-12);
 }
 
+TEST_F(EditStateTest, showsNoFilmstripOfTheVideoBefore) {
+    const auto before =
+        makeFixture({.duration = 30, .groupOfPictures = 250, .width = 640, .height = 480}).path;
+    const auto portrait = makeFixture({.duration = 2, .displayRotation = 90}).path;
+    bool isOfAnother = false;
+    QObject::connect(&state(), &EditState::thumbnailsChanged, &state(), [&] {
+        for (const QImage& image : state().thumbnails())
+            isOfAnother = isOfAnother ||
+                          (state().videoURL() == urlOf(portrait) && image.width() > image.height());
+    });
+    state().load(urlOf(before));
+    ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(before); }));
+    // While the strip of the one before is being made.
+    state().load(urlOf(portrait));
+    ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == urlOf(portrait); }));
+    ASSERT_TRUE(pumpUntil([&] {
+        return !state().thumbnails().isEmpty() &&
+               state().thumbnails().first().width() < state().thumbnails().first().height();
+    }));
+    EXPECT_FALSE(isOfAnother);
+}
+
 TEST_F(EditStateTest, mutesThePlayerAtOnce) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     state().setMuted(true);

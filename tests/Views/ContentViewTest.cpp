@@ -21,6 +21,7 @@
 #include <QDragEnterEvent>
 #include <QDragLeaveEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QPointer>
 #include <QProgressBar>
@@ -271,6 +272,17 @@ TEST_F(ContentViewTest, showsALongNameInAnAlertNoWiderThanTheOthers) {
     state().load(urlOf(m_folder / (std::string(250, 'x') + ".mov")));
     ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
     EXPECT_LT(shown<ErrorAlert>()->width(), 480);
+    // And whole: it is broken into lines that fit.
+    int labels = 0;
+    for (const QLabel* label : shown<ErrorAlert>()->findChildren<QLabel*>()) {
+        const QRect room(0, 0, label->width(), 10000);
+        const QRect text = label->fontMetrics().boundingRect(
+            room, static_cast<int>(Qt::AlignHCenter) | Qt::TextWordWrap, label->text());
+        EXPECT_LE(text.width(), room.width()) << label->text().toStdString();
+        EXPECT_LE(text.height(), label->height()) << label->text().toStdString();
+        labels += label->text().isEmpty() ? 0 : 1;
+    }
+    EXPECT_EQ(labels, 2) << "the title and the message";
 }
 
 TEST_F(ContentViewTest, laysAPictureOfUnknownSizeOutAsSixteenByNine) {
