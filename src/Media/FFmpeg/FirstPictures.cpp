@@ -1,0 +1,136 @@
+#include "Media/FFmpeg/FirstPictures.h"
+
+#include "Media/Error.h"
+#include "Media/FFmpeg/Encryption.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace media::ffmpeg {
+
+namespace {
+
+/// How many packets are looked at to learn whether a track states its presentation times.
+constexpr int kPacketsToJudge = 16;
+
+/// How much is read of a container without an index of all pictures to learn at which distances
+/// they follow one another.
+constexpr int kTimesToJudge = 64;
+constexpr std::int64_t kBytesToJudge = 4'000'000;
+/// No decoder keeps more pictures to put them in order.
+constexpr std::size_t kMostReordered = 16;
+
+/// How many packets are read in search of the second one of a sound.
+constexpr int kPacketsForSound = 64;
+
+/// Whether the container counts the time of what only prepares the decoder: the first packet of
+/// Vorbis, the first samples of Opus.
+bool beginsSilently(const AVFormatContext& context, const AVStream& stream) {
+    const AVCodecID codec = stream.codecpar->codec_id;
+    return (codec == AV_CODEC_ID_VORBIS || codec == AV_CODEC_ID_OPUS) &&
+           std::string_view(context.iformat->name).starts_with("matroska");
+}
+
+} // namespace
+
+FirstPicturesReader::FirstPicturesReader(Demuxer& demuxer, const SourceTrack& track)
+    : m_demuxer(demuxer), m_track(track), m_decoder(*track.parameters, track.timeBase, 1) {
+    const AVFormatContext& context = demuxer.context();
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        if (beginsSilently(context, *context.streams[i]))
+            m_soundTimes[context.streams[i]->index];
+    }
+}
+
+FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
+    const bool mustJudge = !m_demuxer.statesPresentationTimes();
+    for (int read = 0; !m_timestamp || (mustJudge && m_packets < kPacketsToJudge) ||
+                       (isAwaitingSound() && read < kPacketsForSound);
+         ++read) {
+        if (!readPacket(stop))
+            break;
+    }
+    if (!m_timestamp)
+        throw Error("Not one picture in this file can be decoded.");
+    return judged();
+}
+
+std::vector<std::int64_t> FirstPicturesReader::times(const std::stop_token& stop) {
+    while (m_packets < kTimesToJudge && m_bytes < kBytesToJudge && readPacket(stop)) {
+    }
+    if (m_packetsWithoutPts > 0)
+        return std::ranges::find(m_dts, AV_NOPTS_VALUE) == m_dts.end()
+                   ? m_dts
+                   : std::vector<std::int64_t>();
+    // Between the last ones some may be missing that are decoded later.
+    std::vector<std::int64_t> shown = m_pts;
+    std::ranges::sort(shown);
+    shown.resize(shown.size() - std::min(shown.size(), kMostReordered));
+    return shown;
+}
+
+std::optional<std::int64_t> FirstPicturesReader::packetTime(int stream, std::size_t number) const {
+    const auto entry = m_soundTimes.find(stream);
+    if (entry == m_soundTimes.end() || entry->second.size() <= number ||
+        entry->second[number] == AV_NOPTS_VALUE)
+        return std::nullopt;
+    return entry->second[number];
+}
+
+bool FirstPicturesReader::readPacket(const std::stop_token& stop) {
+    const bool hasPacket = m_demuxer.read(*m_packet, stop) == Demuxer::Status::packet;
+    if (hasPacket)
+        expectNoEncryption(*m_packet);
+    m_bytes += hasPacket ? m_packet->size : 0;
+    if (hasPacket && m_packet->stream_index != m_track.facts.streamIndex) {
+        noteSound();
+        av_packet_unref(m_packet.get());
+        return true;
+    }
+    if (hasPacket)
+        notePicture();
+    if (!m_timestamp) {
+        m_decoder.send(hasPacket ? m_packet.get() : nullptr);
+        if (m_decoder.receive(*m_frame) == Decoder::Status::frame)
+            m_timestamp =
+                m_frame->pts != AV_NOPTS_VALUE ? m_frame->pts : m_frame->best_effort_timestamp;
+    }
+    av_packet_unref(m_packet.get());
+    return hasPacket;
+}
+
+void FirstPicturesReader::notePicture() {
+    ++m_packets;
+    m_packetsWithoutPts += m_packet->pts == AV_NOPTS_VALUE ? 1 : 0;
+    m_pts.push_back(m_packet->pts);
+    m_dts.push_back(m_packet->dts);
+    if (m_firstDts == AV_NOPTS_VALUE)
+        m_firstDts = m_packet->dts;
+}
+
+void FirstPicturesReader::noteSound() {
+    const auto entry = m_soundTimes.find(m_packet->stream_index);
+    if (entry != m_soundTimes.end() && entry->second.size() < 2)
+        entry->second.push_back(m_packet->pts);
+}
+
+bool FirstPicturesReader::isAwaitingSound() const {
+    return std::ranges::any_of(m_soundTimes,
+                               [](const auto& entry) { return entry.second.size() < 2; });
+}
+
+FirstPictures FirstPicturesReader::judged() const {
+    FirstPictures result{*m_timestamp, false, false};
+    const AVCodecID codec = m_track.parameters->codec_id;
+    const bool reordersByOne = codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG2VIDEO ||
+                               codec == AV_CODEC_ID_MPEG4;
+    if (reordersByOne && m_packetsWithoutPts > 0) {
+        result.needsGeneratedTimes = true;
+    } else if (m_packetsWithoutPts * 2 > m_packets) {
+        result.lacksPresentationTimes = true;
+        result.timestamp = m_firstDts;
+    }
+    return result;
+}
+
+} // namespace media::ffmpeg

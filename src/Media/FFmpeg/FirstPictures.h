@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Media/FFmpeg/Decoder.h"
+#include "Media/FFmpeg/Demuxer.h"
+#include "Media/FFmpeg/SourceInfo.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <stop_token>
+#include <vector>
+
+namespace media::ffmpeg {
+
+/// What the first pictures of a track tell.
+struct FirstPictures {
+    /// Of the first picture that decodes; AV_NOPTS_VALUE if there is none.
+    std::int64_t timestamp = AV_NOPTS_VALUE;
+    bool lacksPresentationTimes = false;
+    bool needsGeneratedTimes = false;
+};
+
+/// Reads a track's packets from where the demuxer stands until one picture has decoded and the
+/// track's habits are known. Proves with it that the file is decodable. One thread.
+class FirstPicturesReader {
+public:
+    /// Keeps references to both.
+    FirstPicturesReader(Demuxer& demuxer, const SourceTrack& track);
+
+    /// Throws Error if not one picture decodes or the file is encrypted; Cancelled.
+    FirstPictures read(const std::stop_token& stop);
+
+    /// When the first pictures are shown or, if not all say so, decoded; after read(), and as far
+    /// as little has to be read for it. In the track's time base.
+    std::vector<std::int64_t> times(const std::stop_token& stop);
+
+    /// When the first or second packet (0, 1) of a stream is presented; its time base. Known of
+    /// those that begin silently only.
+    [[nodiscard]] std::optional<std::int64_t> packetTime(int stream, std::size_t number) const;
+
+    /// The first picture, once read() has returned.
+    [[nodiscard]] const AVFrame& picture() const { return *m_frame; }
+
+private:
+    /// False at the end of the file.
+    bool readPacket(const std::stop_token& stop);
+    void notePicture();
+    void noteSound();
+    [[nodiscard]] bool isAwaitingSound() const;
+    [[nodiscard]] FirstPictures judged() const;
+
+    Demuxer& m_demuxer;
+    const SourceTrack& m_track;
+    Decoder m_decoder;
+    PacketPtr m_packet = makePacket();
+    FramePtr m_frame = makeFrame();
+    std::optional<std::int64_t> m_timestamp;
+    std::int64_t m_firstDts = AV_NOPTS_VALUE;
+    /// The first two times of each stream that begins silently.
+    std::map<int, std::vector<std::int64_t>> m_soundTimes;
+    std::int64_t m_bytes = 0;
+    std::vector<std::int64_t> m_pts;
+    std::vector<std::int64_t> m_dts;
+    int m_packets = 0;
+    int m_packetsWithoutPts = 0;
+};
+
+} // namespace media::ffmpeg
