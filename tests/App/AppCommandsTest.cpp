@@ -300,8 +300,8 @@ TEST_F(AppCommandsTest, removesTheEntriesOfFileManagersAlsoWhereTheWorkflowIsGon
     EXPECT_FALSE(std::filesystem::exists(data / "nautilus"));
     EXPECT_FALSE(std::filesystem::exists(data / "Thunar"));
     EXPECT_EQ(m_state->errorMessage(),
-              QStringLiteral("Couldn't update the Quick Action: “Trim Video.workflow” couldn't be "
-                             "removed: It doesn't exist."));
+              QStringLiteral("Couldn't update the Quick Action: “Trim Video.workflow” couldn’t be "
+                             "removed: It doesn’t exist."));
     EXPECT_TRUE(QuickAction::shared().isInstalled());
 }
 

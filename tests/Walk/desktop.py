@@ -169,6 +169,10 @@ class Hand:
     def let_go(self):
         self._xdotool("mouseup", 1)
 
+    def press_while_held(self, key):
+        """Presses a key with the mouse's button down, which press() would let go of."""
+        self._xdotool("key", key)
+
     def press(self, *keys):
         for key in keys:
             self._xdotool("key", "--clearmodifiers", key)

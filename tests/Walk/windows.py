@@ -56,7 +56,7 @@ class Drags:
         self.hand.move((start[0] + end[0]) / 2, (start[1] + end[1]) / 2)
         self.hand.move(*end)
         wait_for("drag", lambda: (self.program.sliders(), self.program.crop()) != before)
-        self.hand.press("Escape")
+        self.hand.press_while_held("Escape")
         wait_for("end of the drag", lambda: (self.program.sliders(), self.program.crop()) == before)
         self.hand.move(*start)
         self.hand.let_go()
