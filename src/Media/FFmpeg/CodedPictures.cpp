@@ -63,7 +63,6 @@ CodedPictures::CodedPictures(const AVCodecParameters& parameters)
       m_context(allocated(avcodec_alloc_context3(nullptr))),
       m_parser(allocated(av_parser_init(parameters.codec_id))) {
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
-    m_context->framerate = {0, 1};
     m_parser->flags |= PARSER_FLAG_COMPLETE_FRAMES;
 }
 
@@ -106,11 +105,6 @@ void CodedPictures::readHevc(CodedPicture& picture, int unitType) {
         m_hasRandomAccess = true;
     }
     picture.isShown = !m_isBroken || (unitType != kSkippedLeadingN && unitType != kSkippedLeadingR);
-}
-
-AVRational CodedPictures::statedFrameRate() const {
-    const bool isStated = m_codec == AV_CODEC_ID_MPEG1VIDEO || m_codec == AV_CODEC_ID_MPEG2VIDEO;
-    return isStated ? m_context->framerate : AVRational{0, 1};
 }
 
 } // namespace media::ffmpeg

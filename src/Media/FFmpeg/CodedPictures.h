@@ -36,9 +36,6 @@ public:
     /// picture.
     std::optional<CodedPicture> next(const AVPacket& packet);
 
-    /// The frame rate in the sequence headers of MPEG-1 and 2; else 0/1.
-    [[nodiscard]] AVRational statedFrameRate() const;
-
 private:
     void readH264(CodedPicture& picture, int unitType);
     void readHevc(CodedPicture& picture, int unitType);

@@ -1,6 +1,7 @@
 #include "Media/FFmpeg/PictureIndex.h"
 
 #include "Media/FFmpeg/CodedPictures.h"
+#include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
 #include "Media/FFmpeg/DisplayOrder.h"
 
@@ -28,15 +29,38 @@ std::optional<AVCodecID> orderedCodec(const AVFormatContext& context) {
     return context.streams[0]->codecpar->codec_id;
 }
 
-/// Without times in the packets the stream's averages are guesses; its other rate is what its
-/// headers state.
-AVRational frameRateOf(const AVStream& stream, AVRational statedInSequence) {
-    for (const AVRational rate : {statedInSequence, stream.r_frame_rate, stream.avg_frame_rate}) {
-        if (rate.num > 0 && rate.den > 0 && av_q2d(rate) <= kHighestFrameRate)
-            return rate;
+/// Learns the frame rate that a stream's headers state: only a decoder tells it in the same way in
+/// all releases of libav. Its first picture is enough.
+class StatedFrameRate {
+public:
+    explicit StatedFrameRate(const AVStream& stream)
+        : m_decoder(*stream.codecpar, stream.time_base, 1) {
+        // What the demuxer assumes is not stated.
+        m_decoder.context().framerate = {0, 1};
     }
-    return kUsualFrameRate;
-}
+
+    void add(const AVPacket& packet) {
+        if (m_hasPicture || m_packets++ >= kMostPacketsToDecode)
+            return;
+        m_decoder.send(&packet);
+        m_hasPicture = m_decoder.receive(*m_frame) == Decoder::Status::frame;
+    }
+
+    [[nodiscard]] AVRational value() {
+        const AVRational rate = m_decoder.context().framerate;
+        const bool isStated = rate.num > 0 && rate.den > 0 && av_q2d(rate) <= kHighestFrameRate;
+        return isStated ? rate : kUsualFrameRate;
+    }
+
+private:
+    /// A damaged stream may begin with many that do not decode.
+    static constexpr int kMostPacketsToDecode = 64;
+
+    Decoder m_decoder;
+    FramePtr m_frame = makeFrame();
+    int m_packets = 0;
+    bool m_hasPicture = false;
+};
 
 /// Collects the packets of a bitstream and gives each its times in the end.
 class Collection {
@@ -102,18 +126,18 @@ std::shared_ptr<const PictureIndex> PictureIndex::read(Demuxer& demuxer,
         return nullptr;
     const AVStream& stream = *demuxer.context().streams[0];
     CodedPictures pictures(*stream.codecpar);
+    StatedFrameRate frameRate(stream);
     Collection collection;
     demuxer.reopen(stop);
     const PacketPtr packet = makePacket();
     while (collection.size() < kMostPackets &&
            demuxer.read(*packet, stop) == Demuxer::Status::packet) {
+        frameRate.add(*packet);
         if (const auto picture = pictures.next(*packet))
             collection.add(*packet, *picture);
         av_packet_unref(packet.get());
     }
-    const AVStream& reopened = *demuxer.context().streams[0];
-    return collection.indexed(frameRateOf(reopened, pictures.statedFrameRate()),
-                              reopened.time_base);
+    return collection.indexed(frameRate.value(), demuxer.context().streams[0]->time_base);
 }
 
 bool PictureIndex::stamp(AVPacket& packet) const {
