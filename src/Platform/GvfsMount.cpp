@@ -63,17 +63,17 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, GvfsMount& mount)
     QByteArray folder;
     QByteArray prefix;
     QByteArray start;
-    QVariantMap spec;
+    QVariantMap attributes;
     argument.beginStructure();
     argument >> text >> object >> text >> text >> text >> text >> text >> text >> isVisible >>
         folder;
     argument.beginStructure();
-    argument >> prefix >> spec;
+    argument >> prefix >> attributes;
     argument.endStructure();
     argument >> start;
     argument.endStructure();
-    for (auto item = spec.constBegin(); item != spec.constEnd(); ++item)
-        mount.spec.insert(item.key(), QString::fromUtf8(bytesOf(item.value())));
+    for (auto item = attributes.constBegin(); item != attributes.constEnd(); ++item)
+        mount.attributes.insert(item.key(), QString::fromUtf8(bytesOf(item.value())));
     mount.prefix = bytesOf(prefix);
     while (mount.prefix.endsWith('/'))
         mount.prefix.chop(1);
@@ -88,12 +88,13 @@ std::optional<GvfsMount::Match> GvfsMount::match(const QUrl& address) const {
         return std::nullopt;
     // In SMB the name of a domain may stand before that of the user.
     const QString user = address.userName().section(u';', -1);
-    const QString mountedBy = spec.value(QStringLiteral("user"));
+    const QString mountedBy = attributes.value(QStringLiteral("user"));
     if (!user.isEmpty() && user != mountedBy)
         return std::nullopt;
     QByteArray path = decodedPath(address);
     // The share is the first folder of the address, and no folder of the mount.
-    const QString share = spec.value(QStringLiteral("share"), spec.value(QStringLiteral("volume")));
+    const QString share =
+        attributes.value(QStringLiteral("share"), attributes.value(QStringLiteral("volume")));
     if (!share.isEmpty()) {
         const QByteArray first =
             path.left(path.indexOf('/', 1) < 0 ? path.size() : path.indexOf('/', 1));
@@ -110,10 +111,12 @@ std::optional<GvfsMount::Match> GvfsMount::match(const QUrl& address) const {
 bool GvfsMount::isOfServer(const QUrl& address) const {
     const QByteArray scheme = address.scheme().toLatin1();
     const Protocol protocol = protocolOf(scheme);
-    const QString type = spec.value(QStringLiteral("type"));
-    const QString host = spec.value(QStringLiteral("host"), spec.value(QStringLiteral("server")));
-    const int port = spec.value(QStringLiteral("port"), QString::number(protocol.port)).toInt();
-    const bool isEncrypted = spec.value(QStringLiteral("ssl")) == u"true";
+    const QString type = attributes.value(QStringLiteral("type"));
+    const QString host =
+        attributes.value(QStringLiteral("host"), attributes.value(QStringLiteral("server")));
+    const int port =
+        attributes.value(QStringLiteral("port"), QString::number(protocol.port)).toInt();
+    const bool isEncrypted = attributes.value(QStringLiteral("ssl")) == u"true";
     return type == QLatin1String(protocol.type) &&
            host.compare(address.host(), Qt::CaseInsensitive) == 0 &&
            port == address.port(protocol.port) &&

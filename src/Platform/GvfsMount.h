@@ -24,7 +24,7 @@ struct GvfsMount {
     };
 
     /// What it is of: "type", "host" or "server", "share", "user", "port" … as text.
-    QMap<QString, QString> spec;
+    QMap<QString, QString> attributes;
     /// The folder of the other side that it begins with.
     QByteArray prefix;
     /// Where it stands among the folders of this computer; empty where it does not.

@@ -60,9 +60,9 @@ protected:
     }
 
     testsupport::GvfsMount mount() const {
-        return {.spec = {{QStringLiteral("type"), QStringLiteral("sftp")},
-                         {QStringLiteral("host"), QStringLiteral("nas")},
-                         {QStringLiteral("user"), QStringLiteral("me")}},
+        return {.attributes = {{QStringLiteral("type"), QStringLiteral("sftp")},
+                               {QStringLiteral("host"), QStringLiteral("nas")},
+                               {QStringLiteral("user"), QStringLiteral("me")}},
                 .folder = QByteArray::fromStdString((m_folder / "mount").string())};
     }
 

@@ -16,7 +16,7 @@ namespace testsupport {
 /// One entry in GVfs' list of mounts, as far as it matters.
 struct GvfsMount {
     /// "type", "host", "user" …
-    QVariantMap spec;
+    QVariantMap attributes;
     /// What is mounted of the other side.
     QByteArray prefix = "/";
     /// Empty where the mount has no place among the folders of this computer.
@@ -28,15 +28,15 @@ inline QByteArray zeroTerminated(QByteArray text) {
 }
 
 inline QDBusArgument& operator<<(QDBusArgument& argument, const GvfsMount& mount) {
-    QVariantMap spec;
-    for (auto item = mount.spec.begin(); item != mount.spec.end(); ++item)
-        spec.insert(item.key(), zeroTerminated(item.value().toString().toUtf8()));
+    QVariantMap attributes;
+    for (auto item = mount.attributes.begin(); item != mount.attributes.end(); ++item)
+        attributes.insert(item.key(), zeroTerminated(item.value().toString().toUtf8()));
     const QString text = QStringLiteral("x");
     argument.beginStructure();
     argument << QStringLiteral(":1.1") << QDBusObjectPath(QStringLiteral("/mount")) << text << text
              << text << text << text << QString() << true << zeroTerminated(mount.folder);
     argument.beginStructure();
-    argument << zeroTerminated(mount.prefix) << spec;
+    argument << zeroTerminated(mount.prefix) << attributes;
     argument.endStructure();
     argument << zeroTerminated("/");
     argument.endStructure();

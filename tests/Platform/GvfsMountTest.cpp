@@ -13,11 +13,11 @@ namespace {
 using brisklet::GvfsMount;
 using brisklet::gvfsMountsIn;
 
-GvfsMount mount(std::initializer_list<std::pair<const char*, const char*>> spec,
+GvfsMount mount(std::initializer_list<std::pair<const char*, const char*>> attributes,
                 const char* prefix = "") {
-    GvfsMount mount{.spec = {}, .prefix = prefix, .folder = "/run/gvfs/m"};
-    for (const auto& [key, value] : spec)
-        mount.spec.insert(QString::fromLatin1(key), QString::fromUtf8(value));
+    GvfsMount mount{.attributes = {}, .prefix = prefix, .folder = "/run/gvfs/m"};
+    for (const auto& [key, value] : attributes)
+        mount.attributes.insert(QString::fromLatin1(key), QString::fromUtf8(value));
     return mount;
 }
 
