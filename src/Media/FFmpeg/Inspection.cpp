@@ -99,7 +99,7 @@ std::optional<Time> containerEnd(const AVFormatContext& context) {
     if (context.duration == AV_NOPTS_VALUE || context.duration <= 0)
         return std::nullopt;
     const std::int64_t start = context.start_time != AV_NOPTS_VALUE ? context.start_time : 0;
-    return timeOf(av_sat_add64(start, context.duration), AV_TIME_BASE_Q);
+    return timeOf(av_sat_add64(start, context.duration), av_get_time_base_q());
 }
 
 /// The stream's end as the container states it, in container time.
