@@ -220,13 +220,18 @@ void EditState::seekPlayer(double to) {
 }
 
 void EditState::setTrimStartToPlayhead() {
+    double latest = m_trimEnd - kMinimumRange;
+    // A video may be shorter than the shortest range.
+    if (m_duration > 0)
+        latest = std::max(latest, 0.0);
     // std::max gives its first argument where the second is NaN.
-    const double latest = std::max(m_trimEnd - kMinimumRange, 0.0);
     m_trimStart = std::min(std::max(0.0, m_currentTime.value()), latest);
 }
 
 void EditState::setTrimEndToPlayhead() {
-    const double earliest = std::min(m_trimStart + kMinimumRange, m_duration.value());
+    double earliest = m_trimStart + kMinimumRange;
+    if (m_duration > 0)
+        earliest = std::min(earliest, m_duration.value());
     m_trimEnd = std::max(std::min(m_currentTime.value(), m_duration.value()), earliest);
 }
 

@@ -46,12 +46,13 @@ void EditState::presentExportPanel() {
 QCoro::Task<> EditState::askForOutput() {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const auto panels = m_filePanels;
-    // Another window may change the shared one while the panel is open.
+    // Another window may change the shared one while the panel is open, and a drop the video.
     const ExportFormat format = ExportSettings::shared().format();
+    const auto asset = m_asset;
     auto panel = panels->saveMovie(proposalFor(*videoURL(), format, m_longestName));
     const std::optional<QUrl> url = co_await panel;
     const auto self = weak.lock();
-    if (self && url)
+    if (self && url && self->m_asset == asset)
         self->startExport(*url, format);
 }
 

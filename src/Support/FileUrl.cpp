@@ -35,7 +35,12 @@ bool isHere(const QString& host) {
 } // namespace
 
 QUrl urlOf(const std::filesystem::path& path) {
-    QByteArray bytes = QByteArray::fromStdString(std::filesystem::absolute(path).string());
+    // Where the current folder has been deleted no relative path leads anywhere; whoever opens the
+    // file tells so.
+    std::error_code hasNoFolder;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, hasNoFolder);
+    QByteArray bytes = QByteArray::fromStdString(
+        (hasNoFolder ? std::filesystem::path("/") / path : absolute).string());
     // Two leading slashes would be read as the name of a host.
     while (bytes.startsWith("//"))
         bytes.remove(0, 1);

@@ -71,11 +71,13 @@ std::optional<HandleEdge> TimelineGeometry::handleAt(const QPointF& point) const
 }
 
 double TimelineGeometry::latestStart() const {
-    return std::max(trimEnd - kMinimumRange, 0.0);
+    const double latest = trimEnd - kMinimumRange;
+    return duration > 0 ? std::max(latest, 0.0) : latest;
 }
 
 double TimelineGeometry::earliestEnd() const {
-    return std::min(trimStart + kMinimumRange, duration);
+    const double earliest = trimStart + kMinimumRange;
+    return duration > 0 ? std::min(earliest, duration) : earliest;
 }
 
 double TimelineGeometry::clampedStart(double time) const {

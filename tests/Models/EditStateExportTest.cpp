@@ -183,6 +183,19 @@ TEST_F(EditStateExportTest, exportsInTheFormatThatThePanelWasOpenedFor) {
     EXPECT_EQ(probe(m_folder / "out.mov").format.text("tags.major_brand"), "qt  ");
 }
 
+TEST_F(EditStateExportTest, exportsNoOtherVideoThanThePanelWasOpenedFor) {
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    m_panels->toSave = urlOf(m_folder / "out.mp4");
+    m_panels->whileOpen = [this] {
+        const QUrl other = urlOf(makeFixture({.duration = 2}).path);
+        state().load(other);
+        ASSERT_TRUE(pumpUntil([&] { return state().videoURL() == other; }));
+    };
+    state().presentExportPanel();
+    EXPECT_EQ(state().exportProgress(), std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "out.mp4"));
+}
+
 // A name may have 255 bytes, and the proposal is longer than the name of its source.
 TEST_F(EditStateExportTest, proposesANameThatTheFolderCanHold) {
     // 3 bytes and one letter on the screen; 25 bytes and one letter.

@@ -103,6 +103,18 @@ TEST(FileUrl, readsAnArgumentAsAnAddressWhereThereIsNoSuchFolder) {
     std::filesystem::current_path(before);
 }
 
+// It ended the program.
+TEST(FileUrl, isMadeAlsoWhereTheCurrentFolderWasDeleted) {
+    const testsupport::TemporaryFolder folder;
+    const auto before = std::filesystem::current_path();
+    std::filesystem::create_directory(folder / "gone");
+    std::filesystem::current_path(folder / "gone");
+    std::filesystem::remove(folder / "gone");
+    EXPECT_EQ(displayName(urlOf("x.mp4")), QStringLiteral("x.mp4"));
+    EXPECT_EQ(urlOf("/tmp/x.mp4"), QUrl(QStringLiteral("file:///tmp/x.mp4")));
+    std::filesystem::current_path(before);
+}
+
 TEST(FileUrl, namesFilesByTheirLastComponent) {
     EXPECT_EQ(displayName(urlOf("/tmp/My Holiday.MOV")), QStringLiteral("My Holiday.MOV"));
     EXPECT_EQ(displayName(urlOf("/tmp/My Videos/")), QStringLiteral("My Videos"));
