@@ -185,7 +185,8 @@ INSTANTIATE_TEST_SUITE_P(
              recipeOf(VideoCodec::mpeg2, {25, 1}, {.isOpenGroup = true})},
         Case{"mpeg2Interlaced", "mpeg2video",
              recipeOf(VideoCodec::mpeg2, {25, 1}, {.additionalArguments = kInterlaced})},
-        Case{"mpeg4", "m4v", recipeOf(VideoCodec::mpeg4, {24, 1})}),
+        Case{"mpeg4", "m4v", recipeOf(VideoCodec::mpeg4, {24, 1})},
+        Case{"mpeg4Ntsc", "m4v", recipeOf(VideoCodec::mpeg4, kNtsc)}),
     [](const testing::TestParamInfo<Case>& testCase) { return testCase.param.name; });
 
 /// As when a camera is stopped and started in the middle of a group of pictures.

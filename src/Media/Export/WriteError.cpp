@@ -25,6 +25,9 @@ std::filesystem::path folderOf(const std::filesystem::path& file) {
 }
 
 void throwWriteError(int code, const std::filesystem::path& destination) {
+    std::error_code ignored;
+    if (code == ENOENT && std::filesystem::is_directory(folderOf(destination), ignored))
+        throw Error("The unfinished new file was removed by another program.");
     switch (code) {
     case ENOENT:
     case ENOTDIR:

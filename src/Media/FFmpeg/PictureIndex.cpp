@@ -29,8 +29,8 @@ std::optional<AVCodecID> orderedCodec(const AVFormatContext& context) {
     return context.streams[0]->codecpar->codec_id;
 }
 
-/// Learns the frame rate that a stream's headers state: only a decoder tells it in the same way in
-/// all releases of libav. Its first picture is enough.
+/// Learns the frame rate of a stream. Of what its headers state only a decoder tells in the same
+/// way in all releases of libav. Its first picture is enough.
 class StatedFrameRate {
 public:
     explicit StatedFrameRate(const AVStream& stream)
@@ -46,10 +46,13 @@ public:
         m_hasPicture = m_decoder.receive(*m_frame) == Decoder::Status::frame;
     }
 
-    [[nodiscard]] AVRational value() {
-        const AVRational rate = m_decoder.context().framerate;
-        const bool isStated = rate.num > 0 && rate.den > 0 && av_q2d(rate) <= kHighestFrameRate;
-        return isStated ? rate : kUsualFrameRate;
+    /// `stream` is that of the demuxer as it stands by now.
+    [[nodiscard]] AVRational value(const AVStream& stream) {
+        // What MPEG-4 states is how finely its clock ticks; libavformat looks at the pictures.
+        const bool isClock = stream.codecpar->codec_id == AV_CODEC_ID_MPEG4;
+        const AVRational rate = isClock ? stream.r_frame_rate : m_decoder.context().framerate;
+        const bool isKnown = rate.num > 0 && rate.den > 0 && av_q2d(rate) <= kHighestFrameRate;
+        return isKnown ? rate : kUsualFrameRate;
     }
 
 private:
@@ -137,7 +140,8 @@ std::shared_ptr<const PictureIndex> PictureIndex::read(Demuxer& demuxer,
             collection.add(*packet, *picture);
         av_packet_unref(packet.get());
     }
-    return collection.indexed(frameRate.value(), demuxer.context().streams[0]->time_base);
+    const AVStream& reopened = *demuxer.context().streams[0];
+    return collection.indexed(frameRate.value(reopened), reopened.time_base);
 }
 
 bool PictureIndex::stamp(AVPacket& packet) const {

@@ -47,7 +47,7 @@ public:
 
     [[nodiscard]] const Entry& first() const { return m_entries.front(); }
 
-    /// As the stream states it, or else 25.
+    /// As the stream states it, of MPEG-4 as its pictures show it, or else 25.
     [[nodiscard]] AVRational frameRate() const { return m_frameRate; }
 
     [[nodiscard]] std::int64_t end() const { return m_end; }
