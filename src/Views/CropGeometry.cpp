@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace brisklet {
 
@@ -53,11 +52,11 @@ QRectF CropGeometry::handleFrame(CropHandle handle, const QRectF& cropViewRect) 
 std::optional<CropHandle> CropGeometry::handleAt(const QPointF& point,
                                                  const QRectF& cropViewRect) const {
     // What is drawn last lies on top.
-    for (const CropHandle handle : kCropHandles | std::views::reverse) {
-        if (QLineF(position(handle, cropViewRect), point).length() <= handleSize / 2)
-            return handle;
-    }
-    return std::nullopt;
+    const auto hit =
+        std::find_if(kCropHandles.rbegin(), kCropHandles.rend(), [&](CropHandle handle) {
+            return QLineF(position(handle, cropViewRect), point).length() <= handleSize / 2;
+        });
+    return hit == kCropHandles.rend() ? std::nullopt : std::optional(*hit);
 }
 
 QPointF CropGeometry::position(CropHandle handle, const QRectF& rect) {

@@ -38,6 +38,11 @@ bool isWholeKeyFrame(const AVPacket& packet) {
 
 constexpr std::array<std::uint8_t, 3> kStartCode{0, 0, 1};
 
+/// The first start code; the end where there is none.
+auto startCodeIn(std::span<const std::uint8_t> bytes) {
+    return std::search(bytes.begin(), bytes.end(), kStartCode.begin(), kStartCode.end());
+}
+
 /// The units of an H.264 or HEVC packet, each with its length or a start code in front of it.
 class Units {
 public:
@@ -65,7 +70,7 @@ public:
         m_rest = m_rest.subspan(std::min(m_lengthBytes, m_rest.size()));
         const auto unit = m_rest.first(std::min(length, m_rest.size()));
         m_rest = m_rest.subspan(unit.size());
-        if (unit.size() == length && std::ranges::search(unit, kStartCode).empty())
+        if (unit.size() == length && startCodeIn(unit) == unit.end())
             return unit;
         m_rest = {};
         return m_rest;
@@ -73,8 +78,8 @@ public:
 
 private:
     void skipPastStartCode() {
-        const auto found = std::ranges::search(m_rest, kStartCode);
-        m_rest = std::span(found.end(), m_rest.end());
+        const auto found = static_cast<std::size_t>(startCodeIn(m_rest) - m_rest.begin());
+        m_rest = m_rest.subspan(std::min(found + kStartCode.size(), m_rest.size()));
     }
 
     std::span<const std::uint8_t> m_rest;

@@ -33,7 +33,8 @@ Time PresentationTimes::timeOf(const AVFrame& frame) {
         return assetTime(m_info, m_track, timestamp);
     if (!m_last.isNumeric())
         return m_track.facts.startTime;
-    const double fps = m_track.facts.nominalFrameRate > 0 ? m_track.facts.nominalFrameRate : 25;
+    const float rate = m_track.facts.nominalFrameRate;
+    const double fps = rate > 0 ? static_cast<double>(rate) : 25;
     return m_last + Time::fromSeconds(1 / fps, m_last.timescale);
 }
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <list>
-#include <ranges>
 #include <utility>
 
 namespace media::playback {
@@ -30,7 +29,9 @@ public:
         m_shares.splice(m_shares.begin(), m_shares, std::ranges::find(m_shares, &share));
         // The one used last keeps what it has, however much that is.
         std::size_t sum = bytes;
-        for (DecoderShare* other : m_shares | std::views::drop(1)) {
+        for (DecoderShare* other : m_shares) {
+            if (other == &share)
+                continue;
             sum += other->m_bytes;
             if (sum > m_bytesOfAll && other->m_bytes > 0 &&
                 !other->m_isTooMuch.exchange(true, std::memory_order_relaxed))
