@@ -84,8 +84,8 @@ double levelIn(const std::vector<float>& samples, int channels, int channel, dou
     const std::size_t to = count - count / 5;
     std::complex<double> sum;
     for (std::size_t i = from; i < to; ++i) {
-        const double sample = double{
-            samples[i * static_cast<std::size_t>(channels) + static_cast<std::size_t>(channel)]};
+        const auto sample = static_cast<double>(
+            samples[i * static_cast<std::size_t>(channels) + static_cast<std::size_t>(channel)]);
         const double angle = 2 * std::numbers::pi * frequency * static_cast<double>(i) / sampleRate;
         sum += std::polar(1.0, angle) * sample;
     }

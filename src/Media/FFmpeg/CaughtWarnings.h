@@ -22,7 +22,8 @@ public:
     [[nodiscard]] bool mention(std::string_view name) const;
 
     /// The process's log callback: what nobody keeps is dropped. Any thread.
-    static void hear(void* object, int level, const char* format, std::va_list arguments) noexcept;
+    [[gnu::format(printf, 3, 0)]] static void hear(void* object, int level, const char* format,
+                                                   std::va_list arguments) noexcept;
 
 private:
     std::vector<std::string> m_lines;

@@ -35,8 +35,10 @@ std::optional<int> firstPictureUnit(const AVPacket& packet, AVCodecID codec) {
     std::span<const std::uint8_t> rest(packet.data,
                                        static_cast<std::size_t>(std::max(packet.size, 0)));
     for (;;) {
-        const auto found = std::ranges::search(rest, kStartCode);
-        rest = std::span(found.end(), rest.end());
+        const auto found =
+            std::search(rest.begin(), rest.end(), kStartCode.begin(), kStartCode.end());
+        const auto past = static_cast<std::size_t>(found - rest.begin()) + kStartCode.size();
+        rest = rest.subspan(std::min(past, rest.size()));
         if (rest.empty())
             return std::nullopt;
         const int type = codec == AV_CODEC_ID_H264 ? rest[0] & 31 : rest[0] >> 1 & 63;

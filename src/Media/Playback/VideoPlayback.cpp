@@ -90,7 +90,8 @@ void VideoPlayback::open(const Job& job) {
     auto source = std::make_unique<FrameSource>(m_playback.cache, m_share, m_item);
     if (!source->hasPicture())
         return;
-    const double fps = m_item->asset()->tracks(MediaType::video).front().nominalFrameRate;
+    const auto fps =
+        static_cast<double>(m_item->asset()->tracks(MediaType::video).front().nominalFrameRate);
     m_frameTicks = kComparisonTimescale / (fps > 0 ? fps : 25);
     m_source = std::move(source);
 }

@@ -183,8 +183,9 @@ TEST(PlayerLoop, doesNotClick) {
     double steepest = 0;
     double loudest = 0;
     for (std::size_t i = 1; i < heard.size(); ++i) {
-        steepest = std::max(steepest, std::abs(double{heard[i]} - double{heard[i - 1]}));
-        loudest = std::max(loudest, std::abs(double{heard[i]}));
+        const auto sample = static_cast<double>(heard[i]);
+        steepest = std::max(steepest, std::abs(sample - static_cast<double>(heard[i - 1])));
+        loudest = std::max(loudest, std::abs(sample));
     }
     EXPECT_GT(loudest, 0.9 * kLoudness) << "there is something to hear";
     EXPECT_LT(steepest, slope + fade);
