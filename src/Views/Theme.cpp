@@ -20,7 +20,8 @@ constexpr double kCaptionStep = 0.85;
 constexpr double kTitleStep = 1.3;
 
 double luminance(const QColor& color) {
-    const auto linear = [](double share) {
+    const auto linear = [](float component) {
+        const auto share = static_cast<double>(component);
         return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +

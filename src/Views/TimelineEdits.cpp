@@ -73,7 +73,7 @@ double frameDuration(EditState& state) {
     const auto tracks = item->asset()->tracks(media::MediaType::video);
     if (tracks.empty())
         return kUsualFrameDuration;
-    const double rate = tracks.front().nominalFrameRate;
+    const auto rate = static_cast<double>(tracks.front().nominalFrameRate);
     return rate > 0 && std::isfinite(rate) ? 1 / rate : kUsualFrameDuration;
 }
 

@@ -1,5 +1,6 @@
 #include "AppFixture.h"
 
+#include "QtSupport/Keys.h"
 #include "QtSupport/Pointer.h"
 #include "Views/ContentView.h"
 #include "Views/CropOverlayView.h"
@@ -40,7 +41,7 @@ protected:
     EditState& state() { return *m_window->state(); }
 
     void pressEscape(Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape, modifiers);
+        testsupport::clickKey(m_window->windowHandle(), Qt::Key_Escape, modifiers);
     }
 
     QPoint at(double seconds) const {
@@ -183,7 +184,7 @@ TEST_F(DragEscapeTest, leavesTheKeyToAnAlertThatEndsTheDrag) {
     ASSERT_NE(alert, nullptr);
     ASSERT_TRUE(testsupport::showActive(*alert));
     m_timeline->release(at(6));
-    QTest::keyClick(alert->windowHandle(), Qt::Key_Escape);
+    testsupport::clickKey(alert->windowHandle(), Qt::Key_Escape);
     ASSERT_TRUE(pumpUntil([this] { return !state().errorMessage(); }));
     EXPECT_NEAR(state().currentTime(), 6, 0.05) << "The drag was over, not taken back.";
     ASSERT_TRUE(testsupport::showActive(*m_window));

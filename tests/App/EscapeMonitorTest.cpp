@@ -1,6 +1,7 @@
 #include "EscapeMonitor.h"
 
 #include "Activation.h"
+#include "QtSupport/Keys.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -25,7 +26,7 @@ protected:
 
     static void press(QWidget& window, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         // By the window system's road, as a real key comes.
-        QTest::keyClick(window.windowHandle(), Qt::Key_Escape, modifiers);
+        testsupport::clickKey(window.windowHandle(), Qt::Key_Escape, modifiers);
     }
 
     EscapeMonitor m_monitor;

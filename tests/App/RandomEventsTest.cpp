@@ -1,6 +1,7 @@
 #include "AppFixture.h"
 
 #include "QtSupport/FakeFilePanels.h"
+#include "QtSupport/Keys.h"
 #include "TestSupport/MediaCache.h"
 #include "Views/ContentView.h"
 
@@ -274,7 +275,7 @@ protected:
             return "nothing";
         m_panels->toOpen = below(4) == 0 ? std::nullopt : std::optional(anyFile());
         m_panels->toSave = below(4) == 0 ? std::nullopt : std::optional(urlOf(m_output));
-        QTest::keyClick(target()->windowHandle(), key, modifiers);
+        testsupport::clickKey(target()->windowHandle(), key, modifiers);
         return "key " + QKeySequence(key | modifiers).toString().toStdString();
     }
 
@@ -342,7 +343,8 @@ protected:
         while (QWidget* popup = QApplication::activePopupWidget())
             popup->close();
         if (QWidget* box = QApplication::activeModalWidget())
-            QTest::keyClick(box->windowHandle(), below(2) == 0 ? Qt::Key_Return : Qt::Key_Space);
+            testsupport::clickKey(box->windowHandle(),
+                                  below(2) == 0 ? Qt::Key_Return : Qt::Key_Space);
         else
             m_window->activateWindow();
         return "return to the window";

@@ -1,6 +1,7 @@
 #include "AppFixture.h"
 
 #include "Views/ContentView.h"
+#include "QtSupport/Keys.h"
 #include "Views/ControlsView.h"
 #include "Views/CropOverlayView.h"
 #include "Views/EditorView.h"
@@ -32,7 +33,7 @@ protected:
 
     /// By the window system's road, as a real key comes.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(m_window->windowHandle(), key, modifiers);
+        testsupport::clickKey(m_window->windowHandle(), key, modifiers);
     }
 
     EditState& state() { return *m_window->state(); }
@@ -107,7 +108,7 @@ TEST_F(WindowKeysTest, areTextInTheNameFieldOfAPanel) {
     ASSERT_TRUE(testsupport::showActive(*panel));
     field->setFocus();
     for (const Qt::Key key : {Qt::Key_BracketLeft, Qt::Key_BracketRight})
-        QTest::keyClick(panel->windowHandle(), key);
+        testsupport::clickKey(panel->windowHandle(), key);
     EXPECT_EQ(field->text(), QStringLiteral("[]"));
     EXPECT_EQ(state().trimStart(), 0);
     EXPECT_EQ(state().trimEnd(), state().duration());
