@@ -270,7 +270,10 @@ protected:
         // Else there would be little but closing and opening windows.
         if (key == Qt::Key_Escape && below(2) != 0)
             key = Qt::Key_Return;
-        const Qt::KeyboardModifiers modifiers = oneOf(kModifiers);
+        Qt::KeyboardModifiers modifiers = oneOf(kModifiers);
+        // An export needs a video, an answer and time besides.
+        if (key == Qt::Key_E)
+            modifiers = Qt::ControlModifier;
         if (key == Qt::Key_N && modifiers == Qt::ControlModifier)
             return "nothing";
         m_panels->toOpen = below(4) == 0 ? std::nullopt : std::optional(anyFile());
