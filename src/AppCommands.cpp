@@ -5,7 +5,7 @@
 #include "Platform/QuickActionInstallation.h"
 #include "Platform/Updater/Updater.h"
 #include "Support/PlaybackSettings.h"
-#include "Support/QuickAction.h"
+#include "Support/QuickAction/QuickAction.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,14 +1,14 @@
 #include "Media/ExportSession.h"
 
 #include "Media/Error.h"
-#include "Media/ProcessorDemand.h"
 #include "Media/Export/AudioPipeline.h"
 #include "Media/Export/ExportProof.h"
 #include "Media/Export/OutputFile.h"
 #include "Media/Export/VideoPipeline.h"
 #include "Media/FFmpeg/Muxer.h"
 #include "Media/FFmpeg/SourceFile.h"
-#include "Media/ThreadPriority.h"
+#include "Media/Threading/ProcessorDemand.h"
+#include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,8 +1,8 @@
 #include "Media/ImageGenerator.h"
 
 #include "Media/Error.h"
-#include "Media/PictureRenderer.h"
-#include "Media/VideoReader.h"
+#include "Media/Pictures/PictureRenderer.h"
+#include "Media/Reading/VideoReader.h"
 
 #include <optional>
 

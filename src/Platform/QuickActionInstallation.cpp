@@ -2,7 +2,7 @@
 
 #include "Platform/Failures.h"
 #include "Platform/FileManagerEntries.h"
-#include "Support/QuickAction.h"
+#include "Support/QuickAction/QuickAction.h"
 
 #include <QFile>
 #include <QStandardPaths>

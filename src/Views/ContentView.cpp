@@ -5,7 +5,7 @@
 #include "Views/EditorView.h"
 #include "Views/ErrorAlert.h"
 #include "Views/ExportProgressView.h"
-#include "Views/Theme.h"
+#include "Views/Painting/Theme.h"
 
 #include <QDropEvent>
 #include <QMimeData>

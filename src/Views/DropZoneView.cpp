@@ -1,8 +1,8 @@
 #include "Views/DropZoneView.h"
 
 #include "Models/EditState.h"
-#include "Views/SymbolView.h"
-#include "Views/Theme.h"
+#include "Views/Painting/SymbolView.h"
+#include "Views/Painting/Theme.h"
 
 #include <QEvent>
 #include <QLabel>

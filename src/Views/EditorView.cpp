@@ -1,10 +1,10 @@
 #include "Views/EditorView.h"
 
-#include "Views/ControlsView.h"
-#include "Views/CropOverlayView.h"
-#include "Views/TimelineMarker.h"
-#include "Views/TimelineStrip.h"
-#include "Views/TimelineView.h"
+#include "Views/Controls/ControlsView.h"
+#include "Views/Crop/CropOverlayView.h"
+#include "Views/Timeline/TimelineMarker.h"
+#include "Views/Timeline/TimelineStrip.h"
+#include "Views/Timeline/TimelineView.h"
 #include "Views/VideoArea.h"
 
 #include <algorithm>

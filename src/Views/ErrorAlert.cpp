@@ -1,7 +1,7 @@
 #include "Views/ErrorAlert.h"
 
-#include "Views/SymbolView.h"
-#include "Views/Theme.h"
+#include "Views/Painting/SymbolView.h"
+#include "Views/Painting/Theme.h"
 
 #include <QEvent>
 #include <QLabel>

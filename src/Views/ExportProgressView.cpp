@@ -1,7 +1,7 @@
 #include "Views/ExportProgressView.h"
 
 #include "Models/EditState.h"
-#include "Views/Theme.h"
+#include "Views/Painting/Theme.h"
 
 #include <QEvent>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "Views/PlayerLayerView.h"
 
-#include "Media/Guarded.h"
 #include "Media/Player.h"
+#include "Media/Threading/Guarded.h"
 #include "Support/ImageConversion.h"
 #include "Views/PictureLayout.h"
 

@@ -1,7 +1,7 @@
 #include "Views/VideoArea.h"
 
 #include "Models/EditState.h"
-#include "Views/CropOverlayView.h"
+#include "Views/Crop/CropOverlayView.h"
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
 

@@ -5,7 +5,7 @@
 #include "Models/EditStateFixture.h"
 #include "Platform/Updater/Updater.h"
 #include "SilentUpdateDriver.h"
-#include "Support/QuickAction.h"
+#include "Support/QuickAction/QuickAction.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <QAction>

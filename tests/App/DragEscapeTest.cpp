@@ -3,9 +3,9 @@
 #include "QtSupport/Keys.h"
 #include "QtSupport/Pointer.h"
 #include "Views/ContentView.h"
-#include "Views/CropOverlayView.h"
+#include "Views/Crop/CropOverlayView.h"
 #include "Views/ErrorAlert.h"
-#include "Views/TimelineStrip.h"
+#include "Views/Timeline/TimelineStrip.h"
 
 #include <QPointer>
 #include <QPointingDevice>

@@ -1,12 +1,12 @@
 #include "AppFixture.h"
 
 #include "Views/ContentView.h"
-#include "Views/ControlsView.h"
-#include "Views/CropOverlayView.h"
+#include "Views/Controls/ControlsView.h"
+#include "Views/Controls/ExportButton.h"
+#include "Views/Crop/CropOverlayView.h"
 #include "Views/DropZoneView.h"
 #include "Views/EditorView.h"
-#include "Views/ExportButton.h"
-#include "Views/TimelineView.h"
+#include "Views/Timeline/TimelineView.h"
 #include "Views/VideoArea.h"
 
 #include <QDragEnterEvent>

@@ -1,15 +1,15 @@
 #include "AppFixture.h"
 
-#include "Views/ContentView.h"
 #include "QtSupport/Keys.h"
-#include "Views/ControlsView.h"
-#include "Views/CropOverlayView.h"
+#include "Views/ContentView.h"
+#include "Views/Controls/ControlsView.h"
+#include "Views/Controls/ExportButton.h"
+#include "Views/Controls/FlatButton.h"
+#include "Views/Crop/CropOverlayView.h"
 #include "Views/EditorView.h"
-#include "Views/ExportButton.h"
-#include "Views/FlatButton.h"
-#include "Views/TimelineMarker.h"
-#include "Views/TimelineStrip.h"
-#include "Views/TimelineView.h"
+#include "Views/Timeline/TimelineMarker.h"
+#include "Views/Timeline/TimelineStrip.h"
+#include "Views/Timeline/TimelineView.h"
 #include "Views/VideoArea.h"
 
 #include <QFileDialog>

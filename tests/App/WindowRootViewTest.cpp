@@ -1,7 +1,7 @@
 #include "AppFixture.h"
 
 #include "Views/ContentView.h"
-#include "Views/ControlsView.h"
+#include "Views/Controls/ControlsView.h"
 #include "Views/ErrorAlert.h"
 
 #include <QAction>

@@ -1,4 +1,4 @@
-#include "Media/AudioReader.h"
+#include "Media/Reading/AudioReader.h"
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/SourceInfo.h"

@@ -2,7 +2,7 @@
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
 #include "Media/ImageGenerator.h"
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/TemporaryFolder.h"

@@ -1,6 +1,6 @@
 #include "Media/ChartFile.h"
 
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 
 namespace media {
 

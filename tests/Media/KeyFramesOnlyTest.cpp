@@ -1,5 +1,5 @@
 #include "Media/DamagedCopy.h"
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/TemporaryFolder.h"
 

@@ -1,4 +1,4 @@
-#include "Media/PictureRenderer.h"
+#include "Media/Pictures/PictureRenderer.h"
 
 #include "Media/Error.h"
 #include "SyntheticPicture.h"

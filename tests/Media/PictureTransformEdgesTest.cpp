@@ -1,4 +1,4 @@
-#include "Media/PictureTransform.h"
+#include "Media/Pictures/PictureTransform.h"
 
 #include "Media/Error.h"
 #include "SyntheticPicture.h"

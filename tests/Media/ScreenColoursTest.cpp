@@ -1,6 +1,6 @@
 #include "ColourDifference.h"
-#include "Media/PictureRenderer.h"
-#include "Media/VideoReader.h"
+#include "Media/Pictures/PictureRenderer.h"
+#include "Media/Reading/VideoReader.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"
 

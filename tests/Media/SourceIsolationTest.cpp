@@ -1,7 +1,7 @@
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
 #include "Media/Mp4Boxes.h"
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"

@@ -1,4 +1,4 @@
-#include "Media/ThreadPriority.h"
+#include "Media/Threading/ThreadPriority.h"
 
 #include <gtest/gtest.h>
 

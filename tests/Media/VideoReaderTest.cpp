@@ -1,4 +1,4 @@
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 
 #include "Media/DecodedNumber.h"
 #include "Media/Error.h"

@@ -1,4 +1,4 @@
-#include "Support/QuickAction.h"
+#include "Support/QuickAction/QuickAction.h"
 
 #include "TestSupport/Process.h"
 #include "TestSupport/TemporaryFolder.h"

@@ -1,13 +1,13 @@
-#include "Views/ControlsView.h"
+#include "Views/Controls/ControlsView.h"
 
 #include "Export/ExportSettings.h"
 #include "Models/EditStateFixture.h"
 #include "QtSupport/PreferencesFixture.h"
 #include "TestSupport/TemporaryFolder.h"
-#include "Views/ExportButton.h"
-#include "Views/FlatButton.h"
-#include "Views/TabularLabel.h"
-#include "Views/Theme.h"
+#include "Views/Controls/ExportButton.h"
+#include "Views/Controls/FlatButton.h"
+#include "Views/Painting/TabularLabel.h"
+#include "Views/Painting/Theme.h"
 
 #include <QAccessible>
 #include <QApplication>

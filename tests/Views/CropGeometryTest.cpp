@@ -1,6 +1,6 @@
-#include "Views/CropGeometry.h"
+#include "Views/Crop/CropGeometry.h"
 
-#include "Views/CropKeys.h"
+#include "Views/Crop/CropKeys.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Views/CropOverlayView.h"
+#include "Views/Crop/CropOverlayView.h"
 
 #include "Models/EditStateFixture.h"
 #include "QtSupport/Pixels.h"

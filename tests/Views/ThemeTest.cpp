@@ -1,8 +1,8 @@
-#include "Views/Theme.h"
+#include "Views/Painting/Theme.h"
 
-#include "Views/ControlLabels.h"
-#include "Views/Symbols.h"
-#include "Views/TabularText.h"
+#include "Views/Controls/ControlLabels.h"
+#include "Views/Painting/Symbols.h"
+#include "Views/Painting/TabularText.h"
 
 #include <QApplication>
 #include <QImage>

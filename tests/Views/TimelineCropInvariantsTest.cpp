@@ -1,7 +1,7 @@
 #include "Models/EditStateFixture.h"
 #include "QtSupport/Pointer.h"
-#include "Views/CropOverlayView.h"
-#include "Views/TimelineView.h"
+#include "Views/Crop/CropOverlayView.h"
+#include "Views/Timeline/TimelineView.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "Views/TimelineGeometry.h"
+#include "Views/Timeline/TimelineGeometry.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Views/TimelineMarker.h"
+#include "Views/Timeline/TimelineMarker.h"
 
 #include "Views/TimelineStage.h"
 

@@ -3,11 +3,11 @@
 #include "Models/EditStateFixture.h"
 #include "QtSupport/Pixels.h"
 #include "QtSupport/Pointer.h"
-#include "Views/TabularLabel.h"
-#include "Views/TimelineGeometry.h"
-#include "Views/TimelineMarker.h"
-#include "Views/TimelineStrip.h"
-#include "Views/TimelineView.h"
+#include "Views/Painting/TabularLabel.h"
+#include "Views/Timeline/TimelineGeometry.h"
+#include "Views/Timeline/TimelineMarker.h"
+#include "Views/Timeline/TimelineStrip.h"
+#include "Views/Timeline/TimelineView.h"
 
 #include <QTest>
 #include <QWidget>

@@ -1,6 +1,6 @@
-#include "Views/TimelineView.h"
+#include "Views/Timeline/TimelineView.h"
 
-#include "Views/Theme.h"
+#include "Views/Painting/Theme.h"
 #include "Views/TimelineStage.h"
 
 #include <QMouseEvent>

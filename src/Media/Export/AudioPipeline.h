@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Media/AudioReader.h"
 #include "Media/Composition.h"
 #include "Media/Export/PacketStream.h"
 #include "Media/FFmpeg/Encoder.h"
+#include "Media/Reading/AudioReader.h"
 
 #include <optional>
 #include <stop_token>

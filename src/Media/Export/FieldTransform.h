@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/PictureTransform.h"
+#include "Media/Pictures/PictureTransform.h"
 
 namespace media {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Media/Composition.h"
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 
 #include <cstdint>
 #include <memory>

@@ -4,7 +4,7 @@
 #include "Media/Export/Deinterlacer.h"
 #include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/SourceInfo.h"
-#include "Media/ThreadPriority.h"
+#include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #include "Media/Export/PacketStream.h"
 #include "Media/ExportSession.h"
 #include "Media/FFmpeg/Encoder.h"
-#include "Media/PictureTransform.h"
+#include "Media/Pictures/PictureTransform.h"
 
 #include <map>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Media/FFmpeg/Demuxer.h"
-#include "Media/Guarded.h"
+#include "Media/Threading/Guarded.h"
 
 #include <memory>
 #include <stop_token>

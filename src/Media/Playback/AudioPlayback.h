@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Media/AudioReader.h"
 #include "Media/Playback/AudioOutput.h"
 #include "Media/Playback/SoundQueue.h"
 #include "Media/Playback/Transport.h"
+#include "Media/Reading/AudioReader.h"
 
 #include <memory>
 #include <optional>

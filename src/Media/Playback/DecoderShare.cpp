@@ -1,6 +1,6 @@
 #include "Media/Playback/DecoderShare.h"
 
-#include "Media/Guarded.h"
+#include "Media/Threading/Guarded.h"
 
 #include <algorithm>
 #include <list>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Media/Guarded.h"
-#include "Media/PictureRenderer.h"
-#include "Media/PreviewPicture.h"
+#include "Media/Pictures/PictureRenderer.h"
+#include "Media/Pictures/PreviewPicture.h"
+#include "Media/Threading/Guarded.h"
 #include "Media/Time.h"
 
 #include <cstddef>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Media/PictureRenderer.h"
+#include "Media/Pictures/PictureRenderer.h"
 #include "Media/Playback/DecoderShare.h"
 #include "Media/Playback/FrameCache.h"
 #include "Media/Player.h"
-#include "Media/VideoReader.h"
+#include "Media/Reading/VideoReader.h"
 
 #include <deque>
 #include <memory>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Media/Guarded.h"
 #include "Media/Playback/AudioPlayback.h"
 #include "Media/Playback/Presenter.h"
 #include "Media/Playback/Transport.h"
 #include "Media/Playback/VideoPlayback.h"
 #include "Media/Player.h"
+#include "Media/Threading/Guarded.h"
 
 #include <cassert>
 #include <condition_variable>

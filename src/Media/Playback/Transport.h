@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Media/Guarded.h"
 #include "Media/Playback/FrameCache.h"
 #include "Media/Playback/FrameSource.h"
 #include "Media/Playback/PlaybackClock.h"
 #include "Media/Player.h"
+#include "Media/Threading/Guarded.h"
 
 #include <deque>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "Media/Playback/VideoPlayback.h"
 
-#include "Media/ProcessorDemand.h"
+#include "Media/Threading/ProcessorDemand.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "PlayerStage.h"
 
 #include "Media/ExportFixture.h"
-#include "Media/ProcessorDemand.h"
+#include "Media/Threading/ProcessorDemand.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Media/Asset.h"
+#include "Media/FFmpeg/Handles.h"
+#include "Media/Image.h"
+#include "Media/Pictures/PreviewPicture.h"
+
+#include <memory>
+
+namespace media {
+
+/// Width and height in pixels.
+struct ImageSize {
+    int width = 1;
+    int height = 1;
+    friend bool operator==(const ImageSize&, const ImageSize&) = default;
+};
+
+/// The size of an upright picture of `natural` size that is scaled to fit into maxWidth × maxHeight
+/// pixels (0 leaves a side free), never enlarged; at least 1 × 1.
+ImageSize fittedSize(Size natural, int maxWidth, int maxHeight);
+
+/// Turns decoded frames of one track into upright screen pictures: colour matrix and range
+/// applied, PQ, HLG and wide gamut mapped to a usual screen, pixel aspect ratio resampled to square
+/// pixels, transparency over black. Keeps its conversion tables between calls. Use from one thread
+/// at a time.
+class PictureRenderer {
+public:
+    explicit PictureRenderer(const AssetTrack& track);
+    PictureRenderer(const PictureRenderer&) = delete;
+    PictureRenderer& operator=(const PictureRenderer&) = delete;
+    ~PictureRenderer();
+
+    /// The picture scaled to fit into maxWidth × maxHeight pixels (0 leaves a side free), never
+    /// enlarged; at least 1 × 1. Throws Error if the frame's pixel format cannot be converted.
+    [[nodiscard]] ImagePtr render(const AVFrame& frame, int maxWidth, int maxHeight);
+
+    /// The same in the form in which many are kept: chroma is as coarse as that of the source.
+    [[nodiscard]] PreviewPicturePtr preview(const AVFrame& frame, int maxWidth, int maxHeight);
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace media

@@ -1,0 +1,35 @@
+#include "Views/Controls/ControlLabels.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace brisklet {
+
+namespace {
+
+/// Whole pixels; the size of a picture never comes near the limit, a damaged file may claim it.
+int wholePixels(double length) {
+    constexpr double kMost = 1e9;
+    return std::isnan(length) ? 0 : static_cast<int>(std::round(std::clamp(length, 0.0, kMost)));
+}
+
+} // namespace
+
+QString cropLabel(media::Size picture, const std::optional<media::Rect>& crop) {
+    if (!crop)
+        return {};
+    return QStringLiteral("%1×%2")
+        .arg(wholePixels(picture.width * crop->width))
+        .arg(wholePixels(picture.height * crop->height));
+}
+
+QString exportLabel(ExportFormat format, ExportResolution resolution) {
+    QString choice = rawValue(format);
+    if (resolution != ExportResolution::original)
+        choice += QStringLiteral(" · %1").arg(label(resolution));
+    return QCoreApplication::translate("brisklet::ControlsView", "Export %1…").arg(choice);
+}
+
+} // namespace brisklet

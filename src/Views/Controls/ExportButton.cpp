@@ -1,0 +1,139 @@
+#include "Views/Controls/ExportButton.h"
+
+#include "Views/Controls/FlatButton.h"
+#include "Views/Painting/ButtonPainting.h"
+#include "Views/Painting/Symbols.h"
+#include "Views/Painting/Theme.h"
+
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace brisklet {
+
+namespace {
+
+constexpr int kPadding = 12;
+constexpr int kMenuWidth = 26;
+constexpr qreal kChevronSide = 11;
+constexpr qreal kSeamInset = 6;
+constexpr int kMenuGap = 4;
+constexpr float kHoverOpacity = 0.12F;
+constexpr float kPressedOpacity = 0.24F;
+constexpr float kSeamOpacity = 0.35F;
+
+} // namespace
+
+ExportButton::ExportButton(QWidget* parent) : QToolButton(parent) {
+    setPopupMode(QToolButton::MenuButtonPopup);
+    setFocusPolicy(Qt::TabFocus);
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize ExportButton::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(text()) + 2 * kPadding + kMenuWidth,
+            FlatButton::kHeight};
+}
+
+QRect ExportButton::menuRect() const {
+    return {width() - kMenuWidth, 0, kMenuWidth, height()};
+}
+
+void ExportButton::popUpMenu() {
+    // Above the button, which stands at the bottom of its window; below where the screen ends.
+    const QSize size = menu()->sizeHint();
+    const QPoint corner = mapToGlobal(QPoint(width() - size.width(), 0));
+    menu()->popup(corner - QPoint(0, size.height() + kMenuGap));
+    update();
+}
+
+bool ExportButton::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* keyEvent = static_cast<QKeyEvent*>(event);
+        if (keyEvent->modifiers() == Qt::NoModifier && keyEvent->key() == Qt::Key_Space)
+            event->accept();
+    }
+    return QToolButton::event(event);
+}
+
+void ExportButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && menuRect().contains(event->position().toPoint())) {
+        popUpMenu();
+        return;
+    }
+    // Past QToolButton, which looks for a menu part where the style would have drawn one.
+    QAbstractButton::mousePressEvent(event);
+}
+
+void ExportButton::mouseMoveEvent(QMouseEvent* event) {
+    QAbstractButton::mouseMoveEvent(event);
+    update();
+}
+
+void ExportButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Down)
+        popUpMenu();
+    else
+        QToolButton::keyPressEvent(event);
+}
+
+bool ExportButton::isMenuOpen() const {
+    return menu() && menu()->isVisible();
+}
+
+QPalette ExportButton::enabledPalette() const {
+    QPalette result = palette();
+    result.setCurrentColorGroup(QPalette::Active);
+    return result;
+}
+
+void ExportButton::paintFill(QPainter& painter) const {
+    QPainterPath shape;
+    shape.addRoundedRect(rect(), buttonpainting::kRadius, buttonpainting::kRadius);
+    painter.fillPath(shape, isEnabled() ? theme::accentFill(palette())
+                                        : theme::quaternary(enabledPalette()));
+    if (!isEnabled())
+        return;
+    // Each part answers the pointer by itself.
+    const bool isOnMenu = menuRect().contains(mapFromGlobal(QCursor::pos()));
+    const auto shade = [&](const QRect& part, bool isHovered, bool isPressed) {
+        if (!isHovered && !isPressed)
+            return;
+        QColor color = theme::onAccentFill(palette());
+        color.setAlphaF(isPressed ? kPressedOpacity : kHoverOpacity);
+        painter.save();
+        painter.setClipRect(part);
+        painter.fillPath(shape, color);
+        painter.restore();
+    };
+    shade(rect().adjusted(0, 0, -kMenuWidth, 0), underMouse() && !isOnMenu, isDown());
+    shade(menuRect(), underMouse() && isOnMenu, isMenuOpen());
+}
+
+void ExportButton::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintFill(painter);
+    // The title says what is being exported meanwhile: grey, but not as faint as disabled text is.
+    const QColor ink =
+        isEnabled() ? theme::onAccentFill(palette()) : theme::secondary(enabledPalette());
+    painter.setPen(ink);
+    painter.drawText(rect().adjusted(kPadding, 0, -kMenuWidth - kPadding, 0), Qt::AlignCenter,
+                     text());
+    QColor seam = ink;
+    seam.setAlphaF(kSeamOpacity);
+    painter.fillRect(QRectF(menuRect().left(), kSeamInset, 1, height() - 2 * kSeamInset), seam);
+    const QPointF center = QRectF(menuRect()).center();
+    paintSymbol(painter, Symbol::chevronDown,
+                QRectF(center.x() - kChevronSide / 2, center.y() - kChevronSide / 2, kChevronSide,
+                       kChevronSide),
+                ink);
+    if (hasFocus())
+        buttonpainting::paintFocusRing(painter, rect(), palette());
+}
+
+} // namespace brisklet

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Views/Crop/CropGeometry.h"
+
+#include <QPointF>
+#include <QtCore/qnamespace.h>
+
+#include <optional>
+
+namespace brisklet {
+
+/// What a key does to the crop: the same as a drag of so many points of the screen.
+struct CropKey {
+    /// Points.
+    QPointF translation;
+    /// The handle that is dragged; none moves the whole crop.
+    std::optional<CropHandle> handle;
+
+    /// An arrow goes one point its way, with Shift ten: by itself it moves the crop, with Ctrl its
+    /// right or bottom side, with Alt its left or top side. None for other keys.
+    static std::optional<CropKey> of(int key, Qt::KeyboardModifiers modifiers);
+
+    friend bool operator==(const CropKey&, const CropKey&) = default;
+};
+
+} // namespace brisklet

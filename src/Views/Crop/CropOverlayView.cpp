@@ -1,0 +1,258 @@
+#include "Views/Crop/CropOverlayView.h"
+
+#include "Models/EditState.h"
+#include "Views/Crop/CropKeys.h"
+#include "Views/Crop/CropOverlayAccessible.h"
+#include "Views/Crop/CropPainting.h"
+#include "Views/FocusReasons.h"
+
+#include <QAccessible>
+#include <QCursor>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRegion>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+/// How far the pointer goes before a press becomes a drag, points.
+constexpr double kDragDistance = 10;
+
+Qt::CursorShape cursorOf(CropHandle handle) {
+    switch (handle) {
+    case CropHandle::topLeft:
+    case CropHandle::bottomRight:
+        return Qt::SizeFDiagCursor;
+    case CropHandle::topRight:
+    case CropHandle::bottomLeft:
+        return Qt::SizeBDiagCursor;
+    case CropHandle::top:
+    case CropHandle::bottom:
+        return Qt::SizeVerCursor;
+    case CropHandle::left:
+    case CropHandle::right:
+        return Qt::SizeHorCursor;
+    }
+    return Qt::ArrowCursor;
+}
+
+} // namespace
+
+CropOverlayView::CropOverlayView(std::shared_ptr<EditState> state, int handleSize, QWidget* parent)
+    : QWidget(parent), m_state(std::move(state)), m_geometry{.handleSize = 1.0 * handleSize} {
+    installCropOverlayAccessibility();
+    setAccessibleName(tr("Crop"));
+    setMouseTracking(true);
+    // By Tab only: a click must not take the arrow keys away from the frame steps.
+    setFocusPolicy(Qt::TabFocus);
+    connect(m_state.get(), &EditState::cropRectChanged, this, &CropOverlayView::followCrop);
+    connect(m_state.get(), &EditState::displaySizeChanged, this, &CropOverlayView::announce);
+    connect(m_state.get(), &EditState::rotationChanged, this, &CropOverlayView::endDrag);
+    connect(&m_escape, &DragEscape::interrupted, this, &CropOverlayView::endDrag);
+    followCrop();
+}
+
+void CropOverlayView::setVideoRect(const QRectF& rect) {
+    if (rect == m_geometry.videoRect)
+        return;
+    m_geometry.videoRect = rect;
+    m_shown = cropViewRect();
+    update();
+}
+
+QRectF CropOverlayView::cropViewRect() const {
+    const auto& crop = m_state->cropRect();
+    return crop ? m_geometry.toView(*crop) : QRectF();
+}
+
+QString CropOverlayView::cropText() const {
+    const auto& crop = m_state->cropRect();
+    if (!crop)
+        return {};
+    const media::Size size = m_state->rotatedDisplaySize();
+    const auto pixels = [](double fraction, double whole) {
+        return QString::number(std::lround(fraction * whole));
+    };
+    return tr("%1×%2 at %3, %4")
+        .arg(pixels(crop->width, size.width), pixels(crop->height, size.height),
+             pixels(crop->x, size.width), pixels(crop->y, size.height));
+}
+
+void CropOverlayView::followCrop() {
+    const bool isWanted = m_state->cropRect().has_value();
+    if (!isWanted) {
+        endDrag();
+        // Hiding would hand the focus to whatever comes next, whose keys would then do other
+        // things.
+        clearFocus();
+    }
+    repaintDifference(std::exchange(m_shown, cropViewRect()), cropViewRect());
+    setVisible(isWanted);
+    announce();
+}
+
+void CropOverlayView::repaintDifference(const QRectF& before, const QRectF& now) {
+    if (before.isEmpty() || now.isEmpty()) {
+        update();
+        return;
+    }
+    // What is dark in both and what is clear in both stays; the handles reach over the border.
+    const double reach = CropPainting::reach(m_geometry);
+    const auto border = [reach](const QRectF& rect) {
+        const QRegion outside(rect.adjusted(-reach, -reach, reach, reach).toAlignedRect());
+        return outside - QRegion(rect.adjusted(reach, reach, -reach, -reach).toRect());
+    };
+    const QRegion uncovered = QRegion(before.toAlignedRect()) ^ QRegion(now.toAlignedRect());
+    update(uncovered + border(before) + border(now));
+}
+
+std::optional<CropOverlayView::Grip> CropOverlayView::gripAt(const QPointF& point) const {
+    const QRectF crop = cropViewRect();
+    if (const auto handle = m_geometry.handleAt(point, crop))
+        return *handle;
+    if (crop.contains(point))
+        return Move{};
+    return std::nullopt;
+}
+
+void CropOverlayView::mousePressEvent(QMouseEvent* event) {
+    const auto grip = gripAt(event->position());
+    if (event->button() != Qt::LeftButton || !grip) {
+        event->ignore();
+        return;
+    }
+    m_drag = Drag{.grip = *grip, .pressedAt = event->position()};
+    m_escape.begin([this] { takeDragBack(); });
+    showCursor(event->position());
+}
+
+void CropOverlayView::mouseMoveEvent(QMouseEvent* event) {
+    // The release went elsewhere where a dialog took the pointer.
+    if (!(event->buttons() & Qt::LeftButton))
+        endDrag();
+    if (m_drag)
+        dragBy(event->position() - m_drag->pressedAt);
+    else
+        showCursor(event->position());
+}
+
+void CropOverlayView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    endDrag();
+    showCursor(event->position());
+}
+
+void CropOverlayView::dragBy(const QPointF& translation) {
+    if (!m_drag->start) {
+        if (std::hypot(translation.x(), translation.y()) < kDragDistance)
+            return;
+        m_drag->start = m_state->cropRect();
+    }
+    const auto by = m_geometry.toPicture(translation);
+    if (!by || !m_drag->start)
+        return;
+    // Always from where the drag began, so that no rounding adds up.
+    const media::Rect start = *m_drag->start;
+    if (const auto* handle = std::get_if<CropHandle>(&m_drag->grip))
+        write(CropGeometry::resized(start, *handle, *by));
+    else
+        write(CropGeometry::moved(start, *by));
+}
+
+void CropOverlayView::endDrag() {
+    m_drag.reset();
+    m_escape.end();
+}
+
+void CropOverlayView::takeDragBack() {
+    const auto start = std::exchange(m_drag, std::nullopt)->start;
+    if (start)
+        write(*start);
+    showCursor(mapFromGlobal(QCursor::pos()));
+}
+
+void CropOverlayView::write(const media::Rect& crop) {
+    if (m_state->cropRect() != crop)
+        m_state->setCropRect(crop);
+}
+
+void CropOverlayView::showCursor(const QPointF& point) {
+    const auto grip = m_drag ? std::optional<Grip>(m_drag->grip) : gripAt(point);
+    if (!grip)
+        unsetCursor();
+    else if (const auto* handle = std::get_if<CropHandle>(&*grip))
+        setCursor(cursorOf(*handle));
+    else
+        setCursor(m_drag ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
+}
+
+bool CropOverlayView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        // The arrows step frames for the window; while the crop has the focus they are its own.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (CropKey::of(key->key(), key->modifiers())) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+void CropOverlayView::keyPressEvent(QKeyEvent* event) {
+    const auto key = CropKey::of(event->key(), event->modifiers());
+    const auto crop = m_state->cropRect();
+    if (!key || !crop) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (!std::exchange(m_isFocusShown, true))
+        update();
+    if (const auto by = m_geometry.toPicture(key->translation))
+        write(key->handle ? CropGeometry::resized(*crop, *key->handle, *by)
+                          : CropGeometry::moved(*crop, *by));
+}
+
+void CropOverlayView::focusInEvent(QFocusEvent* event) {
+    if (!isPassingFocus(event->reason()))
+        m_isFocusShown = isKeyboardFocus(event->reason());
+    update();
+    QWidget::focusInEvent(event);
+}
+
+void CropOverlayView::focusOutEvent(QFocusEvent* event) {
+    if (!isPassingFocus(event->reason()))
+        m_isFocusShown = false;
+    update();
+    QWidget::focusOutEvent(event);
+}
+
+void CropOverlayView::paintEvent(QPaintEvent* /*event*/) {
+    if (!m_state->cropRect())
+        return;
+    QPainter painter(this);
+    CropPainting(painter, m_geometry, cropViewRect(), palette())
+        .paint(hasFocus() && m_isFocusShown ? CropPainting::Focus::shown
+                                            : CropPainting::Focus::hidden);
+}
+
+void CropOverlayView::announce() {
+    if (!QAccessible::isActive())
+        return;
+    if (QString text = cropText(); text != m_announced) {
+        m_announced = std::move(text);
+        QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+} // namespace brisklet

@@ -1,0 +1,58 @@
+#include "Views/Painting/TabularText.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace brisklet::tabular {
+
+namespace {
+
+bool isDigit(QChar letter) {
+    return letter >= u'0' && letter <= u'9';
+}
+
+qreal digitWidth(const QFontMetricsF& metrics) {
+    qreal widest = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
+        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
+    return widest;
+}
+
+/// Calls `place(part, x, width)` for each digit and each run of other letters; the width of it all.
+template<typename Place>
+qreal layOut(const QString& text, const QFontMetricsF& metrics, Place place) {
+    const qreal cell = digitWidth(metrics);
+    qreal x = 0;
+    for (qsizetype begin = 0; begin < text.size();) {
+        qsizetype end = begin + 1;
+        if (!isDigit(text[begin])) {
+            while (end < text.size() && !isDigit(text[end]))
+                ++end;
+        }
+        const QString part = text.mid(begin, end - begin);
+        const qreal partWidth = isDigit(text[begin]) ? cell : metrics.horizontalAdvance(part);
+        place(part, x, partWidth);
+        x += partWidth;
+        begin = end;
+    }
+    return x;
+}
+
+} // namespace
+
+qreal width(const QString& text, const QFont& font) {
+    return layOut(text, QFontMetricsF(font), [](const QString&, qreal, qreal) {});
+}
+
+void paint(QPainter& painter, const QPointF& origin, const QString& text, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    painter.setFont(font);
+    layOut(text, metrics, [&](const QString& part, qreal x, qreal cell) {
+        const qreal inset = (cell - metrics.horizontalAdvance(part)) / 2;
+        painter.drawText(origin + QPointF(x + inset, 0), part);
+    });
+}
+
+} // namespace brisklet::tabular

@@ -1,0 +1,91 @@
+#include "Views/Timeline/TimelineGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brisklet {
+
+namespace {
+
+constexpr double kPlayheadWidth = 2;
+
+} // namespace
+
+double TimelineGeometry::x(double time, double stripWidth) const {
+    if (!(duration > 0))
+        return handleWidth;
+    const double fraction = time / duration;
+    if (!std::isfinite(fraction))
+        return handleWidth;
+    return handleWidth + (stripWidth - 2 * handleWidth) * fraction;
+}
+
+double TimelineGeometry::time(double position) const {
+    const double usable = width - 2 * handleWidth;
+    if (!(usable > 0) || !(duration > 0) || !std::isfinite(duration))
+        return 0;
+    return duration * std::clamp((position - handleWidth) / usable, 0.0, 1.0);
+}
+
+QRectF TimelineGeometry::filmstrip() const {
+    return {handleWidth, 0, std::max(width - 2 * handleWidth, 0.0), stripHeight};
+}
+
+QRectF TimelineGeometry::tile(int index, int count) const {
+    const QRectF all = filmstrip();
+    const double left = all.x() + all.width() * index / count;
+    const double right = all.x() + all.width() * (index + 1) / count;
+    return {left, 0, right - left, stripHeight};
+}
+
+QRectF TimelineGeometry::leftShade() const {
+    return {handleWidth, 0, std::max(x(trimStart) - handleWidth, 0.0), stripHeight};
+}
+
+QRectF TimelineGeometry::rightShade() const {
+    const double left = x(trimEnd);
+    return {left, 0, std::max(width - handleWidth - left, 0.0), stripHeight};
+}
+
+QRectF TimelineGeometry::rangeFrame() const {
+    const double left = x(trimStart);
+    return {left, 0, std::max(x(trimEnd) - left, 0.0), stripHeight};
+}
+
+QRectF TimelineGeometry::playhead() const {
+    return {x(currentTime) - kPlayheadWidth / 2, 0, kPlayheadWidth, stripHeight};
+}
+
+QRectF TimelineGeometry::handle(HandleEdge edge) const {
+    const double left = edge == HandleEdge::leading ? x(trimStart) - handleWidth : x(trimEnd);
+    return {left, 0, handleWidth, stripHeight};
+}
+
+std::optional<HandleEdge> TimelineGeometry::handleAt(const QPointF& point) const {
+    // Topmost first: the trailing handle lies above the leading one.
+    for (const HandleEdge edge : {HandleEdge::trailing, HandleEdge::leading}) {
+        if (handle(edge).contains(point))
+            return edge;
+    }
+    return std::nullopt;
+}
+
+double TimelineGeometry::latestStart() const {
+    const double latest = trimEnd - kMinimumRange;
+    return duration > 0 ? std::max(latest, 0.0) : latest;
+}
+
+double TimelineGeometry::earliestEnd() const {
+    const double earliest = trimStart + kMinimumRange;
+    return duration > 0 ? std::min(earliest, duration) : earliest;
+}
+
+double TimelineGeometry::clampedStart(double time) const {
+    return std::min(std::max(time, 0.0), latestStart());
+}
+
+double TimelineGeometry::clampedEnd(double time) const {
+    return std::max(std::min(time, duration), earliestEnd());
+}
+
+} // namespace brisklet

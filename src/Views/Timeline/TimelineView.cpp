@@ -1,0 +1,143 @@
+#include "Views/Timeline/TimelineView.h"
+
+#include "Models/EditState.h"
+#include "Views/Painting/TabularLabel.h"
+#include "Views/Painting/TabularText.h"
+#include "Views/Painting/Theme.h"
+#include "Views/Timeline/TimelineEdits.h"
+#include "Views/Timeline/TimelineMarker.h"
+#include "Views/Timeline/TimelineStrip.h"
+
+#include <QEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace brisklet {
+
+namespace {
+
+/// From the strip to the times, points.
+constexpr int kSpacing = 4;
+/// The least distance between two times, points.
+constexpr int kLabelDistance = 12;
+
+int widthOf(const QString& text, const QFont& font) {
+    return static_cast<int>(std::ceil(tabular::width(text, font)));
+}
+
+} // namespace
+
+TimelineView::TimelineView(std::shared_ptr<EditState> state, int stripHeight, int handleWidth,
+                           QWidget* parent)
+    : QWidget(parent),
+      m_state(std::move(state)),
+      m_strip(new TimelineStrip(m_state, stripHeight, handleWidth, this)),
+      m_start(new TabularLabel(this)),
+      m_position(new TabularLabel(this)),
+      m_end(new TabularLabel(this)) {
+    setAccessibleName(tr("Timeline"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);
+    setFocusProxy(&m_strip->playhead());
+    for (TabularLabel* label : {m_start, m_position, m_end}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    observe();
+    showLook();
+    showStart();
+    showEnd();
+}
+
+void TimelineView::observe() {
+    const EditState* state = m_state.get();
+    connect(state, &EditState::durationChanged, this, &TimelineView::showDuration);
+    connect(state, &EditState::trimStartChanged, this, &TimelineView::showStart);
+    connect(state, &EditState::currentTimeChanged, this, &TimelineView::showPosition);
+    connect(state, &EditState::trimEndChanged, this, &TimelineView::showEnd);
+}
+
+void TimelineView::showLook() {
+    const QFont caption = theme::captionFont(font());
+    for (TabularLabel* label : {m_start, m_position, m_end})
+        label->setFont(caption);
+    QPalette quiet = palette();
+    quiet.setColor(QPalette::WindowText, theme::secondary(palette()));
+    m_position->setPalette(quiet);
+    showDuration();
+}
+
+void TimelineView::showDuration() {
+    showPosition();
+    placeLabels();
+    updateGeometry();
+}
+
+void TimelineView::showStart() {
+    m_start->setText(timeline::shownTime(m_state->trimStart()));
+    placeLabels();
+}
+
+void TimelineView::showPosition() {
+    m_position->setText(timeline::shownTime(m_state->currentTime()) + QStringLiteral(" / ") +
+                        timeline::shownTime(m_state->duration()));
+    placeLabels();
+}
+
+void TimelineView::showEnd() {
+    m_end->setText(timeline::shownTime(m_state->trimEnd()));
+    placeLabels();
+}
+
+TimelineView::LabelWidths TimelineView::labelWidths() const {
+    const QString longest = timeline::shownTime(m_state->duration());
+    const QFont& font = m_start->font();
+    return {.edge = std::max({widthOf(longest, font), widthOf(m_start->text(), font),
+                              widthOf(m_end->text(), font)}),
+            .position = std::max(widthOf(longest + QStringLiteral(" / ") + longest, font),
+                                 widthOf(m_position->text(), font))};
+}
+
+int TimelineView::labelHeight() const {
+    return m_start->fontMetrics().height();
+}
+
+void TimelineView::placeLabels() {
+    // The room is that of the longest time from the start, so no time moves when another one
+    // becomes longer; and the duration stands still whatever the position is.
+    const LabelWidths widths = labelWidths();
+    const int top = m_strip->height() + kSpacing;
+    const auto placeRight = [&](TabularLabel& label, int right) {
+        const int labelWidth = widthOf(label.text(), label.font());
+        label.setGeometry(right - labelWidth, top, labelWidth, labelHeight());
+    };
+    m_start->setGeometry(0, top, widthOf(m_start->text(), m_start->font()), labelHeight());
+    placeRight(*m_position, (width() + widths.position) / 2);
+    placeRight(*m_end, width());
+}
+
+QSize TimelineView::sizeHint() const {
+    return minimumSizeHint();
+}
+
+QSize TimelineView::minimumSizeHint() const {
+    const LabelWidths widths = labelWidths();
+    return {2 * widths.edge + widths.position + 2 * kLabelDistance,
+            m_strip->height() + kSpacing + labelHeight()};
+}
+
+void TimelineView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    m_strip->setGeometry(0, 0, width(), m_strip->height());
+    placeLabels();
+}
+
+void TimelineView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
+        showLook();
+}
+
+} // namespace brisklet
