@@ -13,6 +13,10 @@ bool isMainThread() {
     return application != nullptr && application->thread() == QThread::currentThread();
 }
 
+void verifyMainThread(const media::SourceLocation& where) {
+    media::verify(isMainThread(), "called on another thread than the main thread", where);
+}
+
 void postToMainThread(std::function<void()> work) {
     // The application object stands for its thread: it outlives every window, and the events of a
     // destroyed receiver are dropped by Qt. Workers end before it does (leaveWith()).

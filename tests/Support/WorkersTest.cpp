@@ -4,7 +4,6 @@
 #include "Support/MainThread.h"
 
 #include <QCoroTask>
-#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -12,12 +11,9 @@
 #include <chrono>
 #include <cstdlib>
 #include <latch>
-#include <memory>
 #include <stdexcept>
-#include <vector>
 
 using brisklet::isMainThread;
-using brisklet::postToMainThread;
 using brisklet::runOnWorker;
 
 namespace {
@@ -86,20 +82,6 @@ TEST(WorkersDeathTest, thatNeverEndDoNotKeepTheProcess) {
             std::exit(brisklet::leaveWith(7) + 1);
         },
         testing::ExitedWithCode(7), "");
-}
-
-TEST(MainThread, runsWhatIsPostedInOrderAndLater) {
-    std::vector<int> order;
-    const std::unique_ptr<QThread> thread(QThread::create([&order] {
-        for (int index = 0; index < 100; ++index)
-            postToMainThread([&order, index] { order.push_back(isMainThread() ? index : -1); });
-    }));
-    thread->start();
-    thread->wait();
-    EXPECT_TRUE(order.empty());
-    ASSERT_TRUE(testsupport::pumpUntil([&order] { return order.size() == 100; }));
-    for (std::size_t index = 0; index < order.size(); ++index)
-        EXPECT_EQ(order[index], static_cast<int>(index));
 }
 
 } // namespace
