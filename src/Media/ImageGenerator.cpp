@@ -63,9 +63,9 @@ void ImageGenerator::setTolerance(Time before, Time after) {
 TimedImage ImageGenerator::image(Time time, std::stop_token stop) {
     if (!time.isNumeric())
         throw Error("There is no picture at this time.");
-    const std::int64_t ticks = time.comparisonTicks();
-    const std::int64_t earliest = ticks - d->before.comparisonTicks();
-    const std::int64_t latest = ticks + d->after.comparisonTicks();
+    const Ticks ticks = time.ticks();
+    const Ticks earliest = ticks - d->before.ticks();
+    const Ticks latest = ticks + d->after.ticks();
     const bool isExact = earliest == latest;
     VideoReader& reader =
         d->readerFor(isExact ? VideoReader::Detail::full : VideoReader::Detail::thumbnail);

@@ -7,7 +7,7 @@
 namespace media {
 
 /// A moment on an asset's time line, or a length of it, in whole ticks of 1/600 s: the unit in
-/// which frames are chosen (kComparisonTimescale). A stream's own timestamps and exact times
+/// which frames are chosen. A stream's own timestamps and exact times
 /// (Time) are other types, and become ticks by name only. A value type, usable on any thread.
 ///
 /// The two endless moments stay what they are whatever is added to them; other sums stop at them.
@@ -50,9 +50,27 @@ public:
         return b.m_count > 0 ? beginning() : forever();
     }
 
+    /// Lengths only: an endless moment has no multiples. Stops at the endless ones as well.
+    friend constexpr Ticks operator*(std::int64_t factor, Ticks length) {
+        std::int64_t product = 0;
+        if (!__builtin_mul_overflow(factor, length.m_count, &product))
+            return Ticks(product);
+        return (factor < 0) == (length.m_count < 0) ? forever() : beginning();
+    }
+
+    /// Rounds toward zero; `divisor` is more than 0.
+    friend constexpr Ticks operator/(Ticks length, std::int64_t divisor) {
+        return Ticks(length.m_count / divisor);
+    }
+
 private:
     std::int64_t m_count = 0;
 };
+
+/// The last tick that is no farther from `earliest` than from `latest`, which is not before it.
+constexpr Ticks midpoint(Ticks earliest, Ticks latest) {
+    return earliest + (latest - earliest) / 2;
+}
 
 /// How far apart two moments are, in ticks. Endless moments are very far from all others.
 constexpr double distance(Ticks a, Ticks b) {

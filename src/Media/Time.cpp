@@ -68,13 +68,12 @@ Time Time::rescaled(std::int32_t newTimescale) const {
     return {saturated(dividedRounding(Wide{value} * newTimescale, timescale)), newTimescale};
 }
 
-std::int64_t Time::comparisonTicks() const {
+Ticks Time::ticks() const {
     if (isNumeric())
-        return rescaled(kComparisonTimescale).value;
+        return Ticks(rescaled(kComparisonTimescale).value);
     if (value == 0)
-        return 0;
-    return value > 0 ? std::numeric_limits<std::int64_t>::max()
-                     : std::numeric_limits<std::int64_t>::min();
+        return Ticks(0);
+    return value > 0 ? Ticks::forever() : Ticks::beginning();
 }
 
 Time operator+(Time a, Time b) {

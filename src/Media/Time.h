@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Media/Ticks.h"
+
 #include <compare>
 #include <cstdint>
 #include <limits>
@@ -8,7 +10,7 @@ namespace media {
 
 /// The timescale at which times are compared to choose frames: 1/600 s is a whole number of ticks
 /// for 24, 25, 30, 50 and 60 frames a second.
-inline constexpr std::int32_t kComparisonTimescale = 600;
+inline constexpr std::int32_t kComparisonTimescale{Ticks::kPerSecond};
 
 /// A rational time: `value` / `timescale` seconds. A value type, usable on any thread.
 ///
@@ -28,6 +30,9 @@ struct Time {
     /// number of seconds that no tick count can hold, gives the infinity of its sign.
     static Time fromSeconds(double seconds, std::int32_t timescale);
 
+    /// Exact. Endless ticks give numbers of seconds that lie beyond those of any file.
+    static constexpr Time fromTicks(Ticks ticks) { return {ticks.count(), kComparisonTimescale}; }
+
     [[nodiscard]] constexpr bool isNumeric() const { return timescale > 0; }
 
     /// NaN for invalid(), an infinity for the infinite times.
@@ -37,9 +42,9 @@ struct Time {
     /// stays what it is.
     [[nodiscard]] Time rescaled(std::int32_t newTimescale) const;
 
-    /// The number of 1/600 s ticks nearest to this time, halves away from zero. Infinite times
-    /// give the largest or smallest count; invalid() gives 0.
-    [[nodiscard]] std::int64_t comparisonTicks() const;
+    /// The tick nearest to this time, halves away from zero. Infinite times give the endless ticks
+    /// of their sign; invalid() gives 0.
+    [[nodiscard]] Ticks ticks() const;
 
     /// Exact when one timescale is a multiple of the other or their least common multiple fits in
     /// 31 bits; otherwise rounded to the finer of the two.

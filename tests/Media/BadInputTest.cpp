@@ -327,8 +327,8 @@ TEST(BadInput, aFileDeletedWhileItIsReadIsReadToItsEnd) {
     while (reader.next())
         ++count;
     EXPECT_EQ(count, fixture.frames.size());
-    reader.seek(600);
-    EXPECT_EQ(reader.next()->ticks, 600);
+    reader.seek(Ticks(600));
+    EXPECT_EQ(reader.next()->ticks, Ticks(600));
     // Whoever comes anew finds nothing.
     EXPECT_EQ(openError(folder / "a.mp4"), "The file doesn’t exist.");
 }
@@ -353,7 +353,7 @@ TEST(BadInput, aFileTruncatedWhileItIsReadIsToldAtItsEnd) {
         EXPECT_LT(count, fixture.frames.size() * 3 / 4);
         // What is gone is at most told; what is still there is shown after that as well.
         for (const double seconds : {11.0, 3.0, 8.0, 1.0}) {
-            const std::int64_t ticks = Time::fromSeconds(seconds, kComparisonTimescale).value;
+            const Ticks ticks = Time::fromSeconds(seconds, kComparisonTimescale).ticks();
             const std::string error = errorOf([&] { reader.seek(ticks); });
             if (seconds > 4)
                 continue;

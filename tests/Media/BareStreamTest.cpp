@@ -64,11 +64,11 @@ Fixture bareFixture(const Case& testCase) {
     return fixture;
 }
 
-std::int64_t ticksOf(double seconds) {
-    return std::llround(seconds * kComparisonTimescale);
+Ticks ticksOf(double seconds) {
+    return Ticks(std::llround(seconds * kComparisonTimescale));
 }
 
-int expectedAt(const Fixture& fixture, std::int64_t ticks) {
+int expectedAt(const Fixture& fixture, Ticks ticks) {
     int number = 0;
     for (const NumberedFrame& frame : fixture.frames) {
         if (ticksOf(frame.seconds) <= ticks)
@@ -89,7 +89,7 @@ protected:
 TEST_P(BareStream, lastsAsLongAsItsPicturesAtItsRate) {
     EXPECT_NEAR(m_asset->duration().seconds(), m_fixture.videoEnd(), 1e-5);
     EXPECT_FLOAT_EQ(track().nominalFrameRate, static_cast<float>(GetParam().rate()));
-    EXPECT_EQ(track().startTime.comparisonTicks(), 0);
+    EXPECT_EQ(track().startTime.ticks(), Ticks(0));
 }
 
 TEST_P(BareStream, readsEachPictureOnceInOrderAtItsTime) {
@@ -106,10 +106,11 @@ TEST_P(BareStream, readsEachPictureOnceInOrderAtItsTime) {
 TEST_P(BareStream, findsThePictureAtAnyTime) {
     VideoReader reader(m_asset, track());
     std::mt19937 random(4711);
-    std::uniform_int_distribution<std::int64_t> place(-100, ticksOf(m_fixture.videoEnd()) + 100);
+    std::uniform_int_distribution<std::int64_t> place(-100,
+                                                      ticksOf(m_fixture.videoEnd()).count() + 100);
     for (int i = 0; i < 24; ++i) {
-        const std::int64_t ticks = place(random);
-        SCOPED_TRACE(ticks);
+        const Ticks ticks(place(random));
+        SCOPED_TRACE(ticks.count());
         reader.seek(ticks);
         const int first = expectedAt(m_fixture, ticks);
         const int last = std::min(first + 2, m_fixture.frames.back().number);
@@ -242,7 +243,7 @@ TEST(BareStreams, areNotReadFromTheirStartToReachTheirEnd) {
     if (!before)
         GTEST_SKIP() << "the system does not tell how much was read";
     VideoReader reader(asset, asset->tracks(MediaType::video).at(0));
-    reader.seek(asset->duration().comparisonTicks());
+    reader.seek(asset->duration().ticks());
     const auto frame = reader.next();
     ASSERT_TRUE(frame);
     EXPECT_EQ(numberIn(*frame), fixture.frames.back().number);

@@ -32,8 +32,8 @@ VideoReader readerOf(const std::filesystem::path& path) {
     return {asset, asset->tracks(MediaType::video).at(0)};
 }
 
-std::int64_t ticksOf(const Fixture& fixture, std::size_t number) {
-    return Time::fromSeconds(fixture.frames[number].seconds, 90'000).comparisonTicks();
+Ticks ticksOf(const Fixture& fixture, std::size_t number) {
+    return Time::fromSeconds(fixture.frames[number].seconds, 90'000).ticks();
 }
 
 class KeyFramesOnly : public testing::TestWithParam<Case> {
@@ -46,9 +46,9 @@ TEST_P(KeyFramesOnly, tellWhereTheFrameSoughtEndsByTheirPackets) {
     std::mt19937 random(23);
     for (int i = 0; i < 20; ++i) {
         const std::size_t number = random() % (m_fixture.frames.size() - 2);
-        const std::int64_t begin = ticksOf(m_fixture, number);
-        const std::int64_t end = ticksOf(m_fixture, number + 1);
-        reader.seek(begin + static_cast<std::int64_t>(random()) % (end - begin));
+        const Ticks begin = ticksOf(m_fixture, number);
+        const Ticks end = ticksOf(m_fixture, number + 1);
+        reader.seek(begin + Ticks(static_cast<std::int64_t>(random()) % (end - begin).count()));
         const auto frame = reader.next();
         ASSERT_TRUE(frame);
         ASSERT_EQ(frame->ticks, begin) << number;
@@ -65,14 +65,15 @@ TEST_P(KeyFramesOnly, showAFrameForLongerWhereTheNextDoesNotDecode) {
     constexpr std::size_t kDamaged = 20;
     copyDamaged(m_fixture.path, kDamaged, path);
     VideoReader reader = readerOf(path);
-    const std::int64_t before = ticksOf(m_fixture, kDamaged - 1);
-    const std::int64_t damaged = ticksOf(m_fixture, kDamaged);
-    const std::int64_t after = ticksOf(m_fixture, kDamaged + 1);
-    for (const std::int64_t ticks : {before, damaged, after - 1, before + 1, damaged + 1}) {
+    const Ticks before = ticksOf(m_fixture, kDamaged - 1);
+    const Ticks damaged = ticksOf(m_fixture, kDamaged);
+    const Ticks after = ticksOf(m_fixture, kDamaged + 1);
+    for (const Ticks ticks :
+         {before, damaged, after - Ticks(1), before + Ticks(1), damaged + Ticks(1)}) {
         reader.seek(ticks);
         const auto frame = reader.next();
         ASSERT_TRUE(frame);
-        EXPECT_EQ(frame->ticks, before) << "at " << ticks - damaged;
+        EXPECT_EQ(frame->ticks, before) << "at " << (ticks - damaged).count();
     }
     EXPECT_EQ(reader.next()->ticks, after);
     reader.seek(before);

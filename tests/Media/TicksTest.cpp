@@ -26,6 +26,19 @@ TEST(Ticks, stayEndlessWhateverIsAdded) {
     EXPECT_EQ(Ticks::beginning() + Ticks(1), Ticks::beginning());
 }
 
+TEST(Ticks, areMultipliedAndDividedAsLengths) {
+    EXPECT_EQ(3 * Ticks(-7), Ticks(-21));
+    EXPECT_EQ(Ticks(-7) / 2, Ticks(-3));
+    EXPECT_EQ(4 * Ticks(Ticks::forever().count() / 2), Ticks::forever());
+    EXPECT_EQ(-4 * Ticks(Ticks::forever().count() / 2), Ticks::beginning());
+}
+
+TEST(Ticks, haveAMidpointNoLaterThanHalfWay) {
+    EXPECT_EQ(midpoint(Ticks(-5), Ticks(0)), Ticks(-3));
+    EXPECT_EQ(midpoint(Ticks(4), Ticks(9)), Ticks(6));
+    EXPECT_EQ(midpoint(Ticks(4), Ticks(4)), Ticks(4));
+}
+
 TEST(Ticks, tellDistancesBeyondTheirOwnRange) {
     EXPECT_EQ(distance(Ticks(-3), Ticks(4)), 7);
     EXPECT_GT(distance(Ticks::beginning(), Ticks::forever()), 1.8e19);

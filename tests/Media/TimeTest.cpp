@@ -44,8 +44,8 @@ TEST(Time, roundsHalvesAwayFromZero) {
     expectSame(Time{1, 4}.rescaled(2), {1, 2});
     expectSame(Time{-1, 4}.rescaled(2), {-1, 2});
     expectSame(Time{3, 1200}.rescaled(600), {2, 600});
-    EXPECT_EQ((Time{1, 1200}.comparisonTicks()), 1);
-    EXPECT_EQ((Time{-1, 1200}.comparisonTicks()), -1);
+    EXPECT_EQ((Time{1, 1200}.ticks()), Ticks(1));
+    EXPECT_EQ((Time{-1, 1200}.ticks()), Ticks(-1));
 }
 
 TEST(Time, keepsWhatIsNoNumberOfSecondsApart) {
@@ -92,15 +92,15 @@ TEST(Time, staysAtTheEndOfTheTickRange) {
     expectSame(Time{-kMostTicks, 1}.rescaled(600), {std::numeric_limits<std::int64_t>::min(), 600});
 }
 
-TEST(Time, countsComparisonTicks) {
+TEST(Time, isComparedInTicks) {
     // The frames of 29.97 per second fall on the ticks of 20 each, late by one after 30 of them.
     for (std::int64_t frame = 0; frame < 3000; ++frame) {
         const auto exact = static_cast<double>(frame * 1001) * 600 / 30000;
-        EXPECT_EQ((Time{frame * 1001, 30000}.comparisonTicks()), std::llround(exact));
+        EXPECT_EQ((Time{frame * 1001, 30000}.ticks()), Ticks(std::llround(exact)));
     }
-    EXPECT_EQ(Time::positiveInfinity().comparisonTicks(), kMostTicks);
-    EXPECT_EQ(Time::negativeInfinity().comparisonTicks(), std::numeric_limits<std::int64_t>::min());
-    EXPECT_EQ(Time::invalid().comparisonTicks(), 0);
+    EXPECT_EQ(Time::positiveInfinity().ticks(), Ticks::forever());
+    EXPECT_EQ(Time::negativeInfinity().ticks(), Ticks::beginning());
+    EXPECT_EQ(Time::invalid().ticks(), Ticks(0));
 }
 
 TEST(Time, addsAndSubtractsExactlyInACommonTimescale) {

@@ -71,7 +71,7 @@ TEST_P(Undecodable, rangeIsReadNotFarBeyondItsEndOnAGrid) {
         reader, composition.videoTrack->range, Time{1, kRate}, FrameSchedule::Neighbours::none);
     int count = 0;
     for (; const auto frame = schedule->next({}); ++count)
-        EXPECT_EQ(numberIn({ffmpeg::referenced(*frame->frame), {}, 0}), kLastWhole);
+        EXPECT_EQ(numberIn({ffmpeg::referenced(*frame->frame), {}, {}}), kLastWhole);
     EXPECT_EQ(count, kRate);
     EXPECT_LT(partRead(), 0.5);
 }
@@ -82,14 +82,14 @@ TEST_P(Undecodable, rangeIsReadNotFarBeyondItsEndWithItsOwnTiming) {
     const auto schedule = FrameSchedule::sourceTiming(reader, *composition.videoTrack, kRate);
     const auto frame = schedule->next({});
     ASSERT_TRUE(frame);
-    EXPECT_EQ(numberIn({ffmpeg::referenced(*frame->frame), {}, 0}), kLastWhole);
+    EXPECT_EQ(numberIn({ffmpeg::referenced(*frame->frame), {}, {}}), kLastWhole);
     EXPECT_FALSE(schedule->next({}));
     EXPECT_LT(partRead(), 0.5);
 }
 
 TEST_P(Undecodable, positionShowsWhatDecodedLastWithoutReadingOn) {
     VideoReader reader(m_asset, m_track);
-    const std::int64_t ticks = Time::fromSeconds(kStart, kComparisonTimescale).comparisonTicks();
+    const Ticks ticks = Time::fromSeconds(kStart, kComparisonTimescale).ticks();
     reader.seek(ticks);
     ASSERT_TRUE(reader.peek());
     EXPECT_EQ(numberIn(*reader.peek()), kLastWhole);
@@ -114,8 +114,8 @@ TEST_P(UndecodableKeyFrames, pictureOfTheFilmstripIsGivenUpWithoutReadingOn) {
 TEST_P(Undecodable, partIsFollowedByTheFirstPictureThatDecodesAgain) {
     VideoReader reader(m_asset, m_track);
     const double seconds = static_cast<double>(kFirstWhole + 10) / kRate;
-    reader.seek(Time::fromSeconds(kStart, kComparisonTimescale).comparisonTicks());
-    reader.seek(Time::fromSeconds(seconds, kComparisonTimescale).comparisonTicks());
+    reader.seek(Time::fromSeconds(kStart, kComparisonTimescale).ticks());
+    reader.seek(Time::fromSeconds(seconds, kComparisonTimescale).ticks());
     const auto frame = reader.next();
     ASSERT_TRUE(frame);
     EXPECT_EQ(numberIn(*frame), kFirstWhole + 10);

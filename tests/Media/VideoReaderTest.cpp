@@ -22,13 +22,13 @@ using testsupport::Recipe;
 using testsupport::VideoCodec;
 
 /// Containers that count in 1/90000 s, or more coarsely, have times half-way between two ticks.
-std::int64_t ticksOf(double seconds) {
+Ticks ticksOf(double seconds) {
     constexpr double kSteps = 90'000;
-    return std::llround(std::round(seconds * kSteps) / (kSteps / kComparisonTimescale));
+    return Ticks(std::llround(std::round(seconds * kSteps) / (kSteps / kComparisonTimescale)));
 }
 
-/// The number of the frame at a time, in ticks, by the frame rule.
-int expectedAt(const Fixture& fixture, std::int64_t ticks) {
+/// The number of the frame at a time by the frame rule.
+int expectedAt(const Fixture& fixture, Ticks ticks) {
     int number = fixture.frames.front().number;
     for (const testsupport::NumberedFrame& frame : fixture.frames) {
         if (ticksOf(frame.seconds) <= ticks)
@@ -46,16 +46,15 @@ public:
         return {asset, asset->tracks(MediaType::video).at(0), options};
     }
 
-    [[nodiscard]] std::int64_t endTicks() const { return ticksOf(fixture.videoEnd()); }
+    [[nodiscard]] Ticks end() const { return ticksOf(fixture.videoEnd()); }
 
     Fixture fixture;
     std::shared_ptr<const Asset> asset;
 };
 
 /// Seeks, and reads the frame there and the `following` ones after it.
-void expectExactAt(VideoReader& reader, const Fixture& fixture, std::int64_t ticks,
-                   int following = 2) {
-    SCOPED_TRACE(testing::Message() << "at " << ticks << " of " << fixture.path.filename());
+void expectExactAt(VideoReader& reader, const Fixture& fixture, Ticks ticks, int following = 2) {
+    SCOPED_TRACE(testing::Message() << "at " << ticks.count() << " of " << fixture.path.filename());
     reader.seek(ticks);
     const auto first = static_cast<std::size_t>(expectedAt(fixture, ticks));
     const std::size_t last =
@@ -65,7 +64,7 @@ void expectExactAt(VideoReader& reader, const Fixture& fixture, std::int64_t tic
         ASSERT_TRUE(frame);
         ASSERT_EQ(numberIn(*frame), static_cast<int>(number));
         ASSERT_NEAR(frame->time.seconds(), fixture.frames[number].seconds, 0.001);
-        ASSERT_EQ(frame->ticks, frame->time.comparisonTicks());
+        ASSERT_EQ(frame->ticks, frame->time.ticks());
     }
 }
 
@@ -99,9 +98,9 @@ TEST_P(EveryFormat, readsEachFrameOnceInOrder) {
 TEST_P(EveryFormat, findsTheFrameAtAnyTime) {
     VideoReader reader = m_source.reader();
     std::mt19937 random(4711);
-    std::uniform_int_distribution<std::int64_t> place(-100, m_source.endTicks() + 100);
+    std::uniform_int_distribution<std::int64_t> place(-100, m_source.end().count() + 100);
     for (int i = 0; i < 24 && !HasFatalFailure(); ++i)
-        expectExactAt(reader, m_source.fixture, place(random));
+        expectExactAt(reader, m_source.fixture, Ticks(place(random)));
 }
 
 TEST_P(EveryFormat, findsAFrameAtItsOwnTimeAndThatBeforeItATickEarlier) {
@@ -109,20 +108,20 @@ TEST_P(EveryFormat, findsAFrameAtItsOwnTimeAndThatBeforeItATickEarlier) {
     const auto& frames = m_source.fixture.frames;
     for (const std::size_t part : {3U, 1U, 2U}) {
         const std::size_t index = frames.size() * part / 4;
-        const std::int64_t ticks = ticksOf(frames[index].seconds);
+        const Ticks ticks = ticksOf(frames[index].seconds);
         expectExactAt(reader, m_source.fixture, ticks, 0);
-        expectExactAt(reader, m_source.fixture, ticks - 1, 1);
-        expectExactAt(reader, m_source.fixture, ticks + 1, 0);
+        expectExactAt(reader, m_source.fixture, ticks - Ticks(1), 1);
+        expectExactAt(reader, m_source.fixture, ticks + Ticks(1), 0);
     }
 }
 
 TEST_P(EveryFormat, showsTheFirstFrameBeforeAndTheLastAfterAll) {
     VideoReader reader = m_source.reader();
-    expectExactAt(reader, m_source.fixture, m_source.endTicks() + 60'000);
+    expectExactAt(reader, m_source.fixture, m_source.end() + Ticks(60'000));
     EXPECT_FALSE(reader.next());
-    expectExactAt(reader, m_source.fixture, -60'000);
-    expectExactAt(reader, m_source.fixture, m_source.endTicks());
-    expectExactAt(reader, m_source.fixture, 0);
+    expectExactAt(reader, m_source.fixture, Ticks(-60'000));
+    expectExactAt(reader, m_source.fixture, m_source.end());
+    expectExactAt(reader, m_source.fixture, Ticks(0));
 }
 
 std::vector<Case> everyCase() {
@@ -188,11 +187,11 @@ TEST(VideoReader, goesOnExactlyAfterASeekThatWasGivenUp) {
     const Source source(longGroups());
     VideoReader reader = source.reader();
     std::mt19937 random(11);
-    const std::int64_t target = ticksOf(8.2);
+    const Ticks target = ticksOf(8.2);
     int given = 0;
     // The stop comes somewhere between before the first frame and after the last.
     for (int yields = 0; yields < 200 && !HasFatalFailure(); yields = yields * 3 / 2 + 1) {
-        reader.seek(0);
+        reader.seek(Ticks(0));
         std::stop_source stop;
         std::jthread stopper([&] {
             for (int i = 0; i < yields; ++i)
@@ -207,7 +206,7 @@ TEST(VideoReader, goesOnExactlyAfterASeekThatWasGivenUp) {
         stopper.join();
         // A little before what the reader was on the way to, where it may have left out pictures.
         expectExactAt(reader, source.fixture,
-                      target - 1 - static_cast<std::int64_t>(random() % 60));
+                      target - Ticks(1 + static_cast<std::int64_t>(random() % 60)));
     }
     EXPECT_GT(given, 0);
 }
@@ -228,9 +227,10 @@ TEST(VideoReader, isUsableAfterEveryCallThatWasStopped) {
 TEST(VideoReader, goesForwardInSmallStepsAsExactlyAsInOne) {
     const Source source({.codec = VideoCodec::h264, .duration = 6, .bFrames = 3});
     VideoReader reader = source.reader();
-    for (std::int64_t ticks = 0; ticks < source.endTicks() && !HasFatalFailure(); ticks += 47)
+    for (Ticks ticks; ticks < source.end() && !HasFatalFailure(); ticks = ticks + Ticks(47))
         expectExactAt(reader, source.fixture, ticks, 0);
-    for (std::int64_t ticks = source.endTicks(); ticks > 0 && !HasFatalFailure(); ticks -= 97)
+    for (Ticks ticks = source.end(); ticks > Ticks(0) && !HasFatalFailure();
+         ticks = ticks - Ticks(97))
         expectExactAt(reader, source.fixture, ticks, 0);
 }
 
@@ -238,7 +238,7 @@ TEST(VideoReader, peeksWithoutMoving) {
     const Source source({});
     VideoReader reader = source.reader();
     reader.seek(ticksOf(2));
-    const std::int64_t ticks = reader.peek()->ticks;
+    const Ticks ticks = reader.peek()->ticks;
     EXPECT_EQ(reader.peek()->ticks, ticks);
     EXPECT_EQ(reader.next()->ticks, ticks);
     EXPECT_GT(reader.peek()->ticks, ticks);
@@ -249,10 +249,10 @@ TEST(VideoReader, staysInsideTheWindowWhenItMovesNear) {
     VideoReader reader = source.reader({VideoReader::Detail::thumbnail, 1});
     std::mt19937 random(5);
     for (int i = 0; i < 30; ++i) {
-        const std::int64_t earliest =
-            static_cast<std::int64_t>(random() % static_cast<unsigned>(source.endTicks() - 400));
-        const std::int64_t latest = earliest + 100 + static_cast<std::int64_t>(random() % 300);
-        SCOPED_TRACE(testing::Message() << earliest << " to " << latest);
+        const Ticks earliest(static_cast<std::int64_t>(
+            random() % static_cast<unsigned>(source.end().count() - 400)));
+        const Ticks latest = earliest + Ticks(100 + static_cast<std::int64_t>(random() % 300));
+        SCOPED_TRACE(testing::Message() << earliest.count() << " to " << latest.count());
         reader.seekNear(earliest, latest);
         const auto frame = reader.next();
         ASSERT_TRUE(frame);

@@ -16,7 +16,7 @@ constexpr std::int64_t kFinestTimescale = 1'000'000;
 constexpr std::int32_t kFallbackTimescale = 90'000;
 
 /// A picture farther away than this is no neighbour whose fields tell anything.
-constexpr std::int64_t kFarthestNeighbourTicks = kComparisonTimescale;
+constexpr Ticks kFarthestNeighbour(Ticks::kPerSecond);
 
 /// A timescale in which both the source's times and cuts at 1/600 s are whole numbers.
 std::int32_t timescaleFor(std::int64_t sourceTimescale) {
@@ -29,7 +29,7 @@ public:
     SourceTiming(VideoReader& reader, const CompositionTrack& track, std::int32_t sourceTimescale)
         : m_reader(reader),
           m_range(track.range),
-          m_endTicks(track.range.end.comparisonTicks()),
+          m_end(track.range.end.ticks()),
           m_timescale(timescaleFor(sourceTimescale)),
           m_duration(track.range.duration().rescaled(m_timescale).value) {
         // Sources of variable rate may well run faster for a while than they do on average.
@@ -47,20 +47,20 @@ public:
     std::optional<ScheduledFrame> next(const std::stop_token& stop) override {
         const bool isFirst = !m_hasStarted;
         if (isFirst)
-            m_reader.seek(m_range.start.comparisonTicks(), stop);
+            m_reader.seek(m_range.start.ticks(), stop);
         m_hasStarted = true;
         if (m_isOver)
             return std::nullopt;
         for (;;) {
             auto source = m_reader.next(stop);
-            if (!source || (!isFirst && source->ticks >= m_endTicks))
+            if (!source || (!isFirst && source->ticks >= m_end))
                 return std::nullopt;
-            const DecodedFrame* following = m_reader.peek(stop, m_endTicks);
+            const DecodedFrame* following = m_reader.peek(stop, m_end);
             if (following && following->ticks <= source->ticks)
                 continue;
             ScheduledFrame result;
             result.pts = isFirst ? 0 : std::max(m_nextPts, exportTime(source->time));
-            const bool isLast = !following || following->ticks >= m_endTicks;
+            const bool isLast = !following || following->ticks >= m_end;
             m_isOver = isLast;
             const std::int64_t end = isLast ? m_duration : exportTime(following->time);
             result.duration = std::max<std::int64_t>(end - result.pts, 1);
@@ -77,7 +77,7 @@ private:
 
     VideoReader& m_reader;
     TimeRange m_range;
-    std::int64_t m_endTicks;
+    Ticks m_end;
     std::int32_t m_timescale;
     std::int64_t m_duration;
     std::int64_t m_expectedFrames = 0;
@@ -93,7 +93,7 @@ public:
         : m_reader(reader), m_keepsNeighbours(neighbours == FrameSchedule::Neighbours::decoded) {}
 
     /// Null without any picture.
-    const DecodedFrame* moveTo(std::int64_t ticks, const std::stop_token& stop) {
+    const DecodedFrame* moveTo(Ticks ticks, const std::stop_token& stop) {
         if (!m_keepsNeighbours) {
             m_reader.seek(ticks, stop);
             return m_reader.peek(stop);
@@ -113,16 +113,16 @@ public:
             return;
         if (m_previous)
             frame.previous = ffmpeg::referenced(*m_previous->frame);
-        const std::int64_t latest = m_current->ticks + kFarthestNeighbourTicks;
+        const Ticks latest = m_current->ticks + kFarthestNeighbour;
         if (const DecodedFrame* following = m_reader.peek(stop, latest))
             frame.following = ffmpeg::referenced(*following->frame);
     }
 
 private:
-    void begin(std::int64_t ticks, const std::stop_token& stop) {
+    void begin(Ticks ticks, const std::stop_token& stop) {
         m_reader.seek(ticks, stop);
         if (const DecodedFrame* first = m_reader.peek(stop))
-            m_reader.seek(first->ticks - 1, stop);
+            m_reader.seek(first->ticks - Ticks(1), stop);
         m_current = m_reader.next(stop);
     }
 
@@ -154,17 +154,17 @@ public:
         if (m_number >= expectedFrames())
             return std::nullopt;
         const Time offset{m_frameDuration.value * m_number, m_frameDuration.timescale};
-        const DecodedFrame* source = m_source.moveTo((m_start + offset).comparisonTicks(), stop);
+        const DecodedFrame* source = m_source.moveTo((m_start + offset).ticks(), stop);
         if (!source)
             return std::nullopt;
         ScheduledFrame result;
         result.pts = m_number * m_step;
         result.duration = std::min(m_step, std::max<std::int64_t>(m_duration - result.pts, 1));
-        result.isRepeat = m_shownTicks == source->ticks;
+        result.isRepeat = m_shown == source->ticks;
         result.frame = ffmpeg::referenced(*source->frame);
         if (ffmpeg::isInterlaced(*source->frame) && !result.isRepeat)
             m_source.addNeighbours(result, stop);
-        m_shownTicks = source->ticks;
+        m_shown = source->ticks;
         ++m_number;
         return result;
     }
@@ -178,7 +178,7 @@ private:
     std::int64_t m_step;
     std::int64_t m_number = 0;
     /// Which source frame was scheduled last.
-    std::optional<std::int64_t> m_shownTicks;
+    std::optional<Ticks> m_shown;
 };
 
 } // namespace

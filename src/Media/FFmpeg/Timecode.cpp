@@ -29,7 +29,7 @@ bool canCount(const std::string& label, AVRational rate) {
 
 /// How many pictures are over at a time, by the rule for the picture at a time.
 std::int64_t picturesBefore(Time time, AVRational rate) {
-    const double ticks = static_cast<double>(time.comparisonTicks());
+    const double ticks = static_cast<double>(time.ticks().count());
     return static_cast<std::int64_t>(
         std::floor((ticks + 0.5) / kComparisonTimescale * av_q2d(rate)));
 }

@@ -44,7 +44,7 @@ FrameSource::FrameSource(FrameCache& cache, DecoderShare& share,
     const std::vector<AssetTrack> tracks = m_item->asset()->tracks(MediaType::video);
     if (tracks.empty())
         return;
-    m_firstTicks = tracks.front().startTime.comparisonTicks();
+    m_firstTicks = tracks.front().startTime.ticks().count();
     m_renderer = std::make_unique<PictureRenderer>(tracks.front());
     reader();
 }
@@ -79,7 +79,7 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_nextTicks = CachedFrame::kBeginning;
         m_hasMoved = true;
         const std::int64_t beginAt = goal.isBackward ? goal.ticks - kBackwardTicks : goal.ticks;
-        reader().approach(goal.ticks, goal.completeFrom, beginAt, stop);
+        reader().approach(Ticks(goal.ticks), Ticks(goal.completeFrom), Ticks(beginAt), stop);
         m_goal = goal.ticks;
     }
     std::optional<Decoded> decoded = decode(goal, stop);
@@ -131,8 +131,8 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
     const std::int64_t end = endOf(*m_unfinished, goal.ticks, stop);
     Decoded decoded{std::exchange(m_unfinished, nullptr), 0, end, true};
     m_nextTicks = end;
-    const std::int64_t ticks = decoded.begin = decoded.frame->ticks;
-    decoded.isComplete = m_reader->isCompleteFrom(ticks);
+    const std::int64_t ticks = decoded.begin = decoded.frame->ticks.count();
+    decoded.isComplete = m_reader->isCompleteFrom(Ticks(ticks));
     const bool isFirst = std::exchange(m_hasMoved, false);
     // Where nothing decodes before it the first frame stands for what was asked for; and where some
     // were left out after it that should have come later, it is known for that tick only.
@@ -148,12 +148,12 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
 std::int64_t FrameSource::endOf(const DecodedFrame& frame, std::int64_t goal,
                                 const std::stop_token& stop) {
     if (frame.knownEnd)
-        return *frame.knownEnd;
+        return frame.knownEnd->count();
     const std::int64_t from =
-        goal == CachedFrame::kForever ? frame.ticks : std::max(frame.ticks, goal);
+        goal == CachedFrame::kForever ? frame.ticks.count() : std::max(frame.ticks.count(), goal);
     const std::int64_t until = from + kFarthestEndTicks;
-    if (const DecodedFrame* following = m_reader->peek(stop, until))
-        return following->ticks;
+    if (const DecodedFrame* following = m_reader->peek(stop, Ticks(until)))
+        return following->ticks.count();
     return m_reader->hasEnded() ? CachedFrame::kForever : until + 1;
 }
 
@@ -183,13 +183,13 @@ std::optional<std::int64_t> FrameSource::advanceNear(std::int64_t earliest, std:
     m_unfinished.reset();
     m_hasMoved = false;
     m_nextTicks = CachedFrame::kBeginning;
-    reader().seekNear(earliest, latest, stop);
+    reader().seekNear(Ticks(earliest), Ticks(latest), stop);
     Goal goal;
     goal.ticks = CachedFrame::kForever;
     std::optional<Decoded> decoded = decode(goal, stop);
     if (!decoded)
         return std::nullopt;
-    const std::int64_t ticks = decoded->frame->ticks;
+    const std::int64_t ticks = decoded->frame->ticks.count();
     if (!decoded->isComplete)
         decoded->end = std::min(decoded->end, ticks + 1);
     keep(*decoded, size);
@@ -203,7 +203,7 @@ std::shared_ptr<const CachedFrame> FrameSource::passing(PreviewSize size) {
     auto frame = std::make_shared<CachedFrame>(rendered(*m_passing, size));
     // Of what lies between it and the next nothing is known.
     if (!m_passing->isComplete)
-        frame->end = m_passing->frame->ticks + 1;
+        frame->end = m_passing->frame->ticks.count() + 1;
     return frame;
 }
 

@@ -40,7 +40,7 @@ std::optional<Presenter::Find> Presenter::find(Transport& transport, SteadyTime 
     if (!transport.isShownInSize())
         return found(
             Find::Purpose::redraw,
-            m_playback.cache.find(transport.shown.time.comparisonTicks(), transport.imageSize()));
+            m_playback.cache.find(transport.shown.time.ticks().count(), transport.imageSize()));
     return std::nullopt;
 }
 
@@ -50,7 +50,7 @@ std::optional<CachedFrame> Presenter::findSought(Transport& transport) const {
     auto frame = m_playback.cache.find(middle, transport.imageSize());
     if (!frame || seek.isExact())
         return frame;
-    if (!seek.holds(frame->time.comparisonTicks()))
+    if (!seek.holds(frame->time.ticks().count()))
         return std::nullopt;
     seek.movesClock = true;
     return frame;
@@ -61,13 +61,13 @@ std::optional<CachedFrame> Presenter::findSubstitute(const Transport& transport)
     const std::int64_t ticks = transport.seek->earliest;
     std::optional<CachedFrame> best = m_playback.cache.nearest(ticks);
     const auto distanceOf = [ticks](const CachedFrame& frame) {
-        return distance(frame.time.comparisonTicks(), ticks);
+        return distance(frame.time.ticks().count(), ticks);
     };
     if (transport.passing && (!best || distanceOf(*transport.passing) < distanceOf(*best)))
         best = *transport.passing;
     const bool isNearer =
         best && (!transport.shown.image ||
-                 distanceOf(*best) < distance(transport.shown.time.comparisonTicks(), ticks));
+                 distanceOf(*best) < distance(transport.shown.time.ticks().count(), ticks));
     return isNearer ? best : std::nullopt;
 }
 

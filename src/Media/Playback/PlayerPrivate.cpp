@@ -33,7 +33,7 @@ SteadyTime now() {
 
 /// A time as a count of ticks from 0 to `last`.
 std::int64_t clampedTicks(Time time, Time last) {
-    return std::clamp<std::int64_t>(time.comparisonTicks(), 0, last.comparisonTicks());
+    return std::clamp<std::int64_t>(time.ticks().count(), 0, last.ticks().count());
 }
 
 /// The earliest and the latest frame time that a seek accepts.

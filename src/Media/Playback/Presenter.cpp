@@ -103,7 +103,7 @@ void Presenter::takeDueFrames(Transport& transport, SteadyTime now, Round& round
     const nanoseconds time = toNanoseconds(transport.time(now));
     bool isAny = false;
     while (!transport.upcoming.empty() &&
-           dueTime(transport.upcoming.front().time.comparisonTicks()) <= time) {
+           dueTime(transport.upcoming.front().time.ticks().count()) <= time) {
         if (isAny)
             ++transport.statistics.dropped;
         isAny = true;
@@ -112,7 +112,7 @@ void Presenter::takeDueFrames(Transport& transport, SteadyTime now, Round& round
     }
     if (!isAny)
         return;
-    if (time - dueTime(transport.shown.time.comparisonTicks()) > kLate)
+    if (time - dueTime(transport.shown.time.ticks().count()) > kLate)
         ++transport.statistics.late;
     countShown(transport);
     transport.videoWake.raise();
@@ -151,8 +151,8 @@ SteadyTime Presenter::nextLook(const Transport& transport, SteadyTime now) {
         return transport.readySince + kSoundPatience;
     SteadyTime next = clock.whenReaches(toNanoseconds(transport.duration), now);
     if (!transport.upcoming.empty())
-        next = std::min(next, clock.whenReaches(
-                                  dueTime(transport.upcoming.front().time.comparisonTicks()), now));
+        next = std::min(
+            next, clock.whenReaches(dueTime(transport.upcoming.front().time.ticks().count()), now));
     for (const TickObserver& observer : transport.observers)
         next =
             std::min(next, clock.whenReaches(observer.interval * (observer.lastInterval + 1), now));

@@ -46,8 +46,8 @@ std::optional<VideoPlayback::Job> VideoPlayback::takeJob(Transport& transport) {
     if (transport.item != m_item)
         return job;
     const Time time = transport.time(std::chrono::steady_clock::now());
-    job.now = time.isNumeric() ? time.comparisonTicks() : 0;
-    job.lastTicks = transport.duration.comparisonTicks();
+    job.now = time.isNumeric() ? time.ticks().count() : 0;
+    job.lastTicks = transport.duration.ticks().count();
     const bool isChosen = transport.seek
                               ? chooseSeek(transport, job)
                               : chooseStep(transport, job) || chooseRedraw(transport, job) ||
@@ -63,7 +63,7 @@ bool VideoPlayback::chooseSeek(Transport& transport, Job& job) const {
     const std::int64_t middle = seek.earliest + (seek.latest - seek.earliest) / 2;
     const auto frame = m_playback.cache.find(middle, job.imageSize);
     job.kind = seek.isExact() ? Job::Kind::seek : Job::Kind::near;
-    const bool isIn = frame && (seek.isExact() || seek.holds(frame->time.comparisonTicks()));
+    const bool isIn = frame && (seek.isExact() || seek.holds(frame->time.ticks().count()));
     if (!isIn || !m_source) {
         transport.seek->needsDecoding = true;
         return true;
@@ -91,7 +91,7 @@ bool VideoPlayback::chooseRedraw(Transport& transport, Job& job) const {
         transport.isRunningWanted() && transport.nextTicks != CachedFrame::kForever;
     if (!m_source || transport.immediate || transport.isShownInSize() || isReplacedSoon)
         return false;
-    const std::int64_t ticks = transport.shown.time.comparisonTicks();
+    const std::int64_t ticks = transport.shown.time.ticks().count();
     if (m_notRedrawn == ticks)
         return false;
     if (m_playback.cache.find(ticks, job.imageSize)) {
@@ -154,7 +154,7 @@ bool VideoPlayback::chooseIdle(const Transport& transport, Job& job) {
 }
 
 VideoPlayback::Prospect VideoPlayback::prospectOf(const Transport& transport) {
-    return {transport.generation, transport.interests, transport.shown.time.comparisonTicks(),
+    return {transport.generation, transport.interests, transport.shown.time.ticks().count(),
             transport.imageSize()};
 }
 

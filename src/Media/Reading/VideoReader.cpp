@@ -12,24 +12,23 @@
 
 #include <algorithm>
 #include <deque>
-#include <limits>
 
 namespace media {
 
 namespace {
 
-constexpr std::int64_t kNoTarget = std::numeric_limits<std::int64_t>::min();
+constexpr Ticks kNoTarget = Ticks::beginning();
 /// Without an index to say where the key frames are, decoding on is taken to be cheaper than
 /// moving for targets this close.
-constexpr std::int64_t kNearTicks = 2 * kComparisonTimescale;
+constexpr Ticks kNear(2 * Ticks::kPerSecond);
 /// A run of decoding that is so short may as well begin somewhat earlier.
-constexpr std::int64_t kShortRunTicks = kComparisonTimescale / 2;
+constexpr Ticks kShortRun(Ticks::kPerSecond / 2);
 /// The first step back when a container lands behind the frame that was asked for.
-constexpr std::int64_t kFirstStepBackTicks = kComparisonTimescale / 2;
-/// How much more than needed is decoded rather than looked for a shorter way (1/600 s).
-constexpr std::int64_t kLongestDetourTicks = 2 * kComparisonTimescale;
+constexpr Ticks kFirstStepBack(Ticks::kPerSecond / 2);
+/// How much more than needed is decoded rather than looked for a shorter way.
+constexpr Ticks kLongestDetour(2 * Ticks::kPerSecond);
 /// How much later than it is decoded a key frame may be shown.
-constexpr std::int64_t kLongestReorderTicks = kComparisonTimescale / 5;
+constexpr Ticks kLongestReorder(Ticks::kPerSecond / 5);
 
 /// Whether the decoder gives out pictures although those they refer to are not there.
 bool decodesWithoutReferences(AVCodecID codec) {
@@ -60,14 +59,13 @@ public:
 
     ~Private() { m_asset->demuxers().giveBack(std::move(m_demuxer)); }
 
-    void seek(std::int64_t ticks, const std::stop_token& stop) {
+    void seek(Ticks ticks, const std::stop_token& stop) {
         approach(ticks, ticks, ticks, stop);
         advanceTo(ticks, stop);
         m_target = kNoTarget;
     }
 
-    void approach(std::int64_t ticks, std::int64_t completeFrom, std::int64_t beginAt,
-                  const std::stop_token& stop) {
+    void approach(Ticks ticks, Ticks completeFrom, Ticks beginAt, const std::stop_token& stop) {
         m_target = ticks;
         m_completeFrom = completeFrom;
         m_bestTicks = kNoTarget;
@@ -77,22 +75,21 @@ public:
             if (!m_queue.empty() && m_queue.front().ticks <= ticks)
                 return;
         }
-        const std::int64_t begin =
-            beginAt < ticks && hasKeyFrameWithin(ticks - kShortRunTicks, beginAt) ? beginAt : ticks;
+        const Ticks begin =
+            beginAt < ticks && hasKeyFrameWithin(ticks - kShortRun, beginAt) ? beginAt : ticks;
         reposition(begin, begin, stop);
     }
 
-    [[nodiscard]] bool isCompleteFrom(std::int64_t ticks) const { return ticks >= m_gaplessFrom; }
+    [[nodiscard]] bool isCompleteFrom(Ticks ticks) const { return ticks >= m_gaplessFrom; }
 
-    bool seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop) {
+    bool seekNear(Ticks earliest, Ticks latest, const std::stop_token& stop) {
         m_target = latest;
         m_completeFrom = latest;
         m_bestTicks = kNoTarget;
-        const std::int64_t middle = earliest + (latest - earliest) / 2;
+        const Ticks middle = midpoint(earliest, latest);
         const bool hasKeyFrameAtHand = hasKeyFrameWithin(earliest, middle);
         // The index knows decoding times; its container goes by when a key frame is shown.
-        const std::int64_t goal =
-            hasKeyFrameAtHand ? std::min(middle + kLongestReorderTicks, latest) : latest;
+        const Ticks goal = hasKeyFrameAtHand ? std::min(middle + kLongestReorder, latest) : latest;
         if (hasKeyFrameAtHand || hasKeyFrameWithin(earliest, latest) || m_queue.empty() ||
             !isAheadNearby(earliest))
             reposition(goal, latest, stop);
@@ -110,7 +107,7 @@ public:
                (m_queue.front().ticks <= latest || isFirst(m_queue.front()));
     }
 
-    const DecodedFrame* peek(const std::stop_token& stop, std::int64_t until) {
+    const DecodedFrame* peek(const std::stop_token& stop, Ticks until) {
         startIfNew(stop);
         fill(1, stop, until);
         return m_queue.empty() ? nullptr : &m_queue.front();
@@ -129,12 +126,6 @@ public:
     }
 
 private:
-    /// A picture that is decoded without what follows it, and the tick at which that follows.
-    struct Alone {
-        std::int64_t begin = 0;
-        std::int64_t end = 0;
-    };
-
     void openDecoder() {
         const auto open = [this] {
             m_decoder.emplace(*m_track.parameters, m_track.timeBase, m_options.threads);
@@ -151,42 +142,41 @@ private:
     }
 
     [[nodiscard]] bool isFirst(const DecodedFrame& frame) const {
-        return frame.ticks <= m_track.facts.startTime.comparisonTicks();
+        return frame.ticks <= m_track.facts.startTime.ticks();
     }
 
     /// The dts of the last key frame that the container's index knows at or before `ticks`.
-    [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(std::int64_t ticks) {
+    [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(Ticks ticks) {
         return m_demuxer->keyFrameBefore(
             m_track.facts.streamIndex,
-            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale}));
+            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time::fromTicks(ticks)));
     }
 
-    [[nodiscard]] bool hasKeyFrameWithin(std::int64_t earliest, std::int64_t latest) {
+    [[nodiscard]] bool hasKeyFrameWithin(Ticks earliest, Ticks latest) {
         const auto key = keyFrameBefore(latest);
-        return key &&
-               ffmpeg::assetTime(m_asset->info(), m_track, *key).comparisonTicks() >= earliest;
+        return key && ffmpeg::assetTime(m_asset->info(), m_track, *key).ticks() >= earliest;
     }
 
     /// Whether the frame at `ticks` is queued or best reached by decoding on.
-    [[nodiscard]] bool isAheadNearby(std::int64_t ticks) {
-        const std::optional<std::int64_t> next = nextTicks();
+    [[nodiscard]] bool isAheadNearby(Ticks ticks) {
+        const std::optional<Ticks> next = nextTicks();
         if (!next || ticks < *next || ticks < m_gaplessFrom)
             return false;
-        const std::int64_t last = m_queue.empty() ? *next : m_queue.back().ticks;
+        const Ticks last = m_queue.empty() ? *next : m_queue.back().ticks;
         if (m_isDrained || last > ticks)
             return true;
         // Among packets of which no picture comes, the search goes on where it stands.
-        if (m_taken.areAllAfter(last) && ticks - m_taken.latest() <= kNearTicks)
+        if (m_taken.areAllAfter(last) && ticks - m_taken.latest() <= kNear)
             return true;
         const auto key =
             m_demuxer->statesPresentationTimes() ? keyFrameBefore(ticks) : std::nullopt;
         if (key && m_lastReadDts != AV_NOPTS_VALUE)
             return *key <= m_lastReadDts;
-        return ticks - last <= kNearTicks;
+        return ticks - last <= kNear;
     }
 
     /// Where the next frame begins, as far as it is known already.
-    [[nodiscard]] std::optional<std::int64_t> nextTicks() const {
+    [[nodiscard]] std::optional<Ticks> nextTicks() const {
         if (!m_queue.empty())
             return m_queue.front().ticks;
         if (m_ahead.empty() || m_ahead.front()->pts == AV_NOPTS_VALUE)
@@ -194,12 +184,12 @@ private:
         return ticksOf(*m_ahead.front());
     }
 
-    [[nodiscard]] std::int64_t ticksOf(const AVPacket& packet) const {
-        return ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).comparisonTicks();
+    [[nodiscard]] Ticks ticksOf(const AVPacket& packet) const {
+        return ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).ticks();
     }
 
     /// Drops queued frames until the first is the frame at `ticks`.
-    void advanceTo(std::int64_t ticks, const std::stop_token& stop) {
+    void advanceTo(Ticks ticks, const std::stop_token& stop) {
         fill(1, stop);
         while (!m_queue.empty() && m_queue.front().knownEnd.value_or(ticks) <= ticks) {
             fill(2, stop, ticks);
@@ -210,7 +200,7 @@ private:
     }
 
     void startIfNew(const std::stop_token& stop) {
-        const std::int64_t first = m_track.facts.startTime.comparisonTicks();
+        const Ticks first = m_track.facts.startTime.ticks();
         if (!m_isPositioned)
             reposition(first, first, stop);
     }
@@ -218,14 +208,15 @@ private:
     /// Starts decoding at the last random-access point that the container knows at or before
     /// `ticks`, or, where its first picture is shown after `latest`, at an earlier one; at the
     /// track's first picture where there is none.
-    void reposition(std::int64_t ticks, std::int64_t latest, const std::stop_token& stop) {
+    void reposition(Ticks ticks, Ticks latest, const std::stop_token& stop) {
         m_isPositioned = true;
-        const std::int64_t first = m_track.facts.startTime.comparisonTicks();
-        const std::int64_t limit = std::max(latest, first);
+        const Ticks first = m_track.facts.startTime.ticks();
+        const Ticks limit = std::max(latest, first);
         const bool canSeek = !m_demuxer->canOnlyReadOn();
-        std::int64_t vain = ticks;
-        for (std::int64_t back = 0; canSeek; back = back == 0 ? kFirstStepBackTicks : back * 4) {
-            const Landing landing = landAt(ticks - back, limit, back == 0 ? limit : vain, stop);
+        Ticks vain = ticks;
+        for (Ticks back; canSeek; back = back == Ticks() ? kFirstStepBack : 4 * back) {
+            const Landing landing =
+                landAt(ticks - back, limit, back == Ticks() ? limit : vain, stop);
             if (landing == Landing::refused)
                 break;
             if (landing == Landing::inTime) {
@@ -233,7 +224,8 @@ private:
                 return;
             }
             vain = ticks - back;
-            if (vain <= first)
+            // No step leads back from an endless moment.
+            if (vain <= first || vain.isEndless())
                 break;
         }
         m_demuxer->reopen(stop);
@@ -247,10 +239,9 @@ private:
     /// Starts decoding at the random-access point before `ticks`; in time if the first picture that
     /// comes out begins at or before `limit`. It is given up when none has come by `vain`: from
     /// there on, it is known, none comes in time.
-    Landing landAt(std::int64_t ticks, std::int64_t limit, std::int64_t vain,
-                   const std::stop_token& stop) {
+    Landing landAt(Ticks ticks, Ticks limit, Ticks vain, const std::stop_token& stop) {
         const std::int64_t timestamp =
-            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time{ticks, kComparisonTimescale});
+            ffmpeg::streamTimestamp(m_asset->info(), m_track, Time::fromTicks(ticks));
         if (!m_demuxer->seek(m_track.facts.streamIndex, timestamp, stop))
             return Landing::refused;
         restart();
@@ -263,11 +254,10 @@ private:
     /// Having landed in time from `inTime`, but too late from `vain`: where a long part does not
     /// decode, the steps back may have gone far beyond its beginning, and all that lies between
     /// would be decoded. Any later place from which the landing is in time will do.
-    void approachLatestLanding(std::int64_t inTime, std::int64_t vain, std::int64_t limit,
-                               const std::stop_token& stop) {
+    void approachLatestLanding(Ticks inTime, Ticks vain, Ticks limit, const std::stop_token& stop) {
         bool isThere = true;
-        while (vain - inTime > kLongestDetourTicks) {
-            const std::int64_t middle = inTime + (vain - inTime) / 2;
+        while (vain - inTime > kLongestDetour) {
+            const Ticks middle = midpoint(inTime, vain);
             isThere = landAt(middle, limit, vain, stop) == Landing::inTime;
             (isThere ? inTime : vain) = middle;
         }
@@ -294,7 +284,7 @@ private:
 
     /// Decodes until `count` frames are queued or the track has ended, or until it is certain that
     /// the next one begins after `until`.
-    void fill(std::size_t count, const std::stop_token& stop, std::int64_t until = kNoLimit) {
+    void fill(std::size_t count, const std::stop_token& stop, Ticks until = Ticks::forever()) {
         while ((m_queue.size() < count || m_alone) && !m_isDrained) {
             if (stop.stop_requested())
                 throw Cancelled();
@@ -344,12 +334,12 @@ private:
     }
 
     /// When the picture of a packet is shown, or at least decoded; kNoTarget if that is not known.
-    [[nodiscard]] std::int64_t takenAt(const AVPacket& packet) const {
+    [[nodiscard]] Ticks takenAt(const AVPacket& packet) const {
         const bool isShownAt = packet.pts != AV_NOPTS_VALUE && !m_track.lacksPresentationTimes;
         const std::int64_t timestamp = isShownAt ? packet.pts : packet.dts;
         if (timestamp == AV_NOPTS_VALUE)
             return kNoTarget;
-        return ffmpeg::assetTime(m_asset->info(), m_track, timestamp).comparisonTicks();
+        return ffmpeg::assetTime(m_asset->info(), m_track, timestamp).ticks();
     }
 
     void send(const AVPacket& packet) {
@@ -385,15 +375,14 @@ private:
 
     /// The picture of the first packet ahead, if it is certain to be the one at the target and
     /// the packet after it to begin a run of decoding of its own.
-    [[nodiscard]] std::optional<Alone> aloneAtTarget(const std::stop_token& stop) {
+    [[nodiscard]] std::optional<TickRange> aloneAtTarget(const std::stop_token& stop) {
         if (m_track.lacksPresentationTimes || m_track.needsGeneratedTimes ||
             m_track.isInterlaced() || !hasAhead(2, stop))
             return std::nullopt;
         if (!ffmpeg::isShownRightBefore(*m_ahead[0], *m_ahead[1], m_track.parameters->codec_id))
             return std::nullopt;
-        const Alone alone{ticksOf(*m_ahead[0]), ticksOf(*m_ahead[1])};
-        const bool isAtTarget = alone.begin <= m_target && m_target < alone.end;
-        return isAtTarget ? std::optional(alone) : std::nullopt;
+        const TickRange alone{ticksOf(*m_ahead[0]), ticksOf(*m_ahead[1])};
+        return alone.holds(m_target) ? std::optional(alone) : std::nullopt;
     }
 
     /// The decoder has nothing more to give of the picture that was decoded by itself.
@@ -409,7 +398,7 @@ private:
     [[nodiscard]] bool isPassedBy(const AVPacket& packet) {
         if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE || m_track.lacksPresentationTimes)
             return false;
-        const std::int64_t ticks = ticksOf(packet);
+        const Ticks ticks = ticksOf(packet);
         if (ticks <= m_target)
             m_bestTicks = std::max(m_bestTicks, ticks);
         return ticks < m_bestTicks && ticks < m_completeFrom;
@@ -417,7 +406,7 @@ private:
 
     void enqueue(ffmpeg::FramePtr frame) {
         const Time time = m_times.next(*frame);
-        m_queue.push_back({std::move(frame), time, time.comparisonTicks()});
+        m_queue.push_back({std::move(frame), time, time.ticks()});
     }
 
     std::shared_ptr<const Asset> m_asset;
@@ -438,8 +427,9 @@ private:
     bool m_isPositioned = false;
     /// The decoder was given nothing since it was moved.
     bool m_isFresh = true;
-    /// What the decoder is at if it was given one packet only, and told to give out its picture.
-    std::optional<Alone> m_alone;
+    /// When the picture is on show that the decoder is at, if it was given one packet only and told
+    /// to give out its picture.
+    std::optional<TickRange> m_alone;
     bool m_isDraining = false;
     bool m_isDrained = false;
     /// Moved to a place that need not be a random-access point.
@@ -448,13 +438,13 @@ private:
 
     /// The tick that a seek is on its way to, and the latest tick at or before it among the
     /// pictures read so far.
-    std::int64_t m_target = kNoTarget;
-    std::int64_t m_bestTicks = kNoTarget;
+    Ticks m_target = kNoTarget;
+    Ticks m_bestTicks = kNoTarget;
     /// No picture from this tick on is left out on that way.
-    std::int64_t m_completeFrom = kNoTarget;
+    Ticks m_completeFrom = kNoTarget;
     /// Pictures before this tick may have been left out of the run being decoded; a later target
     /// before it, after a seek that was given up, needs a new run.
-    std::int64_t m_gaplessFrom = kNoTarget;
+    Ticks m_gaplessFrom = kNoTarget;
 };
 
 VideoReader::VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& track,
@@ -463,21 +453,20 @@ VideoReader::VideoReader(std::shared_ptr<const Asset> asset, const AssetTrack& t
 
 VideoReader::~VideoReader() = default;
 
-void VideoReader::seek(std::int64_t ticks, const std::stop_token& stop) {
+void VideoReader::seek(Ticks ticks, const std::stop_token& stop) {
     d->seek(ticks, stop);
 }
 
-void VideoReader::approach(std::int64_t ticks, std::int64_t completeFrom, std::int64_t beginAt,
+void VideoReader::approach(Ticks ticks, Ticks completeFrom, Ticks beginAt,
                            const std::stop_token& stop) {
     d->approach(ticks, completeFrom, beginAt, stop);
 }
 
-bool VideoReader::isCompleteFrom(std::int64_t ticks) const {
+bool VideoReader::isCompleteFrom(Ticks ticks) const {
     return d->isCompleteFrom(ticks);
 }
 
-bool VideoReader::seekNear(std::int64_t earliest, std::int64_t latest,
-                           const std::stop_token& stop) {
+bool VideoReader::seekNear(Ticks earliest, Ticks latest, const std::stop_token& stop) {
     return d->seekNear(earliest, latest, stop);
 }
 
@@ -485,7 +474,7 @@ std::optional<DecodedFrame> VideoReader::next(const std::stop_token& stop) {
     return d->next(stop);
 }
 
-const DecodedFrame* VideoReader::peek(const std::stop_token& stop, std::int64_t until) {
+const DecodedFrame* VideoReader::peek(const std::stop_token& stop, Ticks until) {
     return d->peek(stop, until);
 }
 

@@ -3,8 +3,6 @@
 #include "Media/Asset.h"
 #include "Media/FFmpeg/Handles.h"
 
-#include <cstdint>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -17,10 +15,10 @@ struct DecodedFrame {
     /// Presentation time; never before that of the frame before it.
     Time time;
     /// `time` in 1/600 s: the frame is "the frame at t" from this tick up to the next frame's.
-    std::int64_t ticks = 0;
+    Ticks ticks;
     /// The next frame's ticks, where the packets tell it for certain and it was not decoded yet. It
     /// may yet turn out not to decode; then the frame stands for later ticks too.
-    std::optional<std::int64_t> knownEnd = std::nullopt;
+    std::optional<Ticks> knownEnd = std::nullopt;
 };
 
 /// Decodes one video track in presentation order, from any position, by the frame rule: the frame
@@ -59,24 +57,23 @@ public:
     /// when that frame is the one that next() would return or lies a little ahead; otherwise
     /// decodes from the key frame before it. Throws Cancelled as soon as `stop` is requested (the
     /// reader stays usable; its position is then unspecified until the next seek).
-    void seek(std::int64_t ticks, const std::stop_token& stop = {});
+    void seek(Ticks ticks, const std::stop_token& stop = {});
 
     /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
     /// frame at `ticks` or one before it, from which the others follow. Frames before
     /// `completeFrom` may be left out on the way, those from there on are all given out as long as
     /// isCompleteFrom() says so. Where key frames stand close to one another, it begins at the one
     /// before `beginAt` if that costs little, so that there are such frames.
-    void approach(std::int64_t ticks, std::int64_t completeFrom, std::int64_t beginAt,
-                  const std::stop_token& stop = {});
+    void approach(Ticks ticks, Ticks completeFrom, Ticks beginAt, const std::stop_token& stop = {});
 
     /// Whether no frame between one given out at `ticks` and the next frame was left out.
-    [[nodiscard]] bool isCompleteFrom(std::int64_t ticks) const;
+    [[nodiscard]] bool isCompleteFrom(Ticks ticks) const;
 
     /// Moves to a frame that stands for the window from `earliest` to `latest` (both included) and
     /// is cheap to decode: the last key frame up to its middle, or else one behind it, or else the
     /// first frame in it; where no frame begins in it, the one that is on show throughout. False
     /// if the pictures there do not decode: next() then returns one from elsewhere.
-    bool seekNear(std::int64_t earliest, std::int64_t latest, const std::stop_token& stop = {});
+    bool seekNear(Ticks earliest, Ticks latest, const std::stop_token& stop = {});
 
     /// The next frame in presentation order; none after the last. Packets that do not decode are
     /// passed over. A new reader starts at the first frame. Throws Error when reading fails.
@@ -84,12 +81,10 @@ public:
 
     /// The frame that next() will return, without moving; null after the last. Where nothing
     /// decodes, not much is read beyond `until`: null if no frame begins at or before that tick.
-    const DecodedFrame* peek(const std::stop_token& stop = {}, std::int64_t until = kNoLimit);
+    const DecodedFrame* peek(const std::stop_token& stop = {}, Ticks until = Ticks::forever());
 
     /// Whether the last frame has been returned.
     [[nodiscard]] bool hasEnded() const;
-
-    static constexpr std::int64_t kNoLimit = std::numeric_limits<std::int64_t>::max();
 
 private:
     class Private;

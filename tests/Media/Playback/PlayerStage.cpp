@@ -161,7 +161,7 @@ void seekExactly(media::Player& player, Time time, std::function<void(bool)> don
 int frameAt(const testsupport::Fixture& fixture, Time time) {
     int number = 0;
     for (const testsupport::NumberedFrame& frame : fixture.frames) {
-        if (Time::fromSeconds(frame.seconds, 600).value <= time.comparisonTicks())
+        if (Time::fromSeconds(frame.seconds, 600).value <= time.ticks().count())
             number = frame.number;
     }
     return number;
