@@ -31,7 +31,7 @@ void Player::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {
 
 std::shared_ptr<const PlayerItem> Player::currentItem() const {
     d->assertOwner();
-    return d->transport()->item;
+    return d->state()->item();
 }
 
 void Player::play() {
@@ -46,7 +46,7 @@ void Player::pause() {
 
 float Player::rate() const {
     d->assertOwner();
-    return d->transport()->isPlaying ? 1.0F : 0.0F;
+    return d->state()->isPlaying() ? 1.0F : 0.0F;
 }
 
 void Player::seek(Time time, Time toleranceBefore, Time toleranceAfter,
@@ -62,13 +62,13 @@ void Player::step(int count) {
 
 Time Player::currentTime() const {
     d->assertOwner();
-    return d->transport()->time(now());
+    return d->state()->time(now());
 }
 
 void Player::setMuted(bool muted) {
     d->assertOwner();
     d->isMuted = muted;
-    d->audio().setMuted(muted);
+    d->sound().setMuted(muted);
 }
 
 bool Player::isMuted() const {
@@ -83,15 +83,12 @@ void Player::setVideoSink(VideoSink* sink) {
 
 void Player::setPreviewSize(int pixelWidth, int pixelHeight) {
     d->assertOwner();
-    auto access = d->transport();
-    access->previewSize = {std::max(pixelWidth, 0), std::max(pixelHeight, 0)};
-    access->presenterWake.raise();
-    access->videoWake.raise();
+    d->state()->setPreviewSize({std::max(pixelWidth, 0), std::max(pixelHeight, 0)});
 }
 
 void Player::setPointsOfInterest(const std::vector<Time>& times) {
     d->assertOwner();
-    d->setPointsOfInterest(times);
+    d->state()->setPointsOfInterest(times);
 }
 
 Player::Token Player::addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler) {
@@ -116,7 +113,7 @@ void Player::setEndHandler(std::function<void(const std::shared_ptr<const Player
 
 Player::Statistics Player::statistics() const {
     d->assertOwner();
-    return d->transport()->statistics;
+    return d->state()->statistics();
 }
 
 } // namespace media

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cmath>
 
 namespace media::playback {
 
@@ -14,10 +13,6 @@ constexpr double kPointWeight = 4;
 
 /// Only a number; nothing else depends on its order.
 std::atomic<std::size_t> cacheCount = 0;
-
-double between(std::int64_t a, std::int64_t b) {
-    return std::abs(static_cast<double>(a) - static_cast<double>(b));
-}
 
 } // namespace
 
@@ -33,22 +28,22 @@ std::size_t FrameCache::capacityBytes() const {
     return std::min(m_capacityBytes, kBytesOfAll / cacheCount.load(std::memory_order_relaxed));
 }
 
-double FrameCache::State::distance(std::int64_t ticks) const {
-    double least = between(ticks, focus);
-    for (const std::int64_t point : points)
-        least = std::min(least, kPointWeight * between(ticks, point));
+double FrameCache::State::distanceTo(Ticks ticks) const {
+    double least = distance(ticks, focus);
+    for (const Ticks point : points)
+        least = std::min(least, kPointWeight * distance(ticks, point));
     return least;
 }
 
-const CachedFrame* FrameCache::State::at(std::int64_t ticks) const {
+const CachedFrame* FrameCache::State::at(Ticks ticks) const {
     const auto after = frames.upper_bound(ticks);
     if (after == frames.begin())
         return nullptr;
     const CachedFrame& frame = std::prev(after)->second;
-    return frame.holds(ticks) ? &frame : nullptr;
+    return frame.range.holds(ticks) ? &frame : nullptr;
 }
 
-const CachedFrame* FrameCache::State::at(std::int64_t ticks, ImageSize size) const {
+const CachedFrame* FrameCache::State::at(Ticks ticks, ImageSize size) const {
     const CachedFrame* frame = at(ticks);
     return frame && frame->size() == size ? frame : nullptr;
 }
@@ -63,13 +58,13 @@ void FrameCache::begin(const void* source) {
     const auto state = m_state.lock();
     std::swap(state->frames, forgotten);
     state->bytes = 0;
-    state->focus = 0;
+    state->focus = Ticks();
     state->points.clear();
     state->source = source;
 }
 
 void FrameCache::insert(const void* source, CachedFrame frame) {
-    if (frame.begin >= frame.end)
+    if (frame.range.isEmpty())
         return;
     // Freed when the lock is given up.
     std::vector<PreviewPicturePtr> gone;
@@ -80,12 +75,12 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
         gone.push_back(each->second.picture);
         return state->remove(each);
     };
-    auto each = state->frames.upper_bound(frame.begin);
-    if (each != state->frames.begin() && std::prev(each)->second.end > frame.begin)
+    auto each = state->frames.upper_bound(frame.range.begin);
+    if (each != state->frames.begin() && std::prev(each)->second.range.end > frame.range.begin)
         --each;
-    while (each != state->frames.end() && each->first < frame.end)
+    while (each != state->frames.end() && each->first < frame.range.end)
         each = remove(each);
-    const std::int64_t begin = frame.begin;
+    const Ticks begin = frame.range.begin;
     state->bytes += frame.picture->byteCount();
     state->frames.emplace(begin, std::move(frame));
     const std::size_t capacity = capacityBytes();
@@ -94,8 +89,8 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
         double distance = -1;
         for (auto it = state->frames.begin(); it != state->frames.end(); ++it) {
             // The first frame's beginning is endless; its end is as near.
-            const double its =
-                state->distance(it->first == CachedFrame::kBeginning ? it->second.end : it->first);
+            const double its = state->distanceTo(
+                it->first == Ticks::beginning() ? it->second.range.end : it->first);
             if (it->first != begin && its > distance) {
                 distance = its;
                 farthest = it;
@@ -105,58 +100,59 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
     }
 }
 
-void FrameCache::setFocus(std::int64_t ticks) {
+void FrameCache::setFocus(Ticks ticks) {
     m_state.lock()->focus = ticks;
 }
 
-void FrameCache::setPointsOfInterest(std::vector<std::int64_t> ticks) {
+void FrameCache::setPointsOfInterest(std::vector<Ticks> ticks) {
     m_state.lock()->points = std::move(ticks);
 }
 
-std::vector<std::int64_t> FrameCache::pointsOfInterest() const {
+std::vector<Ticks> FrameCache::pointsOfInterest() const {
     return m_state.lock()->points;
 }
 
-std::optional<CachedFrame> FrameCache::find(std::int64_t ticks, ImageSize size) const {
+std::optional<CachedFrame> FrameCache::find(Ticks ticks, ImageSize size) const {
     const auto state = m_state.lock();
     const CachedFrame* frame = state->at(ticks, size);
     return frame ? std::optional(*frame) : std::nullopt;
 }
 
-std::optional<CachedFrame> FrameCache::nearest(std::int64_t ticks) const {
+std::optional<CachedFrame> FrameCache::nearest(Ticks ticks) const {
     const auto state = m_state.lock();
     const auto after = state->frames.upper_bound(ticks);
     if (after == state->frames.begin())
         return after == state->frames.end() ? std::nullopt : std::optional(after->second);
     const CachedFrame& before = std::prev(after)->second;
-    if (after == state->frames.end() || before.holds(ticks))
+    if (after == state->frames.end() || before.range.holds(ticks))
         return before;
-    return between(after->first, ticks) < between(before.end, ticks) ? after->second : before;
+    return distance(after->first, ticks) < distance(before.range.end, ticks) ? after->second
+                                                                             : before;
 }
 
-std::int64_t FrameCache::coveredUntil(std::int64_t ticks, ImageSize size) const {
+Ticks FrameCache::coveredUntil(Ticks ticks, ImageSize size) const {
     const auto state = m_state.lock();
-    while (ticks != CachedFrame::kForever) {
+    while (ticks != Ticks::forever()) {
         const CachedFrame* frame = state->at(ticks, size);
         if (!frame)
             break;
-        ticks = frame->end;
+        ticks = frame->range.end;
     }
     return ticks;
 }
 
-std::int64_t FrameCache::coveredFrom(std::int64_t ticks, ImageSize size) const {
+Ticks FrameCache::coveredFrom(Ticks ticks, ImageSize size) const {
     const auto state = m_state.lock();
     const CachedFrame* frame = state->at(ticks, size);
     if (!frame)
-        return ticks + 1;
-    while (frame->begin != CachedFrame::kBeginning) {
-        const CachedFrame* before = state->at(frame->begin - 1, size);
+        return ticks + Ticks(1);
+    while (frame->range.begin != Ticks::beginning()) {
+        const CachedFrame* before = state->at(frame->range.begin - Ticks(1), size);
         if (!before)
             break;
         frame = before;
     }
-    return frame->begin;
+    return frame->range.begin;
 }
 
 std::size_t FrameCache::byteCount() const {

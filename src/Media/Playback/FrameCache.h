@@ -3,6 +3,7 @@
 #include "Media/Pictures/PictureRenderer.h"
 #include "Media/Pictures/PreviewPicture.h"
 #include "Media/Threading/Guarded.h"
+#include "Media/Ticks.h"
 #include "Media/Time.h"
 
 #include <cstddef>
@@ -14,20 +15,15 @@
 
 namespace media::playback {
 
-/// A frame at preview size that is known to be "the frame at t" for every tick from `begin` up to,
-/// but without, `end` (1/600 s).
+/// A frame at preview size.
 struct CachedFrame {
-    /// The first frame of a track stands for everything before it, the last one for all after it.
-    static constexpr std::int64_t kBeginning = std::numeric_limits<std::int64_t>::min();
-    static constexpr std::int64_t kForever = std::numeric_limits<std::int64_t>::max();
-
-    std::int64_t begin = 0;
-    std::int64_t end = 0;
+    /// The ticks for which it is known to be "the frame at t". The first frame of a track stands
+    /// for everything before it (Ticks::beginning()), the last one for all after it
+    /// (Ticks::forever()).
+    TickRange range;
     /// Its presentation time.
     Time time;
     PreviewPicturePtr picture;
-
-    [[nodiscard]] bool holds(std::int64_t ticks) const { return begin <= ticks && ticks < end; }
 
     [[nodiscard]] ImageSize size() const {
         return {picture->format().width, picture->format().height};
@@ -57,40 +53,40 @@ public:
     void insert(const void* source, CachedFrame frame);
 
     /// The playhead, and where it is likely to go.
-    void setFocus(std::int64_t ticks);
-    void setPointsOfInterest(std::vector<std::int64_t> ticks);
-    [[nodiscard]] std::vector<std::int64_t> pointsOfInterest() const;
+    void setFocus(Ticks ticks);
+    void setPointsOfInterest(std::vector<Ticks> ticks);
+    [[nodiscard]] std::vector<Ticks> pointsOfInterest() const;
 
     /// The frame at `ticks` in this size.
-    [[nodiscard]] std::optional<CachedFrame> find(std::int64_t ticks, ImageSize size) const;
+    [[nodiscard]] std::optional<CachedFrame> find(Ticks ticks, ImageSize size) const;
     /// The frame that lies nearest to `ticks`, in whatever size.
-    [[nodiscard]] std::optional<CachedFrame> nearest(std::int64_t ticks) const;
+    [[nodiscard]] std::optional<CachedFrame> nearest(Ticks ticks) const;
 
     /// From `ticks` on frames of this size follow one another without a gap up to the tick
-    /// returned, at which there is none (kForever: up to the end). `ticks` itself where there is
+    /// returned, at which there is none (forever(): up to the end). `ticks` itself where there is
     /// none at all.
-    [[nodiscard]] std::int64_t coveredUntil(std::int64_t ticks, ImageSize size) const;
+    [[nodiscard]] Ticks coveredUntil(Ticks ticks, ImageSize size) const;
     /// The same backward: the earliest tick from which frames follow one another up to `ticks`
-    /// (kBeginning: the beginning); `ticks` + 1 where there is none at `ticks`.
-    [[nodiscard]] std::int64_t coveredFrom(std::int64_t ticks, ImageSize size) const;
+    /// (beginning(): the beginning); `ticks` + 1 where there is none at `ticks`.
+    [[nodiscard]] Ticks coveredFrom(Ticks ticks, ImageSize size) const;
 
     [[nodiscard]] std::size_t byteCount() const;
     /// The bound in force now, which depends on how many players there are.
     [[nodiscard]] std::size_t capacityBytes() const;
 
 private:
-    using Frames = std::map<std::int64_t, CachedFrame>;
+    using Frames = std::map<Ticks, CachedFrame>;
 
     struct State {
         const void* source = nullptr;
         Frames frames;
         std::size_t bytes = 0;
-        std::int64_t focus = 0;
-        std::vector<std::int64_t> points;
+        Ticks focus;
+        std::vector<Ticks> points;
 
-        [[nodiscard]] double distance(std::int64_t ticks) const;
-        [[nodiscard]] const CachedFrame* at(std::int64_t ticks) const;
-        [[nodiscard]] const CachedFrame* at(std::int64_t ticks, ImageSize size) const;
+        [[nodiscard]] double distanceTo(Ticks ticks) const;
+        [[nodiscard]] const CachedFrame* at(Ticks ticks) const;
+        [[nodiscard]] const CachedFrame* at(Ticks ticks, ImageSize size) const;
         Frames::iterator remove(Frames::iterator frame);
     };
 

@@ -15,11 +15,11 @@ namespace {
 /// Frames at full size that wait to be rendered: what comes in a third of a second at 1080p.
 constexpr std::size_t kPassedBytes = std::size_t{48} << 20;
 
-/// How far behind a goal it is looked for where its frame ends, if nothing decodes there (1/600 s).
-constexpr std::int64_t kFarthestEndTicks = kComparisonTimescale / 2;
+/// How far behind a goal it is looked for where its frame ends, if nothing decodes there.
+constexpr Ticks kFarthestEnd{Ticks::kPerSecond / 2};
 
-/// How many frames before one are worth decoding, when the next ones will be those (1/600 s).
-constexpr std::int64_t kBackwardTicks = kComparisonTimescale * 3 / 10;
+/// How many frames before one are worth decoding, when the next ones will be those.
+constexpr Ticks kBackward{Ticks::kPerSecond * 3 / 10};
 
 /// Pictures that a decoder of H.264 holds for others to refer to and to put them in order, and
 /// those of each of its threads; as observed with 2160p.
@@ -36,21 +36,21 @@ std::size_t byteCount(const AVFrame& frame) {
 
 } // namespace
 
-FrameSource::FrameSource(FrameCache& cache, DecoderShare& share,
+FrameSource::FrameSource(FrameCache& cache, DecoderBudget& budget,
                          std::shared_ptr<const PlayerItem> item)
-    : m_cache(cache), m_share(share), m_item(std::move(item)) {
+    : m_cache(cache), m_budget(budget), m_item(std::move(item)) {
     if (!m_item)
         return;
     const std::vector<AssetTrack> tracks = m_item->asset()->tracks(MediaType::video);
     if (tracks.empty())
         return;
-    m_firstTicks = tracks.front().startTime.ticks().count();
+    m_firstTicks = tracks.front().startTime.ticks();
     m_renderer = std::make_unique<PictureRenderer>(tracks.front());
     reader();
 }
 
 FrameSource::~FrameSource() {
-    m_share.letGo();
+    m_budget.release();
 }
 
 VideoReader& FrameSource::reader() {
@@ -60,13 +60,13 @@ VideoReader& FrameSource::reader() {
     return *m_reader;
 }
 
-void FrameSource::letDecoderGo() {
+void FrameSource::releaseDecoder() {
     m_goal.reset();
     m_unfinished.reset();
     m_passing.reset();
-    m_nextTicks = CachedFrame::kBeginning;
+    m_position = Ticks::beginning();
     m_reader.reset();
-    m_share.letGo();
+    m_budget.release();
 }
 
 FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
@@ -76,10 +76,10 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
     if (m_goal != goal.ticks) {
         m_goal.reset();
         m_unfinished.reset();
-        m_nextTicks = CachedFrame::kBeginning;
+        m_position = Ticks::beginning();
         m_hasMoved = true;
-        const std::int64_t beginAt = goal.isBackward ? goal.ticks - kBackwardTicks : goal.ticks;
-        reader().approach(Ticks(goal.ticks), Ticks(goal.completeFrom), Ticks(beginAt), stop);
+        const Ticks beginAt = goal.isBackward ? goal.ticks - kBackward : goal.ticks;
+        reader().approach(goal.ticks, goal.completeFrom, beginAt, stop);
         m_goal = goal.ticks;
     }
     std::optional<Decoded> decoded = decode(goal, stop);
@@ -87,13 +87,13 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_goal.reset();
         return Outcome::nothing;
     }
-    if (decoded->end <= goal.ticks) {
+    if (decoded->range.end <= goal.ticks) {
         pass(std::move(*decoded), goal, size);
         return Outcome::onTheWay;
     }
     m_goal.reset();
-    m_arrivedEnd = decoded->end;
-    if (decoded->end <= goal.lateUntil)
+    m_arrivedEnd = decoded->range.end;
+    if (decoded->range.end <= goal.lateUntil)
         return Outcome::late;
     keep(*decoded, size);
     m_arrived = std::move(decoded);
@@ -101,18 +101,18 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
 }
 
 /// Whether the frame at `ticks` is one that only has to be rendered.
-bool FrameSource::arriveAtKept(std::int64_t ticks, PreviewSize size) {
+bool FrameSource::arriveAtKept(Ticks ticks, PreviewSize size) {
     const auto passed = std::ranges::find_if(
-        m_passed, [ticks](const Decoded& decoded) { return decoded.holds(ticks); });
+        m_passed, [ticks](const Decoded& decoded) { return decoded.range.holds(ticks); });
     if (passed != m_passed.end()) {
         m_passedBytes -= byteCount(*passed->frame->frame);
         m_arrived = std::move(*passed);
         m_passed.erase(passed);
     }
-    if (!m_arrived || !m_arrived->holds(ticks))
+    if (!m_arrived || !m_arrived->range.holds(ticks))
         return false;
     keep(*m_arrived, size);
-    m_arrivedEnd = m_arrived->end;
+    m_arrivedEnd = m_arrived->range.end;
     return true;
 }
 
@@ -121,45 +121,44 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
     if (!m_unfinished) {
         std::optional<DecodedFrame> frame = reader().next(stop);
         if (!frame) {
-            m_nextTicks = CachedFrame::kForever;
+            m_position = Ticks::forever();
             return std::nullopt;
         }
         m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
-        m_share.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
+        m_budget.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
         ++m_decodedCount;
     }
-    const std::int64_t end = endOf(*m_unfinished, goal.ticks, stop);
-    Decoded decoded{std::exchange(m_unfinished, nullptr), 0, end, true};
-    m_nextTicks = end;
-    const std::int64_t ticks = decoded.begin = decoded.frame->ticks.count();
-    decoded.isComplete = m_reader->isCompleteFrom(Ticks(ticks));
+    const Ticks ticks = m_unfinished->ticks;
+    const Ticks end = endOf(*m_unfinished, goal.ticks, stop);
+    Decoded decoded{std::exchange(m_unfinished, nullptr), {ticks, end}, true};
+    m_position = end;
+    decoded.isComplete = m_reader->isCompleteFrom(ticks);
     const bool isFirst = std::exchange(m_hasMoved, false);
     // Where nothing decodes before it the first frame stands for what was asked for; and where some
     // were left out after it that should have come later, it is known for that tick only.
     if (ticks <= m_firstTicks)
-        decoded.begin = CachedFrame::kBeginning;
-    else if ((isFirst && ticks > goal.ticks) || (!decoded.isComplete && goal.ticks < decoded.end))
-        decoded.begin = goal.ticks;
+        decoded.range.begin = Ticks::beginning();
+    else if ((isFirst && ticks > goal.ticks) ||
+             (!decoded.isComplete && goal.ticks < decoded.range.end))
+        decoded.range.begin = goal.ticks;
     return decoded;
 }
 
 /// Where the frame after the one decoded last begins; where nothing decodes for long after the
 /// goal, until when at least it does not.
-std::int64_t FrameSource::endOf(const DecodedFrame& frame, std::int64_t goal,
-                                const std::stop_token& stop) {
+Ticks FrameSource::endOf(const DecodedFrame& frame, Ticks goal, const std::stop_token& stop) {
     if (frame.knownEnd)
-        return frame.knownEnd->count();
-    const std::int64_t from =
-        goal == CachedFrame::kForever ? frame.ticks.count() : std::max(frame.ticks.count(), goal);
-    const std::int64_t until = from + kFarthestEndTicks;
-    if (const DecodedFrame* following = m_reader->peek(stop, Ticks(until)))
-        return following->ticks.count();
-    return m_reader->hasEnded() ? CachedFrame::kForever : until + 1;
+        return *frame.knownEnd;
+    const Ticks from = goal == Ticks::forever() ? frame.ticks : std::max(frame.ticks, goal);
+    const Ticks until = from + kFarthestEnd;
+    if (const DecodedFrame* following = m_reader->peek(stop, until))
+        return following->ticks;
+    return m_reader->hasEnded() ? Ticks::forever() : until + Ticks(1);
 }
 
 void FrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {
     m_passing = decoded;
-    if (!decoded.isComplete || decoded.end <= goal.completeFrom)
+    if (!decoded.isComplete || decoded.range.end <= goal.completeFrom)
         return;
     if (!goal.isUrgent) {
         keep(decoded, size);
@@ -176,22 +175,21 @@ void FrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {
     }
 }
 
-std::optional<std::int64_t> FrameSource::advanceNear(std::int64_t earliest, std::int64_t latest,
-                                                     PreviewSize size,
-                                                     const std::stop_token& stop) {
+std::optional<Ticks> FrameSource::advanceNear(Ticks earliest, Ticks latest, PreviewSize size,
+                                              const std::stop_token& stop) {
     m_goal.reset();
     m_unfinished.reset();
     m_hasMoved = false;
-    m_nextTicks = CachedFrame::kBeginning;
-    reader().seekNear(Ticks(earliest), Ticks(latest), stop);
+    m_position = Ticks::beginning();
+    reader().seekNear(earliest, latest, stop);
     Goal goal;
-    goal.ticks = CachedFrame::kForever;
+    goal.ticks = Ticks::forever();
     std::optional<Decoded> decoded = decode(goal, stop);
     if (!decoded)
         return std::nullopt;
-    const std::int64_t ticks = decoded->frame->ticks.count();
+    const Ticks ticks = decoded->frame->ticks;
     if (!decoded->isComplete)
-        decoded->end = std::min(decoded->end, ticks + 1);
+        decoded->range.end = std::min(decoded->range.end, ticks + Ticks(1));
     keep(*decoded, size);
     m_arrived = std::move(decoded);
     return ticks;
@@ -203,7 +201,7 @@ std::shared_ptr<const CachedFrame> FrameSource::passing(PreviewSize size) {
     auto frame = std::make_shared<CachedFrame>(rendered(*m_passing, size));
     // Of what lies between it and the next nothing is known.
     if (!m_passing->isComplete)
-        frame->end = m_passing->frame->ticks.count() + 1;
+        frame->range.end = m_passing->frame->ticks + Ticks(1);
     return frame;
 }
 
@@ -223,7 +221,7 @@ void FrameSource::keep(const Decoded& decoded, PreviewSize size) {
 }
 
 CachedFrame FrameSource::rendered(const Decoded& decoded, PreviewSize size) {
-    return {decoded.begin, decoded.end, decoded.frame->time,
+    return {decoded.range, decoded.frame->time,
             m_renderer->preview(*decoded.frame->frame, size.width, size.height)};
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "Media/Pictures/PictureRenderer.h"
-#include "Media/Playback/DecoderShare.h"
+#include "Media/Playback/DecoderBudget.h"
 #include "Media/Playback/FrameCache.h"
+#include "Media/Playback/PreviewSize.h"
 #include "Media/Player.h"
 #include "Media/Reading/VideoReader.h"
 
@@ -14,13 +15,6 @@
 
 namespace media::playback {
 
-/// Largest size of the delivered frames in pixels; 0 leaves a side free.
-struct PreviewSize {
-    int width = 0;
-    int height = 0;
-    friend bool operator==(const PreviewSize&, const PreviewSize&) = default;
-};
-
 /// Decodes the frames of one item, one at a time, and puts them into the cache at preview size.
 /// Use from one thread.
 class FrameSource {
@@ -28,16 +22,16 @@ public:
     /// Where decoding is to arrive.
     struct Goal {
         /// The frame at this tick.
-        std::int64_t ticks = 0;
+        Ticks ticks;
         /// Frames from this tick on are wanted too; others on the way may be left out.
-        std::int64_t completeFrom = 0;
+        Ticks completeFrom;
         /// The frames on the way can wait until there is time for them: the goal is urgent.
         bool isUrgent = false;
         /// More will be asked for backward from here: some frames before it are worth having even
         /// where a key frame stands nearer.
         bool isBackward = false;
         /// A frame that ends at or before this tick need not be rendered: it is too late for it.
-        std::int64_t lateUntil = CachedFrame::kBeginning;
+        Ticks lateUntil = Ticks::beginning();
     };
 
     enum class Outcome {
@@ -51,9 +45,9 @@ public:
         nothing,
     };
 
-    /// Throws Error if the item has a picture that cannot be decoded. Cache and share outlive the
-    /// source.
-    FrameSource(FrameCache& cache, DecoderShare& share, std::shared_ptr<const PlayerItem> item);
+    /// Throws Error if the item has a picture that cannot be decoded. Cache and budget outlive
+    /// the source.
+    FrameSource(FrameCache& cache, DecoderBudget& budget, std::shared_ptr<const PlayerItem> item);
     FrameSource(const FrameSource&) = delete;
     FrameSource& operator=(const FrameSource&) = delete;
     ~FrameSource();
@@ -67,16 +61,17 @@ public:
     /// is under way goes on with it, any other begins anew at a key frame. Throws Cancelled when
     /// stopped (call it again to go on), Error when reading fails.
     Outcome advance(const Goal& goal, PreviewSize size, const std::stop_token& stop);
-    /// Decodes the frame of the window (1/600 s, both included) that costs least and puts it into
-    /// the cache; gives its place there.
-    std::optional<std::int64_t> advanceNear(std::int64_t earliest, std::int64_t latest,
-                                            PreviewSize size, const std::stop_token& stop);
+    /// Decodes the frame from `earliest` to `latest` (both included) that costs least and puts it
+    /// into the cache; gives its place there.
+    std::optional<Ticks> advanceNear(Ticks earliest, Ticks latest, PreviewSize size,
+                                     const std::stop_token& stop);
 
     /// After `arrived` or `late`: where the frame after that one begins.
-    [[nodiscard]] std::int64_t arrivedEnd() const { return m_arrivedEnd; }
+    [[nodiscard]] Ticks arrivedEnd() const { return m_arrivedEnd; }
 
-    /// The next frame that advance() decodes, without moving, begins there.
-    [[nodiscard]] bool standsAt(std::int64_t ticks) const { return m_nextTicks == ticks; }
+    /// Where the next frame begins that advance() decodes without moving; beginning() where that is
+    /// not known.
+    [[nodiscard]] Ticks position() const { return m_position; }
 
     /// The frame decoded last, whatever lies between it and the next; null without one.
     [[nodiscard]] std::shared_ptr<const CachedFrame> passing(PreviewSize size);
@@ -85,11 +80,12 @@ public:
     /// where none is left.
     bool keepOnePassed(PreviewSize size);
 
+    /// Whether frames that were passed wait to be put into the cache.
     [[nodiscard]] bool hasPassed() const { return !m_passed.empty(); }
 
     /// Gives up the decoder and where it stands, until the next advance. The frame that was arrived
     /// at last can still be had in other sizes.
-    void letDecoderGo();
+    void releaseDecoder();
 
     /// How many frames were decoded since this was last asked.
     std::uint64_t takeDecodedCount() { return std::exchange(m_decodedCount, 0); }
@@ -98,37 +94,34 @@ private:
     /// A decoded frame with its place.
     struct Decoded {
         std::shared_ptr<const DecodedFrame> frame;
-        std::int64_t begin = 0;
-        std::int64_t end = 0;
+        TickRange range;
         bool isComplete = false;
-
-        [[nodiscard]] bool holds(std::int64_t ticks) const { return begin <= ticks && ticks < end; }
     };
 
     VideoReader& reader();
-    bool arriveAtKept(std::int64_t ticks, PreviewSize size);
+    bool arriveAtKept(Ticks ticks, PreviewSize size);
     std::optional<Decoded> decode(const Goal& goal, const std::stop_token& stop);
-    std::int64_t endOf(const DecodedFrame& frame, std::int64_t goal, const std::stop_token& stop);
+    Ticks endOf(const DecodedFrame& frame, Ticks goal, const std::stop_token& stop);
     void pass(Decoded decoded, const Goal& goal, PreviewSize size);
     void keep(const Decoded& decoded, PreviewSize size);
     [[nodiscard]] CachedFrame rendered(const Decoded& decoded, PreviewSize size);
 
     FrameCache& m_cache;
-    DecoderShare& m_share;
+    DecoderBudget& m_budget;
     std::shared_ptr<const PlayerItem> m_item;
-    std::int64_t m_firstTicks = 0;
-    /// null after letDecoderGo().
+    Ticks m_firstTicks;
+    /// null after releaseDecoder().
     std::unique_ptr<VideoReader> m_reader;
     std::unique_ptr<PictureRenderer> m_renderer;
 
     /// What the reader is on its way to.
-    std::optional<std::int64_t> m_goal;
+    std::optional<Ticks> m_goal;
     /// The next frame decoded is the first since the reader moved.
     bool m_hasMoved = false;
     /// Decoded, but its end was not found out yet.
     std::shared_ptr<const DecodedFrame> m_unfinished;
-    std::int64_t m_nextTicks = CachedFrame::kBeginning;
-    std::int64_t m_arrivedEnd = 0;
+    Ticks m_position = Ticks::beginning();
+    Ticks m_arrivedEnd;
 
     /// The frame that was arrived at last, in case that it is wanted in another size.
     std::optional<Decoded> m_arrived;

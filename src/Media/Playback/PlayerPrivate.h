@@ -1,21 +1,18 @@
 #pragma once
 
-#include "Media/Playback/AudioPlayback.h"
-#include "Media/Playback/Presenter.h"
-#include "Media/Playback/Transport.h"
-#include "Media/Playback/VideoPlayback.h"
+#include "Media/Playback/DecodingThread.h"
+#include "Media/Playback/PlayerThreads.h"
+#include "Media/Playback/PresentingThread.h"
+#include "Media/Playback/SharedPlayback.h"
+#include "Media/Playback/SoundThread.h"
 #include "Media/Player.h"
 #include "Media/Threading/Guarded.h"
+#include "Media/Threading/ThreadAffinity.h"
 
-#include <cassert>
-#include <condition_variable>
-#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
-#include <stop_token>
-#include <thread>
 #include <vector>
 
 namespace media {
@@ -36,17 +33,14 @@ public:
     void seek(Time time, Time before, Time after, std::function<void(bool)> done);
     void step(int count);
     void setVideoSink(VideoSink* sink);
-    void setPointsOfInterest(const std::vector<Time>& times);
     Token addObserver(Time interval, std::function<void(Time)> handler);
     void removeObserver(Token token);
 
-    void assertOwner() const { assert(std::this_thread::get_id() == m_owner); }
+    void assertOwner() const { m_affinity.check(); }
 
-    [[nodiscard]] Guarded<playback::Transport>::Access transport() {
-        return m_playback.transport.lock();
-    }
+    [[nodiscard]] playback::SharedPlayback::Access state() { return m_shared.lock(); }
 
-    playback::AudioPlayback& audio() { return m_audio; }
+    playback::SoundThread& sound() { return m_sound; }
 
     std::function<void(float)> rateHandler;
     std::function<void(const std::shared_ptr<const PlayerItem>&)> endHandler;
@@ -55,33 +49,14 @@ public:
 private:
     using TimeHandler = std::shared_ptr<const std::function<void(Time)>>;
 
-    struct PendingSeek {
+    struct AwaitedSeek {
         std::uint64_t generation = 0;
         std::function<void(bool)> done;
     };
 
-    /// The work that is pointless from now on.
-    struct StaleWork {
-        std::stop_source video;
-        std::stop_source audio;
-
-        void stop() const {
-            video.request_stop();
-            audio.request_stop();
-        }
-    };
-
-    std::stop_source beginJump(playback::Transport& transport, Time target,
-                               playback::SeekRequest request);
-    static void noteDirection(playback::Transport& transport, playback::SeekRequest request);
+    void refuse(const std::function<void(bool)>& done);
     void abandonSeek();
     void finishSeek(std::uint64_t generation);
-
-    void startThread(const char* name, std::function<void(const std::stop_token&)> work);
-    /// Whether all threads have come to their end soon.
-    bool waitForThreads();
-    void joinThreads();
-    void leaveThreadsBehind();
 
     /// Any thread: runs `action` on the owner's thread, unless the player is gone by then.
     void post(std::function<void(Private&)> action);
@@ -95,25 +70,24 @@ private:
 
     /// Any thread. None once the player is closed: whom it posts to may be gone.
     Guarded<Executor> m_executor;
-    const std::thread::id m_owner = std::this_thread::get_id();
+    ThreadAffinity m_affinity;
     bool m_isAlive = true;
 
-    std::optional<PendingSeek> m_pendingSeek;
+    /// The seek that the owner has not been told the outcome of.
+    std::optional<AwaitedSeek> m_awaitedSeek;
     std::map<Token, TimeHandler> m_timeHandlers;
     Token m_lastToken = 0;
 
     /// Any thread.
-    playback::Playback m_playback;
+    playback::SharedPlayback m_shared;
 
     // Each is used by its own thread.
-    playback::VideoPlayback m_video;
-    playback::AudioPlayback m_audio;
-    playback::Presenter m_presenter;
+    playback::DecodingThread m_decoding;
+    playback::SoundThread m_sound;
+    playback::PresentingThread m_presenting;
 
-    Guarded<std::size_t> m_runningThreads{0};
-    std::condition_variable m_threadEnded;
     // The last, so that whatever they use outlives them.
-    std::vector<std::jthread> m_threads;
+    playback::PlayerThreads m_threads;
 };
 
 } // namespace media

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <chrono>
-#include <condition_variable>
 #include <mutex>
-#include <stop_token>
 #include <utility>
 
 namespace media {
@@ -20,9 +17,6 @@ public:
         T* operator->() const { return &m_value; }
 
         T& operator*() const { return m_value; }
-
-        /// For conditions to wait with; the value must not be touched while unlocked.
-        [[nodiscard]] std::unique_lock<std::mutex>& lock() { return m_lock; }
 
     private:
         T& m_value;
@@ -41,37 +35,6 @@ public:
 private:
     std::mutex m_mutex;
     T m_value{};
-};
-
-/// Rouses one thread that waits for a change of the guarded value which this wake is part of.
-/// Every member is called with that value's lock held.
-class Wake {
-public:
-    using Time = std::chrono::steady_clock::time_point;
-
-    /// Is remembered until the thread waits next, so that no call is lost.
-    void raise() {
-        m_isRaised = true;
-        m_condition.notify_all();
-    }
-
-    /// Returns when raised, when `stop` is requested or at `deadline`.
-    template<typename Access>
-    void wait(Access& access, const std::stop_token& stop, Time deadline) {
-        m_condition.wait_until(access.lock(), stop, deadline, [this] { return m_isRaised; });
-        m_isRaised = false;
-    }
-
-    /// Returns when raised or when `stop` is requested.
-    template<typename Access>
-    void wait(Access& access, const std::stop_token& stop) {
-        m_condition.wait(access.lock(), stop, [this] { return m_isRaised; });
-        m_isRaised = false;
-    }
-
-private:
-    std::condition_variable_any m_condition;
-    bool m_isRaised = false;
 };
 
 } // namespace media

@@ -1,46 +1,30 @@
 #include "Media/Playback/FrameCache.h"
 
-#include "Media/Playback/Foresight.h"
+#include "CachedFrames.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using media::ImageSize;
-using media::PreviewPicture;
-using media::Time;
-using media::playback::CachedFrame;
-using media::playback::FillRange;
+#include <memory>
+#include <optional>
+#include <vector>
+
+using media::Ticks;
 using media::playback::FrameCache;
-using media::playback::nextFill;
-using media::playback::Outlook;
 
 namespace {
 
 constexpr int kSource = 0;
 constexpr int kOtherSource = 1;
-constexpr ImageSize kSize{64, 32};
-constexpr ImageSize kOtherSize{128, 64};
-/// Of a frame of kSize: luma, and chroma on every second pixel and line.
-constexpr std::size_t kFrameBytes = 64 * 32 + 2 * 32 * 16;
 
-CachedFrame frame(std::int64_t begin, std::int64_t end, ImageSize size = kSize) {
-    PreviewPicture::Format format;
-    format.width = size.width;
-    format.height = size.height;
-    format.chromaShift = 1;
-    return {begin, end, Time{begin, 600}, std::make_shared<PreviewPicture>(format)};
-}
-
-/// Frames of 20 ticks each, from the one at `first` up to the one before `end`.
-void fill(FrameCache& cache, std::int64_t first, std::int64_t end, ImageSize size = kSize) {
-    for (std::int64_t begin = first; begin < end; begin += 20)
-        cache.insert(&kSource, frame(begin, begin + 20, size));
+void fill(FrameCache& cache, Ticks first, Ticks end) {
+    fillCache(cache, &kSource, first, end);
 }
 
 std::vector<std::int64_t> heldOf(const FrameCache& cache, std::int64_t first, std::int64_t end) {
     std::vector<std::int64_t> held;
-    for (std::int64_t begin = first; begin < end; begin += 20) {
-        if (cache.find(begin, kSize))
+    for (std::int64_t begin = first; begin < end; begin += kFrameLength.count()) {
+        if (cache.find(Ticks(begin), kFrameSize))
             held.push_back(begin);
     }
     return held;
@@ -49,72 +33,72 @@ std::vector<std::int64_t> heldOf(const FrameCache& cache, std::int64_t first, st
 TEST(FrameCache, givesTheFrameWhoseIntervalHoldsTheTick) {
     FrameCache cache;
     cache.begin(&kSource);
-    cache.insert(&kSource, frame(CachedFrame::kBeginning, 20));
-    cache.insert(&kSource, frame(20, 45));
-    cache.insert(&kSource, frame(60, CachedFrame::kForever));
+    cache.insert(&kSource, cachedFrame(Ticks::beginning(), 20_ticks));
+    cache.insert(&kSource, cachedFrame(20_ticks, 45_ticks));
+    cache.insert(&kSource, cachedFrame(60_ticks, Ticks::forever()));
     const auto beginOf = [&](std::int64_t ticks) {
-        const auto found = cache.find(ticks, kSize);
-        return found ? std::optional(found->begin) : std::nullopt;
+        const auto found = cache.find(Ticks(ticks), kFrameSize);
+        return found ? std::optional(found->range.begin) : std::nullopt;
     };
-    EXPECT_EQ(beginOf(-1'000'000), CachedFrame::kBeginning);
-    EXPECT_EQ(beginOf(19), CachedFrame::kBeginning);
-    EXPECT_EQ(beginOf(20), 20);
-    EXPECT_EQ(beginOf(44), 20);
+    EXPECT_EQ(beginOf(-1'000'000), Ticks::beginning());
+    EXPECT_EQ(beginOf(19), Ticks::beginning());
+    EXPECT_EQ(beginOf(20), 20_ticks);
+    EXPECT_EQ(beginOf(44), 20_ticks);
     EXPECT_EQ(beginOf(45), std::nullopt) << "which frame is on show there is not known";
     EXPECT_EQ(beginOf(59), std::nullopt);
-    EXPECT_EQ(beginOf(60), 60);
-    EXPECT_EQ(beginOf(1'000'000), 60);
+    EXPECT_EQ(beginOf(60), 60_ticks);
+    EXPECT_EQ(beginOf(1'000'000), 60_ticks);
 }
 
 TEST(FrameCache, givesFramesOfAnotherSizeOnlyAsTheNearest) {
     FrameCache cache;
     cache.begin(&kSource);
-    cache.insert(&kSource, frame(20, 40, kOtherSize));
-    EXPECT_FALSE(cache.find(30, kSize));
-    EXPECT_EQ(cache.nearest(30)->begin, 20);
-    cache.insert(&kSource, frame(20, 40));
-    EXPECT_TRUE(cache.find(30, kSize));
-    EXPECT_FALSE(cache.find(30, kOtherSize)) << "one frame is kept once";
+    cache.insert(&kSource, cachedFrame(20_ticks, 40_ticks, kOtherFrameSize));
+    EXPECT_FALSE(cache.find(30_ticks, kFrameSize));
+    EXPECT_EQ(cache.nearest(30_ticks)->range.begin, 20_ticks);
+    cache.insert(&kSource, cachedFrame(20_ticks, 40_ticks));
+    EXPECT_TRUE(cache.find(30_ticks, kFrameSize));
+    EXPECT_FALSE(cache.find(30_ticks, kOtherFrameSize)) << "one frame is kept once";
     EXPECT_EQ(cache.byteCount(), kFrameBytes);
 }
 
 TEST(FrameCache, givesTheNearestFrameOnEitherSide) {
     FrameCache cache;
     cache.begin(&kSource);
-    EXPECT_FALSE(cache.nearest(0));
-    cache.insert(&kSource, frame(100, 120));
-    cache.insert(&kSource, frame(200, 220));
-    EXPECT_EQ(cache.nearest(0)->begin, 100);
-    EXPECT_EQ(cache.nearest(110)->begin, 100);
-    EXPECT_EQ(cache.nearest(155)->begin, 100);
-    EXPECT_EQ(cache.nearest(165)->begin, 200);
-    EXPECT_EQ(cache.nearest(900)->begin, 200);
+    EXPECT_FALSE(cache.nearest(0_ticks));
+    cache.insert(&kSource, cachedFrame(100_ticks, 120_ticks));
+    cache.insert(&kSource, cachedFrame(200_ticks, 220_ticks));
+    EXPECT_EQ(cache.nearest(0_ticks)->range.begin, 100_ticks);
+    EXPECT_EQ(cache.nearest(110_ticks)->range.begin, 100_ticks);
+    EXPECT_EQ(cache.nearest(155_ticks)->range.begin, 100_ticks);
+    EXPECT_EQ(cache.nearest(165_ticks)->range.begin, 200_ticks);
+    EXPECT_EQ(cache.nearest(900_ticks)->range.begin, 200_ticks);
 }
 
 TEST(FrameCache, takesFramesOfItsSourceOnlyAndForgetsThoseOfTheLastOne) {
     FrameCache cache;
     cache.begin(&kSource);
-    fill(cache, 0, 100);
+    fill(cache, 0_ticks, 100_ticks);
     cache.begin(&kOtherSource);
     EXPECT_EQ(cache.byteCount(), 0U);
-    cache.insert(&kSource, frame(0, 20));
-    EXPECT_FALSE(cache.find(0, kSize)) << "of a file that was replaced meanwhile";
-    cache.insert(&kOtherSource, frame(0, 20));
-    EXPECT_TRUE(cache.find(0, kSize));
+    cache.insert(&kSource, cachedFrame(0_ticks, 20_ticks));
+    EXPECT_FALSE(cache.find(0_ticks, kFrameSize)) << "of a file that was replaced meanwhile";
+    cache.insert(&kOtherSource, cachedFrame(0_ticks, 20_ticks));
+    EXPECT_TRUE(cache.find(0_ticks, kFrameSize));
 }
 
 TEST(FrameCache, letsGoOfWhatLiesFarthestFromThePlayhead) {
     FrameCache cache(10 * kFrameBytes);
     cache.begin(&kSource);
-    cache.setFocus(200);
-    fill(cache, 0, 400);
+    cache.setFocus(200_ticks);
+    fill(cache, 0_ticks, 400_ticks);
     EXPECT_EQ(cache.byteCount(), 10 * kFrameBytes);
     EXPECT_THAT(heldOf(cache, 0, 400),
                 testing::AllOf(testing::SizeIs(10), testing::Each(testing::Ge(100)),
                                testing::Contains(380)))
         << "the one that came last stays";
-    cache.setFocus(0);
-    fill(cache, 0, 80);
+    cache.setFocus(0_ticks);
+    fill(cache, 0_ticks, 80_ticks);
     EXPECT_THAT(heldOf(cache, 0, 80), testing::ElementsAre(0, 20, 40, 60));
     EXPECT_LE(cache.byteCount(), 10 * kFrameBytes);
 }
@@ -122,11 +106,11 @@ TEST(FrameCache, letsGoOfWhatLiesFarthestFromThePlayhead) {
 TEST(FrameCache, keepsANeighbourhoodOfThePointsOfInterest) {
     FrameCache cache(16 * kFrameBytes);
     cache.begin(&kSource);
-    cache.setPointsOfInterest({2000});
-    cache.setFocus(2000);
-    fill(cache, 1900, 2100);
-    cache.setFocus(0);
-    fill(cache, 0, 600);
+    cache.setPointsOfInterest({2000_ticks});
+    cache.setFocus(2000_ticks);
+    fill(cache, 1900_ticks, 2100_ticks);
+    cache.setFocus(0_ticks);
+    fill(cache, 0_ticks, 600_ticks);
     EXPECT_THAT(heldOf(cache, 1900, 2100), testing::IsSupersetOf({1980, 2000, 2020}));
     EXPECT_THAT(heldOf(cache, 0, 600), testing::IsSupersetOf({0, 20, 40, 60, 80, 100}));
 }
@@ -134,8 +118,8 @@ TEST(FrameCache, keepsANeighbourhoodOfThePointsOfInterest) {
 TEST(FrameCache, keepsAFrameThatAloneIsBeyondItsBound) {
     FrameCache cache(100);
     cache.begin(&kSource);
-    fill(cache, 0, 60);
-    EXPECT_TRUE(cache.find(40, kSize));
+    fill(cache, 0_ticks, 60_ticks);
+    EXPECT_TRUE(cache.find(40_ticks, kFrameSize));
     EXPECT_EQ(cache.byteCount(), kFrameBytes);
 }
 
@@ -153,63 +137,17 @@ TEST(FrameCache, sharesOneBoundWithThoseOfOtherPlayers) {
 TEST(FrameCache, tellsHowFarFramesFollowOneAnother) {
     FrameCache cache;
     cache.begin(&kSource);
-    fill(cache, 100, 200);
-    fill(cache, 220, 300);
-    EXPECT_EQ(cache.coveredUntil(130, kSize), 200);
-    EXPECT_EQ(cache.coveredUntil(200, kSize), 200);
-    EXPECT_EQ(cache.coveredFrom(190, kSize), 100);
-    EXPECT_EQ(cache.coveredFrom(210, kSize), 211);
-    EXPECT_EQ(cache.coveredUntil(130, kOtherSize), 130);
-    cache.insert(&kSource, frame(300, CachedFrame::kForever));
-    cache.insert(&kSource, frame(CachedFrame::kBeginning, 100));
-    EXPECT_EQ(cache.coveredUntil(220, kSize), CachedFrame::kForever);
-    EXPECT_EQ(cache.coveredFrom(150, kSize), CachedFrame::kBeginning);
-}
-
-TEST(Foresight, readsAheadInTheDirectionOfTheMovementFirst) {
-    FrameCache cache;
-    cache.begin(&kSource);
-    fill(cache, 3000, 3100);
-    Outlook outlook{.focus = 3040, .direction = 1, .lastTicks = 9000, .size = kSize};
-    EXPECT_EQ(nextFill(cache, outlook), (FillRange{3100, 4240}));
-    outlook.direction = -1;
-    EXPECT_EQ(nextFill(cache, outlook), (FillRange{640, 2999}));
-    fill(cache, 640, 3000);
-    EXPECT_EQ(nextFill(cache, outlook), (FillRange{3100, 4240}));
-}
-
-TEST(Foresight, looksAfterThePointsOfInterestLastAndEndsWhenAllIsThere) {
-    FrameCache cache;
-    cache.begin(&kSource);
-    cache.setPointsOfInterest({0, 9000});
-    fill(cache, 2400, 6000);
-    const Outlook outlook{.focus = 5000, .lastTicks = 9000, .size = kSize};
-    fill(cache, 6000, 6400);
-    EXPECT_EQ(nextFill(cache, outlook), (FillRange{0, 600}));
-    fill(cache, 0, 620);
-    EXPECT_EQ(nextFill(cache, outlook), (FillRange{8700, 9000}));
-    fill(cache, 8700, 9020);
-    EXPECT_EQ(nextFill(cache, outlook), std::nullopt);
-}
-
-TEST(Foresight, asksForNoMoreThanTheCacheHolds) {
-    FrameCache cache(30 * kFrameBytes);
-    cache.begin(&kSource);
-    const Outlook outlook{.focus = 5000, .lastTicks = 9000, .size = kSize};
-    cache.setFocus(5000);
-    for (int rounds = 0; rounds < 30; ++rounds) {
-        const auto range = nextFill(cache, outlook);
-        if (!range)
-            return;
-        fill(cache, range->from / 20 * 20, range->until + 1);
-    }
-    FAIL() << "it never has enough";
-}
-
-TEST(Foresight, leavesACacheAloneThatHoldsAFewFramesOnly) {
-    FrameCache cache(5 * kFrameBytes);
-    cache.begin(&kSource);
-    EXPECT_EQ(nextFill(cache, {.focus = 50, .lastTicks = 9000, .size = kSize}), std::nullopt);
+    fill(cache, 100_ticks, 200_ticks);
+    fill(cache, 220_ticks, 300_ticks);
+    EXPECT_EQ(cache.coveredUntil(130_ticks, kFrameSize), 200_ticks);
+    EXPECT_EQ(cache.coveredUntil(200_ticks, kFrameSize), 200_ticks);
+    EXPECT_EQ(cache.coveredFrom(190_ticks, kFrameSize), 100_ticks);
+    EXPECT_EQ(cache.coveredFrom(210_ticks, kFrameSize), 211_ticks);
+    EXPECT_EQ(cache.coveredUntil(130_ticks, kOtherFrameSize), 130_ticks);
+    cache.insert(&kSource, cachedFrame(300_ticks, Ticks::forever()));
+    cache.insert(&kSource, cachedFrame(Ticks::beginning(), 100_ticks));
+    EXPECT_EQ(cache.coveredUntil(220_ticks, kFrameSize), Ticks::forever());
+    EXPECT_EQ(cache.coveredFrom(150_ticks, kFrameSize), Ticks::beginning());
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "PlayerStage.h"
 
-#include "Media/Playback/DecoderShare.h"
+#include "Media/Playback/DecoderBudget.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 #include <string>
 
 using media::Time;
-using media::playback::DecoderShare;
+using media::playback::DecoderBudget;
 using testsupport::Fixture;
 using testsupport::makeFixture;
 using testsupport::Recipe;
@@ -123,12 +123,12 @@ Recipe silent(Recipe recipe) {
 /// While it lives no decoder but the one used last keeps its pictures.
 class NoRoomForIdleDecoders {
 public:
-    NoRoomForIdleDecoders() { DecoderShare::setBytesOfAll(0); }
+    NoRoomForIdleDecoders() { DecoderBudget::setBytesOfAll(0); }
 
     NoRoomForIdleDecoders(const NoRoomForIdleDecoders&) = delete;
     NoRoomForIdleDecoders& operator=(const NoRoomForIdleDecoders&) = delete;
 
-    ~NoRoomForIdleDecoders() { DecoderShare::setBytesOfAll(DecoderShare::kBytesOfAll); }
+    ~NoRoomForIdleDecoders() { DecoderBudget::setBytesOfAll(DecoderBudget::kBytesOfAll); }
 };
 
 TEST(PlayerMemory, showsTheFrameAskedForAfterItsDecoderWasGivenUpForAnothers) {

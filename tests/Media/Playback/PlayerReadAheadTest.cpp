@@ -21,7 +21,7 @@ Fixture longGroups() {
     return makeFixture({.duration = 12, .groupOfPictures = 250, .bFrames = 3, .audioTracks = 0});
 }
 
-TEST(PlayerForesight, readsAheadOfAJumpAndAroundThePointsOfInterest) {
+TEST(PlayerReadAhead, readsAheadOfAJumpAndAroundThePointsOfInterest) {
     const Fixture fixture = longGroups();
     PlayerStage stage;
     stage.load(fixture.path);
@@ -36,7 +36,7 @@ TEST(PlayerForesight, readsAheadOfAJumpAndAroundThePointsOfInterest) {
     EXPECT_EQ(stage.player->statistics().fromCache, fromCache + 3);
 }
 
-TEST(PlayerForesight, restsWhileAnExportRunsAndGoesOnAfterwards) {
+TEST(PlayerReadAhead, restsWhileAnExportRunsAndGoesOnAfterwards) {
     const Fixture source = media::longFixture();
     const testsupport::TemporaryFolder folder;
     media::ExportSession session(media::compositionOf(media::Asset::open(source.path)),

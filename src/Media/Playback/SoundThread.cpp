@@ -1,4 +1,4 @@
-#include "Media/Playback/AudioPlayback.h"
+#include "Media/Playback/SoundThread.h"
 
 #include "Media/Error.h"
 
@@ -45,32 +45,28 @@ Time later(Time time, nanoseconds by) {
 
 } // namespace
 
-AudioPlayback::AudioPlayback(Playback& playback, std::unique_ptr<AudioOutput> output)
-    : m_playback(playback), m_output(std::move(output)), m_retryDelay(kFirstRetry) {}
+SoundThread::SoundThread(SharedPlayback& shared, std::unique_ptr<AudioOutput> output)
+    : m_shared(shared), m_output(std::move(output)), m_retryDelay(kFirstRetry) {}
 
-void AudioPlayback::work(const std::stop_token& stop) {
+void SoundThread::run(const std::stop_token& stop) {
     while (!stop.stop_requested()) {
         if (takeRun())
             beginRun();
         const Pause pause = m_run.isWanted ? serve() : idle();
-        auto access = m_playback.transport.lock();
-        if (access->run == m_run.number)
-            access->audioWake.wait(access, stop, now() + pause);
+        m_shared.wait(SharedPlayback::Waiter::sound, stop, now() + pause);
     }
     closeOutput();
 }
 
-bool AudioPlayback::takeRun() {
-    auto access = m_playback.transport.lock();
-    if (access->run == m_run.number)
+bool SoundThread::takeRun() {
+    std::optional<SoundRun> run = m_shared.lock()->nextSoundRun(m_run.number, now());
+    if (!run)
         return false;
-    m_run = {access->run,         access->item,
-             access->time(now()), access->isRunningWanted(),
-             access->lastEnd,     access->audioWork.get_token()};
+    m_run = std::move(*run);
     return true;
 }
 
-void AudioPlayback::beginRun() {
+void SoundThread::beginRun() {
     m_queue.begin();
     m_isPlaced = false;
     m_isDriving = false;
@@ -88,7 +84,7 @@ void AudioPlayback::beginRun() {
     prepare(m_run.start);
 }
 
-AudioPlayback::Pause AudioPlayback::idle() {
+SoundThread::Pause SoundThread::idle() {
     if (!m_isOpen)
         return kIdle;
     const SteadyTime time = now();
@@ -98,7 +94,7 @@ AudioPlayback::Pause AudioPlayback::idle() {
     return kIdle;
 }
 
-AudioPlayback::Pause AudioPlayback::serve() {
+SoundThread::Pause SoundThread::serve() {
     if (!m_reader) {
         runSteadily();
         return kIdle;
@@ -122,7 +118,7 @@ AudioPlayback::Pause AudioPlayback::serve() {
     return kRound;
 }
 
-void AudioPlayback::openReader() {
+void SoundThread::openReader() {
     if (m_item == m_run.item)
         return;
     m_item = m_run.item;
@@ -139,7 +135,7 @@ void AudioPlayback::openReader() {
 }
 
 /// Begins the queue anew with the sound at `at`.
-void AudioPlayback::prepare(Time at) {
+void SoundThread::prepare(Time at) {
     m_queue.begin();
     m_start = at;
     m_isPlaced = false;
@@ -157,7 +153,7 @@ void AudioPlayback::prepare(Time at) {
     }
 }
 
-void AudioPlayback::fill() {
+void SoundThread::fill() {
     try {
         while (!m_isAtEnd && m_queue.queuedFrames() < kQueuedFrames) {
             if (!m_block) {
@@ -175,7 +171,7 @@ void AudioPlayback::fill() {
 }
 
 /// Whether the whole block found room.
-bool AudioPlayback::writeBlock() {
+bool SoundThread::writeBlock() {
     const auto* samples = static_cast<const float*>(static_cast<const void*>(m_block->data[0]));
     const std::span all(samples, static_cast<std::size_t>(m_block->nb_samples) * kOutputChannels);
     m_blockOffset += m_queue.write(all.subspan(m_blockOffset)) * kOutputChannels;
@@ -185,23 +181,17 @@ bool AudioPlayback::writeBlock() {
     return true;
 }
 
-void AudioPlayback::place() {
-    bool isClockRunning = false;
-    {
-        auto access = m_playback.transport.lock();
-        if (access->run != m_run.number || !access->isPictureReady)
-            return;
-        isClockRunning = access->clock.isRunning();
-    }
-    if (isClockRunning) {
+void SoundThread::place() {
+    const SoundStart start = m_shared.lock()->soundStart(m_run.number);
+    if (start == SoundStart::late)
         placeIntoRunningClock();
+    if (start != SoundStart::now)
         return;
-    }
     m_queue.play();
     m_isPlaced = true;
 }
 
-void AudioPlayback::placeIntoRunningClock() {
+void SoundThread::placeIntoRunningClock() {
     const std::optional<std::uint64_t> heard = m_isOpen ? m_output->heardFrames() : std::nullopt;
     // Before its position moves it is not known when a new device will be heard.
     if (!heard || *heard == 0)
@@ -212,7 +202,7 @@ void AudioPlayback::placeIntoRunningClock() {
     m_isDriving = true;
 }
 
-bool AudioPlayback::openOutput() {
+bool SoundThread::openOutput() {
     if (!m_output->start(m_queue)) {
         giveUpOutput();
         runSteadily();
@@ -224,7 +214,7 @@ bool AudioPlayback::openOutput() {
     return true;
 }
 
-void AudioPlayback::closeOutput() {
+void SoundThread::closeOutput() {
     m_output->stop();
     m_queue.reset();
     m_isOpen = false;
@@ -233,14 +223,14 @@ void AudioPlayback::closeOutput() {
 }
 
 /// The clock goes on as it ran; the device is tried again after a while.
-void AudioPlayback::giveUpOutput() {
+void SoundThread::giveUpOutput() {
     closeOutput();
     m_isStale = true;
     m_retryAt = now() + m_retryDelay;
     m_retryDelay = std::min(2 * m_retryDelay, kLastRetry);
 }
 
-void AudioPlayback::drive() {
+void SoundThread::drive() {
     const SteadyTime before = now();
     const std::optional<std::uint64_t> heard = m_output->heardFrames();
     const SteadyTime after = now();
@@ -253,19 +243,15 @@ void AudioPlayback::drive() {
     if (!m_isPlaced || !heard || !first || after - before > kExactReading)
         return;
     const std::int64_t frames = static_cast<std::int64_t>(*heard) - *first;
-    auto access = m_playback.transport.lock();
-    if (frames <= 0 || access->run != m_run.number || !access->isRunningWanted())
+    if (frames <= 0)
         return;
-    const bool wasRunning = access->clock.isRunning();
-    if (wasRunning && !m_isDriving)
-        return;
-    m_isDriving = true;
-    access->clock.correct(later(m_start, duration(frames)), before + (after - before) / 2);
-    if (!wasRunning)
-        access->presenterWake.raise();
+    const Time time = later(m_start, duration(frames));
+    const SteadyTime when = before + (after - before) / 2;
+    if (m_shared.lock()->soundHeard(m_run.number, m_isDriving, time, when))
+        m_isDriving = true;
 }
 
-bool AudioPlayback::hasStalled(std::uint64_t heard, SteadyTime time) {
+bool SoundThread::hasStalled(std::uint64_t heard, SteadyTime time) {
     if (heard != m_lastHeard) {
         m_lastHeard = heard;
         m_lastMoved = time;
@@ -275,21 +261,12 @@ bool AudioPlayback::hasStalled(std::uint64_t heard, SteadyTime time) {
 }
 
 /// Lets the clock run without a device, as soon as the picture is there.
-void AudioPlayback::runSteadily() {
-    auto access = m_playback.transport.lock();
-    if (access->run != m_run.number || !access->isRunningWanted() || !access->isPictureReady ||
-        access->clock.isRunning())
-        return;
-    access->clock.run(now());
-    access->presenterWake.raise();
+void SoundThread::runSteadily() {
+    m_shared.lock()->runWithoutSound(m_run.number, now());
 }
 
-bool AudioPlayback::isClockRunning() {
-    return m_playback.transport.lock()->clock.isRunning();
-}
-
-Time AudioPlayback::clockTime() {
-    return m_playback.transport.lock()->time(now());
+Time SoundThread::clockTime() {
+    return m_shared.lock()->time(now());
 }
 
 } // namespace media::playback

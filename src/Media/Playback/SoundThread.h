@@ -1,8 +1,9 @@
 #pragma once
 
 #include "Media/Playback/AudioOutput.h"
+#include "Media/Playback/SharedPlayback.h"
 #include "Media/Playback/SoundQueue.h"
-#include "Media/Playback/Transport.h"
+#include "Media/Playback/SoundRun.h"
 #include "Media/Reading/AudioReader.h"
 
 #include <memory>
@@ -16,30 +17,21 @@ namespace media::playback {
 /// silent. Lives on one thread of its own, which owns the reader and the device and alone may be
 /// kept waiting by it.
 ///
-/// Each run of the transport is prepared (the reader is moved, the queue filled), placed (the
+/// Each run of the clock is prepared (the reader is moved, the queue filled), placed (the
 /// queue is let be heard, once the picture is there) and then driven (each position heard corrects
 /// the clock). Where the clock runs already, because the device came late, a run is placed so
 /// that it falls in with the clock.
-class AudioPlayback {
+class SoundThread {
 public:
-    AudioPlayback(Playback& playback, std::unique_ptr<AudioOutput> output);
+    SoundThread(SharedPlayback& shared, std::unique_ptr<AudioOutput> output);
 
-    void work(const std::stop_token& stop);
+    void run(const std::stop_token& stop);
 
     /// Any thread. Applies from the device's next pull on.
     void setMuted(bool muted) { m_queue.setMuted(muted); }
 
 private:
     using Pause = std::chrono::milliseconds;
-
-    struct Run {
-        std::uint64_t number = 0;
-        std::shared_ptr<const PlayerItem> item;
-        Time start;
-        bool isWanted = false;
-        SteadyTime lastEnd;
-        std::stop_token stop;
-    };
 
     bool takeRun();
     void beginRun();
@@ -59,13 +51,14 @@ private:
     [[nodiscard]] bool hasStalled(std::uint64_t heard, SteadyTime time);
     void runSteadily();
 
-    [[nodiscard]] bool isClockRunning();
+    [[nodiscard]] bool isClockRunning() { return m_shared.lock()->isClockRunning(); }
+
     [[nodiscard]] Time clockTime();
 
-    Playback& m_playback;
+    SharedPlayback& m_shared;
     SoundQueue m_queue;
     std::unique_ptr<AudioOutput> m_output;
-    Run m_run;
+    SoundRun m_run;
 
     std::shared_ptr<const PlayerItem> m_item;
     /// Null where the item has no sound that can be decoded.

@@ -1,0 +1,180 @@
+#include "Media/Playback/DecodingThread.h"
+
+#include "Media/Error.h"
+#include "Media/Threading/ProcessorDemand.h"
+
+namespace media::playback {
+
+namespace {
+
+using Waiter = SharedPlayback::Waiter;
+using Outcome = FrameSource::Outcome;
+
+SteadyTime now() {
+    return std::chrono::steady_clock::now();
+}
+
+} // namespace
+
+DecodingThread::DecodingThread(SharedPlayback& shared)
+    : m_shared(shared), m_budget([&shared] { shared.wake(Waiter::decoding); }) {}
+
+void DecodingThread::run(const std::stop_token& stop) {
+    while (!stop.stop_requested()) {
+        const DecoderStatus decoder = status();
+        const DecodeWork work = m_shared.lock()->nextDecodeWork(decoder, now());
+        if (work.kind == DecodeWork::Kind::wait)
+            m_shared.wait(Waiter::decoding, stop, work.until);
+        else
+            perform(work);
+    }
+}
+
+DecoderStatus DecodingThread::status() {
+    DecoderStatus status;
+    status.item = m_item.get();
+    status.isOverBudget = m_budget.isExceeded();
+    status.mustRest = ProcessorDemand::isHigh();
+    if (!m_source)
+        return status;
+    status.canDecode = true;
+    status.hasWaitingFrames = m_source->hasPassed();
+    status.position = m_source->position();
+    status.decodedCount = m_source->takeDecodedCount();
+    return status;
+}
+
+void DecodingThread::perform(const DecodeWork& work) {
+    using Kind = DecodeWork::Kind;
+    try {
+        switch (work.kind) {
+        case Kind::wait:
+            return;
+        case Kind::open:
+            return open(work);
+        case Kind::seek:
+        case Kind::step:
+            return seek(work);
+        case Kind::seekNear:
+            return seekNear(work);
+        case Kind::queue:
+            return queue(work, *work.frame);
+        case Kind::decodeAhead:
+            return decodeAhead(work);
+        case Kind::redraw:
+        case Kind::catchUp:
+        case Kind::readAhead:
+            return advance(work);
+        case Kind::keepWaitingFrame:
+            m_source->keepOnePassed(work.previewSize);
+            return;
+        case Kind::releaseDecoder:
+            m_source->releaseDecoder();
+            m_shared.lock()->decoderReleased();
+            return;
+        }
+    } catch (const Cancelled&) {
+        // Something newer is wanted, or the player is being closed.
+    } catch (const std::exception&) {
+        fail(work);
+    }
+}
+
+void DecodingThread::open(const DecodeWork& work) {
+    m_source.reset();
+    m_item = work.item;
+    if (!m_item)
+        return;
+    auto source = std::make_unique<FrameSource>(m_shared.cache(), m_budget, m_item);
+    if (source->hasPicture())
+        m_source = std::move(source);
+}
+
+/// What can't be decoded keeps the last picture on show.
+void DecodingThread::fail(const DecodeWork& work) {
+    m_shared.lock()->frameFailed(work, now());
+}
+
+void DecodingThread::seek(const DecodeWork& work) {
+    if (!m_source)
+        return fail(work);
+    const FrameSource::Goal goal{.ticks = work.target.earliest,
+                                 .completeFrom = work.completeFrom,
+                                 .isUrgent = true,
+                                 .isBackward = work.isBackward};
+    switch (m_source->advance(goal, work.previewSize, work.stop)) {
+    case Outcome::onTheWay:
+        return showProgress(work);
+    case Outcome::nothing:
+        return fail(work);
+    case Outcome::arrived:
+    case Outcome::late:
+        m_shared.lock()->frameArrived(work, m_source->arrivedEnd());
+        return;
+    }
+}
+
+/// Where the way to a target takes long, what lies on it is shown from time to time.
+void DecodingThread::showProgress(const DecodeWork& work) {
+    if (m_shared.lock()->wantsSubstitute(now())) {
+        auto frame = m_source->passing(work.previewSize);
+        m_shared.lock()->substituteArrived(work, std::move(frame), now());
+    }
+}
+
+void DecodingThread::seekNear(const DecodeWork& work) {
+    if (!m_source)
+        return fail(work);
+    const auto ticks = m_source->advanceNear(work.target.earliest, work.target.latest,
+                                             work.previewSize, work.stop);
+    if (!ticks)
+        return fail(work);
+    m_shared.lock()->nearFrameArrived(work, *ticks);
+}
+
+void DecodingThread::decodeAhead(const DecodeWork& work) {
+    const Ticks ticks = work.target.earliest;
+    const FrameSource::Goal goal{
+        .ticks = ticks, .completeFrom = ticks, .lateUntil = work.lateUntil};
+    switch (m_source->advance(goal, work.previewSize, work.stop)) {
+    case Outcome::onTheWay:
+        return;
+    case Outcome::late:
+        m_shared.lock()->nextFrameIsLate(work, m_source->arrivedEnd());
+        return;
+    case Outcome::nothing:
+        return fail(work);
+    case Outcome::arrived:
+        if (const auto frame = m_shared.cache().find(ticks, work.imageSize))
+            queue(work, *frame);
+        return;
+    }
+}
+
+void DecodingThread::queue(const DecodeWork& work, const CachedFrame& frame) {
+    RenderedFrame rendered = render(frame);
+    m_shared.lock()->nextFrameArrived(work, std::move(rendered), now());
+}
+
+void DecodingThread::advance(const DecodeWork& work) {
+    // What lies before it is at hand already, and need not be rendered again.
+    const bool isCatchingUp = work.kind == DecodeWork::Kind::catchUp;
+    const Ticks ticks = isCatchingUp ? work.target.earliest - Ticks(1) : work.target.earliest;
+    FrameSource::Goal goal{.ticks = ticks, .completeFrom = ticks};
+    if (isCatchingUp)
+        goal.lateUntil = work.target.earliest;
+    switch (m_source->advance(goal, work.previewSize, work.stop)) {
+    case Outcome::onTheWay:
+        return;
+    case Outcome::nothing:
+        if (!isCatchingUp)
+            fail(work);
+        return;
+    case Outcome::arrived:
+    case Outcome::late:
+        m_shared.lock()->frameArrived(work, m_source->arrivedEnd());
+        return;
+    }
+}
+
+} // namespace media::playback

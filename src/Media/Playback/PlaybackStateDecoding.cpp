@@ -1,0 +1,295 @@
+// What the decoding thread is to do next, and what comes of it.
+#include "Media/Playback/PlaybackState.h"
+
+#include <algorithm>
+
+namespace media::playback {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+/// Further behind than this, decoding what lies between is given up.
+constexpr Ticks kFarBehind{Ticks::kPerSecond / 2};
+/// However far behind, one frame in this time is shown.
+constexpr milliseconds kLongestFreeze{200};
+/// Frames that are kept on the way to a target: when it is approached backward more of them will
+/// be asked for.
+constexpr Ticks kMargin{Ticks::kPerSecond / 4};
+constexpr Ticks kBackwardMargin{2 * Ticks::kPerSecond};
+/// No more of the cache is taken for them.
+constexpr double kMarginOfCache = 0.25;
+/// After a jump by itself nothing is read ahead for so long: more may be about to happen.
+constexpr milliseconds kRest{150};
+/// Between two looks whether the processor is free again.
+constexpr milliseconds kRestPause{200};
+/// Nothing to wait for but a wake.
+constexpr std::chrono::hours kIdle{1};
+
+} // namespace
+
+bool PlaybackState::isCurrent(const DecodeWork& work) const {
+    return work.generation == m_generation;
+}
+
+DecodeWork PlaybackState::nextDecodeWork(const DecoderStatus& decoder, SteadyTime now) {
+    m_statistics.decoded += decoder.decodedCount;
+    DecodeWork work;
+    work.generation = m_generation;
+    work.stop = m_decoding.get_token();
+    work.item = m_item;
+    work.previewSize = m_previewSize;
+    work.imageSize = imageSize();
+    if (m_item.get() != decoder.item) {
+        work.kind = DecodeWork::Kind::open;
+        return work;
+    }
+    const bool isChosen =
+        m_seek ? chooseSeek(work, decoder)
+               : chooseStep(work) || chooseRedraw(work) || choosePlaying(work, decoder, now);
+    if (!isChosen && !chooseIdle(work, decoder, now)) {
+        work.kind = DecodeWork::Kind::wait;
+        work.until = nextDecodeLook(decoder, now);
+    }
+    return work;
+}
+
+bool PlaybackState::chooseSeek(DecodeWork& work, const DecoderStatus& decoder) {
+    if (decoder.canDecode && m_seek->find(m_cache, work.imageSize)) {
+        // It may have come there by the way.
+        m_aftermath.wakes.presenting = true;
+        return false;
+    }
+    m_seek->setNeedsDecoding();
+    work.target = m_seek->target();
+    work.kind = work.target.isExact() ? DecodeWork::Kind::seek : DecodeWork::Kind::seekNear;
+    work.completeFrom = completeFrom(work.target.earliest);
+    work.isBackward = m_direction < 0;
+    return true;
+}
+
+bool PlaybackState::chooseStep(DecodeWork& work) {
+    const std::optional<Ticks> ticks = m_steps.nextTicks();
+    if (!ticks)
+        return false;
+    if (m_cache.find(*ticks, work.imageSize)) {
+        m_aftermath.wakes.presenting = true;
+        return false;
+    }
+    work.kind = DecodeWork::Kind::step;
+    work.target = SeekTarget::exactly(*ticks);
+    work.completeFrom = completeFrom(*ticks);
+    work.isBackward = m_direction < 0;
+    return true;
+}
+
+/// Frames from there on are kept on the way to `target`.
+Ticks PlaybackState::completeFrom(Ticks target) const {
+    const double room = framesInCache(m_cache, imageSize()) * m_frameTicks * kMarginOfCache;
+    const Ticks margin = std::min(m_direction < 0 ? kBackwardMargin : kMargin,
+                                  Ticks(static_cast<std::int64_t>(std::min(room, 1e9))));
+    return target - std::min(margin, std::max(target, Ticks(0)));
+}
+
+bool PlaybackState::chooseRedraw(DecodeWork& work) {
+    const bool isReplacedSoon = isRunningWanted() && !m_queue.hasEnded();
+    const Ticks ticks = m_shown.time.ticks();
+    if (m_immediate || isShownInSize() || isReplacedSoon || m_notRedrawn == ticks)
+        return false;
+    if (m_cache.find(ticks, work.imageSize)) {
+        m_aftermath.wakes.presenting = true;
+        return false;
+    }
+    work.kind = DecodeWork::Kind::redraw;
+    work.target = SeekTarget::exactly(ticks);
+    return true;
+}
+
+bool PlaybackState::choosePlaying(DecodeWork& work, const DecoderStatus& decoder, SteadyTime now) {
+    if (!decoder.canDecode || !m_isPictureReady || m_immediate || m_queue.hasEnded())
+        return false;
+    const Ticks clock = time(now).ticks();
+    if (!isRunningWanted()) {
+        // Where playing has stopped, the frame at that time is owed even if decoding was behind.
+        const bool isOwed = m_queuedGeneration == m_generation && m_queue.isEmpty() &&
+                            m_steps.isEmpty() && m_shown.range.end <= clock;
+        if (!isOwed)
+            return false;
+        m_queue.skipTo(clock);
+    } else if (!m_queue.hasRoom()) {
+        // Meanwhile decoding comes to where the frames at hand end.
+        const Ticks missing = m_cache.coveredUntil(m_queue.next(), work.imageSize);
+        work.kind = DecodeWork::Kind::catchUp;
+        work.target = SeekTarget::exactly(missing);
+        return missing != Ticks::forever() && decoder.position != missing;
+    }
+    work.frame = m_cache.find(m_queue.next(), work.imageSize);
+    while (work.frame && isTooLate(work.frame->range.end, clock, now)) {
+        passOver(work.frame->range.end, clock);
+        work.frame = m_cache.find(m_queue.next(), work.imageSize);
+    }
+    work.target = SeekTarget::exactly(m_queue.next());
+    work.kind = work.frame ? DecodeWork::Kind::queue : DecodeWork::Kind::decodeAhead;
+    work.lateUntil = mayDropFrames(now) ? clock : Ticks::beginning();
+    return !m_queue.hasEnded();
+}
+
+bool PlaybackState::mayDropFrames(SteadyTime now) const {
+    return now - m_lastQueued <= kLongestFreeze;
+}
+
+/// Whether the frame after the one that ends then is to be shown already, so that showing this one
+/// would only make that one late too.
+bool PlaybackState::isTooLate(Ticks end, Ticks clock, SteadyTime now) const {
+    return end <= clock && mayDropFrames(now);
+}
+
+/// Leaves out a frame that is to follow while playing, since its time is over.
+void PlaybackState::passOver(Ticks end, Ticks clock) {
+    ++m_statistics.dropped;
+    m_queue.skipTo(end);
+    if (clock - end <= kFarBehind)
+        return;
+    m_queue.skipTo(clock);
+    // The search may itself take long: its frame is shown all the same.
+    m_lastQueued = {};
+}
+
+bool PlaybackState::chooseIdle(DecodeWork& work, const DecoderStatus& decoder, SteadyTime now) {
+    if (!decoder.canDecode)
+        return false;
+    if (decoder.hasWaitingFrames && !isRunningWanted()) {
+        work.kind = DecodeWork::Kind::keepWaitingFrame;
+        return true;
+    }
+    m_readAhead.update(m_interest, {.focus = m_shown.time.ticks(),
+                                    .direction = m_direction,
+                                    .last = m_duration.ticks(),
+                                    .frameTicks = m_frameTicks,
+                                    .size = work.imageSize});
+    if (isReadAheadDue(decoder, now)) {
+        if (const std::optional<Ticks> ticks = m_readAhead.next()) {
+            work.kind = DecodeWork::Kind::readAhead;
+            work.target = SeekTarget::exactly(*ticks);
+            return true;
+        }
+    }
+    work.kind = DecodeWork::Kind::releaseDecoder;
+    return decoder.isOverBudget && m_readAhead.isDone() && !isRunningWanted();
+}
+
+bool PlaybackState::isReadAheadDue(const DecoderStatus& decoder, SteadyTime now) const {
+    if (m_readAhead.isDone() || isRunningWanted() || !m_shown.image || decoder.mustRest)
+        return false;
+    return m_direction != 0 || now - m_lastJump >= kRest;
+}
+
+SteadyTime PlaybackState::nextDecodeLook(const DecoderStatus& decoder, SteadyTime now) const {
+    if (m_readAhead.isDone())
+        return now + kIdle;
+    const SteadyTime rested = m_lastJump + kRest;
+    if (now < rested)
+        return rested;
+    return decoder.mustRest ? now + kRestPause : now + kIdle;
+}
+
+void PlaybackState::frameArrived(const DecodeWork& work, Ticks end) {
+    switch (work.kind) {
+    case DecodeWork::Kind::redraw:
+        // A picture that comes out in another size than it should is not drawn again and again.
+        if (isCurrent(work) && !m_cache.find(work.target.earliest, work.imageSize))
+            m_notRedrawn = work.target.earliest;
+        break;
+    case DecodeWork::Kind::readAhead:
+        if (m_item == work.item)
+            m_readAhead.arrive(end);
+        return;
+    case DecodeWork::Kind::catchUp:
+        return;
+    default:
+        break;
+    }
+    m_aftermath.wakes.presenting = true;
+}
+
+void PlaybackState::nearFrameArrived(const DecodeWork& work, Ticks ticks) {
+    if (!isCurrent(work) || !m_seek)
+        return;
+    m_seek->settleOn(ticks);
+    m_aftermath.wakes.presenting = true;
+}
+
+void PlaybackState::nextFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now) {
+    if (!isCurrent(work) || !frame.range.holds(work.target.earliest) || m_immediate ||
+        !m_steps.isEmpty())
+        return;
+    frame.isFromCache = work.kind == DecodeWork::Kind::queue;
+    m_lastQueued = now;
+    m_queuedGeneration = m_generation;
+    m_queue.push(std::move(frame));
+    m_cache.setFocus(time(now).ticks());
+    m_aftermath.wakes.presenting = true;
+}
+
+void PlaybackState::nextFrameIsLate(const DecodeWork& work, Ticks end) {
+    if (isCurrent(work) && !m_immediate)
+        passOver(end, work.lateUntil);
+}
+
+void PlaybackState::frameFailed(const DecodeWork& work, SteadyTime now) {
+    switch (work.kind) {
+    case DecodeWork::Kind::seek:
+    case DecodeWork::Kind::seekNear:
+        if (isCurrent(work) && m_seek)
+            endJumpWithoutPicture(now);
+        break;
+    case DecodeWork::Kind::step:
+        if (isCurrent(work))
+            m_steps.giveUpRest();
+        m_aftermath.wakes.presenting = true;
+        break;
+    case DecodeWork::Kind::redraw:
+        if (m_item == work.item)
+            m_notRedrawn = work.target.earliest;
+        break;
+    case DecodeWork::Kind::queue:
+    case DecodeWork::Kind::decodeAhead:
+    case DecodeWork::Kind::catchUp:
+        if (isCurrent(work))
+            m_queue.end();
+        break;
+    case DecodeWork::Kind::readAhead:
+        if (m_item == work.item)
+            m_readAhead.giveUp();
+        break;
+    case DecodeWork::Kind::wait:
+    case DecodeWork::Kind::open:
+    case DecodeWork::Kind::keepWaitingFrame:
+    case DecodeWork::Kind::releaseDecoder:
+        break;
+    }
+}
+
+/// A seek has gone to where there is no picture: the one on show stays.
+void PlaybackState::endJumpWithoutPicture(SteadyTime now) {
+    m_seek.reset();
+    m_queue.end();
+    m_lastJump = now;
+    pictureIsReady(now);
+    m_immediate = ImmediateFrame{m_shown, true};
+    m_aftermath.wakes.presenting = true;
+}
+
+bool PlaybackState::wantsSubstitute(SteadyTime now) const {
+    return m_seek && m_seek->isSubstituteDue(now);
+}
+
+void PlaybackState::substituteArrived(const DecodeWork& work,
+                                      std::shared_ptr<const CachedFrame> frame, SteadyTime now) {
+    if (!m_seek || m_item != work.item)
+        return;
+    m_seek->setPassedFrame(std::move(frame), now);
+    m_aftermath.wakes.presenting = true;
+}
+
+} // namespace media::playback

@@ -1,0 +1,42 @@
+#include "Media/Playback/PresentingThread.h"
+
+#include <utility>
+
+namespace media::playback {
+
+namespace {
+
+SteadyTime now() {
+    return std::chrono::steady_clock::now();
+}
+
+} // namespace
+
+PresentingThread::PresentingThread(SharedPlayback& shared, Report report)
+    : m_shared(shared), m_report(std::move(report)) {}
+
+void PresentingThread::run(const std::stop_token& stop) {
+    Presentation next = m_shared.lock()->nextPresentation(now());
+    while (!stop.stop_requested())
+        next = std::visit([&](const auto& what) { return perform(what, stop); }, next);
+}
+
+Presentation PresentingThread::perform(const SteadyTime& until, const std::stop_token& stop) {
+    m_shared.wait(SharedPlayback::Waiter::presenting, stop, until);
+    return m_shared.lock()->nextPresentation(now());
+}
+
+Presentation PresentingThread::perform(const FrameToShow& frame, const std::stop_token& /*stop*/) {
+    RenderedFrame rendered = render(frame.frame);
+    return m_shared.lock()->frameRendered(frame, std::move(rendered), now());
+}
+
+Presentation PresentingThread::perform(const Delivery& delivery, const std::stop_token& /*stop*/) {
+    if (delivery.sink && delivery.picture)
+        delivery.sink->present(*delivery.picture);
+    for (const PlaybackEvent& event : delivery.events)
+        m_report(event);
+    return m_shared.lock()->delivered(now());
+}
+
+} // namespace media::playback

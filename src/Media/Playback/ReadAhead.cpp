@@ -1,0 +1,122 @@
+#include "Media/Playback/ReadAhead.h"
+
+#include <algorithm>
+
+namespace media::playback {
+
+namespace {
+
+constexpr double kLongestReach = 2.0 * Ticks::kPerSecond;
+/// Around the playhead one reach ahead and two behind are kept, around each of two points of
+/// interest three quarters of one: no more than the cache can hold with room to spare.
+constexpr double kReachesInCache = 6;
+/// A range so far away from where the playhead has gone is given up.
+constexpr Ticks kFarAway{4 * Ticks::kPerSecond};
+/// Frames that are decoded for one state of things, however many the cache can hold.
+constexpr double kMostFrames = 1000;
+
+/// The parts of the cache around one state of things, and what is missing in them.
+struct Neighbourhood {
+    const FrameCache& cache;
+    const Surroundings& surroundings;
+    Ticks reach;
+
+    [[nodiscard]] std::optional<TickRange> between(Ticks first, Ticks last) const {
+        first = std::max(first, Ticks(0));
+        last = std::min(last, surroundings.last);
+        const Ticks missing = cache.coveredUntil(first, surroundings.size);
+        return missing < last ? std::optional(TickRange{missing, last + Ticks(1)}) : std::nullopt;
+    }
+
+    [[nodiscard]] std::optional<TickRange> ahead() const {
+        return between(surroundings.focus, surroundings.focus + reach);
+    }
+
+    /// Getting there costs the way from a key frame: so it is done rarely, and then for more.
+    [[nodiscard]] std::optional<TickRange> behind() const {
+        const Ticks known = cache.coveredFrom(surroundings.focus, surroundings.size);
+        if (known <= std::max(surroundings.focus - reach, Ticks(0)))
+            return std::nullopt;
+        return TickRange{std::max(surroundings.focus - reach - reach, Ticks(0)), known};
+    }
+
+    [[nodiscard]] std::optional<TickRange> around(Ticks point) const {
+        return between(point - Ticks(reach.count() / 4), point + Ticks(reach.count() / 2));
+    }
+};
+
+} // namespace
+
+double framesInCache(const FrameCache& cache, ImageSize size) {
+    // Most sources have chroma for every fourth pixel.
+    const double bytes = 1.5 * size.width * size.height;
+    return static_cast<double>(cache.capacityBytes()) / std::max(bytes, 1.0);
+}
+
+std::optional<TickRange> framesToReadAhead(const FrameCache& cache,
+                                           const Surroundings& surroundings) {
+    const double most =
+        surroundings.frameTicks * framesInCache(cache, surroundings.size) / kReachesInCache;
+    const auto reach = static_cast<std::int64_t>(std::min(most, kLongestReach));
+    if (static_cast<double>(reach) < 4 * surroundings.frameTicks)
+        return std::nullopt;
+    const Neighbourhood neighbourhood{cache, surroundings, Ticks(reach)};
+    const bool isBackward = surroundings.direction < 0;
+    if (const auto first = isBackward ? neighbourhood.behind() : neighbourhood.ahead())
+        return first;
+    if (const auto second = isBackward ? neighbourhood.ahead() : neighbourhood.behind())
+        return second;
+    for (const Ticks point : cache.pointsOfInterest()) {
+        if (const auto range = neighbourhood.around(point))
+            return range;
+    }
+    return std::nullopt;
+}
+
+void ReadAhead::restart() {
+    m_range.reset();
+    m_framesLeft = 0;
+    m_surroundings = {};
+}
+
+void ReadAhead::update(std::uint64_t version, const Surroundings& surroundings) {
+    const bool isNew = version != m_version || surroundings.focus != m_surroundings.focus ||
+                       surroundings.size != m_surroundings.size;
+    m_version = version;
+    m_surroundings = surroundings;
+    if (!isNew)
+        return;
+    const Ticks focus = surroundings.focus;
+    if (m_range && (focus < m_range->begin - kFarAway || focus > m_range->end + kFarAway))
+        m_range.reset();
+    m_framesLeft =
+        static_cast<int>(std::min(framesInCache(m_cache, surroundings.size), kMostFrames));
+}
+
+std::optional<Ticks> ReadAhead::next() {
+    if (isDone())
+        return std::nullopt;
+    if (!m_range)
+        m_range = framesToReadAhead(m_cache, m_surroundings);
+    if (!m_range) {
+        m_framesLeft = 0;
+        return std::nullopt;
+    }
+    return m_range->begin;
+}
+
+void ReadAhead::arrive(Ticks end) {
+    --m_framesLeft;
+    if (!m_range)
+        return;
+    m_range->begin = m_cache.coveredUntil(end, m_surroundings.size);
+    if (m_range->isEmpty())
+        m_range.reset();
+}
+
+void ReadAhead::giveUp() {
+    m_framesLeft = 0;
+    m_range.reset();
+}
+
+} // namespace media::playback

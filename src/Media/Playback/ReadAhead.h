@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Media/Image.h"
+#include "Media/Playback/FrameCache.h"
+#include "Media/Ticks.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace media::playback {
+
+/// Where a player stands and which way it was last moved.
+struct Surroundings {
+    /// The tick of the frame on show.
+    Ticks focus;
+    /// Less than 0 backward, more forward, 0 neither.
+    int direction = 0;
+    /// The item's last tick.
+    Ticks last;
+    /// Length of one frame in ticks.
+    double frameTicks = 20;
+    ImageSize size;
+};
+
+/// How many frames of this size the cache can hold.
+double framesInCache(const FrameCache& cache, ImageSize size);
+
+/// The frames that the cache lacks most: around the playhead, first in the direction of its
+/// movement, then around the points of interest. None when all is there, or as much as there is
+/// room for.
+std::optional<TickRange> framesToReadAhead(const FrameCache& cache,
+                                           const Surroundings& surroundings);
+
+/// Chooses the frames that are worth decoding before anybody asks for them, one after the other,
+/// and comes to an end in any case: what was read ahead for one state of things is bounded. A
+/// plain value: the caller locks.
+class ReadAhead {
+public:
+    explicit ReadAhead(const FrameCache& cache) : m_cache(cache) {}
+
+    /// Forgets all for a new item.
+    void restart();
+
+    /// The state of things: a change of it, or of `version`, is worth looking around anew.
+    void update(std::uint64_t version, const Surroundings& surroundings);
+
+    /// The tick of the frame to decode next; none when there is nothing left to do.
+    std::optional<Ticks> next();
+
+    /// Nothing is left to do for the state of things, as far as is known.
+    [[nodiscard]] bool isDone() const { return m_framesLeft <= 0; }
+
+    /// The frame at next() is in the cache; the one after it begins at `end`.
+    void arrive(Ticks end);
+    /// Nothing there decodes.
+    void giveUp();
+
+private:
+    const FrameCache& m_cache;
+    std::uint64_t m_version = 0;
+    Surroundings m_surroundings;
+    /// What is being filled.
+    std::optional<TickRange> m_range;
+    int m_framesLeft = 0;
+};
+
+} // namespace media::playback

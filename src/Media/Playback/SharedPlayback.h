@@ -1,0 +1,78 @@
+#pragma once
+
+#include "Media/Playback/FrameCache.h"
+#include "Media/Playback/PlaybackState.h"
+
+#include <array>
+#include <condition_variable>
+#include <cstddef>
+#include <mutex>
+#include <stop_token>
+
+namespace media::playback {
+
+/// The state of one player, reached by its owner and its threads, one at a time; and how they wait
+/// for one another. Any thread.
+class SharedPlayback {
+public:
+    /// The threads that wait for the state to change.
+    enum class Waiter { decoding, presenting, sound };
+
+    /// Holds the lock for as long as it lives. Belongs to one thread. When it goes, it wakes whom
+    /// the transitions made on it concern, and then, without the lock, does what else they leave.
+    class Access {
+    public:
+        Access(SharedPlayback& shared, std::unique_lock<std::mutex> lock);
+        Access(const Access&) = delete;
+        Access& operator=(const Access&) = delete;
+        ~Access();
+
+        PlaybackState* operator->() const { return &m_shared.m_state; }
+
+        PlaybackState& operator*() const { return m_shared.m_state; }
+
+    private:
+        SharedPlayback& m_shared;
+        std::unique_lock<std::mutex> m_lock;
+    };
+
+    SharedPlayback() = default;
+    SharedPlayback(const SharedPlayback&) = delete;
+    SharedPlayback& operator=(const SharedPlayback&) = delete;
+    ~SharedPlayback() = default;
+
+    [[nodiscard]] Access lock() { return {*this, std::unique_lock(m_mutex)}; }
+
+    /// Waits until no delivery is under way.
+    [[nodiscard]] Access lockBetweenDeliveries();
+
+    /// Returns when `waiter` was woken since its last wait, when `stop` is requested or at
+    /// `deadline`.
+    void wait(Waiter waiter, const std::stop_token& stop, SteadyTime deadline);
+
+    void wake(Waiter waiter);
+
+    /// May be asked with the lock held, not the other way round.
+    [[nodiscard]] FrameCache& cache() { return m_cache; }
+
+private:
+    struct Bell {
+        std::condition_variable_any condition;
+        /// Remembered until the thread waits next, so that no wake is lost.
+        bool isRung = false;
+
+        void ring();
+    };
+
+    [[nodiscard]] Bell& bell(Waiter waiter) { return m_bells[static_cast<std::size_t>(waiter)]; }
+
+    void wakeWhom(const Wakes& wakes);
+
+    FrameCache m_cache;
+    std::mutex m_mutex;
+    PlaybackState m_state{m_cache};
+    std::array<Bell, 3> m_bells;
+    std::condition_variable m_sinkIsFree;
+};
+
+} // namespace media::playback

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Media/Playback/PlaybackClock.h"
+#include "Media/Player.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace media::playback {
+
+/// The periodic time observers of a player: which of them have come to a boundary of their
+/// interval since they were called last. A plain value: the caller gives the times, and locks.
+class TimeObservers {
+public:
+    /// An observer of this interval (no shorter than a millisecond), which is told of boundaries
+    /// after `time`.
+    void add(Player::Token token, Time interval, Time time);
+    void remove(Player::Token token);
+
+    /// The clock has come to `time` by playing: whether that makes news for one that has none yet.
+    bool advanceTo(Time time);
+    /// The clock was moved to `time`, which all will be told of: boundaries after it are news.
+    void jumpTo(Time time);
+    /// What they have not been told of is void.
+    void forgetNews();
+
+    /// The observers that have news; they have none from now on.
+    std::vector<Player::Token> takeNews();
+
+    /// When a running clock comes to the next boundary of any; none without observers.
+    [[nodiscard]] std::optional<SteadyTime> nextBoundary(const PlaybackClock& clock,
+                                                         SteadyTime now) const;
+
+private:
+    struct Observer {
+        Player::Token token = 0;
+        nanoseconds interval{0};
+        /// The number of the interval that the clock was last seen in.
+        std::int64_t lastInterval = 0;
+        bool hasNews = false;
+    };
+
+    std::vector<Observer> m_observers;
+};
+
+} // namespace media::playback

@@ -1,0 +1,70 @@
+#include "Media/Playback/ReadAhead.h"
+
+#include "CachedFrames.h"
+
+#include <gtest/gtest.h>
+
+using media::TickRange;
+using media::Ticks;
+using media::playback::FrameCache;
+using media::playback::framesToReadAhead;
+using media::playback::ReadAhead;
+using media::playback::Surroundings;
+
+namespace {
+
+constexpr int kSource = 0;
+
+void fill(FrameCache& cache, Ticks first, Ticks end) {
+    fillCache(cache, &kSource, first, end);
+}
+
+TEST(ReadAhead, readsAheadInTheDirectionOfTheMovementFirst) {
+    FrameCache cache;
+    cache.begin(&kSource);
+    fill(cache, 3000_ticks, 3100_ticks);
+    Surroundings surroundings{
+        .focus = 3040_ticks, .direction = 1, .last = 9000_ticks, .size = kFrameSize};
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{3100_ticks, 4241_ticks}));
+    surroundings.direction = -1;
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{640_ticks, 3000_ticks}));
+    fill(cache, 640_ticks, 3000_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{3100_ticks, 4241_ticks}));
+}
+
+TEST(ReadAhead, looksAfterThePointsOfInterestLastAndEndsWhenAllIsThere) {
+    FrameCache cache;
+    cache.begin(&kSource);
+    cache.setPointsOfInterest({0_ticks, 9000_ticks});
+    fill(cache, 2400_ticks, 6000_ticks);
+    const Surroundings surroundings{.focus = 5000_ticks, .last = 9000_ticks, .size = kFrameSize};
+    fill(cache, 6000_ticks, 6400_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{0_ticks, 601_ticks}));
+    fill(cache, 0_ticks, 620_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{8700_ticks, 9001_ticks}));
+    fill(cache, 8700_ticks, 9020_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), std::nullopt);
+}
+
+TEST(ReadAhead, asksForNoMoreThanTheCacheHolds) {
+    FrameCache cache(30 * kFrameBytes);
+    cache.begin(&kSource);
+    const Surroundings surroundings{.focus = 5000_ticks, .last = 9000_ticks, .size = kFrameSize};
+    cache.setFocus(5000_ticks);
+    for (int rounds = 0; rounds < 30; ++rounds) {
+        const auto range = framesToReadAhead(cache, surroundings);
+        if (!range)
+            return;
+        fill(cache, Ticks(range->begin.count() / 20 * 20), range->end);
+    }
+    FAIL() << "it never has enough";
+}
+
+TEST(ReadAhead, leavesACacheAloneThatHoldsAFewFramesOnly) {
+    FrameCache cache(5 * kFrameBytes);
+    cache.begin(&kSource);
+    EXPECT_EQ(framesToReadAhead(cache, {.focus = 50_ticks, .last = 9000_ticks, .size = kFrameSize}),
+              std::nullopt);
+}
+
+} // namespace
