@@ -110,7 +110,7 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     app.launch(filesOf(commandLine), &session,
                isStartedByBus ? BriskletApp::EmptyStart::wait : BriskletApp::EmptyStart::window);
     QTimer::singleShot(kIconDelay, &application, showIcon);
-    return brisklet::leaveWith(QApplication::exec());
+    return brisklet::exitStatusAfterWorkers(QApplication::exec());
 }
 
 } // namespace

@@ -87,7 +87,7 @@ QCoro::Task<EditState::LoadedVideo> EditState::open(const QUrl& url, const std::
         const auto tracks = loaded.asset->tracks(media::MediaType::video);
         if (!tracks.empty())
             loaded.displaySize = media::orientedSize(tracks.front());
-        loaded.longestName = longestNameIn(path.parent_path());
+        loaded.longestName = maxNameBytesIn(path.parent_path());
         return loaded;
     });
 }
@@ -99,7 +99,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
     LoadedVideo video;
     QString failure;
     try {
-        auto finding = findFile(m_remoteFiles, url);
+        auto finding = findLocalFile(m_remoteFiles, url);
         url = co_await finding;
         auto opening = open(url, stop);
         video = co_await opening;

@@ -26,8 +26,8 @@ SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestNam
     const QString mp4 = QStringLiteral("mp4");
     const QString mov = QStringLiteral("mov");
     const QString& extension = isQuickTime ? mov : mp4;
-    return {.fileName = fittedName(displayBaseName(source), QStringLiteral(" Trimmed.") + extension,
-                                   longestName),
+    return {.fileName = truncatedName(displayBaseName(source),
+                                      QStringLiteral(" Trimmed.") + extension, longestName),
             .folder = urlOf(pathOf(source).parent_path()),
             .typeName =
                 isQuickTime ? QStringLiteral("QuickTime movie") : QStringLiteral("MPEG-4 movie"),

@@ -50,7 +50,7 @@ QCoro::Task<SavePlace> findSavePlace(std::shared_ptr<RemoteFiles> remoteFiles, Q
                                      SaveProposal proposal) {
     SavePlace place{.file = answer, .isToBeConfirmed = false, .objection = {}};
     try {
-        auto finding = findPlace(remoteFiles, answer);
+        auto finding = findLocalDestination(remoteFiles, answer);
         const QUrl found = co_await finding;
         const fs::path named = pathOf(found);
         const fs::path file = withExtension(named, proposal);

@@ -6,12 +6,13 @@
 
 namespace brisklet {
 
-/// How many bytes a name in this folder may have, 255 at the most. Asks the file system, which may
-/// block; any thread.
-int longestNameIn(const std::filesystem::path& folder);
+/// The longest file name, in bytes, that the folder's file system allows; at most 255. Asks the
+/// file system, which may block. Any thread.
+int maxNameBytesIn(const std::filesystem::path& folder);
 
-/// `base` and `ending` as one name of `mostBytes` bytes (UTF-8) at the most: where it would be
-/// longer the base is shortened, between what a reader takes for letters.
-QString fittedName(const QString& base, const QString& ending, int mostBytes);
+/// `base` followed by `suffix`, with the base shortened where the name would be longer than
+/// `maxBytes` bytes of UTF-8. Cuts only between what a reader takes for letters (grapheme
+/// clusters).
+QString truncatedName(const QString& base, const QString& suffix, int maxBytes);
 
 } // namespace brisklet

@@ -52,7 +52,7 @@ QUrl urlOf(const std::filesystem::path& path) {
     return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/"), QUrl::StrictMode);
 }
 
-bool beginsLikeUrl(std::string_view text) {
+bool looksLikeUrl(std::string_view text) {
     const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
     const auto isOfScheme = [&](char c) {
         return isLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
@@ -65,7 +65,7 @@ bool beginsLikeUrl(std::string_view text) {
 QUrl urlOfArgument(std::string_view argument) {
     const std::filesystem::path path(argument);
     std::error_code ignored;
-    if (beginsLikeUrl(argument) && !std::filesystem::exists(path.parent_path(), ignored)) {
+    if (looksLikeUrl(argument) && !std::filesystem::exists(path.parent_path(), ignored)) {
         const auto size = static_cast<qsizetype>(argument.size());
         QUrl url = QUrl::fromEncoded(QByteArray(argument.data(), size));
         if (url.isValid())
@@ -80,11 +80,11 @@ bool isOnThisComputer(const QUrl& url) {
 
 std::filesystem::path pathOf(const QUrl& url) {
     if (!isOnThisComputer(url))
-        throw std::runtime_error(notOnThisComputer(url).toStdString());
+        throw std::runtime_error(notOnThisComputerMessage(url).toStdString());
     return pathWithin(url);
 }
 
-QString notOnThisComputer(const QUrl& url) {
+QString notOnThisComputerMessage(const QUrl& url) {
     // Without a password that may stand in it.
     return u'\u201C' + url.toDisplayString() +
            QStringLiteral("\u201D is not on this computer, and no folder here leads to it.");

@@ -9,7 +9,7 @@
 
 namespace brisklet {
 
-QCoro::Task<QUrl> findFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
+QCoro::Task<QUrl> findLocalFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
     if (isOnThisComputer(url))
         co_return url;
     std::optional<QUrl> found;
@@ -18,11 +18,11 @@ QCoro::Task<QUrl> findFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
         found = co_await finding;
     }
     if (!found)
-        throw std::runtime_error(notOnThisComputer(url).toStdString());
+        throw std::runtime_error(notOnThisComputerMessage(url).toStdString());
     co_return std::move(*found);
 }
 
-QCoro::Task<QUrl> findPlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
+QCoro::Task<QUrl> findLocalDestination(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
     if (isOnThisComputer(url))
         co_return url;
     std::optional<QUrl> folder;
@@ -31,7 +31,7 @@ QCoro::Task<QUrl> findPlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) 
         folder = co_await finding;
     }
     if (!folder)
-        throw std::runtime_error(notOnThisComputer(url).toStdString());
+        throw std::runtime_error(notOnThisComputerMessage(url).toStdString());
     const QByteArray name = url.fileName(QUrl::FullyEncoded).toLatin1();
     co_return urlOf(pathOf(*folder) / QByteArray::fromPercentEncoding(name).toStdString());
 }

@@ -8,8 +8,8 @@
 
 namespace brisklet {
 
-/// Finds files of other computers and devices in the folders of this one, as far as the desktop has
-/// mounted them there. Main thread.
+/// Finds the local path of files on other computers and devices that the desktop has mounted here.
+/// Main thread.
 class RemoteFiles {
 public:
     RemoteFiles() = default;
@@ -17,17 +17,17 @@ public:
     RemoteFiles& operator=(const RemoteFiles&) = delete;
     virtual ~RemoteFiles() = default;
 
-    /// The file URL under which this computer has the file or folder of that address; none where
-    /// the desktop knows no way to it. Looks at no file, and answers after a limited time.
+    /// The file URL of the mounted file or folder of that address; none if the desktop has no mount
+    /// for it. Touches no disk, and answers after a limited time.
     virtual QCoro::Task<std::optional<QUrl>> find(QUrl address) = 0;
 };
 
-/// The file URL of an existing file: the URL itself where the file is on this computer, else where
-/// `remoteFiles` (which may be null) finds it. Throws std::runtime_error with a sentence that names
-/// the address where there is no way to it. Main thread.
-QCoro::Task<QUrl> findFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url);
+/// The file URL under which an existing file can be opened here: `url` itself if the file is on
+/// this computer, otherwise what `remoteFiles` (may be null) finds. Throws std::runtime_error with
+/// a sentence that names the address if there is no way to it. Main thread.
+QCoro::Task<QUrl> findLocalFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url);
 
-/// The same for a file that need not exist: its folder is looked for.
-QCoro::Task<QUrl> findPlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url);
+/// The same for a file that is to be written and need not exist: finds its folder.
+QCoro::Task<QUrl> findLocalDestination(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url);
 
 } // namespace brisklet

@@ -2,7 +2,7 @@
 
 #include "Media/ImageGenerator.h"
 #include "Support/ImageConversion.h"
-#include "Support/Turns.h"
+#include "Support/NewestFirstLock.h"
 #include "Support/Workers.h"
 
 #include <algorithm>
@@ -19,15 +19,16 @@ constexpr int kMaximumHeight = 120;
 /// slice.
 constexpr double kToleranceSeconds = 0.5;
 
-/// Strips made at once would all be done at the end only. One image of a large video, a long way
-/// behind its key frame, takes some seconds where others want the processor too; a disk that does
-/// not answer holds up no other video's strip for longer than this.
-constexpr std::chrono::seconds kPatience(10);
+/// How long one image may take before the strips of other videos no longer wait for it. An image of
+/// a large video, far behind its key frame, takes some seconds while others want the processor too;
+/// a disk that does not answer must not hold up the strips of files elsewhere.
+constexpr std::chrono::seconds kLeaseDuration(10);
 
-/// Never destroyed: workers may be under way when the process ends in a hurry.
-Turns& turns() {
-    static Turns* const strips = new Turns(kPatience);
-    return *strips;
+/// Strips made in parallel would all be ready only at the end. Never destroyed: workers may still
+/// run when the process exits.
+NewestFirstLock& stripLock() {
+    static NewestFirstLock* const lock = new NewestFirstLock(kLeaseDuration);
+    return *lock;
 }
 
 media::Time middleOfSlice(int index, double duration, int count) {
@@ -48,8 +49,8 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
     if (duration <= 0 || count < 1)
         return images;
     try {
-        std::optional<Turns::Turn> turn = turns().take(stop);
-        if (!turn)
+        std::optional<NewestFirstLock::Lease> lease = stripLock().acquire(stop);
+        if (!lease)
             return images;
         const auto generator = media::ImageGenerator::make(asset);
         generator->setMaximumSize(0, kMaximumHeight);
@@ -63,7 +64,7 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
             } catch (const std::exception&) {
                 // The strip goes on without this image: a damaged spot must not hide the rest.
             }
-            turn->renew();
+            lease->renew();
         }
     } catch (const std::exception&) {
         // No generator, no images: the timeline does without.

@@ -34,7 +34,7 @@ bool waitForWorkers(std::optional<std::chrono::milliseconds> limit) {
     return pool().waitForDone(limit ? static_cast<int>(limit->count()) : -1);
 }
 
-int leaveWith(int status) {
+int exitStatusAfterWorkers(int status) {
     if (!waitForWorkers(kLongestWindingDown)) {
         std::fflush(nullptr);
         // Nothing that such a worker may still use can be destroyed.

@@ -24,11 +24,11 @@ void startWorker(std::function<void()> work);
 /// it once its last window is gone, so that no worker outlives the application object.
 bool waitForWorkers(std::optional<std::chrono::milliseconds> limit = std::nullopt);
 
-/// Ends the process with that exit status: after a few seconds for workers that wind down, which
-/// have been told to stop, and past those that still do not end by then, as those that wait for a
-/// disk that does not answer. Exports must have ended or been cancelled; a cancelled one has
-/// removed its file and at most frees encoders. Returns the status where all have ended.
-int leaveWith(int status);
+/// Waits a few seconds for workers that have been told to stop, and returns `status` for main() to
+/// return. If some still run by then, such as one that waits for a disk that does not answer, ends
+/// the process here with that status. Exports must have ended or been cancelled; a cancelled one
+/// has removed its file and at most frees its encoders.
+int exitStatusAfterWorkers(int status);
 
 namespace detail {
 

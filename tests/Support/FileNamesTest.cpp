@@ -6,34 +6,35 @@
 
 namespace {
 
-using brisklet::fittedName;
+using brisklet::truncatedName;
 
 QString text(const char* utf8) {
     return QString::fromUtf8(utf8);
 }
 
 TEST(FileNames, leavesANameAloneThatFits) {
-    EXPECT_EQ(fittedName(text("holiday"), text(".mp4"), 11), text("holiday.mp4"));
-    EXPECT_EQ(fittedName(text("holiday"), text(".mp4"), 10), text("holida.mp4"));
-    EXPECT_EQ(fittedName(text("holiday"), text(".mp4"), 4), text(".mp4"));
+    EXPECT_EQ(truncatedName(text("holiday"), text(".mp4"), 11), text("holiday.mp4"));
+    EXPECT_EQ(truncatedName(text("holiday"), text(".mp4"), 10), text("holida.mp4"));
+    EXPECT_EQ(truncatedName(text("holiday"), text(".mp4"), 4), text(".mp4"));
 }
 
 TEST(FileNames, countsBytesAndCutsBetweenLetters) {
     // Two bytes, three bytes, four bytes: none is cut through.
-    EXPECT_EQ(fittedName(text("aüü"), text(".mp4"), 8), text("aü.mp4"));
-    EXPECT_EQ(fittedName(text("a日日"), text(".mp4"), 10), text("a日.mp4"));
-    EXPECT_EQ(fittedName(text("a\U0001F600\U0001F600"), text(".mp4"), 12), text("a\U0001F600.mp4"));
+    EXPECT_EQ(truncatedName(text("aüü"), text(".mp4"), 8), text("aü.mp4"));
+    EXPECT_EQ(truncatedName(text("a日日"), text(".mp4"), 10), text("a日.mp4"));
+    EXPECT_EQ(truncatedName(text("a\U0001F600\U0001F600"), text(".mp4"), 12),
+              text("a\U0001F600.mp4"));
     // A letter and its accent, the two halves of a flag, a family.
-    EXPECT_EQ(fittedName(text("ae\u0301"), text(".mp4"), 7), text("a.mp4"));
-    EXPECT_EQ(fittedName(text("a\U0001F1E9\U0001F1EA"), text(".mp4"), 10), text("a.mp4"));
-    EXPECT_EQ(fittedName(text("a\U0001F468\u200D\U0001F469"), text(".mp4"), 15), text("a.mp4"));
+    EXPECT_EQ(truncatedName(text("ae\u0301"), text(".mp4"), 7), text("a.mp4"));
+    EXPECT_EQ(truncatedName(text("a\U0001F1E9\U0001F1EA"), text(".mp4"), 10), text("a.mp4"));
+    EXPECT_EQ(truncatedName(text("a\U0001F468\u200D\U0001F469"), text(".mp4"), 15), text("a.mp4"));
 }
 
 TEST(FileNames, knowsTheLongestOfAFolder) {
     const testsupport::TemporaryFolder folder;
-    EXPECT_GT(brisklet::longestNameIn(folder.path()), 100);
-    EXPECT_LE(brisklet::longestNameIn(folder.path()), 255);
-    EXPECT_EQ(brisklet::longestNameIn(folder / "nowhere"), 255);
+    EXPECT_GT(brisklet::maxNameBytesIn(folder.path()), 100);
+    EXPECT_LE(brisklet::maxNameBytesIn(folder.path()), 255);
+    EXPECT_EQ(brisklet::maxNameBytesIn(folder / "nowhere"), 255);
 }
 
 } // namespace

@@ -79,7 +79,7 @@ TEST(WorkersDeathTest, thatNeverEndDoNotKeepTheProcess) {
     EXPECT_EXIT(
         {
             brisklet::startWorker([] { std::latch(1).wait(); });
-            std::exit(brisklet::leaveWith(7) + 1);
+            std::exit(brisklet::exitStatusAfterWorkers(7) + 1);
         },
         testing::ExitedWithCode(7), "");
 }

@@ -196,7 +196,7 @@ int run(int argc, char** argv, Clock::time_point start) {
         std::fprintf(stderr, "brisklet-bench: %s\n", error.what());
         status = kFailed;
     }
-    return brisklet::leaveWith(status);
+    return brisklet::exitStatusAfterWorkers(status);
 }
 
 } // namespace

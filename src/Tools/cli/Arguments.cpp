@@ -35,7 +35,7 @@ void expectOperands(const ArgumentList& list, std::size_t count, const char* nam
 /// A path stays as it is; an address becomes the path that it names. Throws where that is not on
 /// this computer.
 std::filesystem::path fileOf(const std::string& operand) {
-    return beginsLikeUrl(operand) ? pathOf(urlOfArgument(operand)) : std::filesystem::path(operand);
+    return looksLikeUrl(operand) ? pathOf(urlOfArgument(operand)) : std::filesystem::path(operand);
 }
 
 ProbeCommand parseProbe(std::span<char* const> arguments) {

@@ -45,7 +45,7 @@ int perform(const Work& command) {
         return kDone;
     } catch (const media::Cancelled&) {
         // Encoders may still be winding down, and must not outlive main().
-        return brisklet::leaveWith(kInterrupted);
+        return brisklet::exitStatusAfterWorkers(kInterrupted);
     } catch (const std::exception& error) {
         // Whoever interrupts is not interested in what else went wrong because of it.
         if (interruption.token().stop_requested())
