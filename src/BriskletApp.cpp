@@ -63,10 +63,6 @@ BriskletApp::BriskletApp(const QString& applicationId, UpdaterConfiguration upda
     connect(&m_termination, &TerminationSignals::requested, this, &BriskletApp::terminate);
     m_busCall.setSingleShot(true);
     connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
-    OpenBridge::requestWindow = [self = QPointer(this)] {
-        if (self)
-            self->openWindow();
-    };
 }
 
 BriskletApp::~BriskletApp() {
@@ -91,13 +87,13 @@ void BriskletApp::launch(const QList<QUrl>& files, DesktopApplication* session,
         joinSession();
     m_delegate.applicationDidFinishLaunching();
     if (files.isEmpty() && emptyStart == EmptyStart::wait) {
+        openWindowsOnRequest();
         m_busCall.start(kLongestWaitForBusCall);
         return;
     }
-    // Without a window yet, the first one takes the first file and asks for the next.
-    const auto requestWindow = std::exchange(OpenBridge::requestWindow, nullptr);
+    // No window can be requested yet, so the files wait for the first one, which takes the first
+    // file and requests the next window.
     AppDelegate::open(files);
-    OpenBridge::requestWindow = requestWindow;
     WindowRootView* window = openWindow();
     // Also when the program was started from a terminal, whose window has the keyboard.
     QMetaObject::invokeMethod(window, &QWidget::activateWindow, Qt::QueuedConnection);
@@ -113,8 +109,16 @@ void BriskletApp::joinSession() {
     m_exportMonitor = new ExportMonitor(m_session->bus(), this);
 }
 
+void BriskletApp::openWindowsOnRequest() {
+    OpenBridge::requestWindow = [self = QPointer(this)] {
+        if (self)
+            self->openWindow();
+    };
+}
+
 WindowRootView* BriskletApp::openWindow() {
     m_busCall.stop();
+    openWindowsOnRequest();
     auto* window = new WindowRootView(*m_updater, m_focusedValues);
     m_windows.removeAll(nullptr);
     m_windows.append(window);

@@ -76,6 +76,8 @@ private:
     void closeAll();
     void terminate();
     void joinSession();
+    /// From here on the open bridge opens windows; before, files wait for one.
+    void openWindowsOnRequest();
     void open(const QList<QUrl>& files, const QVariantMap& platformData);
     void activate(const QVariantMap& platformData);
     void activateAction(const QString& action, const QVariantMap& platformData);

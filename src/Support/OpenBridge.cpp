@@ -7,8 +7,8 @@ namespace brisklet {
 
 namespace {
 
-/// Calls a copy: the window that appears puts a function of its own in the place of this one.
-void askForWindow(std::function<void()> request) {
+/// Calls a copy: opening a window assigns OpenBridge::requestWindow.
+void callRequest(std::function<void()> request) {
     if (request)
         request();
 }
@@ -47,21 +47,20 @@ std::optional<QUrl> OpenBridge::takePending() {
     QUrl first = std::move(files.front());
     files.erase(files.begin());
     if (!files.empty())
-        askForWindow(requestWindow);
+        callRequest(requestWindow);
     return first;
 }
 
 void OpenBridge::open(const QUrl& url) {
     for (const auto& record : windows()) {
-        // A window that is still loading counts as taken: a second file sent to it would push the
-        // first one out.
+        // A window that is still loading is not empty: a second file would replace the first.
         if (const auto state = record.lock(); state && state->isEmpty()) {
             state->load(url);
             return;
         }
     }
     pending().push_back(url);
-    askForWindow(requestWindow);
+    callRequest(requestWindow);
 }
 
 } // namespace brisklet

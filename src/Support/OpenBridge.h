@@ -17,21 +17,21 @@ public:
     OpenTarget& operator=(const OpenTarget&) = delete;
     virtual ~OpenTarget() = default;
 
-    /// Whether the window shows no video and none is on its way into it.
+    /// Whether the window has no video and is not loading one.
     [[nodiscard]] virtual bool isEmpty() const = 0;
-    /// Starts loading and returns; isEmpty() is false from here until the load has failed.
+    /// Starts loading and returns; from then on isEmpty() is false, unless the load fails.
     virtual void load(const QUrl& url) = 0;
 };
 
-/// Routes files that come from outside (command line, other starts of the program, the desktop) to
-/// windows: into the oldest empty one, else into a new one. Each file ends in exactly one window,
-/// in the order of the calls. A namespace of static members; main thread.
+/// Routes files from outside (command line, later starts of the program, the desktop) to windows:
+/// into the oldest empty one, otherwise into a new one. Each file ends up in exactly one window, in
+/// the order of the calls. A namespace of static members; main thread.
 class OpenBridge final {
 public:
     OpenBridge() = delete;
 
-    /// Opens one editor window, which registers its model and takes a pending file. Set by each
-    /// window that appears and by the application; none means that files wait.
+    /// Opens one editor window, which registers its model and takes a pending file. Set when the
+    /// application opens a window, or can open one; while it is none, files wait.
     static std::function<void()> requestWindow;
 
     /// Records a window's model, once. The bridge keeps no model alive.
@@ -41,11 +41,11 @@ public:
     /// into it any more. Harmless for one that is not recorded.
     static void unregisterState(const OpenTarget& state);
 
-    /// The file that has waited longest, for a window that has just appeared; asks for another
-    /// window where more files wait.
+    /// Takes the file that has waited longest, for a window that has just appeared. Requests another
+    /// window if more files wait.
     static std::optional<QUrl> takePending();
 
-    /// Puts one file into a window, now or when there is one.
+    /// Loads one file into an empty window; without one, queues it and requests a window.
     static void open(const QUrl& url);
 
 private:
