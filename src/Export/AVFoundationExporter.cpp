@@ -37,15 +37,11 @@ media::TimeRange rangeOf(const ExportRequest& request, media::Time duration) {
     return range;
 }
 
-media::FileType fileTypeOf(ExportFormat format) {
-    return format == ExportFormat::mov ? media::FileType::quickTimeMovie : media::FileType::mpeg4;
-}
-
 std::unique_ptr<media::ExportSession> makeSession(media::Composition composition,
                                                   const ExportRequest& request) {
     try {
         return media::ExportSession::make(std::move(composition), pathOf(request.outputURL),
-                                          fileTypeOf(request.format));
+                                          traits(request.format).fileType, request.encoders);
     } catch (const media::Error&) {
         // Every failure to set up the export has this one message; the cause is kept for a log.
         std::throw_with_nested(AVFoundationExporter::ExportError(

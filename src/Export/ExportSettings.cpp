@@ -18,18 +18,6 @@ QString resolutionKey() {
 
 } // namespace
 
-QString rawValue(ExportFormat format) {
-    return format == ExportFormat::mov ? QStringLiteral("MOV") : QStringLiteral("MP4");
-}
-
-std::optional<ExportFormat> exportFormatOf(const QString& rawValue) {
-    for (const ExportFormat format : kAllExportFormats) {
-        if (rawValue == brisklet::rawValue(format))
-            return format;
-    }
-    return std::nullopt;
-}
-
 std::optional<ExportResolution> exportResolutionOf(int rawValue) {
     for (const ExportResolution resolution : kAllExportResolutions) {
         if (rawValue == brisklet::rawValue(resolution))

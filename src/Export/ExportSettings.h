@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Export/ExportFormat.h"
+
 #include <QObject>
 #include <QProperty>
 #include <QSettings>
@@ -10,17 +12,6 @@
 #include <optional>
 
 namespace brisklet {
-
-/// The container of an export.
-enum class ExportFormat { mp4, mov };
-
-/// In the order in which a picker offers them.
-inline constexpr std::array kAllExportFormats{ExportFormat::mp4, ExportFormat::mov};
-
-/// "MP4" or "MOV": what is stored, and the label in a picker.
-QString rawValue(ExportFormat format);
-/// Exact and case-sensitive; none for any other text.
-std::optional<ExportFormat> exportFormatOf(const QString& rawValue);
 
 /// The largest allowed short edge of an exported picture in pixels; 0 for no cap.
 enum class ExportResolution {
@@ -50,6 +41,12 @@ QString label(ExportResolution resolution);
 /// What the exporter is told: none for the original size.
 std::optional<int> maxShortEdge(ExportResolution resolution);
 
+/// The container and size that one export is made in.
+struct ExportChoice {
+    ExportFormat format = ExportFormat::mp4;
+    ExportResolution resolution = ExportResolution::original;
+};
+
 /// The application-wide choice of container and size for exports, kept in the user's preferences.
 /// Main thread.
 class ExportSettings final : public QObject {
@@ -59,13 +56,16 @@ public:
     /// The one instance that the program uses; created on first use.
     static ExportSettings& shared();
 
-    /// Reads the preferences. A stored value that is none of the known ones counts as the default
-    /// (MP4, original size) and stays stored until that setting is next set.
+    /// Reads the preferences. An unknown stored value counts as the default (MP4, original size),
+    /// and stays stored until that setting is next set.
     ExportSettings();
 
     [[nodiscard]] ExportFormat format() const { return m_format; }
 
     [[nodiscard]] ExportResolution resolution() const { return m_resolution; }
+
+    /// A copy of both, for an export that must not change with the settings of other windows.
+    [[nodiscard]] ExportChoice choice() const { return {format(), resolution()}; }
 
     /// Both store the preference at once, changed or not; observers hear only of a change.
     void setFormat(ExportFormat format);

@@ -163,8 +163,8 @@ private:
 
     QCoro::Task<> askForMovie();
     QCoro::Task<> askForOutput();
-    void startExport(const QUrl& outputURL, ExportFormat format);
-    [[nodiscard]] ExportRequest exportRequest(const QUrl& outputURL, ExportFormat format) const;
+    void startExport(const QUrl& outputURL, ExportChoice choice);
+    [[nodiscard]] ExportRequest exportRequest(const QUrl& outputURL, ExportChoice choice) const;
     static QCoro::Task<> runExport(std::shared_ptr<EditState> state, ExportRequest request,
                                    std::stop_token stop);
     void exportProgressed(double fraction, const std::stop_token& stop);

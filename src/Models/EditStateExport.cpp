@@ -13,26 +13,15 @@ namespace brisklet {
 
 namespace {
 
-/// How far a crop may fall short of the whole picture on each side and still count as none.
-constexpr double kWholePictureMargin = 0.001;
-
-bool coversPicture(const media::Rect& crop) {
-    return crop.insetBy(-kWholePictureMargin, -kWholePictureMargin)
-        .contains(media::Rect{0, 0, 1, 1});
-}
-
 SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestName) {
-    const bool isQuickTime = format == ExportFormat::mov;
-    const QString mp4 = QStringLiteral("mp4");
-    const QString mov = QStringLiteral("mov");
-    const QString& extension = isQuickTime ? mov : mp4;
+    const ExportFormatTraits& type = traits(format);
+    const QString extension = type.extension;
     return {.fileName = truncatedName(displayBaseName(source),
                                       QStringLiteral(" Trimmed.") + extension, longestName),
             .folder = urlOf(pathOf(source).parent_path()),
-            .typeName =
-                isQuickTime ? QStringLiteral("QuickTime movie") : QStringLiteral("MPEG-4 movie"),
+            .typeName = type.typeName,
             .extension = extension,
-            .otherExtension = isQuickTime ? mp4 : mov,
+            .otherExtensions = extensionsOfOtherFormats(format),
             .source = source};
 }
 
@@ -46,32 +35,33 @@ void EditState::presentExportPanel() {
 QCoro::Task<> EditState::askForOutput() {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const auto panels = m_filePanels;
-    // Another window may change the shared one while the panel is open, and a drop the video.
-    const ExportFormat format = ExportSettings::shared().format();
+    // While the panel is open another window may change the shared settings, and a drop may
+    // replace the video.
+    const ExportChoice choice = ExportSettings::shared().choice();
     const auto asset = m_asset;
-    auto panel = panels->saveMovie(proposalFor(*videoURL(), format, m_longestName));
+    auto panel = panels->saveMovie(proposalFor(*videoURL(), choice.format, m_longestName));
     const std::optional<QUrl> url = co_await panel;
     const auto self = weak.lock();
     if (self && url && self->m_asset == asset)
-        self->startExport(*url, format);
+        self->startExport(*url, choice);
 }
 
 void EditState::exportTo(const QUrl& outputURL) {
-    startExport(outputURL, ExportSettings::shared().format());
+    startExport(outputURL, ExportSettings::shared().choice());
 }
 
-void EditState::startExport(const QUrl& outputURL, ExportFormat format) {
+void EditState::startExport(const QUrl& outputURL, ExportChoice choice) {
     if (!videoURL() || m_exportProgress.value())
         return;
     m_playerController.player()->pause();
-    ExportRequest request = exportRequest(outputURL, format);
+    ExportRequest request = exportRequest(outputURL, choice);
     m_exportTask.emplace();
     const std::stop_token stop = m_exportTask->get_token();
     m_exportProgress = 0.0;
     runExport(shared_from_this(), std::move(request), stop);
 }
 
-ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportFormat format) const {
+ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportChoice choice) const {
     std::optional<media::Rect> crop = cropRect();
     if (crop && coversPicture(*crop))
         crop.reset();
@@ -82,8 +72,8 @@ ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportFormat forma
             .cropRect = crop,
             .rotation = m_rotation,
             .outputURL = outputURL,
-            .format = format,
-            .maxShortEdge = maxShortEdge(ExportSettings::shared().resolution()),
+            .format = choice.format,
+            .maxShortEdge = maxShortEdge(choice.resolution),
             .asset = m_asset};
 }
 

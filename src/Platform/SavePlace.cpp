@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <system_error>
@@ -33,13 +34,13 @@ bool hasExtension(const fs::path& file, const QString& extension) {
 }
 
 /// A name that was typed without the extension gets it, also where another full stop stands in it;
-/// that of the other type gives way to it.
+/// that of another type gives way to it.
 fs::path withExtension(fs::path file, const SaveProposal& proposal) {
     const std::string extension = '.' + proposal.extension.toStdString();
     if (hasExtension(file, proposal.extension))
         return file;
-    if (file.has_extension() && !proposal.otherExtension.isEmpty() &&
-        hasExtension(file, proposal.otherExtension))
+    const auto isOfFile = [&file](const QString& other) { return hasExtension(file, other); };
+    if (file.has_extension() && std::ranges::any_of(proposal.otherExtensions, isOfFile))
         return file.replace_extension(extension);
     return file += extension;
 }

@@ -2,29 +2,30 @@
 
 #include <QCoroTask>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 #include <optional>
 
 namespace brisklet {
 
-/// What a save panel is asked for: a place for one file of one type.
+/// What a save panel proposes: a name and a folder for one file of one type.
 struct SaveProposal {
     /// Name with extension, and the folder to begin in.
     QString fileName;
     QUrl folder;
-    /// The type's name for people ("MPEG-4 movie") and its extension ("mp4"). The panel answers
-    /// with no other extension.
+    /// The type's name for people ("MPEG-4 movie") and its extension ("mp4"), which the answer
+    /// always has.
     QString typeName;
     QString extension;
-    /// The extension of the other type, which is replaced where a user types it.
-    QString otherExtension;
-    /// The file that the movie is made of; the panel does not let the user replace it.
+    /// The extensions of the other types; `extension` replaces them where the user types one.
+    QStringList otherExtensions;
+    /// The file that the movie is made from; the panel does not let the user replace it.
     QUrl source;
 };
 
-/// Asks the user for files. The panels are modal to their window; the answer is none when the user
-/// turns back. Main thread.
+/// Asks the user for files. The panels are modal to their window; the answer is none if the user
+/// cancels. Main thread.
 class FilePanels {
 public:
     FilePanels() = default;

@@ -149,7 +149,7 @@ TEST_F(EditStateExportTest, proposesTheSourcesNameInTheChosenFormat) {
     EXPECT_EQ(m_panels->proposals[1].fileName, QStringLiteral("Holiday Trimmed.mov"));
     EXPECT_EQ(m_panels->proposals[1].extension, QStringLiteral("mov"));
     EXPECT_EQ(m_panels->proposals[1].typeName, QStringLiteral("QuickTime movie"));
-    EXPECT_EQ(m_panels->proposals[1].otherExtension, QStringLiteral("mp4"));
+    EXPECT_EQ(m_panels->proposals[1].otherExtensions, QStringList(QStringLiteral("mp4")));
     EXPECT_EQ(m_panels->proposals[1].source, urlOf(m_folder / "Holiday.MOV"));
     EXPECT_EQ(pathOf(m_panels->proposals[1].folder), m_folder.path());
     // Both were cancelled.
@@ -181,6 +181,20 @@ TEST_F(EditStateExportTest, exportsInTheFormatThatThePanelWasOpenedFor) {
     state().exportTo(urlOf(m_folder / "out.mov"));
     ASSERT_TRUE(waitForExport());
     EXPECT_EQ(probe(m_folder / "out.mov").format.text("tags.major_brand"), "qt  ");
+}
+
+// So did the size.
+TEST_F(EditStateExportTest, exportsInTheSizeThatThePanelWasOpenedFor) {
+    ASSERT_TRUE(loadAndWait({.duration = 1, .width = 960, .height = 720}));
+    ExportSettings::shared().setResolution(ExportResolution::sd480);
+    m_panels->toSave = urlOf(m_folder / "out.mp4");
+    m_panels->whileOpen = [] {
+        ExportSettings::shared().setResolution(ExportResolution::original);
+    };
+    state().presentExportPanel();
+    ASSERT_TRUE(pumpUntil([this] { return state().exportProgress().has_value(); }));
+    ASSERT_TRUE(waitForExport());
+    EXPECT_EQ(probe(m_folder / "out.mp4").streamsOf("video").at(0).number("height"), 480);
 }
 
 TEST_F(EditStateExportTest, exportsNoOtherVideoThanThePanelWasOpenedFor) {

@@ -45,7 +45,7 @@ protected:
                 .folder = urlOf(m_folder.path()),
                 .typeName = QStringLiteral("MPEG-4 movie"),
                 .extension = QStringLiteral("mp4"),
-                .otherExtension = QStringLiteral("mov"),
+                .otherExtensions = {QStringLiteral("mov")},
                 .source = {}};
     }
 
@@ -177,7 +177,7 @@ TEST_F(FileDialogPanelsTest, takesQuickTimeMoviesOnlyWhereThatFormatIsChosen) {
                                         .folder = urlOf(m_folder.path()),
                                         .typeName = QStringLiteral("QuickTime movie"),
                                         .extension = QStringLiteral("mov"),
-                                        .otherExtension = QStringLiteral("mp4"),
+                                        .otherExtensions = {QStringLiteral("mp4")},
                                         .source = QUrl()});
         Settled<Answer> answer;
         auto settling = settle(task, answer);

@@ -30,7 +30,7 @@ protected:
                                                  .folder = {},
                                                  .typeName = {},
                                                  .extension = QStringLiteral("mp4"),
-                                                 .otherExtension = QStringLiteral("mov"),
+                                                 .otherExtensions = {QStringLiteral("mov")},
                                                  .source = urlOf(m_folder / "clip.mp4")}));
     }
 

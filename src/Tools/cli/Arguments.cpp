@@ -1,5 +1,6 @@
 #include "Tools/cli/Arguments.h"
 
+#include "Export/ExportRequest.h"
 #include "Support/FileUrl.h"
 #include "Tools/cli/ArgumentList.h"
 
@@ -12,8 +13,6 @@ namespace brisklet::cli {
 
 namespace {
 
-/// A crop that leaves out no more than this on any side is no crop.
-constexpr double kCropSlack = 0.001;
 constexpr int kMostStills = 10'000;
 
 const ArgumentList::Options kNoOptions;
@@ -79,36 +78,38 @@ std::optional<media::Rect> parseCrop(const std::string& text) {
     const media::Rect crop{sides[0], sides[1], sides[2], sides[3]};
     const media::Rect whole{0, 0, 1, 1};
     if (crop.width <= 0 || crop.height <= 0 ||
-        !whole.insetBy(-kCropSlack, -kCropSlack).contains(crop))
+        !whole.insetBy(-kWholePictureMargin, -kWholePictureMargin).contains(crop))
         throw UsageError("--crop needs fractions of the picture, from 0 to 1, with an area");
-    if (crop.insetBy(-kCropSlack, -kCropSlack).contains(whole))
+    if (coversPicture(crop))
         return std::nullopt;
     return crop.intersected(whole);
 }
 
-std::optional<ExportFormat> formatOf(const std::string& name) {
-    std::string upper = name;
-    // In some languages the capital of an i is another letter.
-    std::ranges::transform(upper, upper.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    if (upper == "MP4" || upper == "M4V")
-        return ExportFormat::mp4;
-    if (upper == "MOV" || upper == "QT")
-        return ExportFormat::mov;
-    return std::nullopt;
+/// The extensions that exports get, between separators: "mp4|mov".
+std::string formatNames(std::string_view separator) {
+    std::string names;
+    for (const ExportFormatTraits& row : kExportFormatTable) {
+        if (!names.empty())
+            names += separator;
+        names += row.extension.data();
+    }
+    return names;
 }
 
 ExportFormat parseFormat(const ArgumentList& list, const std::filesystem::path& output) {
     if (const auto name = list.value("--format")) {
-        if (const auto format = formatOf(*name))
+        if (const auto format = exportFormatOfExtension(QString::fromStdString(*name)))
             return *format;
-        throw UsageError("--format knows mp4 and mov, not \"" + *name + "\"");
+        throw UsageError("--format knows " + formatNames(" and ") + ", not \"" + *name + "\"");
     }
     const std::string extension = output.extension().string();
-    if (const auto format = formatOf(extension.empty() ? extension : extension.substr(1)))
-        return *format;
-    throw UsageError("the name of the output does not say which format: add --format mp4 or mov");
+    if (!extension.empty()) {
+        if (const auto format =
+                exportFormatOfExtension(QString::fromStdString(extension.substr(1))))
+            return *format;
+    }
+    throw UsageError("the name of the output does not say which format: add --format " +
+                     formatNames(" or "));
 }
 
 std::optional<media::EncoderPreset> parsePreset(const ArgumentList& list, const char* option) {
@@ -122,16 +123,14 @@ std::optional<media::EncoderPreset> parsePreset(const ArgumentList& list, const 
     throw UsageError(std::string(option) + " knows no \"" + *name + "\"");
 }
 
-std::optional<media::EncoderSettings> parseEncoders(const ArgumentList& list) {
+media::EncoderSettings parseEncoders(const ArgumentList& list) {
     media::EncoderSettings settings;
     settings.h264Preset = parsePreset(list, "--h264-preset").value_or(settings.h264Preset);
     if (const auto crf = list.number("--h264-crf"))
         settings.h264Crf = settings.h264ReducedCrf = *crf;
     settings.hevcPreset = parsePreset(list, "--hevc-preset").value_or(settings.hevcPreset);
     settings.hevcCrf = list.number("--hevc-crf").value_or(settings.hevcCrf);
-    const bool areChanged = list.has("--h264-preset") || list.has("--h264-crf") ||
-                            list.has("--hevc-preset") || list.has("--hevc-crf");
-    return areChanged ? std::optional(settings) : std::nullopt;
+    return settings;
 }
 
 void parseRange(ExportCommand& command, const ArgumentList& list) {
@@ -200,7 +199,8 @@ std::string shortUsage() {
            "       brisklet-cli frame SOURCE SECONDS OUTPUT.png\n"
            "       brisklet-cli export SOURCE OUTPUT [--start S] [--end S] [--crop X,Y,W,H]\n"
            "                    [--rotate DEGREES] [--mute] [--max-short-edge N]\n"
-           "                    [--format mp4|mov] [--progress json]\n";
+           "                    [--format " +
+           formatNames("|") + "] [--progress json]\n";
 }
 
 std::string fullUsage() {
@@ -217,7 +217,9 @@ std::string fullUsage() {
            "  --rotate              clockwise quarter turns, in degrees\n"
            "  --mute                leaves the sound out\n"
            "  --max-short-edge      scales down to this many pixels on the shorter side\n"
-           "  --format              mp4 or mov (what the output’s name ends in)\n"
+           "  --format              " +
+           formatNames(" or ") +
+           " (what the output’s name ends in)\n"
            "  --progress json       prints one JSON line per report instead of a bar\n"
            "  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf\n"
            "                        other encoder settings than the program’s, for measurements\n"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Export/ExportSettings.h"
-#include "Media/ExportSession.h"
+#include "Media/EncoderSettings.h"
 #include "Media/Geometry.h"
 
 #include <filesystem>
@@ -56,8 +56,8 @@ struct ExportCommand {
     std::optional<int> maxShortEdge;
     ExportFormat format = ExportFormat::mp4;
     Progress progress = Progress::bar;
-    /// What measurements change; none for the program's own settings.
-    std::optional<media::EncoderSettings> encoders;
+    /// The program's own settings, unless options for measurements change them.
+    media::EncoderSettings encoders;
 };
 
 using Command = std::variant<HelpCommand, VersionCommand, ProbeCommand, FilmstripCommand,
