@@ -4,6 +4,7 @@
 #include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"
+#include "TestSupport/Representatives.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -12,6 +13,8 @@
 #include <cstdint>
 #include <limits>
 #include <ostream>
+#include <set>
+#include <string>
 #include <utility>
 
 /// Holds turned, cropped and scaled exports against pictures that ffmpeg's own filters made of the
@@ -254,11 +257,24 @@ std::vector<Case> everyCase() {
     return cases;
 }
 
-INSTANTIATE_TEST_SUITE_P(Turns, ExportGeometry, testing::ValuesIn(everyCase()),
-                         [](const auto& testCase) {
-                             return "Matrix" + std::to_string(testCase.param.displayRotation) +
-                                    "Turn" + std::to_string(testCase.param.rotation);
-                         });
+/// An export knows the display matrix, the turn, and the turn that the two add up to.
+testsupport::Selection<Case> selection() {
+    return testsupport::selectRepresentatives(everyCase(), [](const Case& testCase) {
+        const int total = (testCase.displayRotation + testCase.rotation) % 360;
+        return std::set<std::string>{"matrix " + std::to_string(testCase.displayRotation),
+                                     "turn " + std::to_string(testCase.rotation),
+                                     "total " + std::to_string(total)};
+    });
+}
+
+std::string nameOf(const testing::TestParamInfo<Case>& testCase) {
+    return "Matrix" + std::to_string(testCase.param.displayRotation) + "Turn" +
+           std::to_string(testCase.param.rotation);
+}
+
+INSTANTIATE_TEST_SUITE_P(Turns, ExportGeometry, testing::ValuesIn(selection().representatives),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Exhaustive, ExportGeometry, testing::ValuesIn(selection().others), nameOf);
 
 /// Pixels half as wide again as high: the natural picture is 720 × 360.
 class ExportGeometryOfWidePixels : public ExportGeometry {

@@ -6,6 +6,7 @@
 #include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
 #include "TestSupport/Process.h"
+#include "TestSupport/Representatives.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <QFile>
@@ -20,6 +21,8 @@
 #include <cctype>
 #include <cmath>
 #include <ostream>
+#include <set>
+#include <string>
 #include <string_view>
 
 /// Files that phones, cameras, screen recorders and broadcasters made. What can be shown of them
@@ -38,12 +41,24 @@ struct Sample {
     /// "opens", "no video track" or "cannot open".
     std::string expectation;
     bool firstFrameDecodes = false;
+    /// Its container, codecs and display rotations.
+    std::set<std::string> features;
 
     [[nodiscard]] bool canBeShown() const { return expectation == "opens" && firstFrameDecodes; }
 };
 
 std::ostream& operator<<(std::ostream& stream, const Sample& sample) {
     return stream << sample.name;
+}
+
+std::set<std::string> featuresIn(const QJsonObject& entry) {
+    std::set<std::string> features = {"in " + entry[u"container"].toString().toStdString()};
+    for (const QJsonValue& stream : entry[u"streams"].toArray()) {
+        features.insert(stream[u"type"].toString().toStdString() + " " +
+                        stream[u"codec"].toString().toStdString());
+        features.insert("turned by " + std::to_string(stream[u"rotation"].toInt()));
+    }
+    return features;
 }
 
 /// Empty where the collection is not there.
@@ -59,7 +74,7 @@ std::vector<Sample> allSamples() {
     for (const QJsonValue& entry : entries) {
         samples.push_back({entry[u"name"].toString().toStdString(),
                            entry[u"expect"].toString().toStdString(),
-                           entry[u"first_frame_decodes"].toBool()});
+                           entry[u"first_frame_decodes"].toBool(), featuresIn(entry.toObject())});
     }
     return samples;
 }
@@ -210,7 +225,13 @@ TEST_P(RealMedia, isExportedTurnedCroppedAndSmaller) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Sample, RealMedia, testing::ValuesIn(samplesThat(true)), testName);
+testsupport::Selection<Sample> selection() {
+    return testsupport::selectRepresentatives(samplesThat(true), &Sample::features);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sample, RealMedia, testing::ValuesIn(selection().representatives),
+                         testName);
+INSTANTIATE_TEST_SUITE_P(Exhaustive, RealMedia, testing::ValuesIn(selection().others), testName);
 
 class UnfitMedia : public testing::TestWithParam<Sample> {};
 

@@ -57,7 +57,7 @@ TEST(ClickTrack, findsWhatItDrewToTheSample) {
     }
 }
 
-TEST(Fixture, hasEveryNumberAndClickInEveryCodecAndContainer) {
+TEST(ExhaustiveFixture, hasEveryNumberAndClickInEveryCodecAndContainer) {
     const std::vector<std::pair<VideoCodec, const char*>> combinations = {
         {VideoCodec::h264, "mp4"},   {VideoCodec::h264, "mov"},  {VideoCodec::h264, "mkv"},
         {VideoCodec::h264, "ts"},    {VideoCodec::hevc, "mp4"},  {VideoCodec::vp9, "webm"},
@@ -75,7 +75,7 @@ TEST(Fixture, hasEveryNumberAndClickInEveryCodecAndContainer) {
     }
 }
 
-TEST(Fixture, startsWhereTheRecipeSays) {
+TEST(ExhaustiveFixture, startsWhereTheRecipeSays) {
     for (const char* container : {"mp4", "mov", "mkv", "ts", "webm"}) {
         for (const double offset : {1.3, 3.7}) {
             SCOPED_TRACE(container);
@@ -91,7 +91,7 @@ TEST(Fixture, startsWhereTheRecipeSays) {
     }
 }
 
-TEST(Fixture, hasTheGroupsOfPicturesThatTheRecipeSays) {
+TEST(ExhaustiveFixture, hasTheGroupsOfPicturesThatTheRecipeSays) {
     for (const VideoCodec codec : {VideoCodec::h264, VideoCodec::hevc, VideoCodec::mpeg2}) {
         for (const bool isOpen : {false, true}) {
             const Fixture fixture = makeFixture({.codec = codec,
@@ -113,7 +113,7 @@ TEST(Fixture, hasTheGroupsOfPicturesThatTheRecipeSays) {
     }
 }
 
-TEST(Fixture, hasIrregularTimesWhenTheFrameRateIsVariable) {
+TEST(ExhaustiveFixture, hasIrregularTimesWhenTheFrameRateIsVariable) {
     for (const char* container : {"mp4", "mkv"}) {
         const Fixture fixture =
             makeFixture({.container = container, .duration = 3, .hasVariableFrameRate = true});
@@ -129,7 +129,7 @@ TEST(Fixture, hasIrregularTimesWhenTheFrameRateIsVariable) {
     }
 }
 
-TEST(Fixture, isUprightUnderEveryDisplayRotation) {
+TEST(ExhaustiveFixture, isUprightUnderEveryDisplayRotation) {
     for (const int rotation : {0, 90, 180, 270}) {
         const Fixture fixture = makeFixture({.container = "mov",
                                              .duration = 1,
@@ -143,7 +143,7 @@ TEST(Fixture, isUprightUnderEveryDisplayRotation) {
     }
 }
 
-TEST(Fixture, canHaveSoundThatStartsLaterAndEndsEarlier) {
+TEST(ExhaustiveFixture, canHaveSoundThatStartsLaterAndEndsEarlier) {
     const Fixture fixture =
         makeFixture({.container = "mov", .duration = 4, .audioStart = 1.5, .audioDuration = 1.75});
     // The encoder's priming lies before the sound.

@@ -1,6 +1,7 @@
 #include "TestSupport/Fixture.h"
 #include "TestSupport/FrameRule.h"
 #include "TestSupport/Process.h"
+#include "TestSupport/Representatives.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -15,6 +16,7 @@
 #include <ostream>
 #include <random>
 #include <regex>
+#include <set>
 #include <sstream>
 
 /// Exports random ranges of files whose frames show their own number and whose sound clicks every
@@ -279,7 +281,34 @@ std::vector<Case> everyCase() {
     return cases;
 }
 
-INSTANTIATE_TEST_SUITE_P(AllFormats, Exactness, testing::ValuesIn(everyCase()),
+/// Each codec in each container is a format of its own: together they decide where the times come
+/// from and in which order. All else is independent of the format and of each other.
+std::set<std::string> featuresOf(const Case& testCase) {
+    const Recipe& recipe = testCase.recipe;
+    std::set<std::string> features = {
+        testCase.name.substr(0, testCase.name.rfind('_')),
+        "groups of " + std::to_string(recipe.groupOfPictures),
+        decimal(recipe.frameRate.value()) + " a second",
+        "from " + decimal(recipe.startOffset),
+        std::to_string(recipe.audioTracks) + " tracks",
+        std::to_string(recipe.sampleRate) + " Hz",
+    };
+    if (recipe.hasVariableFrameRate)
+        features.insert("variable rate");
+    if (recipe.isOpenGroup)
+        features.insert("open groups");
+    if (recipe.bFrames > 0)
+        features.insert("B-frames");
+    return features;
+}
+
+testsupport::Selection<Case> selection() {
+    return testsupport::selectRepresentatives(everyCase(), featuresOf);
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, Exactness, testing::ValuesIn(selection().representatives),
+                         [](const auto& testCase) { return nameOf(testCase.param); });
+INSTANTIATE_TEST_SUITE_P(Exhaustive, Exactness, testing::ValuesIn(selection().others),
                          [](const auto& testCase) { return nameOf(testCase.param); });
 
 } // namespace
