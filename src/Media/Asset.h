@@ -11,12 +11,6 @@
 
 namespace media {
 
-namespace ffmpeg {
-struct SourceInfo;
-class DemuxerPool;
-class SourceFile;
-} // namespace ffmpeg
-
 enum class MediaType { video, audio };
 
 /// Colour description by the names FFmpeg prints ("bt709", "smpte2084", "tv", "left" …); empty
@@ -66,8 +60,7 @@ struct AssetTrack {
 /// Opening reads the file's headers, and its tail where the duration is in doubt, and makes sure
 /// that its first picture decodes. Only the named file is ever read: nothing that the file points
 /// at is opened. The file stays open as long as the asset or any reader of it lives, so renaming
-/// or deleting it meanwhile does no harm. Immutable; usable on any thread. What other layers call
-/// is virtual, as in all classes that the engine makes: they are not linked to it (Engine.h).
+/// or deleting it meanwhile does no harm. Immutable; usable on any thread.
 class Asset {
 public:
     /// Throws Error (a sentence for the user) if the file cannot be opened or read as video or
@@ -76,31 +69,19 @@ public:
     static std::shared_ptr<const Asset> open(const std::filesystem::path& path,
                                              std::stop_token stop = {});
 
-    /// For the engine.
-    Asset(std::shared_ptr<const ffmpeg::SourceFile> file, std::unique_ptr<ffmpeg::SourceInfo> info,
-          std::unique_ptr<ffmpeg::DemuxerPool> demuxers);
     Asset(const Asset&) = delete;
     Asset& operator=(const Asset&) = delete;
-    virtual ~Asset();
+    virtual ~Asset() = default;
 
-    [[nodiscard]] virtual const std::filesystem::path& path() const;
+    [[nodiscard]] virtual const std::filesystem::path& path() const = 0;
     /// From time 0, the earliest presentation time of any track, to the latest end of any track.
-    [[nodiscard]] virtual Time duration() const;
+    [[nodiscard]] virtual Time duration() const = 0;
     /// The tracks of one type in file order. Cover pictures and timed thumbnails are not among
     /// them.
-    [[nodiscard]] virtual std::vector<AssetTrack> tracks(MediaType type) const;
+    [[nodiscard]] virtual std::vector<AssetTrack> tracks(MediaType type) const = 0;
 
-    /// For the readers inside the media layer.
-    [[nodiscard]] const ffmpeg::SourceInfo& info() const { return *m_info; }
-
-    [[nodiscard]] const std::shared_ptr<const ffmpeg::SourceFile>& file() const { return m_file; }
-
-    [[nodiscard]] ffmpeg::DemuxerPool& demuxers() const { return *m_demuxers; }
-
-private:
-    std::shared_ptr<const ffmpeg::SourceFile> m_file;
-    std::unique_ptr<ffmpeg::SourceInfo> m_info;
-    std::unique_ptr<ffmpeg::DemuxerPool> m_demuxers;
+protected:
+    Asset() = default;
 };
 
 /// The size of a track's picture turned upright (|width| and |height| of the transformed frame).

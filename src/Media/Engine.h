@@ -12,8 +12,8 @@ namespace media {
 
 /// Makes the objects of the media layer that decode, play and encode. An empty window needs none of
 /// them, nor the hundred libraries behind them, so the program is not linked to the engine: it is a
-/// module beside the program, loaded once, when it is first asked for, and kept. Immutable; any
-/// thread.
+/// module beside the program, loaded once, when it is first asked for, and kept. What it makes is
+/// known to the program as pure interfaces. Immutable; any thread.
 ///
 /// Other layers come here through Asset::open() and the make() functions of Player, ImageGenerator
 /// and ExportSession, whose comments say what these throw.

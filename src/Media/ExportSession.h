@@ -31,29 +31,25 @@ public:
                                                std::filesystem::path outputPath, FileType fileType,
                                                EncoderSettings settings = {});
 
-    /// For the engine and its tests.
-    ExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
-                  EncoderSettings settings = {});
     ExportSession(const ExportSession&) = delete;
     ExportSession& operator=(const ExportSession&) = delete;
-    virtual ~ExportSession();
+    virtual ~ExportSession() = default;
 
     /// Call before run(). None: every source frame is kept with its own timing and size.
-    virtual void setVideoComposition(std::optional<VideoComposition> videoComposition);
+    virtual void setVideoComposition(std::optional<VideoComposition> videoComposition) = 0;
 
     /// Runs the export on the calling thread until the file is complete. At most once.
     /// Throws Error on failure; Cancelled within 100 ms of a stop request. By then nothing is left
     /// on disk; encoders that are in the middle of a picture are waited for in the destructor.
-    virtual void run(std::stop_token stop = {});
+    virtual void run(std::stop_token stop = {}) = 0;
 
     /// The fraction done, 0 to 1, by presentation time; never decreases. Any thread.
-    [[nodiscard]] virtual double progress() const;
+    [[nodiscard]] virtual double progress() const = 0;
     /// Any thread.
-    [[nodiscard]] virtual State state() const;
+    [[nodiscard]] virtual State state() const = 0;
 
-private:
-    class Private;
-    std::unique_ptr<Private> d;
+protected:
+    ExportSession() = default;
 };
 
 } // namespace media

@@ -5,7 +5,6 @@
 
 #include <memory>
 #include <stop_token>
-#include <vector>
 
 namespace media {
 
@@ -16,27 +15,24 @@ public:
     /// Throws Error if the asset has no video track, or if the engine can't be loaded.
     static std::unique_ptr<ImageGenerator> make(std::shared_ptr<const Asset> asset);
 
-    /// For the engine and its tests.
-    explicit ImageGenerator(std::shared_ptr<const Asset> asset);
     ImageGenerator(const ImageGenerator&) = delete;
     ImageGenerator& operator=(const ImageGenerator&) = delete;
-    virtual ~ImageGenerator();
+    virtual ~ImageGenerator() = default;
 
     /// Upper bounds of the images, in pixels; 0 leaves a side free. The aspect ratio is kept and
     /// nothing is enlarged. Default: full size.
-    virtual void setMaximumSize(int width, int height);
+    virtual void setMaximumSize(int width, int height) = 0;
     /// How far the frame may lie from the requested time; 0 (the default) asks for the frame at
     /// that exact time. With a tolerance the frame that costs least to decode is taken, and detail
     /// that a small picture cannot show is not computed.
-    virtual void setTolerance(Time before, Time after);
+    virtual void setTolerance(Time before, Time after) = 0;
 
     /// The still for `time`. Throws Error if no frame there can be decoded or the time is not
     /// numeric; Cancelled if `stop` is requested.
-    [[nodiscard]] virtual TimedImage image(Time time, std::stop_token stop = {});
+    [[nodiscard]] virtual TimedImage image(Time time, std::stop_token stop = {}) = 0;
 
-private:
-    class Private;
-    std::unique_ptr<Private> d;
+protected:
+    ImageGenerator() = default;
 };
 
 } // namespace media

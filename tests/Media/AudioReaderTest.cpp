@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Reading/OpenedAsset.h"
 #include "TestSupport/ClickTrack.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/Inspection.h"
@@ -34,8 +35,8 @@ struct Sound {
     int channels = 0;
 };
 
-std::shared_ptr<const Asset> opened(const std::filesystem::path& path) {
-    return Asset::open(path);
+std::shared_ptr<const OpenedAsset> opened(const std::filesystem::path& path) {
+    return OpenedAsset::open(path);
 }
 
 AudioReader makeReader(const std::shared_ptr<const Asset>& asset, int track = 0,
@@ -88,7 +89,7 @@ void expectClicks(const std::vector<double>& found, const std::vector<double>& e
 }
 
 /// When the clicks of a track are heard on the asset's time line.
-std::vector<double> clicksOn(const Asset& asset, const Fixture& fixture, std::size_t track) {
+std::vector<double> clicksOn(const OpenedAsset& asset, const Fixture& fixture, std::size_t track) {
     std::vector<double> result = fixture.audio.at(track).clicks;
     for (double& click : result)
         click += fixture.clockStart - asset.info().origin.seconds();

@@ -1,7 +1,7 @@
 #include "Media/ChildProcess.h"
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
-#include "Media/ImageGenerator.h"
+#include "Media/Pictures/DecodingImageGenerator.h"
 #include "Media/Reading/VideoReader.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/MediaCache.h"
@@ -149,7 +149,7 @@ TEST(BadInput, aStillPictureHasNoVideoTrack) {
         const auto asset = Asset::open(path);
         EXPECT_THAT(asset->tracks(MediaType::video), IsEmpty()) << name;
         EXPECT_THAT(asset->tracks(MediaType::audio), IsEmpty()) << name;
-        EXPECT_EQ(errorOf([&] { const ImageGenerator generator(asset); }),
+        EXPECT_EQ(errorOf([&] { const DecodingImageGenerator generator(asset); }),
                   "The file contains no video track.");
     }
 }
@@ -161,11 +161,11 @@ TEST(BadInput, soundAloneHasNoVideoTrack) {
         EXPECT_THAT(asset->tracks(MediaType::video), IsEmpty()) << name;
         EXPECT_EQ(asset->tracks(MediaType::audio).size(), 1U) << name;
         const TemporaryFolder folder;
-        EXPECT_NE(
-            errorOf([&] {
-                ExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
-            }),
-            "");
+        EXPECT_NE(errorOf([&] {
+                      StagedExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4)
+                          .run();
+                  }),
+                  "");
         EXPECT_THAT(namesIn(folder.path()), IsEmpty());
     }
 }
@@ -246,7 +246,7 @@ TEST(BadInput, anMp4CutInItsMediaShowsAndExportsWhatIsThere) {
     EXPECT_GT(pictures, 30U);
     EXPECT_LT(pictures, fixture.frames.size());
 
-    ExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
+    StagedExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
     const auto exported = testsupport::readNumberedFrames(folder / "out.mp4");
     EXPECT_GT(exported.size(), 30U);
     // At the cut itself pictures can be missing that are shown before one that is there.
@@ -291,7 +291,7 @@ TEST(BadInput, damagedBytesEndNothingButTheirPictures) {
         writeFile(folder / "damaged", bytes);
         const auto asset = Asset::open(folder / "damaged");
         EXPECT_GT(readablePictures(asset), 20U) << container;
-        ExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
+        StagedExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
         EXPECT_GT(testsupport::readNumberedFrames(folder / "out.mp4").size(), 20U) << container;
     }
 }
@@ -369,8 +369,8 @@ TEST(BadInput, aFileDeletedWhileItExportsIsExportedToItsEnd) {
     const Fixture fixture = longFixture();
     const TemporaryFolder folder;
     std::filesystem::copy_file(fixture.path, folder / "a.mp4");
-    ExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
-                          FileType::mpeg4);
+    StagedExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
+                                FileType::mpeg4);
     RunningExport running(session);
     EXPECT_TRUE(running.waitForProgress(0.05));
     std::filesystem::remove(folder / "a.mp4");
@@ -384,8 +384,8 @@ TEST(BadInput, aFileTruncatedWhileItExportsEndsTheExportWithASentence) {
     const Fixture fixture = largeFixture("mp4");
     const TemporaryFolder folder;
     std::filesystem::copy_file(remuxed(fixture, true), folder / "a.mp4");
-    ExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
-                          FileType::mpeg4);
+    StagedExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
+                                FileType::mpeg4);
     RunningExport running(session);
     EXPECT_TRUE(running.waitForProgress(0.05));
     std::filesystem::resize_file(folder / "a.mp4",

@@ -137,8 +137,8 @@ TEST_P(BareStream, isExportedPictureByPicture) {
 TEST_P(BareStream, isExportedExactlyOnAGrid) {
     const testsupport::KeptRange range{0.7, 2.2};
     const int rate = static_cast<int>(std::lround(GetParam().rate()));
-    ExportSession session(compositionOf(m_asset, range.start, range.end), m_folder / "out.mp4",
-                          FileType::mpeg4);
+    StagedExportSession session(compositionOf(m_asset, range.start, range.end),
+                                m_folder / "out.mp4", FileType::mpeg4);
     session.setVideoComposition(renderedAt(track(), 160, 120, rate));
     session.run();
     const auto frames = testsupport::readNumberedFrames(m_folder / "out.mp4");

@@ -47,8 +47,8 @@ protected:
     /// The sentence with which the export fails; empty if it does not.
     std::string failureOf(VideoCodec source, const EncoderSettings& settings) {
         return errorOf([&] {
-            ExportSession session(compositionOf(Asset::open(makeFixture(tiny(source)).path)),
-                                  m_folder / "out.mp4", FileType::mpeg4, settings);
+            StagedExportSession session(compositionOf(Asset::open(makeFixture(tiny(source)).path)),
+                                        m_folder / "out.mp4", FileType::mpeg4, settings);
             session.run();
         });
     }

@@ -44,7 +44,7 @@ VideoComposition renderedAt(const AssetTrack& track, int width, int height, int 
 
 void exportRange(const std::filesystem::path& source, double start, double end,
                  const std::filesystem::path& output, FileType type) {
-    ExportSession(compositionOf(Asset::open(source), start, end), output, type).run();
+    StagedExportSession(compositionOf(Asset::open(source), start, end), output, type).run();
 }
 
 std::string errorOf(const std::function<void()>& action) {
@@ -113,7 +113,7 @@ std::filesystem::path ExportTest::exported(const std::filesystem::path& source, 
 std::filesystem::path ExportTest::exportedAs(const Composition& composition,
                                              const VideoComposition& videoComposition) {
     std::filesystem::path output = m_folder / "out.mp4";
-    ExportSession session(composition, output, FileType::mpeg4);
+    StagedExportSession session(composition, output, FileType::mpeg4);
     session.setVideoComposition(videoComposition);
     session.run();
     return output;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/ExportSession.h"
+#include "Media/Export/StagedExportSession.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/TemporaryFolder.h"
 

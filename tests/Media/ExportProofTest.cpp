@@ -125,7 +125,7 @@ TEST(UnprovenExport, isAnErrorAndLeavesNothing) {
     const TemporaryFolder folder;
     writeFile(folder / "out.mp4", "old");
     const auto asset = Asset::open(longFixture().path);
-    ExportSession session(compositionOf(asset), folder / "out.mp4", FileType::mpeg4);
+    StagedExportSession session(compositionOf(asset), folder / "out.mp4", FileType::mpeg4);
     RunningExport running(session);
     ASSERT_TRUE(running.waitForProgress(0.5));
     const auto names = namesIn(folder.path());

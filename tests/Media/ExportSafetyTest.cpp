@@ -93,7 +93,7 @@ void expectCancellationAt(double fraction) {
     for (int attempt = 0; attempt < 30; ++attempt) {
         const TemporaryFolder folder;
         writeFile(folder / "out.mp4", "old");
-        ExportSession session(compositionOf(asset), folder / "out.mp4", FileType::mpeg4);
+        StagedExportSession session(compositionOf(asset), folder / "out.mp4", FileType::mpeg4);
         RunningExport running(session);
         ASSERT_TRUE(running.waitForProgress(fraction));
         running.requestStop();
@@ -126,8 +126,8 @@ TEST(CancelledExport, touchesNothingWhenItIsStoppedBeforeItBegins) {
     writeFile(folder / "out.mp4", "old");
     std::stop_source stop;
     stop.request_stop();
-    ExportSession session(compositionOf(Asset::open(makeFixture({}).path)), folder / "out.mp4",
-                          FileType::mpeg4);
+    StagedExportSession session(compositionOf(Asset::open(makeFixture({}).path)),
+                                folder / "out.mp4", FileType::mpeg4);
     EXPECT_THROW(session.run(stop.get_token()), Cancelled);
     EXPECT_EQ(session.state(), ExportSession::State::cancelled);
     EXPECT_EQ(contentsOf(folder / "out.mp4"), "old");
@@ -140,8 +140,8 @@ TEST(KilledExport, leavesNothingUnderItsFinalName) {
     writeFile(folder / "old.mp4", "old");
     for (const char* name : {"new.mp4", "old.mp4"}) {
         const std::string said = inChildProcess([&]() -> std::string {
-            ExportSession session(compositionOf(Asset::open(fixture.path)), folder / name,
-                                  FileType::mpeg4);
+            StagedExportSession session(compositionOf(Asset::open(fixture.path)), folder / name,
+                                        FileType::mpeg4);
             RunningExport running(session);
             running.waitForProgress(0.5);
             if (session.state() == ExportSession::State::exporting)
@@ -167,8 +167,8 @@ TEST(ExportOntoItsSource, isRefusedBeforeAnythingIsTouched) {
     for (const char* name : {"a.mp4", "./a.mp4", "symbolic.mp4", "hard.mp4", "sub/../a.mp4",
                              "sub/up/a.mp4", "sub/up/symbolic.mp4"}) {
         EXPECT_EQ(errorOf([&] {
-                      const ExportSession session(compositionOf(asset), folder / name,
-                                                  FileType::mpeg4);
+                      const StagedExportSession session(compositionOf(asset), folder / name,
+                                                        FileType::mpeg4);
                   }),
                   "The video can’t be exported over itself.")
             << name;
@@ -188,8 +188,8 @@ TEST(ExportOntoItsSource, isRefusedThroughTheLinkThatWasOpenedToo) {
 TEST(ExportOntoItsSource, isRefusedWhenTheSourceTakesTheNameMeanwhile) {
     const TemporaryFolder folder;
     std::filesystem::copy_file(longFixture().path, folder / "a.mp4");
-    ExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
-                          FileType::mpeg4);
+    StagedExportSession session(compositionOf(Asset::open(folder / "a.mp4")), folder / "out.mp4",
+                                FileType::mpeg4);
     RunningExport running(session);
     EXPECT_TRUE(running.waitForProgress(0.05));
     std::filesystem::rename(folder / "a.mp4", folder / "out.mp4");
@@ -283,8 +283,8 @@ TEST(HardPressedExport, isRightOnOneProcessor) {
         return errorOf([&] {
             exportRange(fixture.path, 0.5, 3.5, folder / "straight.mp4");
             const auto opened = Asset::open(fixture.path);
-            ExportSession session(compositionOf(opened, 0.5, 3.5), folder / "turned.mp4",
-                                  FileType::mpeg4);
+            StagedExportSession session(compositionOf(opened, 0.5, 3.5), folder / "turned.mp4",
+                                        FileType::mpeg4);
             session.setVideoComposition(
                 renderedAt(opened->tracks(MediaType::video).at(0), 160, 120, 30));
             session.run();

@@ -52,8 +52,8 @@ std::vector<double> timesOf(const std::vector<NumberedFrame>& frames) {
 }
 
 TEST_F(ExportSessionTest, reportsProgressThatNeverDecreasesAndReachesOne) {
-    ExportSession session(compositionOf(Asset::open(longFixture().path)), m_folder / "out.mp4",
-                          FileType::mpeg4);
+    StagedExportSession session(compositionOf(Asset::open(longFixture().path)),
+                                m_folder / "out.mp4", FileType::mpeg4);
     EXPECT_EQ(session.progress(), 0);
     RunningExport running(session);
     std::vector<double> reports;
@@ -71,17 +71,18 @@ TEST_F(ExportSessionTest, reportsProgressThatNeverDecreasesAndReachesOne) {
 
 TEST_F(ExportSessionTest, tellsHowFarItIs) {
     const auto asset = Asset::open(makeFixture({}).path);
-    ExportSession session(compositionOf(asset), m_folder / "out.mp4", FileType::mpeg4);
+    StagedExportSession session(compositionOf(asset), m_folder / "out.mp4", FileType::mpeg4);
     EXPECT_EQ(session.state(), ExportSession::State::waiting);
     session.run();
     EXPECT_EQ(session.state(), ExportSession::State::completed);
 
-    ExportSession failing(compositionOf(asset), m_folder / "missing/out.mp4", FileType::mpeg4);
+    StagedExportSession failing(compositionOf(asset), m_folder / "missing/out.mp4",
+                                FileType::mpeg4);
     EXPECT_THROW(failing.run(), Error);
     EXPECT_EQ(failing.state(), ExportSession::State::failed);
     EXPECT_LT(failing.progress(), 1);
 
-    ExportSession stopped(compositionOf(asset), m_folder / "stopped.mp4", FileType::mpeg4);
+    StagedExportSession stopped(compositionOf(asset), m_folder / "stopped.mp4", FileType::mpeg4);
     std::stop_source stop;
     stop.request_stop();
     EXPECT_THROW(stopped.run(stop.get_token()), Cancelled);
@@ -91,9 +92,12 @@ TEST_F(ExportSessionTest, tellsHowFarItIs) {
 TEST_F(ExportSessionTest, needsAVideoTrack) {
     Composition composition = compositionOf(Asset::open(makeFixture({}).path));
     composition.videoTrack.reset();
-    EXPECT_NE(
-        errorOf([&] { const ExportSession session(composition, "out.mp4", FileType::mpeg4); }), "");
-    EXPECT_NE(errorOf([&] { const ExportSession session({}, "out.mp4", FileType::mpeg4); }), "");
+    EXPECT_NE(errorOf([&] {
+                  const StagedExportSession session(composition, "out.mp4", FileType::mpeg4);
+              }),
+              "");
+    EXPECT_NE(errorOf([&] { const StagedExportSession session({}, "out.mp4", FileType::mpeg4); }),
+              "");
 }
 
 TEST_F(ExportSessionTest, replacesAnExistingFile) {
@@ -105,8 +109,9 @@ TEST_F(ExportSessionTest, replacesAnExistingFile) {
 
 TEST_F(ExportSessionTest, exportsSeveralRangesOfOneAssetAtATime) {
     const auto asset = Asset::open(makeFixture({.duration = 20}).path);
-    ExportSession first(compositionOf(asset, 1, 6), m_folder / "first.mp4", FileType::mpeg4);
-    ExportSession second(compositionOf(asset, 10, 15), m_folder / "second.mp4", FileType::mpeg4);
+    StagedExportSession first(compositionOf(asset, 1, 6), m_folder / "first.mp4", FileType::mpeg4);
+    StagedExportSession second(compositionOf(asset, 10, 15), m_folder / "second.mp4",
+                               FileType::mpeg4);
     {
         RunningExport runningFirst(first);
         RunningExport runningSecond(second);
@@ -186,7 +191,7 @@ TEST_F(ExportSessionTest, leavesOutSoundThatIsNotAskedFor) {
     Composition composition =
         compositionOf(Asset::open(makeFixture({.audioTracks = 2}).path), 0, 1);
     composition.audioTracks.erase(composition.audioTracks.begin());
-    ExportSession(composition, m_folder / "out.mp4", FileType::mpeg4).run();
+    StagedExportSession(composition, m_folder / "out.mp4", FileType::mpeg4).run();
     const auto sounds = probe(m_folder / "out.mp4").streamsOf("audio");
     ASSERT_EQ(sounds.size(), 1U);
     EXPECT_EQ(sounds[0].text("tags.language"), "fra");

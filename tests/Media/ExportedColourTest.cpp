@@ -299,7 +299,7 @@ TEST_P(ExportedColour, isThatOfTheSource) {
         for (const FileType type : {FileType::mpeg4, FileType::quickTimeMovie}) {
             SCOPED_TRACE(std::string(rendering.name) + (type == FileType::mpeg4 ? " mp4" : " mov"));
             const auto output = m_folder / "out";
-            ExportSession session(compositionOf(asset), output, type);
+            StagedExportSession session(compositionOf(asset), output, type);
             session.setVideoComposition(rendering.composition);
             session.run();
             expectTags(output, type);

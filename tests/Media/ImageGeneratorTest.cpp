@@ -1,4 +1,4 @@
-#include "Media/ImageGenerator.h"
+#include "Media/Pictures/DecodingImageGenerator.h"
 
 #include "Media/Error.h"
 #include "Media/ExportFixture.h"
@@ -34,7 +34,7 @@ std::optional<int> numberIn(const Image& image) {
 
 TEST(ImageGenerator, showsTheFrameAtExactlyTheTimeAskedFor) {
     const Fixture fixture = makeFixture({.groupOfPictures = 60, .startOffset = 1.3});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
     for (const std::size_t index : {70U, 3U, 110U, 0U, 71U}) {
         const double time = fixture.frames[index].seconds;
         const TimedImage still = generator.image(seconds(time + 0.01));
@@ -47,14 +47,14 @@ TEST(ImageGenerator, showsTheFrameAtExactlyTheTimeAskedFor) {
 
 TEST(ImageGenerator, showsTheFirstFrameBeforeAndTheLastAfterAll) {
     const Fixture fixture = makeFixture({});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
     EXPECT_EQ(numberIn(*generator.image(seconds(-5)).image), 0);
     EXPECT_EQ(numberIn(*generator.image(seconds(100)).image), fixture.frames.back().number);
 }
 
 TEST(ImageGenerator, staysWithinItsTolerance) {
     const Fixture fixture = makeFixture({.duration = 16, .groupOfPictures = 250});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
     generator.setMaximumSize(0, 120);
     generator.setTolerance(seconds(0.5), seconds(0.5));
     for (const double time : {1.0, 5.0, 8.2, 12.0, 15.9}) {
@@ -71,7 +71,7 @@ TEST(ImageGenerator, staysWithinItsTolerance) {
 
 TEST(ImageGenerator, fitsIntoItsMaximumSizeAndNeverEnlarges) {
     const Fixture fixture = makeFixture({});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
 
     struct {
         int maximumWidth, maximumHeight, width, height;
@@ -92,7 +92,7 @@ TEST(ImageGenerator, turnsThePictureUpright) {
     for (const int rotation : {0, 90, 180, 270}) {
         const Fixture fixture =
             makeFixture({.container = "mov", .duration = 1, .displayRotation = rotation});
-        ImageGenerator generator(Asset::open(fixture.path));
+        DecodingImageGenerator generator(Asset::open(fixture.path));
         const auto image = generator.image(seconds(0.5)).image;
         EXPECT_EQ(image->width, rotation % 180 == 0 ? 320 : 240) << rotation;
         EXPECT_EQ(image->height, rotation % 180 == 0 ? 240 : 320) << rotation;
@@ -104,7 +104,7 @@ TEST(ImageGenerator, turnsThePictureUpright) {
 
 TEST(ImageGenerator, showsSquarePixels) {
     const Fixture fixture = makeFixture({.duration = 1, .pixelAspect = {4, 3}});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
     generator.setMaximumSize(0, 120);
     const auto image = generator.image(seconds(0.5)).image;
     EXPECT_EQ(image->height, 120);
@@ -113,7 +113,7 @@ TEST(ImageGenerator, showsSquarePixels) {
 
 TEST(ImageGenerator, hasNothingToShowOfSoundOrAtNoTime) {
     const Fixture fixture = makeFixture({});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
     for (const Time time : {Time::invalid(), Time::positiveInfinity(), Time::negativeInfinity()})
         EXPECT_EQ(errorOf([&] { static_cast<void>(generator.image(time)); }),
                   "There is no picture at this time.");
@@ -122,7 +122,7 @@ TEST(ImageGenerator, hasNothingToShowOfSoundOrAtNoTime) {
 
 TEST(ImageGenerator, isUsableAfterItWasStopped) {
     const Fixture fixture = makeFixture({});
-    ImageGenerator generator(Asset::open(fixture.path));
+    DecodingImageGenerator generator(Asset::open(fixture.path));
     std::stop_source stop;
     stop.request_stop();
     EXPECT_THROW(static_cast<void>(generator.image(seconds(3), stop.get_token())), Cancelled);

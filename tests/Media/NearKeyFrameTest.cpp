@@ -1,4 +1,4 @@
-#include "Media/ImageGenerator.h"
+#include "Media/Pictures/DecodingImageGenerator.h"
 #include "TestSupport/Fixture.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ TEST(ImageGenerator, takesTheKeyFrameAtHandHoweverLateItIsShown) {
     for (const char* container : {"mp4", "mkv"}) {
         const auto fixture = testsupport::makeFixture(
             {.container = container, .duration = 6, .groupOfPictures = 60, .bFrames = 2});
-        ImageGenerator generator(Asset::open(fixture.path));
+        DecodingImageGenerator generator(Asset::open(fixture.path));
         generator.setMaximumSize(0, 120);
         generator.setTolerance(kHalfSecond, kHalfSecond);
         const double keyFrame = fixture.frames.at(120).seconds;

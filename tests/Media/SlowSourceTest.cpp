@@ -55,7 +55,7 @@ TEST_F(SlowSource, isExportedAsIfItWereFast) {
 TEST_F(SlowSource, thatBreaksIsAnErrorAndLeavesNothing) {
     const auto asset = Asset::open(m_disk.holding(makeFixture(large(20)).path));
     writeFile(m_folder / "out.mp4", "old");
-    ExportSession session(compositionOf(asset), m_folder / "out.mp4", FileType::mpeg4);
+    StagedExportSession session(compositionOf(asset), m_folder / "out.mp4", FileType::mpeg4);
     RunningExport running(session);
     ASSERT_TRUE(running.waitForProgress(0.1));
     m_disk.setBroken(true);
@@ -67,7 +67,7 @@ TEST_F(SlowSource, thatBreaksIsAnErrorAndLeavesNothing) {
 
 TEST_F(SlowSource, thatDoesNotAnswerDoesNotHoldUpACancellation) {
     const auto asset = Asset::open(m_disk.holding(makeFixture(large(20)).path));
-    ExportSession session(compositionOf(asset), m_folder / "out.mp4", FileType::mpeg4);
+    StagedExportSession session(compositionOf(asset), m_folder / "out.mp4", FileType::mpeg4);
     RunningExport running(session);
     ASSERT_TRUE(running.waitForProgress(0.1));
     m_disk.setStalled(true);

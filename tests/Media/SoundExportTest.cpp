@@ -1,6 +1,7 @@
 #include "Media/ExportFixture.h"
 #include "Media/FFmpeg/SourceInfo.h"
 #include "Media/Mp4Boxes.h"
+#include "Media/Reading/OpenedAsset.h"
 #include "TestSupport/Fixture.h"
 #include "TestSupport/Inspection.h"
 #include "TestSupport/MediaCache.h"
@@ -193,7 +194,7 @@ TEST(SoundOrigin, isWhereVorbisIsFirstHeard) {
         recipe.codec = recipe.container == "webm" ? testsupport::VideoCodec::vp9
                                                   : testsupport::VideoCodec::h264;
         const Fixture fixture = makeFixture(recipe);
-        const auto asset = Asset::open(fixture.path);
+        const auto asset = OpenedAsset::open(fixture.path);
         EXPECT_NEAR(asset->info().origin.seconds(), fixture.clockStart, 0.5 * kMillisecond);
     }
 }

@@ -94,7 +94,7 @@ std::string useAsSource(const std::filesystem::path& path) {
         VideoReader reader(asset, tracks[0]);
         while (reader.next()) {
         }
-        ExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
+        StagedExportSession(compositionOf(asset), folder / "out.mp4", FileType::mpeg4).run();
     });
 }
 

@@ -3,7 +3,7 @@
 #include "Media/DecodedNumber.h"
 #include "Media/Export/FrameSchedule.h"
 #include "Media/ExportFixture.h"
-#include "Media/ImageGenerator.h"
+#include "Media/Pictures/DecodingImageGenerator.h"
 #include "TestSupport/Fixture.h"
 
 #include <gmock/gmock.h>
@@ -100,7 +100,7 @@ TEST_P(Undecodable, positionShowsWhatDecodedLastWithoutReadingOn) {
 class UndecodableKeyFrames : public Undecodable {};
 
 TEST_P(UndecodableKeyFrames, pictureOfTheFilmstripIsGivenUpWithoutReadingOn) {
-    ImageGenerator generator(m_asset);
+    DecodingImageGenerator generator(m_asset);
     const Time tolerance{kComparisonTimescale / 2, kComparisonTimescale};
     generator.setTolerance(tolerance, tolerance);
     try {

@@ -9,6 +9,10 @@
 
 namespace media {
 
+namespace ffmpeg {
+class SourceFile;
+} // namespace ffmpeg
+
 /// What a complete export has to hold.
 struct ExportPlan {
     struct Track {

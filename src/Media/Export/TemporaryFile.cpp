@@ -2,7 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/Export/WriteError.h"
-#include "Media/FileName.h"
+#include "Media/FFmpeg/FileName.h"
 
 #include <algorithm>
 #include <array>
@@ -110,7 +110,7 @@ bool TemporaryFile::createLocked(const std::filesystem::path& shownName) {
         const LockResult result = lock(m_descriptor);
         if (result == LockResult::taken) {
             close();
-            throw Error(quoted(shownName) + " is being written by another export.");
+            throw Error(ffmpeg::quoted(shownName) + " is being written by another export.");
         }
         if (result == LockResult::impossible) {
             if (isNew)

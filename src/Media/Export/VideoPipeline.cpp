@@ -4,6 +4,7 @@
 #include "Media/Export/Deinterlacer.h"
 #include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Reading/OpenedAsset.h"
 #include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
@@ -66,7 +67,8 @@ VideoPipeline::VideoPipeline(const Composition& composition,
       m_transformed(kTransformedWaiting, stop),
       m_output(kPacketsWaiting, stop) {
     const CompositionTrack& track = *composition.videoTrack;
-    const ffmpeg::SourceTrack& source = composition.asset->info().track(track.source.streamIndex);
+    const auto asset = OpenedAsset::of(composition.asset);
+    const ffmpeg::SourceTrack& source = asset->info().track(track.source.streamIndex);
     if (videoComposition) {
         m_deinterlaces = source.isInterlaced();
         m_schedule = FrameSchedule::constantRate(

@@ -2,7 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/Check.h"
-#include "Media/FileName.h"
+#include "Media/FFmpeg/FileName.h"
 
 #include <cerrno>
 #include <string>
@@ -15,7 +15,7 @@ namespace {
 std::string quotedFolderOf(const std::filesystem::path& file) {
     std::error_code ignored;
     const auto folder = std::filesystem::absolute(folderOf(file), ignored).lexically_normal();
-    return quoted(folder);
+    return ffmpeg::quoted(folder);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "Media/FFmpeg/SourceFile.h"
 
 #include "Media/Error.h"
-#include "Media/FileName.h"
+#include "Media/FFmpeg/FileName.h"
 
 #include <algorithm>
 #include <cerrno>

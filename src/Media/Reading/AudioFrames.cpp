@@ -35,7 +35,7 @@ bool isIndexedByPictures(const AVInputFormat& format) {
 } // namespace
 
 AudioFrames::AudioFrames(std::shared_ptr<const Asset> asset, const AssetTrack& facts)
-    : m_asset(std::move(asset)),
+    : m_asset(OpenedAsset::of(std::move(asset))),
       m_track(m_asset->info().track(facts.streamIndex)),
       m_demuxer(m_asset->file(), m_asset->info().format),
       m_decoder(*m_track.parameters, m_track.timeBase, 1),

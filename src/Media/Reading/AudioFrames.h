@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Media/Asset.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
 #include "Media/FFmpeg/Handles.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Reading/OpenedAsset.h"
 
 #include <deque>
 #include <memory>
@@ -53,7 +53,7 @@ private:
     [[nodiscard]] bool isBeforePreroll() const;
     void feed(const std::stop_token& stop);
 
-    std::shared_ptr<const Asset> m_asset;
+    std::shared_ptr<const OpenedAsset> m_asset;
     const ffmpeg::SourceTrack& m_track;
     ffmpeg::Demuxer m_demuxer;
     ffmpeg::Decoder m_decoder;

@@ -8,6 +8,7 @@
 #include "Media/FFmpeg/PacketFacts.h"
 #include "Media/FFmpeg/PresentationTimes.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Reading/OpenedAsset.h"
 #include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ bool decodesWithoutReferences(AVCodecID codec) {
 class VideoReader::Private {
 public:
     Private(std::shared_ptr<const Asset> asset, const AssetTrack& facts, Options options)
-        : m_asset(std::move(asset)),
+        : m_asset(OpenedAsset::of(std::move(asset))),
           m_track(m_asset->info().track(facts.streamIndex)),
           m_demuxer(m_asset->demuxers().take()),
           m_options(options),
@@ -409,7 +410,7 @@ private:
         m_queue.push_back({std::move(frame), time, time.ticks()});
     }
 
-    std::shared_ptr<const Asset> m_asset;
+    std::shared_ptr<const OpenedAsset> m_asset;
     const ffmpeg::SourceTrack& m_track;
     std::unique_ptr<ffmpeg::Demuxer> m_demuxer;
     Options m_options;

@@ -39,8 +39,8 @@ TEST(PlayerReadAhead, readsAheadOfAJumpAndAroundThePointsOfInterest) {
 TEST(PlayerReadAhead, restsWhileAnExportRunsAndGoesOnAfterwards) {
     const Fixture source = media::longFixture();
     const testsupport::TemporaryFolder folder;
-    media::ExportSession session(media::compositionOf(media::Asset::open(source.path)),
-                                 folder / "exported.mp4", media::FileType::mpeg4);
+    media::StagedExportSession session(media::compositionOf(media::Asset::open(source.path)),
+                                       folder / "exported.mp4", media::FileType::mpeg4);
     const Fixture fixture = longGroups();
     PlayerStage stage;
     media::RunningExport running(session);

@@ -1,6 +1,6 @@
-#include "Media/FileName.h"
+#include "Media/FFmpeg/FileName.h"
 
-namespace media {
+namespace media::ffmpeg {
 
 std::string quoted(const std::filesystem::path& path) {
     // A folder may well be given with a slash at its end.
@@ -10,4 +10,4 @@ std::string quoted(const std::filesystem::path& path) {
     return "\u201C" + name.string() + "\u201D";
 }
 
-} // namespace media
+} // namespace media::ffmpeg

@@ -1,0 +1,72 @@
+#include "Media/Reading/OpenedAsset.h"
+
+#include "Media/Error.h"
+#include "Media/FFmpeg/DemuxerPool.h"
+#include "Media/FFmpeg/Encryption.h"
+#include "Media/FFmpeg/Inspection.h"
+#include "Media/FFmpeg/SourceFile.h"
+#include "Media/FFmpeg/SourceInfo.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace media {
+
+namespace {
+
+std::unique_ptr<ffmpeg::Demuxer> openDemuxer(const std::shared_ptr<const ffmpeg::SourceFile>& file,
+                                             const std::stop_token& stop) {
+    try {
+        return std::make_unique<ffmpeg::Demuxer>(file, nullptr, stop);
+    } catch (const Error&) {
+        // libav gives up on some encrypted files as if they were damaged.
+        ffmpeg::expectNoEncryption(*file);
+        throw;
+    }
+}
+
+} // namespace
+
+std::shared_ptr<const OpenedAsset> OpenedAsset::open(const std::filesystem::path& path,
+                                                     const std::stop_token& stop) {
+    auto file = ffmpeg::SourceFile::open(path);
+    auto demuxer = openDemuxer(file, stop);
+    auto info = std::make_unique<const ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
+    auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format, info->pictures);
+    demuxers->giveBack(std::move(demuxer));
+    return std::make_shared<const OpenedAsset>(std::move(file), std::move(info),
+                                               std::move(demuxers));
+}
+
+std::shared_ptr<const OpenedAsset> OpenedAsset::of(const std::shared_ptr<const Asset>& asset) {
+    auto opened = std::dynamic_pointer_cast<const OpenedAsset>(asset);
+    if (!opened)
+        std::abort();
+    return opened;
+}
+
+OpenedAsset::OpenedAsset(std::shared_ptr<const ffmpeg::SourceFile> file,
+                         std::unique_ptr<const ffmpeg::SourceInfo> info,
+                         std::unique_ptr<ffmpeg::DemuxerPool> demuxers)
+    : m_file(std::move(file)), m_info(std::move(info)), m_demuxers(std::move(demuxers)) {}
+
+OpenedAsset::~OpenedAsset() = default;
+
+const std::filesystem::path& OpenedAsset::path() const {
+    return m_file->path();
+}
+
+Time OpenedAsset::duration() const {
+    return m_info->duration;
+}
+
+std::vector<AssetTrack> OpenedAsset::tracks(MediaType type) const {
+    std::vector<AssetTrack> result;
+    for (const ffmpeg::SourceTrack& track : m_info->tracks) {
+        if (track.facts.type == type)
+            result.push_back(track.facts);
+    }
+    return result;
+}
+
+} // namespace media

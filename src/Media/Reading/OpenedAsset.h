@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Media/Asset.h"
+
+#include <memory>
+
+namespace media {
+
+namespace ffmpeg {
+struct SourceInfo;
+class DemuxerPool;
+class SourceFile;
+} // namespace ffmpeg
+
+/// The asset that the engine makes: the open file, what was found out about it, and the demuxers
+/// that its readers borrow. Immutable, but for the pool, which guards itself; any thread.
+class OpenedAsset final : public Asset {
+public:
+    /// As Asset::open().
+    static std::shared_ptr<const OpenedAsset> open(const std::filesystem::path& path,
+                                                   const std::stop_token& stop = {});
+
+    /// The engine's side of an asset, for its readers and exports: the only way to it. There are
+    /// no other assets than the engine's; with null or one of another kind the program aborts.
+    static std::shared_ptr<const OpenedAsset> of(const std::shared_ptr<const Asset>& asset);
+
+    OpenedAsset(std::shared_ptr<const ffmpeg::SourceFile> file,
+                std::unique_ptr<const ffmpeg::SourceInfo> info,
+                std::unique_ptr<ffmpeg::DemuxerPool> demuxers);
+    ~OpenedAsset() override;
+
+    [[nodiscard]] const std::filesystem::path& path() const override;
+    [[nodiscard]] Time duration() const override;
+    [[nodiscard]] std::vector<AssetTrack> tracks(MediaType type) const override;
+
+    [[nodiscard]] const ffmpeg::SourceInfo& info() const { return *m_info; }
+
+    [[nodiscard]] const std::shared_ptr<const ffmpeg::SourceFile>& file() const { return m_file; }
+
+    [[nodiscard]] ffmpeg::DemuxerPool& demuxers() const { return *m_demuxers; }
+
+private:
+    std::shared_ptr<const ffmpeg::SourceFile> m_file;
+    std::unique_ptr<const ffmpeg::SourceInfo> m_info;
+    std::unique_ptr<ffmpeg::DemuxerPool> m_demuxers;
+};
+
+} // namespace media
