@@ -91,6 +91,9 @@ public:
 
     [[nodiscard]] const Player::Statistics& statistics() const { return m_statistics; }
 
+    [[nodiscard]] std::uint64_t generation() const { return m_generation; }
+
+    /// The frame handed to the sink last.
     [[nodiscard]] const RenderedFrame& shown() const { return m_shown; }
 
     /// A delivery is under way: the sink may be being called.
