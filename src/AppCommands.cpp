@@ -151,16 +151,8 @@ void AppCommands::showQuickAction() {
 }
 
 void AppCommands::stepFrames(int count) {
-    const auto state = m_focusedValues.editState();
-    if (!state)
-        return;
-    PlayerController& controller = state->playerController();
-    media::Player& player = *controller.player();
-    player.pause();
-    player.step(count);
-    // The time shown follows at once, not only when the player reports next.
-    if (const auto onTick = controller.onTick)
-        onTick(player.currentTime().seconds());
+    if (const auto state = m_focusedValues.editState())
+        state->stepFrames(count);
 }
 
 void AppCommands::toggleQuickAction() {

@@ -1,14 +1,14 @@
 #include "Models/EditState.h"
 
 #include "Media/Error.h"
+#include "Models/ExportJob.h"
 #include "Support/FileNames.h"
 #include "Support/FileUrl.h"
 #include "Support/MainThread.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/Thumbnailer.h"
-#include "Support/Workers.h"
 
-#include <algorithm>
+#include <cmath>
 #include <exception>
 #include <utility>
 
@@ -17,9 +17,8 @@ namespace brisklet {
 namespace {
 
 constexpr int kThumbnailCount = 12;
-/// The shortest range that setting an end to the playhead can make, seconds.
-constexpr double kMinimumRange = 0.1;
-/// A playhead parked on the trim end starts over instead of stopping again at once; seconds.
+/// Within this distance of the trim end, playing starts over from the trim start: it would stop
+/// again at once. Seconds.
 constexpr double kRestartMargin = 0.05;
 constexpr media::Time kExactly{0, media::kComparisonTimescale};
 
@@ -27,21 +26,24 @@ QString quoted(const QString& name) {
     return u'\u201C' + name + u'\u201D';
 }
 
+SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestName) {
+    const ExportFormatTraits& type = traits(format);
+    const QString extension = type.extension;
+    return {.fileName = truncatedName(displayBaseName(source),
+                                      QStringLiteral(" Trimmed.") + extension, longestName),
+            .folder = urlOf(pathOf(source).parent_path()),
+            .typeName = type.typeName,
+            .extension = extension,
+            .otherExtensions = extensionsOfOtherFormats(format),
+            .source = source};
+}
+
 } // namespace
 
-/// What loading finds out about a file, on a worker thread.
-struct EditState::LoadedVideo {
-    std::shared_ptr<const media::Asset> asset;
-    double duration = 0;
-    /// None when the file has no video track.
-    std::optional<media::Size> displaySize;
-    /// Bytes of a name in its folder.
-    int longestName = 0;
-};
-
 EditState::EditState() {
-    // The callbacks end with the controller, so before the model; each keeps the model alive while
-    // it runs, since an observer of what it changes may be the one who lets go of it.
+    // The controller calls nothing once it is destroyed, which is before the rest of the model.
+    // Each callback keeps the model alive while it runs, since an observer of what it changes may
+    // drop the last reference.
     m_playerController.onTick = [this](double time) {
         if (const auto self = weak_from_this().lock())
             self->tick(time);
@@ -75,21 +77,8 @@ void EditState::setMuted(bool muted) {
 }
 
 void EditState::load(const QUrl& url) {
-    ++m_openCount;
+    ++m_pendingLoads;
     loadAsset(url);
-}
-
-QCoro::Task<EditState::LoadedVideo> EditState::open(const QUrl& url, const std::stop_token& stop) {
-    return runOnWorker([path = pathOf(url), stop] {
-        LoadedVideo loaded;
-        loaded.asset = media::Asset::open(path, stop);
-        loaded.duration = loaded.asset->duration().seconds();
-        const auto tracks = loaded.asset->tracks(media::MediaType::video);
-        if (!tracks.empty())
-            loaded.displaySize = media::orientedSize(tracks.front());
-        loaded.longestName = maxNameBytesIn(path.parent_path());
-        return loaded;
-    });
 }
 
 QCoro::Task<> EditState::loadAsset(QUrl url) {
@@ -101,7 +90,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
     try {
         auto finding = findLocalFile(m_remoteFiles, url);
         url = co_await finding;
-        auto opening = open(url, stop);
+        auto opening = openVideo(url, stop);
         video = co_await opening;
         if (!video.displaySize)
             failure = quoted(displayName(url)) + QStringLiteral(" contains no video track.");
@@ -115,7 +104,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
         const auto self = weak.lock();
         if (!self)
             co_return;
-        --self->m_openCount;
+        --self->m_pendingLoads;
         if (!failure.isEmpty()) {
             self->m_errorMessage = failure;
             co_return;
@@ -133,8 +122,7 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
 }
 
 void EditState::publish(const QUrl& url, const LoadedVideo& video) {
-    m_asset = video.asset;
-    m_longestName = video.longestName;
+    m_video = video;
     m_videoURL = url;
     m_duration = video.duration;
     m_displaySize = *video.displaySize;
@@ -152,7 +140,7 @@ void EditState::publish(const QUrl& url, const LoadedVideo& video) {
     announceTrim();
 }
 
-/// The ends of the trim are where the playhead goes next: by dragging them, by looping.
+/// The player prepares frames around the trim ends: dragging them and looping seek there.
 void EditState::announceTrim() {
     const auto time = [](double seconds) {
         return media::Time::fromSeconds(seconds, media::kComparisonTimescale);
@@ -206,7 +194,7 @@ void EditState::togglePlayback() {
 }
 
 void EditState::seek(double to) {
-    // Written so that NaN passes through: it fails both comparisons.
+    // NaN fails both comparisons and passes through.
     double time = to <= 0 ? 0 : to;
     if (m_duration < time)
         time = m_duration;
@@ -219,27 +207,186 @@ void EditState::seekPlayer(double to) {
                                       kExactly, kExactly);
 }
 
+void EditState::stepFrames(int count) {
+    if (videoURL())
+        m_playerController.step(count);
+}
+
 void EditState::setTrimStartToPlayhead() {
-    double latest = m_trimEnd - kMinimumRange;
-    // A video may be shorter than the shortest range.
-    if (m_duration > 0)
-        latest = std::max(latest, 0.0);
-    // std::max gives its first argument where the second is NaN.
-    m_trimStart = std::min(std::max(0.0, m_currentTime.value()), latest);
+    m_trimStart = trimRange().clampedStart(m_currentTime);
 }
 
 void EditState::setTrimEndToPlayhead() {
-    double earliest = m_trimStart + kMinimumRange;
-    if (m_duration > 0)
-        earliest = std::min(earliest, m_duration.value());
-    m_trimEnd = std::max(std::min(m_currentTime.value(), m_duration.value()), earliest);
+    m_trimEnd = trimRange().clampedEnd(m_currentTime);
+}
+
+double EditState::time(EditMarker marker) const {
+    switch (marker) {
+    case EditMarker::trimStart:
+        return m_trimStart;
+    case EditMarker::playhead:
+        return m_currentTime;
+    case EditMarker::trimEnd:
+        return m_trimEnd;
+    }
+    return 0;
+}
+
+double EditState::earliest(EditMarker marker) const {
+    return marker == EditMarker::trimEnd ? trimRange().earliestEnd() : 0;
+}
+
+double EditState::latest(EditMarker marker) const {
+    return marker == EditMarker::trimStart ? trimRange().latestStart() : m_duration;
+}
+
+void EditState::moveMarker(EditMarker marker, double to) {
+    if (std::isnan(to))
+        return;
+    switch (marker) {
+    case EditMarker::trimStart:
+        m_trimStart = trimRange().clampedStart(to);
+        break;
+    case EditMarker::playhead:
+        seek(to);
+        return;
+    case EditMarker::trimEnd:
+        m_trimEnd = trimRange().clampedEnd(to);
+        break;
+    }
+    m_playerController.player()->pause();
+    seek(time(marker));
+}
+
+void EditState::stepMarker(EditMarker marker, int frames) {
+    if (marker == EditMarker::playhead)
+        stepFrames(frames);
+    else
+        moveMarker(marker, time(marker) + frames * m_video.frameDuration);
+}
+
+EditState::DragOrigin EditState::dragOrigin(EditMarker marker) {
+    return {.marker = marker,
+            .video = m_video.asset,
+            .trimStart = m_trimStart,
+            .trimEnd = m_trimEnd,
+            .currentTime = m_currentTime,
+            // isPlaying() follows the player a moment later.
+            .isPlaying = m_playerController.player()->rate() != 0.0F};
+}
+
+void EditState::takeBackDrag(const DragOrigin& origin) {
+    if (m_video.asset != origin.video)
+        return;
+    if (origin.marker != EditMarker::playhead) {
+        m_trimStart = origin.trimStart;
+        m_trimEnd = origin.trimEnd;
+    }
+    seek(origin.currentTime);
+    if (origin.isPlaying)
+        m_playerController.player()->play();
+}
+
+void EditState::toggleCrop() {
+    m_cropRect = cropRect() ? std::nullopt : std::optional(crop::kInitial);
+}
+
+void EditState::moveCrop(const media::Rect& start, media::Point by) {
+    m_cropRect = crop::moved(start, by);
+}
+
+void EditState::resizeCrop(const media::Rect& start, CropHandle handle, media::Point by) {
+    m_cropRect = crop::resized(start, handle, by);
 }
 
 void EditState::rotateLeft() {
     m_rotation = (m_rotation + 270) % 360;
-    if (const auto& crop = cropRect()) {
-        m_cropRect = media::Rect{crop->minY(), 1 - crop->maxX(), crop->height, crop->width};
-    }
+    if (const auto& before = cropRect())
+        m_cropRect = crop::turnedLeft(*before);
+}
+
+void EditState::presentExportPanel() {
+    if (videoURL() && !m_exportProgress.value() && m_filePanels)
+        askForOutput();
+}
+
+QCoro::Task<> EditState::askForOutput() {
+    const std::weak_ptr<EditState> weak = weak_from_this();
+    const auto panels = m_filePanels;
+    // While the panel is open another window may change the shared settings, and a drop may
+    // replace the video.
+    const ExportChoice choice = ExportSettings::shared().choice();
+    const auto asset = m_video.asset;
+    auto panel = panels->saveMovie(proposalFor(*videoURL(), choice.format, m_video.maxNameBytes));
+    const std::optional<QUrl> url = co_await panel;
+    const auto self = weak.lock();
+    if (self && url && self->m_video.asset == asset)
+        self->startExport(*url, choice);
+}
+
+void EditState::exportTo(const QUrl& outputURL) {
+    startExport(outputURL, ExportSettings::shared().choice());
+}
+
+void EditState::startExport(const QUrl& outputURL, ExportChoice choice) {
+    if (!videoURL() || m_exportProgress.value())
+        return;
+    m_playerController.player()->pause();
+    ExportRequest request = exportRequest(outputURL, choice);
+    m_exportTask.emplace();
+    const std::stop_token stop = m_exportTask->get_token();
+    m_exportProgress = 0.0;
+    awaitExport(shared_from_this(), std::move(request), stop);
+}
+
+ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportChoice choice) const {
+    std::optional<media::Rect> crop = cropRect();
+    if (crop && coversPicture(*crop))
+        crop.reset();
+    return {.sourceURL = *videoURL(),
+            .startTime = m_trimStart,
+            .endTime = m_trimEnd,
+            .muted = m_isMuted,
+            .cropRect = crop,
+            .rotation = m_rotation,
+            .outputURL = outputURL,
+            .format = choice.format,
+            .maxShortEdge = maxShortEdge(choice.resolution),
+            .asset = m_video.asset};
+}
+
+QCoro::Task<> EditState::awaitExport(std::shared_ptr<EditState> state, ExportRequest request,
+                                     std::stop_token stop) {
+    const QUrl outputURL = request.outputURL;
+    auto task = runExport(
+        std::move(request),
+        [weak = std::weak_ptr(state), stop](double fraction) {
+            if (const auto self = weak.lock())
+                self->exportProgressed(fraction, stop);
+        },
+        stop);
+    const ExportOutcome outcome = co_await task;
+    const bool hasFailed = outcome.kind == ExportOutcome::Kind::failed;
+    if (hasFailed)
+        state->m_errorMessage = outcome.message;
+    state->m_exportProgress = std::nullopt;
+    // An observer of exportProgress() may have started the next export already.
+    if (!state->m_exportProgress.value())
+        state->m_exportTask.reset();
+    if (outcome.kind == ExportOutcome::Kind::finished)
+        Q_EMIT state->exportFinished(outputURL);
+    if (hasFailed)
+        Q_EMIT state->exportFailed(outcome.message);
+}
+
+void EditState::exportProgressed(double fraction, const std::stop_token& stop) {
+    if (m_exportProgress.value() && m_exportTask && m_exportTask->get_token() == stop)
+        m_exportProgress = fraction;
+}
+
+void EditState::cancelExport() {
+    if (m_exportTask)
+        m_exportTask->request_stop();
 }
 
 } // namespace brisklet

@@ -1,8 +1,12 @@
 #pragma once
 
 #include "Export/ExportRequest.h"
-#include "Media/Asset.h"
+#include "Export/ExportSettings.h"
 #include "Media/Geometry.h"
+#include "Models/CropRules.h"
+#include "Models/EditMarker.h"
+#include "Models/LoadedVideo.h"
+#include "Models/TrimRange.h"
 #include "Player/PlayerController.h"
 #include "Support/FilePanels.h"
 #include "Support/OpenBridge.h"
@@ -22,7 +26,8 @@
 namespace brisklet {
 
 /// The model of one editing window: the open video and its facts, the playhead, the edit, and the
-/// progress and failure of an export.
+/// progress and failure of an export. All rules of editing are here: views and commands show the
+/// properties and call the operations.
 ///
 ///     Empty ──load──▶ Editing ◀──exportTo / end of the export──▶ Exporting
 ///
@@ -78,27 +83,30 @@ public:
         return m_errorMessage.value();
     }
 
+    /// For the views that show the player and for observers of it. What changes the player goes
+    /// through the operations below.
     [[nodiscard]] PlayerController& playerController() { return m_playerController; }
 
+    /// These three store any value; the operations below keep to the rules.
     void setTrimStart(double seconds) { m_trimStart = seconds; }
 
     void setTrimEnd(double seconds) { m_trimEnd = seconds; }
 
     void setCropRect(const std::optional<media::Rect>& cropRect) { m_cropRect = cropRect; }
 
-    /// Silences the player at once and leaves the sound out of exports.
+    /// Mutes the player at once, and leaves the sound out of exports.
     void setMuted(bool muted);
 
-    /// For failures that happen around the window; those of loads and exports come by themselves.
+    /// For failures other than those of loading and exporting, which set the message themselves.
     void setErrorMessage(const QString& message) { m_errorMessage = message; }
 
     void clearErrorMessage() { m_errorMessage = std::nullopt; }
 
-    /// Who asks the user for files; without one the panels do not appear. `panels` must outlive
-    /// the questions it is asked.
+    /// The panels that ask the user for files; without them none appears. They must work for as
+    /// long as one of them is open.
     void setFilePanels(std::shared_ptr<FilePanels> panels) { m_filePanels = std::move(panels); }
 
-    /// Who finds files that are not on this computer; without one they are refused.
+    /// What finds files that are not on this computer; without it they are refused.
     void setRemoteFiles(std::shared_ptr<RemoteFiles> remoteFiles) {
         m_remoteFiles = std::move(remoteFiles);
     }
@@ -107,29 +115,68 @@ public:
     /// one is ready; a failure changes nothing but errorMessage().
     void load(const QUrl& url) override;
 
-    /// No video, and no load of one under way.
-    [[nodiscard]] bool isEmpty() const override { return !videoURL() && m_openCount == 0; }
+    /// Whether there is no video and none is being loaded.
+    [[nodiscard]] bool isEmpty() const override { return !videoURL() && m_pendingLoads == 0; }
 
-    /// Lets the user pick one movie, and loads it.
+    /// Lets the user choose one movie, and loads it.
     void presentOpenPanel();
 
-    /// Plays from the trim start where the playhead stands at the trim end or before the range.
+    /// Pauses, or plays: from the trim start if the playhead is at the trim end or before the
+    /// range.
     void togglePlayback();
     /// Moves the playhead, limited to the file, and keeps the play state.
     void seek(double to);
-    /// Move one end of the range to the playhead, 0.1 s from the other end at the least, but not
-    /// out of the file: one that is shorter stays whole.
+    /// Pauses and moves the playhead by `count` frames of the video (negative: backward). Does
+    /// nothing without a video.
+    void stepFrames(int count);
+
+    /// Moves that end of the range to the playhead, within the limits of TrimRange.
     void setTrimStartToPlayhead();
     void setTrimEndToPlayhead();
+
+    /// Where a marker is, and how far moveMarker() can move it; seconds.
+    [[nodiscard]] double time(EditMarker marker) const;
+    [[nodiscard]] double earliest(EditMarker marker) const;
+    [[nodiscard]] double latest(EditMarker marker) const;
+    /// Moves a marker as near to `to` as its limits allow; NaN changes nothing. The playhead keeps
+    /// the play state. An end of the range pauses, and takes the playhead along, so that the frame
+    /// at that end is shown.
+    void moveMarker(EditMarker marker, double to);
+    /// The same by frames (negative: backward). The playhead steps exactly; an end of the range
+    /// moves by the nominal duration of a frame.
+    void stepMarker(EditMarker marker, int frames);
+
+    /// What the drag of a marker can change, as it was before the drag.
+    struct DragOrigin {
+        EditMarker marker = EditMarker::playhead;
+        std::shared_ptr<const media::Asset> video;
+        double trimStart = 0;
+        double trimEnd = 0;
+        double currentTime = 0;
+        bool isPlaying = false;
+    };
+
+    [[nodiscard]] DragOrigin dragOrigin(EditMarker marker);
+    /// Takes the drag back: restores the playhead and the play state and, where an end of the range
+    /// was dragged, the range. Does nothing if another video has been loaded meanwhile.
+    void takeBackDrag(const DragOrigin& origin);
+
+    /// Removes the crop, or sets crop::kInitial where there is none.
+    void toggleCrop();
+    /// Set the crop to `start` moved or resized by fractions of the picture, within the limits of
+    /// crop::moved() and crop::resized(). A drag passes the crop that it began with each time.
+    void moveCrop(const media::Rect& start, media::Point by);
+    void resizeCrop(const media::Rect& start, CropHandle handle, media::Point by);
     /// A quarter turn counter-clockwise; a crop keeps covering the same part of the picture.
     void rotateLeft();
 
-    /// Asks for the output file and exports to it. Nothing happens without a video or while an
-    /// export runs.
+    /// Asks for the output file and exports to it in the format and size that the shared settings
+    /// have now. Does nothing without a video or while an export runs.
     void presentExportPanel();
-    /// Starts exporting the edit as it is now, with the shared export settings, and returns.
+    /// Starts exporting the edit as it is now, with the shared export settings, and returns. Does
+    /// nothing without a video or while an export runs.
     void exportTo(const QUrl& outputURL);
-    /// Stops the running export, if any; exportProgress() is absent when it has stopped.
+    /// Stops the running export, if any; exportProgress() is absent once it has stopped.
     void cancelExport();
 
 Q_SIGNALS:
@@ -146,30 +193,29 @@ Q_SIGNALS:
     void rotationChanged();
     void exportProgressChanged();
     void errorMessageChanged();
-    /// The end of an export that was not cancelled, with the file or with the error message.
+    /// An export that was not cancelled has ended, with the file or with the error message.
     void exportFinished(const QUrl& outputURL);
     void exportFailed(const QString& message);
 
 private:
-    struct LoadedVideo;
-
     QCoro::Task<> loadAsset(QUrl url);
-    static QCoro::Task<LoadedVideo> open(const QUrl& url, const std::stop_token& stop);
     void publish(const QUrl& url, const LoadedVideo& video);
     void tick(double time);
     void playedToEnd();
     void seekPlayer(double to);
     void announceTrim();
 
+    [[nodiscard]] TrimRange trimRange() const { return {m_duration, m_trimStart, m_trimEnd}; }
+
     QCoro::Task<> askForMovie();
     QCoro::Task<> askForOutput();
     void startExport(const QUrl& outputURL, ExportChoice choice);
     [[nodiscard]] ExportRequest exportRequest(const QUrl& outputURL, ExportChoice choice) const;
-    static QCoro::Task<> runExport(std::shared_ptr<EditState> state, ExportRequest request,
-                                   std::stop_token stop);
+    static QCoro::Task<> awaitExport(std::shared_ptr<EditState> state, ExportRequest request,
+                                     std::stop_token stop);
     void exportProgressed(double fraction, const std::stop_token& stop);
 
-    // In the order in which a load publishes them where that matters; commas in a type would split
+    // In the order in which a load publishes them where that matters. A comma in a type would split
     // the macro's arguments.
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QUrl>, m_videoURL,
                                &EditState::videoURLChanged)
@@ -191,21 +237,19 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QString>, m_errorMessage,
                                &EditState::errorMessageChanged)
 
-    /// The open file behind videoURL(), whatever has become of its name.
-    std::shared_ptr<const media::Asset> m_asset;
+    /// What videoURL() was opened as.
+    LoadedVideo m_video;
     PlayerController m_playerController;
     std::shared_ptr<FilePanels> m_filePanels;
     std::shared_ptr<RemoteFiles> m_remoteFiles;
-    /// Bytes that a name beside the open video may have.
-    int m_longestName = 0;
     /// Stops the running export; none while none runs.
     std::optional<std::stop_source> m_exportTask;
-    /// Ends the work of pending loads with the object: nobody is left to see its result.
+    /// Stops pending loads when this object is destroyed.
     std::stop_source m_loads;
-    /// Ends the making of the filmstrip when another video takes the place of its own.
+    /// Stops the making of the filmstrip when another video is loaded.
     std::stop_source m_strip;
-    /// Loads that have neither published their video nor failed.
-    int m_openCount = 0;
+    /// How many loads have neither published their video nor failed.
+    int m_pendingLoads = 0;
 };
 
 } // namespace brisklet

@@ -26,7 +26,7 @@ PlayerController::~PlayerController() {
     m_player->removeTimeObserver(m_timeObserver);
     m_player->setRateHandler({});
     m_player->setEndHandler({});
-    // A view may hold the player a little longer; it must not be heard meanwhile.
+    // A view may keep the player a little longer; no sound must come from it.
     m_player->pause();
 }
 
@@ -45,6 +45,13 @@ void PlayerController::makePlayer() {
         [this](const std::shared_ptr<const media::PlayerItem>& item) { itemEnded(item); });
 }
 
+void PlayerController::step(int count) {
+    const std::shared_ptr<media::Player>& stepped = player();
+    stepped->pause();
+    stepped->step(count);
+    tick(stepped->currentTime());
+}
+
 void PlayerController::tick(media::Time time) const {
     call(onTick, time.seconds());
 }
@@ -54,7 +61,7 @@ void PlayerController::rateChanged(float rate) const {
 }
 
 void PlayerController::itemEnded(const std::shared_ptr<const media::PlayerItem>& item) const {
-    // An item that was replaced meanwhile is no end of what is shown now.
+    // The end of an item that has been replaced meanwhile is not the end of the current one.
     if (item == m_player->currentItem())
         call(onPlayedToEnd);
 }

@@ -16,10 +16,14 @@ public:
     PlayerController& operator=(const PlayerController&) = delete;
     ~PlayerController();
 
-    /// Constant, never null; made when it is first asked for, since that loads the media engine,
-    /// which an empty window does without. Views that show it may keep it for as long as they need.
-    /// Throws media::Error if the engine can't be loaded.
+    /// Constant and never null. Created by the first call, because that loads the media engine,
+    /// which an empty window does not need. Views that show the player may keep it as long as they
+    /// like. Throws media::Error if the engine cannot be loaded.
     [[nodiscard]] const std::shared_ptr<media::Player>& player();
+
+    /// Pauses and moves by `count` frames (negative: backward), then calls onTick at once: the
+    /// player itself reports the new time only a moment later.
+    void step(int count);
 
     /// The current time in seconds: every 1/30 s of playback, and whenever the time jumps.
     std::function<void(double time)> onTick;

@@ -20,7 +20,7 @@ bool isEscape(const QKeyEvent& event) {
 
 void DragEscape::begin(std::function<void()> takeBack) {
     m_takeBack = std::move(takeBack);
-    // The one that is installed last hears of the key first.
+    // The event filter that is installed last is called first.
     qApp->installEventFilter(this);
 }
 

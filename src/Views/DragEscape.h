@@ -8,9 +8,9 @@ class QWidget;
 
 namespace brisklet {
 
-/// Has the Escape key take back the drag of a view, for as long as the mouse is held: it reaches
-/// neither the window, which it would close, nor its commands. Dialogs and menus keep the key.
-/// Main thread.
+/// Makes the Escape key take back the drag of a view while the mouse button is held. The key then
+/// reaches neither the window, which it would close, nor its commands. Dialogs and menus keep the
+/// key. Main thread.
 ///
 ///     no drag ──begin──▶ drag ──Escape: takeBack──▶ held ──end──▶ no drag
 ///                         └──────────end──────────────────────────▲
@@ -18,20 +18,21 @@ class DragEscape final : public QObject {
     Q_OBJECT
 
 public:
-    /// Is part of `view`.
+    /// A member of `view`.
     explicit DragEscape(QWidget& view) : m_view(view) {}
 
-    /// A press of the mouse that may become a drag. `takeBack` is called once at most, before
-    /// end(); it ends what the view does with the mouse until that is pressed anew.
+    /// To be called for a press of the mouse that may become a drag. `takeBack` is called at most
+    /// once, before end(); the view then ignores the mouse until the next press.
     void begin(std::function<void()> takeBack);
-    /// The mouse was released, or what it held has gone. Nothing happens where there is no drag.
+    /// To be called when the mouse is released, or what it dragged no longer exists. Does nothing
+    /// without a drag.
     void end();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// A dialog took the window from the drag: the release of the mouse goes to nobody. Whoever
-    /// drags calls end().
+    /// A dialog has blocked the window, or the view was hidden, so the view will not get the
+    /// release of the mouse. The view calls end().
     void interrupted();
 
 private:

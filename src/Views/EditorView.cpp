@@ -26,8 +26,8 @@ EditorView::EditorView(const std::shared_ptr<EditState>& state, QWidget* parent)
       m_videoArea(new VideoArea(state, this)),
       m_timeline(new TimelineView(state, kStripHeight, kHandleWidth, this)),
       m_controls(new ControlsView(state, this)) {
-    // The timeline hands the keyboard to its playhead, past what stands left of it: that has its
-    // turn before the timeline.
+    // The timeline passes the focus on to its playhead; the marker before that one comes first in
+    // the order of the tab key.
     setTabOrder(&m_videoArea->cropOverlay(), m_timeline->strip().markers().front());
 }
 

@@ -48,8 +48,8 @@ protected:
         return {qRound(m_strip->geometryNow().x(seconds)), m_strip->height() / 2};
     }
 
-    QPoint handle(HandleEdge edge) const {
-        return m_strip->geometryNow().handle(edge).center().toPoint();
+    QPoint handle(EditMarker end) const {
+        return m_strip->geometryNow().marker(end).center().toPoint();
     }
 
     void expectAsBefore() {
@@ -81,13 +81,11 @@ protected:
 };
 
 TEST_F(DragEscapeTest, putsAHandleBackAndThePlayheadWithIt) {
-    for (const HandleEdge edge : {HandleEdge::leading, HandleEdge::trailing}) {
-        m_timeline->press(handle(edge));
+    for (const EditMarker end : {EditMarker::trimStart, EditMarker::trimEnd}) {
+        m_timeline->press(handle(end));
         m_timeline->moveTo(at(4));
         // The player rounds the times of its seeks to ticks of 1/600 s, and reports them so.
-        ASSERT_NEAR(state().currentTime(),
-                    edge == HandleEdge::leading ? state().trimStart() : state().trimEnd(),
-                    1.0 / 600);
+        ASSERT_NEAR(state().currentTime(), state().time(end), 1.0 / 600);
         ASSERT_NE(state().currentTime(), 5);
         pressEscape();
         expectAsBefore();
@@ -123,7 +121,7 @@ TEST_F(DragEscapeTest, keepsWhatWasSetToThePlayheadWhileItWasScrubbed) {
 TEST_F(DragEscapeTest, goesOnPlayingWhereAHandlePausedIt) {
     state().togglePlayback();
     ASSERT_TRUE(pumpUntil([this] { return state().isPlaying(); }));
-    m_timeline->press(handle(HandleEdge::trailing));
+    m_timeline->press(handle(EditMarker::trimEnd));
     m_timeline->moveTo(at(7));
     ASSERT_TRUE(pumpUntil([this] { return !state().isPlaying(); }));
     pressEscape();
@@ -194,7 +192,7 @@ TEST_F(DragEscapeTest, leavesTheKeyToAnAlertThatEndsTheDrag) {
 }
 
 TEST_F(DragEscapeTest, putsNothingOfTheVideoBeforeIntoTheNextOne) {
-    m_timeline->press(handle(HandleEdge::leading));
+    m_timeline->press(handle(EditMarker::trimStart));
     m_timeline->moveTo(at(4));
     ASSERT_TRUE(loadAndWait(*m_window, video(1)));
     pressEscape();

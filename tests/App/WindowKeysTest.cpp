@@ -158,7 +158,7 @@ TEST_F(WindowKeysTest, stepFramesAgainOnceTheTimelineIsClicked) {
     EXPECT_TRUE(pumpUntil([&] { return state().currentTime() > clicked; }));
     EXPECT_EQ(state().trimStart(), 1);
     for (const TimelineMarker* marker : strip.markers())
-        EXPECT_FALSE(marker->isFocusShown() && marker->role() != TimelineMarker::Role::playhead);
+        EXPECT_FALSE(marker->isFocusShown() && marker->marker() != EditMarker::playhead);
 }
 
 // It went on to the crop, which the arrow keys moved after the export.

@@ -62,6 +62,20 @@ TEST(PlayerController, beginsWithAPlayerWithoutAnItemAndSaysNothing) {
     EXPECT_TRUE(reports.isEmpty());
 }
 
+TEST(PlayerController, pausesAndReportsTheTimeAtOnceWhenItSteps) {
+    PlayerController controller;
+    const Reports reports(controller);
+    controller.player()->replaceCurrentItem(shortItem());
+    controller.player()->play();
+    ASSERT_TRUE(pumpUntil([&] { return !reports.playing.empty(); }));
+    const std::size_t before = reports.ticks.size();
+    controller.step(1);
+    EXPECT_EQ(reports.ticks.size(), before + 1);
+    EXPECT_EQ(controller.player()->rate(), 0.0F);
+    EXPECT_TRUE(pumpUntil([&] { return reports.playing.size() == 2; }));
+    EXPECT_GT(reports.ticks.size(), before + 1) << "the player's own report of the frame";
+}
+
 TEST(PlayerController, reportsTicksThePlayStateAndTheEndOnTheMainThread) {
     PlayerController controller;
     const Reports reports(controller);

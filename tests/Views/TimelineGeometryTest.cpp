@@ -4,8 +4,6 @@
 
 #include <cmath>
 #include <limits>
-#include <optional>
-#include <vector>
 
 namespace {
 
@@ -41,9 +39,9 @@ TEST(TimelineGeometry, putsEverythingAtTheStartOfTheAxisWithoutADuration) {
         geometry.duration = duration;
         EXPECT_EQ(geometry.x(3), 12) << duration;
         EXPECT_EQ(geometry.rangeFrame(), QRectF(12, 0, 0, 56));
-        EXPECT_EQ(geometry.handle(HandleEdge::leading), QRectF(0, 0, 12, 56));
-        EXPECT_EQ(geometry.handle(HandleEdge::trailing), QRectF(12, 0, 12, 56));
-        EXPECT_EQ(geometry.playhead(), QRectF(11, 0, 2, 56));
+        EXPECT_EQ(geometry.marker(EditMarker::trimStart), QRectF(0, 0, 12, 56));
+        EXPECT_EQ(geometry.marker(EditMarker::trimEnd), QRectF(12, 0, 12, 56));
+        EXPECT_EQ(geometry.marker(EditMarker::playhead), QRectF(11, 0, 2, 56));
         EXPECT_EQ(geometry.time(100), 0);
     }
 }
@@ -60,7 +58,7 @@ TEST(TimelineGeometry, givesFiniteResultsForAnyTimes) {
                                             .handleWidth = 12};
             for (const QRectF& rect :
                  {geometry.leftShade(), geometry.rightShade(), geometry.rangeFrame(),
-                  geometry.playhead(), geometry.handle(HandleEdge::leading)})
+                  geometry.marker(EditMarker::playhead), geometry.marker(EditMarker::trimStart)})
                 EXPECT_TRUE(std::isfinite(rect.x()) && std::isfinite(rect.width()));
             EXPECT_TRUE(std::isfinite(geometry.time(100)));
         }
@@ -95,9 +93,9 @@ TEST(TimelineGeometry, laysOutTheLayers) {
     EXPECT_EQ(geometry.leftShade(), QRectF(12, 0, 40, 56));
     EXPECT_EQ(geometry.rightShade(), QRectF(152, 0, 60, 56));
     EXPECT_EQ(geometry.rangeFrame(), QRectF(52, 0, 100, 56));
-    EXPECT_EQ(geometry.playhead(), QRectF(111, 0, 2, 56));
-    EXPECT_EQ(geometry.handle(HandleEdge::leading), QRectF(40, 0, 12, 56));
-    EXPECT_EQ(geometry.handle(HandleEdge::trailing), QRectF(152, 0, 12, 56));
+    EXPECT_EQ(geometry.marker(EditMarker::playhead), QRectF(111, 0, 2, 56));
+    EXPECT_EQ(geometry.marker(EditMarker::trimStart), QRectF(40, 0, 12, 56));
+    EXPECT_EQ(geometry.marker(EditMarker::trimEnd), QRectF(152, 0, 12, 56));
 }
 
 TEST(TimelineGeometry, makesNoShadeWiderThanWhatIsCutAway) {
@@ -125,60 +123,32 @@ TEST(TimelineGeometry, spansTheFilmstripWithTilesWhateverTheirNumber) {
     }
 }
 
-TEST(TimelineGeometry, findsTheHandlesBesideTheRange) {
+TEST(TimelineGeometry, findsWhatAPressDrags) {
     struct Case {
         QPointF point;
-        std::optional<HandleEdge> handle;
+        EditMarker marker;
     };
 
     const TimelineGeometry geometry = tenSeconds();
-    for (const Case& each : {Case{{39, 20}, std::nullopt},
-                             {{41, 1}, HandleEdge::leading},
-                             {{51, 55}, HandleEdge::leading},
-                             {{53, 20}, std::nullopt},
-                             {{112, 20}, std::nullopt},
-                             {{151, 20}, std::nullopt},
-                             {{153, 20}, HandleEdge::trailing},
-                             {{163, 20}, HandleEdge::trailing},
-                             {{165, 20}, std::nullopt},
-                             {{45, 57}, std::nullopt}})
-        EXPECT_EQ(geometry.handleAt(each.point), each.handle) << each.point.x();
+    for (const Case& each : {Case{{39, 20}, EditMarker::playhead},
+                             {{41, 1}, EditMarker::trimStart},
+                             {{51, 55}, EditMarker::trimStart},
+                             {{53, 20}, EditMarker::playhead},
+                             {{112, 20}, EditMarker::playhead},
+                             {{151, 20}, EditMarker::playhead},
+                             {{153, 20}, EditMarker::trimEnd},
+                             {{163, 20}, EditMarker::trimEnd},
+                             {{165, 20}, EditMarker::playhead},
+                             {{45, 57}, EditMarker::playhead}})
+        EXPECT_EQ(geometry.draggedAt(each.point), each.marker) << each.point.x();
 }
 
-TEST(TimelineGeometry, keepsTheEndsInsideTheFileAndApart) {
-    const TimelineGeometry geometry = tenSeconds();
-    EXPECT_EQ(geometry.clampedStart(-1), 0);
-    EXPECT_EQ(geometry.clampedStart(3), 3);
-    EXPECT_EQ(geometry.clampedStart(9), 7 - 0.1);
-    EXPECT_EQ(geometry.clampedEnd(0), 2 + 0.1);
-    EXPECT_EQ(geometry.clampedEnd(6), 6);
-    EXPECT_EQ(geometry.clampedEnd(11), 10);
-}
-
-/// The start of a shorter file was put before its beginning, and its handle beside the strip.
-TEST(TimelineGeometry, keepsAFileWholeThatIsShorterThanTheShortestRange) {
+TEST(TimelineGeometry, dragsTheTrailingHandleWhereItCoversTheLeadingOne) {
     TimelineGeometry geometry = tenSeconds();
-    geometry.duration = 0.04;
-    geometry.trimStart = 0;
-    geometry.trimEnd = 0.04;
-    for (const double time : {-1.0, 0.0, 0.02, 0.04, 1.0}) {
-        EXPECT_EQ(geometry.clampedStart(time), 0) << time;
-        EXPECT_EQ(geometry.clampedEnd(time), 0.04) << time;
-    }
-}
-
-TEST(TimelineGeometry, neverRoundsAnEndOutOfTheFile) {
-    TimelineGeometry geometry = tenSeconds();
-    // Sums and differences of these do not come out even.
-    for (const double duration : {0.1, 0.3, 0.7, 1.1, 6.1, 9.9}) {
-        geometry.duration = geometry.trimEnd = duration;
-        geometry.trimStart = geometry.clampedStart(duration);
-        EXPECT_GE(geometry.trimStart, 0) << duration;
-        EXPECT_LE(geometry.clampedEnd(0), duration) << duration;
-        geometry.trimStart = 0;
-        geometry.trimEnd = geometry.clampedEnd(0);
-        EXPECT_GE(geometry.clampedStart(0), 0) << duration;
-    }
+    geometry.trimEnd = geometry.trimStart - 0.5;
+    ASSERT_TRUE(geometry.marker(EditMarker::trimStart).contains(QPointF(47, 20)));
+    ASSERT_TRUE(geometry.marker(EditMarker::trimEnd).contains(QPointF(47, 20)));
+    EXPECT_EQ(geometry.draggedAt({47, 20}), EditMarker::trimEnd);
 }
 
 } // namespace

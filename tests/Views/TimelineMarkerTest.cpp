@@ -20,7 +20,6 @@ using testsupport::keepPicture;
 using testsupport::pumpPending;
 using testsupport::pumpUntil;
 using Kind = TimelineMove::Kind;
-using Role = TimelineMarker::Role;
 
 constexpr double kFrame = 1.0 / 30;
 
@@ -52,9 +51,9 @@ class TimelineMarkerTest : public TimelineStage {
 protected:
     void SetUp() override { ASSERT_TRUE(loadAndWait(kTenSeconds)); }
 
-    void focus(Role role) {
-        marker(role).setFocus(Qt::TabFocusReason);
-        ASSERT_TRUE(marker(role).hasFocus());
+    void focus(EditMarker which) {
+        marker(which).setFocus(Qt::TabFocusReason);
+        ASSERT_TRUE(marker(which).hasFocus());
     }
 
     /// To the window, as a real key press.
@@ -66,23 +65,23 @@ protected:
         return pumpUntil([&] { return qAbs(state().currentTime() - seconds) < 1e-3; });
     }
 
-    QAccessibleInterface& accessible(Role role) {
-        return *QAccessible::queryAccessibleInterface(&marker(role));
+    QAccessibleInterface& accessible(EditMarker which) {
+        return *QAccessible::queryAccessibleInterface(&marker(which));
     }
 };
 
 TEST_F(TimelineMarkerTest, isReachedByTabInTheOrderOfReading) {
-    focus(Role::trimStart);
+    focus(EditMarker::trimStart);
     press(Qt::Key_Tab);
-    EXPECT_TRUE(marker(Role::playhead).hasFocus());
+    EXPECT_TRUE(marker(EditMarker::playhead).hasFocus());
     press(Qt::Key_Tab);
-    EXPECT_TRUE(marker(Role::trimEnd).hasFocus());
+    EXPECT_TRUE(marker(EditMarker::trimEnd).hasFocus());
     press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_TRUE(marker(Role::playhead).hasFocus());
+    EXPECT_TRUE(marker(EditMarker::playhead).hasFocus());
 }
 
 TEST_F(TimelineMarkerTest, movesTheStartByKeys) {
-    focus(Role::trimStart);
+    focus(EditMarker::trimStart);
     press(Qt::Key_Right);
     EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
     EXPECT_DOUBLE_EQ(state().currentTime(), kFrame);
@@ -104,7 +103,7 @@ TEST_F(TimelineMarkerTest, movesTheStartByKeys) {
 
 TEST_F(TimelineMarkerTest, movesTheEndByKeys) {
     state().setTrimStart(4);
-    focus(Role::trimEnd);
+    focus(EditMarker::trimEnd);
     press(Qt::Key_Left);
     EXPECT_DOUBLE_EQ(state().trimEnd(), 10 - kFrame);
     press(Qt::Key_PageDown);
@@ -117,7 +116,7 @@ TEST_F(TimelineMarkerTest, movesTheEndByKeys) {
 }
 
 TEST_F(TimelineMarkerTest, movesThePlayheadByKeys) {
-    focus(Role::playhead);
+    focus(EditMarker::playhead);
     press(Qt::Key_PageUp);
     EXPECT_EQ(state().currentTime(), 1);
     press(Qt::Key_Right);
@@ -139,13 +138,13 @@ TEST_F(TimelineMarkerTest, takesItsKeysFromTheShortcutsOfTheWindow) {
     const QShortcut play(QKeySequence(Qt::Key_Space), &m_window);
     const QSignalSpy steps(&step, &QShortcut::activated);
     const QSignalSpy plays(&play, &QShortcut::activated);
-    focus(Role::trimStart);
+    focus(EditMarker::trimStart);
     press(Qt::Key_Right);
     EXPECT_EQ(steps.count(), 0);
     EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
     press(Qt::Key_Space);
     EXPECT_EQ(plays.count(), 1);
-    marker(Role::trimStart).clearFocus();
+    marker(EditMarker::trimStart).clearFocus();
     press(Qt::Key_Right);
     EXPECT_EQ(steps.count(), 1);
     EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
@@ -154,7 +153,7 @@ TEST_F(TimelineMarkerTest, takesItsKeysFromTheShortcutsOfTheWindow) {
 TEST_F(TimelineMarkerTest, movesBackToTheLeftInEveryLanguage) {
     QApplication::setLayoutDirection(Qt::RightToLeft);
     pumpPending();
-    focus(Role::trimStart);
+    focus(EditMarker::trimStart);
     press(Qt::Key_Right);
     EXPECT_DOUBLE_EQ(state().trimStart(), kFrame);
     EXPECT_EQ(view().startLabel().x(), 0);
@@ -165,15 +164,16 @@ TEST_F(TimelineMarkerTest, movesBackToTheLeftInEveryLanguage) {
 }
 
 TEST_F(TimelineMarkerTest, showsTheFocusThatCameByTheKeyboard) {
-    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+    EXPECT_FALSE(marker(EditMarker::trimStart).isFocusShown());
     const QImage before = m_window.grab().toImage();
-    for (const Role role : {Role::trimStart, Role::playhead, Role::trimEnd}) {
-        focus(role);
-        EXPECT_TRUE(marker(role).isFocusShown());
+    for (const EditMarker which :
+         {EditMarker::trimStart, EditMarker::playhead, EditMarker::trimEnd}) {
+        focus(which);
+        EXPECT_TRUE(marker(which).isFocusShown());
         EXPECT_FALSE(m_window.grab().toImage() == before);
-        keepPicture(m_window, QStringLiteral("focus-%1").arg(static_cast<int>(role)));
+        keepPicture(m_window, QStringLiteral("focus-%1").arg(static_cast<int>(which)));
     }
-    marker(Role::trimEnd).clearFocus();
+    marker(EditMarker::trimEnd).clearFocus();
     EXPECT_TRUE(m_window.grab().toImage() == before);
 }
 
@@ -189,20 +189,20 @@ TEST_F(TimelineMarkerTest, leavesTheFocusAloneWhenTheMouseIsUsed) {
 }
 
 TEST_F(TimelineMarkerTest, leavesAWindowWithoutAFocusToThePlayhead) {
-    EXPECT_EQ(m_window.focusWidget(), &marker(Role::playhead));
-    EXPECT_FALSE(marker(Role::playhead).isFocusShown());
+    EXPECT_EQ(m_window.focusWidget(), &marker(EditMarker::playhead));
+    EXPECT_FALSE(marker(EditMarker::playhead).isFocusShown());
 }
 
 TEST_F(TimelineMarkerTest, leavesTheRangeAloneWhereTheWindowPutTheFocusOnAHandle) {
-    marker(Role::trimStart).clearFocus();
-    marker(Role::trimStart).setFocus(Qt::ActiveWindowFocusReason);
-    ASSERT_TRUE(marker(Role::trimStart).hasFocus());
+    marker(EditMarker::trimStart).clearFocus();
+    marker(EditMarker::trimStart).setFocus(Qt::ActiveWindowFocusReason);
+    ASSERT_TRUE(marker(EditMarker::trimStart).hasFocus());
     const QShortcut step(QKeySequence(Qt::Key_Right), &m_window);
     const QSignalSpy steps(&step, &QShortcut::activated);
     press(Qt::Key_Right);
     EXPECT_EQ(steps.count(), 1);
     EXPECT_EQ(state().trimStart(), 0);
-    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+    EXPECT_FALSE(marker(EditMarker::trimStart).isFocusShown());
 }
 
 /// A look into the menus took the ring and the keys from the handle.
@@ -210,53 +210,53 @@ TEST_F(TimelineMarkerTest, hasItsRingAndItsKeysAgainAfterTheMenuBar) {
     QMenuBar bar(&m_window);
     bar.addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("Entry"));
     bar.show();
-    for (const Role role : {Role::trimStart, Role::trimEnd}) {
-        focus(role);
+    for (const EditMarker which : {EditMarker::trimStart, EditMarker::trimEnd}) {
+        focus(which);
         press(Qt::Key_F, Qt::AltModifier);
         QWidget* menu = QApplication::activePopupWidget();
         ASSERT_NE(menu, nullptr);
-        EXPECT_FALSE(marker(role).isFocusShown());
+        EXPECT_FALSE(marker(which).isFocusShown());
         QTest::keyClick(menu, Qt::Key_Escape);
         press(Qt::Key_Escape);
-        ASSERT_TRUE(marker(role).hasFocus());
-        EXPECT_TRUE(marker(role).isFocusShown());
+        ASSERT_TRUE(marker(which).hasFocus());
+        EXPECT_TRUE(marker(which).isFocusShown());
     }
     press(Qt::Key_Left);
     EXPECT_NEAR(state().trimEnd(), 10 - kFrame, 1e-9);
 }
 
 TEST_F(TimelineMarkerTest, hasItsRingAgainWhenItsWindowIsActiveAgain) {
-    focus(Role::trimStart);
+    focus(EditMarker::trimStart);
     QWidget other;
     other.show();
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+    EXPECT_FALSE(marker(EditMarker::trimStart).isFocusShown());
     m_window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
-    EXPECT_TRUE(marker(Role::trimStart).isFocusShown());
+    EXPECT_TRUE(marker(EditMarker::trimStart).isFocusShown());
 }
 
 /// The ring of earlier came back with a focus that nobody asked for, and the keys with it.
 TEST_F(TimelineMarkerTest, forgetsItsRingWhenTheFocusReallyGoesElsewhere) {
-    focus(Role::trimStart);
-    marker(Role::trimStart).clearFocus();
-    marker(Role::trimStart).setFocus(Qt::ActiveWindowFocusReason);
-    EXPECT_FALSE(marker(Role::trimStart).isFocusShown());
+    focus(EditMarker::trimStart);
+    marker(EditMarker::trimStart).clearFocus();
+    marker(EditMarker::trimStart).setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_FALSE(marker(EditMarker::trimStart).isFocusShown());
 }
 
 TEST_F(TimelineMarkerTest, staysInAFileShorterThanTheShortestRange) {
     ASSERT_TRUE(loadAndWait(kTwoFrames));
     ASSERT_TRUE(pumpUntil([this] { return state().duration() < 0.1; }));
     const double duration = state().duration();
-    for (const Role role : {Role::trimStart, Role::trimEnd}) {
-        const double only = role == Role::trimStart ? 0 : duration;
-        EXPECT_EQ(accessible(role).valueInterface()->minimumValue().toDouble(), only);
-        EXPECT_EQ(accessible(role).valueInterface()->maximumValue().toDouble(), only);
-        focus(role);
+    for (const EditMarker which : {EditMarker::trimStart, EditMarker::trimEnd}) {
+        const double only = which == EditMarker::trimStart ? 0 : duration;
+        EXPECT_EQ(accessible(which).valueInterface()->minimumValue().toDouble(), only);
+        EXPECT_EQ(accessible(which).valueInterface()->maximumValue().toDouble(), only);
+        focus(which);
         for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End})
             press(key);
-        accessible(role).valueInterface()->setCurrentValue(0.05);
+        accessible(which).valueInterface()->setCurrentValue(0.05);
         EXPECT_EQ(state().trimStart(), 0);
         EXPECT_EQ(state().trimEnd(), duration);
     }
@@ -264,24 +264,25 @@ TEST_F(TimelineMarkerTest, staysInAFileShorterThanTheShortestRange) {
     m_pointer.drag(trailingHandle(), {400, kMiddle});
     EXPECT_EQ(state().trimStart(), 0);
     EXPECT_EQ(state().trimEnd(), duration);
-    EXPECT_TRUE(QRectF(strip().rect()).contains(strip().geometryNow().handle(HandleEdge::leading)));
+    EXPECT_TRUE(
+        QRectF(strip().rect()).contains(strip().geometryNow().marker(EditMarker::trimStart)));
 }
 
 TEST_F(TimelineMarkerTest, givesTheFocusToThePlayheadWhenTheMouseTakesOver) {
-    focus(Role::trimStart);
+    focus(EditMarker::trimStart);
     m_pointer.click(at(4));
-    EXPECT_TRUE(marker(Role::playhead).hasFocus());
-    EXPECT_FALSE(marker(Role::playhead).isFocusShown());
+    EXPECT_TRUE(marker(EditMarker::playhead).hasFocus());
+    EXPECT_FALSE(marker(EditMarker::playhead).isFocusShown());
     press(Qt::Key_PageUp);
     EXPECT_DOUBLE_EQ(state().currentTime(), 5);
-    EXPECT_TRUE(marker(Role::playhead).isFocusShown());
+    EXPECT_TRUE(marker(EditMarker::playhead).isFocusShown());
     EXPECT_EQ(state().trimStart(), 0);
 }
 
 TEST_F(TimelineMarkerTest, takesTheFocusThatIsGivenToTheTimeline) {
     view().setFocus(Qt::OtherFocusReason);
-    EXPECT_TRUE(marker(Role::playhead).hasFocus());
-    EXPECT_FALSE(marker(Role::playhead).isFocusShown());
+    EXPECT_TRUE(marker(EditMarker::playhead).hasFocus());
+    EXPECT_FALSE(marker(EditMarker::playhead).isFocusShown());
 }
 
 TEST_F(TimelineMarkerTest, isASliderForAssistiveTechnology) {
@@ -290,7 +291,7 @@ TEST_F(TimelineMarkerTest, isASliderForAssistiveTechnology) {
     state().seek(5.3);
 
     struct Case {
-        Role role;
+        EditMarker which;
         QString name;
         QString text;
         double minimum;
@@ -298,10 +299,12 @@ TEST_F(TimelineMarkerTest, isASliderForAssistiveTechnology) {
     };
 
     for (const Case& each :
-         {Case{Role::trimStart, QStringLiteral("Trim start"), QStringLiteral("00:02.2"), 0, 6.9},
-          Case{Role::playhead, QStringLiteral("Playhead"), QStringLiteral("00:05.3"), 0, 10},
-          Case{Role::trimEnd, QStringLiteral("Trim end"), QStringLiteral("00:07.0"), 2.35, 10}}) {
-        QAccessibleInterface& slider = accessible(each.role);
+         {Case{EditMarker::trimStart, QStringLiteral("Trim start"), QStringLiteral("00:02.2"), 0,
+               6.9},
+          Case{EditMarker::playhead, QStringLiteral("Playhead"), QStringLiteral("00:05.3"), 0, 10},
+          Case{EditMarker::trimEnd, QStringLiteral("Trim end"), QStringLiteral("00:07.0"), 2.35,
+               10}}) {
+        QAccessibleInterface& slider = accessible(each.which);
         EXPECT_EQ(slider.role(), QAccessible::Slider);
         EXPECT_EQ(slider.text(QAccessible::Name), each.name);
         EXPECT_EQ(slider.text(QAccessible::Value), each.text);
@@ -311,28 +314,29 @@ TEST_F(TimelineMarkerTest, isASliderForAssistiveTechnology) {
         EXPECT_DOUBLE_EQ(slider.valueInterface()->minimumValue().toDouble(), each.minimum);
         EXPECT_DOUBLE_EQ(slider.valueInterface()->maximumValue().toDouble(), each.maximum);
         EXPECT_DOUBLE_EQ(slider.valueInterface()->currentValue().toDouble(),
-                         marker(each.role).value());
+                         marker(each.which).value());
     }
 }
 
 TEST_F(TimelineMarkerTest, isMovedByAssistiveTechnologyWithinItsLimits) {
-    const auto set = [this](Role role, double value) {
-        accessible(role).valueInterface()->setCurrentValue(value);
+    const auto set = [this](EditMarker which, double value) {
+        accessible(which).valueInterface()->setCurrentValue(value);
     };
-    set(Role::trimStart, 3);
+    set(EditMarker::trimStart, 3);
     EXPECT_EQ(state().trimStart(), 3);
     EXPECT_EQ(state().currentTime(), 3);
-    set(Role::trimEnd, 1);
+    set(EditMarker::trimEnd, 1);
     EXPECT_EQ(state().trimEnd(), 3.1);
-    set(Role::playhead, 99);
+    set(EditMarker::playhead, 99);
     EXPECT_EQ(state().currentTime(), 10);
 }
 
 using EmptyTimelineMarkerTest = TimelineStage;
 
 TEST_F(EmptyTimelineMarkerTest, ignoresItsKeysWithoutAVideo) {
-    for (const Role role : {Role::trimStart, Role::playhead, Role::trimEnd}) {
-        marker(role).setFocus(Qt::TabFocusReason);
+    for (const EditMarker which :
+         {EditMarker::trimStart, EditMarker::playhead, EditMarker::trimEnd}) {
+        marker(which).setFocus(Qt::TabFocusReason);
         for (const Qt::Key key : {Qt::Key_Right, Qt::Key_PageUp, Qt::Key_End})
             QTest::keyClick(m_window.windowHandle(), key);
     }

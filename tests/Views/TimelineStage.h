@@ -35,20 +35,18 @@ protected:
 
     TimelineStrip& strip() { return m_view->strip(); }
 
-    TimelineMarker& marker(TimelineMarker::Role role) {
-        return *strip().markers().at(static_cast<std::size_t>(role));
-    }
+    TimelineMarker& marker(EditMarker marker) { return strip().marker(marker); }
 
     /// A point on the strip at so many seconds of ten.
     static QPoint at(double seconds) { return {qRound(kAxisStart + kSecond * seconds), kMiddle}; }
 
     /// Points in the middle of the handles.
     QPoint leadingHandle() {
-        return strip().geometryNow().handle(HandleEdge::leading).center().toPoint();
+        return strip().geometryNow().marker(EditMarker::trimStart).center().toPoint();
     }
 
     QPoint trailingHandle() {
-        return strip().geometryNow().handle(HandleEdge::trailing).center().toPoint();
+        return strip().geometryNow().marker(EditMarker::trimEnd).center().toPoint();
     }
 
     void resizeTo(int width) {

@@ -23,11 +23,9 @@ namespace brisklet {
 
 namespace {
 
-/// Between the frames of two neighbours, points.
+/// Between the frames of neighbouring items, points.
 constexpr int kSpacing = 12;
 constexpr int kDividerHeight = 20;
-/// The crop that the button draws first: 80 % of the picture in each direction, centred.
-constexpr media::Rect kFirstCrop{0.1, 0.1, 0.8, 0.8};
 
 class Divider final : public QWidget {
 public:
@@ -39,7 +37,7 @@ protected:
     }
 };
 
-/// The title of a group of entries; the style's own separators leave it no room.
+/// The title of a group of entries. Not a section of QMenu, whose title some styles do not show.
 QLabel* addTitle(QMenu& menu, const QString& title) {
     constexpr QMargins kMargins(10, 6, 10, 2);
     auto* label = new QLabel(title);
@@ -92,7 +90,7 @@ void ControlsView::buildLayout() {
     m_muteButton->setCheckable(true);
     m_cropButton->setCheckable(true);
 
-    // The buttons reach kPadding beyond their frames on each side.
+    // The buttons extend kPadding beyond their frames on each side.
     constexpr int kBeside = kSpacing - FlatButton::kPadding;
     constexpr int kBetween = kSpacing - 2 * FlatButton::kPadding;
     auto* row = new QHBoxLayout(this);
@@ -203,7 +201,7 @@ void ControlsView::toggleMute() {
 }
 
 void ControlsView::toggleCrop() {
-    m_state->setCropRect(m_state->cropRect() ? std::nullopt : std::optional(kFirstCrop));
+    m_state->toggleCrop();
     showCrop();
 }
 
@@ -241,8 +239,8 @@ void ControlsView::showExport() {
     const ExportSettings& settings = ExportSettings::shared();
     m_exportButton->setText(exportLabel(settings.format(), settings.resolution()));
     const bool isExporting = m_state->exportProgress().has_value();
-    // A button that is disabled hands the keyboard to whatever comes next, whose keys would then do
-    // other things. What holds the controls has it meanwhile.
+    // Disabling the button would pass its focus on to another control, where the same keys do other
+    // things. The parent of the controls has the focus meanwhile.
     QWidget* holder = parentWidget();
     if (isExporting && holder && window()->focusWidget() == m_exportButton) {
         holder->setFocus(Qt::OtherFocusReason);

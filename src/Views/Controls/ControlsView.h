@@ -18,8 +18,8 @@ class TabularLabel;
 
 /// The row of controls under the timeline: play, mute, rotate, crop, the size of the crop, and the
 /// export button with the menu of formats and resolutions. Shows the model and the shared export
-/// settings, and keeps no state of its own. Its keys (Space, M, R, K) work while its window is
-/// active and no other control wants them. Main thread.
+/// settings, and has no state of its own. Its keys (Space, M, R, K) work while its window is active
+/// and no other control takes them. Main thread.
 class ControlsView final : public QWidget {
     Q_OBJECT
 
@@ -27,8 +27,8 @@ public:
     explicit ControlsView(std::shared_ptr<EditState> state, QWidget* parent = nullptr);
     ~ControlsView() override;
 
-    /// How far the buttons' frames stand from the left edge: what lights up around the first one
-    /// reaches beyond its frame. Points.
+    /// The distance of the first button's frame from the left edge, points: its highlight extends
+    /// beyond the frame.
     static int leftInset();
 
     [[nodiscard]] FlatButton& playButton() const { return *m_playButton; }
@@ -72,7 +72,7 @@ private:
     TabularLabel* m_cropSize;
     ExportButton* m_exportButton;
     QList<QLabel*> m_menuTitles;
-    /// The export button had the keyboard when the running export began.
+    /// The export button had the focus when the running export began.
     bool m_hadFocus = false;
 };
 

@@ -9,24 +9,16 @@ namespace brisklet {
 
 namespace {
 
-bool isOnLeft(CropHandle handle) {
-    return handle == CropHandle::topLeft || handle == CropHandle::left ||
-           handle == CropHandle::bottomLeft;
-}
-
-bool isOnRight(CropHandle handle) {
-    return handle == CropHandle::topRight || handle == CropHandle::right ||
-           handle == CropHandle::bottomRight;
-}
-
-bool isOnTop(CropHandle handle) {
-    return handle == CropHandle::topLeft || handle == CropHandle::top ||
-           handle == CropHandle::topRight;
-}
-
-bool isOnBottom(CropHandle handle) {
-    return handle == CropHandle::bottomLeft || handle == CropHandle::bottom ||
-           handle == CropHandle::bottomRight;
+double along(CropSide side, double minimum, double middle, double maximum) {
+    switch (side) {
+    case CropSide::minimum:
+        return minimum;
+    case CropSide::neither:
+        return middle;
+    case CropSide::maximum:
+        return maximum;
+    }
+    return middle;
 }
 
 } // namespace
@@ -51,7 +43,7 @@ QRectF CropGeometry::handleFrame(CropHandle handle, const QRectF& cropViewRect) 
 
 std::optional<CropHandle> CropGeometry::handleAt(const QPointF& point,
                                                  const QRectF& cropViewRect) const {
-    // What is drawn last lies on top.
+    // The handle that is drawn last is on top.
     const auto hit =
         std::find_if(kCropHandles.rbegin(), kCropHandles.rend(), [&](CropHandle handle) {
             return QLineF(position(handle, cropViewRect), point).length() <= handleSize / 2;
@@ -61,30 +53,8 @@ std::optional<CropHandle> CropGeometry::handleAt(const QPointF& point,
 
 QPointF CropGeometry::position(CropHandle handle, const QRectF& rect) {
     const QPointF middle = rect.center();
-    const double x = isOnLeft(handle) ? rect.left() : isOnRight(handle) ? rect.right() : middle.x();
-    const double y = isOnTop(handle) ? rect.top() : isOnBottom(handle) ? rect.bottom() : middle.y();
-    return {x, y};
-}
-
-media::Rect CropGeometry::moved(const media::Rect& start, media::Point by) {
-    return {std::min(std::max(start.x + by.x, 0.0), 1 - start.width),
-            std::min(std::max(start.y + by.y, 0.0), 1 - start.height), start.width, start.height};
-}
-
-media::Rect CropGeometry::resized(const media::Rect& start, CropHandle handle, media::Point by) {
-    double minX = start.minX();
-    double maxX = start.maxX();
-    double minY = start.minY();
-    double maxY = start.maxY();
-    if (isOnLeft(handle))
-        minX = std::min(std::max(start.minX() + by.x, 0.0), maxX - kMinimumSide);
-    if (isOnRight(handle))
-        maxX = std::max(std::min(start.maxX() + by.x, 1.0), minX + kMinimumSide);
-    if (isOnTop(handle))
-        minY = std::min(std::max(start.minY() + by.y, 0.0), maxY - kMinimumSide);
-    if (isOnBottom(handle))
-        maxY = std::max(std::min(start.maxY() + by.y, 1.0), minY + kMinimumSide);
-    return {minX, minY, maxX - minX, maxY - minY};
+    return {along(crop::horizontalSide(handle), rect.left(), middle.x(), rect.right()),
+            along(crop::verticalSide(handle), rect.top(), middle.y(), rect.bottom())};
 }
 
 } // namespace brisklet

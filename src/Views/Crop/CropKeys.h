@@ -9,15 +9,15 @@
 
 namespace brisklet {
 
-/// What a key does to the crop: the same as a drag of so many points of the screen.
+/// What a key does to the crop: the same as a drag by that many points of the screen.
 struct CropKey {
     /// Points.
     QPointF translation;
     /// The handle that is dragged; none moves the whole crop.
     std::optional<CropHandle> handle;
 
-    /// An arrow goes one point its way, with Shift ten: by itself it moves the crop, with Ctrl its
-    /// right or bottom side, with Alt its left or top side. None for other keys.
+    /// An arrow key goes one point in its direction, with Shift ten. By itself it moves the crop,
+    /// with Ctrl the right or bottom side, with Alt the left or top side. None for other keys.
     static std::optional<CropKey> of(int key, Qt::KeyboardModifiers modifiers);
 
     friend bool operator==(const CropKey&, const CropKey&) = default;

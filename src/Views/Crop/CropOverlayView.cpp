@@ -22,7 +22,7 @@ namespace brisklet {
 
 namespace {
 
-/// How far the pointer goes before a press becomes a drag, points.
+/// How far the pointer must move for a press to become a drag, points.
 constexpr double kDragDistance = 10;
 
 Qt::CursorShape cursorOf(CropHandle handle) {
@@ -89,8 +89,7 @@ void CropOverlayView::followCrop() {
     const bool isWanted = m_state->cropRect().has_value();
     if (!isWanted) {
         endDrag();
-        // Hiding would hand the focus to whatever comes next, whose keys would then do other
-        // things.
+        // Hiding would pass the focus on to another widget, where the same keys do other things.
         clearFocus();
     }
     repaintDifference(std::exchange(m_shown, cropViewRect()), cropViewRect());
@@ -103,7 +102,8 @@ void CropOverlayView::repaintDifference(const QRectF& before, const QRectF& now)
         update();
         return;
     }
-    // What is dark in both and what is clear in both stays; the handles reach over the border.
+    // What is dark before and after, or clear before and after, need not be painted again. The
+    // handles extend beyond the border.
     const double reach = CropPainting::reach(m_geometry);
     const auto border = [reach](const QRectF& rect) {
         const QRegion outside(rect.adjusted(-reach, -reach, reach, reach).toAlignedRect());
@@ -134,7 +134,7 @@ void CropOverlayView::mousePressEvent(QMouseEvent* event) {
 }
 
 void CropOverlayView::mouseMoveEvent(QMouseEvent* event) {
-    // The release went elsewhere where a dialog took the pointer.
+    // If a dialog took the pointer meanwhile, the release of the button went to it.
     if (!(event->buttons() & Qt::LeftButton))
         endDrag();
     if (m_drag)
@@ -161,12 +161,12 @@ void CropOverlayView::dragBy(const QPointF& translation) {
     const auto by = m_geometry.toPicture(translation);
     if (!by || !m_drag->start)
         return;
-    // Always from where the drag began, so that no rounding adds up.
+    // From where the drag began, so that rounding errors do not add up.
     const media::Rect start = *m_drag->start;
     if (const auto* handle = std::get_if<CropHandle>(&m_drag->grip))
-        write(CropGeometry::resized(start, *handle, *by));
+        m_state->resizeCrop(start, *handle, *by);
     else
-        write(CropGeometry::moved(start, *by));
+        m_state->moveCrop(start, *by);
 }
 
 void CropOverlayView::endDrag() {
@@ -177,13 +177,8 @@ void CropOverlayView::endDrag() {
 void CropOverlayView::takeDragBack() {
     const auto start = std::exchange(m_drag, std::nullopt)->start;
     if (start)
-        write(*start);
+        m_state->setCropRect(*start);
     showCursor(mapFromGlobal(QCursor::pos()));
-}
-
-void CropOverlayView::write(const media::Rect& crop) {
-    if (m_state->cropRect() != crop)
-        m_state->setCropRect(crop);
 }
 
 void CropOverlayView::showCursor(const QPointF& point) {
@@ -217,9 +212,13 @@ void CropOverlayView::keyPressEvent(QKeyEvent* event) {
     }
     if (!std::exchange(m_isFocusShown, true))
         update();
-    if (const auto by = m_geometry.toPicture(key->translation))
-        write(key->handle ? CropGeometry::resized(*crop, *key->handle, *by)
-                          : CropGeometry::moved(*crop, *by));
+    const auto by = m_geometry.toPicture(key->translation);
+    if (!by)
+        return;
+    if (key->handle)
+        m_state->resizeCrop(*crop, *key->handle, *by);
+    else
+        m_state->moveCrop(*crop, *by);
 }
 
 void CropOverlayView::focusInEvent(QFocusEvent* event) {

@@ -13,13 +13,14 @@ namespace brisklet {
 
 class EditState;
 
-/// The crop editor over the picture: darkens what is cut away, and has the crop moved by a drag
-/// inside it and resized by eight handles, or by keys while it has the focus. Hidden, and so out of
-/// the way of the mouse, while there is no crop; presses beside the crop go on to the parent.
+/// The crop editor over the picture: darkens what is cut away; a drag inside the crop moves it, a
+/// drag of one of eight handles resizes it, and keys do both while the view has the focus. Hidden,
+/// and so transparent to the mouse, while there is no crop; presses beside the crop go to the
+/// parent.
 ///
-///     no drag ──press, 10 points of way──▶ drag ──release, end of the crop, turn──▶ no drag
+///     no drag ──press and 10 points of movement──▶ drag ──release, crop removed, turn──▶ no drag
 ///
-/// Escape during a drag puts the crop back as it was before.
+/// Escape during a drag restores the crop as it was before.
 ///
 /// Main thread.
 class CropOverlayView final : public QWidget {
@@ -30,15 +31,15 @@ public:
     explicit CropOverlayView(std::shared_ptr<EditState> state, int handleSize = 12,
                              QWidget* parent = nullptr);
 
-    /// Where the picture lies, in this view's coordinates. Without an area nothing can be dragged.
+    /// Where the picture is, in this view's coordinates. Without an area nothing can be dragged.
     [[nodiscard]] const QRectF& videoRect() const { return m_geometry.videoRect; }
 
     void setVideoRect(const QRectF& rect);
 
-    /// Where the crop lies, in this view's coordinates; empty without one.
+    /// Where the crop is, in this view's coordinates; empty without one.
     [[nodiscard]] QRectF cropViewRect() const;
 
-    /// Size and place of the crop in pixels of the picture, as people read it; empty without one.
+    /// Size and position of the crop in pixels of the picture, as text; empty without one.
     [[nodiscard]] QString cropText() const;
 
 protected:
@@ -60,7 +61,7 @@ private:
     struct Drag {
         Grip grip;
         QPointF pressedAt;
-        /// The crop when the drag really began, after the first few points of way.
+        /// The crop when the press became a drag; none before that.
         std::optional<media::Rect> start;
     };
 
@@ -70,7 +71,6 @@ private:
     void dragBy(const QPointF& translation);
     void endDrag();
     void takeDragBack();
-    void write(const media::Rect& crop);
     void showCursor(const QPointF& point);
     void announce();
 
@@ -78,7 +78,7 @@ private:
     CropGeometry m_geometry;
     std::optional<Drag> m_drag;
     DragEscape m_escape{*this};
-    /// What was asked to be painted last.
+    /// The crop for which a repaint was requested last, in this view's coordinates.
     QRectF m_shown;
     bool m_isFocusShown = false;
     QString m_announced;

@@ -52,40 +52,25 @@ QRectF TimelineGeometry::rangeFrame() const {
     return {left, 0, std::max(x(trimEnd) - left, 0.0), stripHeight};
 }
 
-QRectF TimelineGeometry::playhead() const {
-    return {x(currentTime) - kPlayheadWidth / 2, 0, kPlayheadWidth, stripHeight};
-}
-
-QRectF TimelineGeometry::handle(HandleEdge edge) const {
-    const double left = edge == HandleEdge::leading ? x(trimStart) - handleWidth : x(trimEnd);
-    return {left, 0, handleWidth, stripHeight};
-}
-
-std::optional<HandleEdge> TimelineGeometry::handleAt(const QPointF& point) const {
-    // Topmost first: the trailing handle lies above the leading one.
-    for (const HandleEdge edge : {HandleEdge::trailing, HandleEdge::leading}) {
-        if (handle(edge).contains(point))
-            return edge;
+QRectF TimelineGeometry::marker(EditMarker marker) const {
+    switch (marker) {
+    case EditMarker::trimStart:
+        return {x(trimStart) - handleWidth, 0, handleWidth, stripHeight};
+    case EditMarker::playhead:
+        return {x(currentTime) - kPlayheadWidth / 2, 0, kPlayheadWidth, stripHeight};
+    case EditMarker::trimEnd:
+        return {x(trimEnd), 0, handleWidth, stripHeight};
     }
-    return std::nullopt;
+    return {};
 }
 
-double TimelineGeometry::latestStart() const {
-    const double latest = trimEnd - kMinimumRange;
-    return duration > 0 ? std::max(latest, 0.0) : latest;
-}
-
-double TimelineGeometry::earliestEnd() const {
-    const double earliest = trimStart + kMinimumRange;
-    return duration > 0 ? std::min(earliest, duration) : earliest;
-}
-
-double TimelineGeometry::clampedStart(double time) const {
-    return std::min(std::max(time, 0.0), latestStart());
-}
-
-double TimelineGeometry::clampedEnd(double time) const {
-    return std::max(std::min(time, duration), earliestEnd());
+EditMarker TimelineGeometry::draggedAt(const QPointF& point) const {
+    // The trailing handle is painted over the leading one.
+    for (const EditMarker end : {EditMarker::trimEnd, EditMarker::trimStart}) {
+        if (marker(end).contains(point))
+            return end;
+    }
+    return EditMarker::playhead;
 }
 
 } // namespace brisklet

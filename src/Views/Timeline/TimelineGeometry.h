@@ -1,25 +1,19 @@
 #pragma once
 
+#include "Models/EditMarker.h"
+
 #include <QPointF>
 #include <QRectF>
 
-#include <optional>
-
 namespace brisklet {
 
-/// The two ends of the kept range.
-enum class HandleEdge { leading, trailing };
-
-/// Where everything on the strip of a timeline lies. Positions are points from the strip's left
-/// edge, times seconds. The time axis runs from `handleWidth` to `width - handleWidth`; each handle
-/// lies just outside the range that it limits.
+/// Where everything on the strip of a timeline is. Positions are points from the strip's left edge,
+/// times are seconds. The time axis runs from `handleWidth` to `width - handleWidth`; each handle
+/// is just outside the end of the range that it moves.
 ///
-/// Any number may stand in the times, those that are none and infinite ones among them, as damaged
-/// files state them: the results are always finite.
+/// The times may be any numbers, NaN and infinities included, since damaged files state such ones:
+/// the results are always finite.
 struct TimelineGeometry {
-    /// The shortest range that a handle makes, seconds.
-    static constexpr double kMinimumRange = 0.1;
-
     double duration = 0;
     double trimStart = 0;
     double trimEnd = 0;
@@ -45,21 +39,12 @@ struct TimelineGeometry {
     [[nodiscard]] QRectF leftShade() const;
     [[nodiscard]] QRectF rightShade() const;
     [[nodiscard]] QRectF rangeFrame() const;
-    [[nodiscard]] QRectF playhead() const;
-    [[nodiscard]] QRectF handle(HandleEdge edge) const;
+    /// The bar of the playhead, or the handle of an end of the range.
+    [[nodiscard]] QRectF marker(EditMarker marker) const;
 
-    /// The handle under a point of the strip; they lie above everything else.
-    [[nodiscard]] std::optional<HandleEdge> handleAt(const QPointF& point) const;
-
-    /// How near the ends of the range may come to each other: kMinimumRange, but neither leaves the
-    /// file. So a file that is shorter than that stays whole.
-    [[nodiscard]] double latestStart() const;
-    [[nodiscard]] double earliestEnd() const;
-
-    /// What a handle that is put at `time` makes of its end of the range: inside the file, and
-    /// away from the other end, which wins.
-    [[nodiscard]] double clampedStart(double time) const;
-    [[nodiscard]] double clampedEnd(double time) const;
+    /// What a press on that point of the strip drags: the end of the range whose handle is there,
+    /// anywhere else the playhead.
+    [[nodiscard]] EditMarker draggedAt(const QPointF& point) const;
 
     friend bool operator==(const TimelineGeometry&, const TimelineGeometry&) = default;
 };

@@ -1,16 +1,14 @@
 #include "Views/Timeline/TimelineMarker.h"
 
-#include "Media/Player.h"
 #include "Models/EditState.h"
 #include "Views/FocusReasons.h"
-#include "Views/Timeline/TimelineEdits.h"
+#include "Views/Timeline/TimelineLabels.h"
 #include "Views/Timeline/TimelineMarkerAccessible.h"
 
 #include <QAccessible>
 #include <QFocusEvent>
 #include <QKeyEvent>
 
-#include <cmath>
 #include <utility>
 
 namespace brisklet {
@@ -20,8 +18,16 @@ namespace {
 /// How much farther a key goes with Shift.
 constexpr int kShiftFactor = 10;
 
-HandleEdge edgeOf(TimelineMarker::Role role) {
-    return role == TimelineMarker::Role::trimStart ? HandleEdge::leading : HandleEdge::trailing;
+QString nameOf(EditMarker marker) {
+    switch (marker) {
+    case EditMarker::trimStart:
+        return TimelineMarker::tr("Trim start");
+    case EditMarker::playhead:
+        return TimelineMarker::tr("Playhead");
+    case EditMarker::trimEnd:
+        return TimelineMarker::tr("Trim end");
+    }
+    return {};
 }
 
 } // namespace
@@ -51,64 +57,41 @@ std::optional<TimelineMove> TimelineMove::of(int key, Qt::KeyboardModifiers modi
     }
 }
 
-TimelineMarker::TimelineMarker(std::shared_ptr<EditState> state, Role role, QWidget* strip)
-    : QWidget(strip), m_state(std::move(state)), m_role(role) {
+TimelineMarker::TimelineMarker(std::shared_ptr<EditState> state, EditMarker marker, QWidget* strip)
+    : QWidget(strip), m_state(std::move(state)), m_marker(marker) {
     installTimelineMarkerAccessibility();
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     // By Tab only: a click on the strip must not take the arrow keys away from the frame steps.
     setFocusPolicy(Qt::TabFocus);
-    switch (role) {
-    case Role::trimStart:
-        setAccessibleName(tr("Trim start"));
-        break;
-    case Role::playhead:
-        setAccessibleName(tr("Playhead"));
-        break;
-    case Role::trimEnd:
-        setAccessibleName(tr("Trim end"));
-        break;
-    }
+    setAccessibleName(nameOf(marker));
 }
 
 double TimelineMarker::value() const {
-    switch (m_role) {
-    case Role::trimStart:
-        return m_state->trimStart();
-    case Role::playhead:
-        return m_state->currentTime();
-    case Role::trimEnd:
-        return m_state->trimEnd();
-    }
-    return 0;
+    return m_state->time(m_marker);
 }
 
 double TimelineMarker::minimum() const {
-    return m_role == Role::trimEnd ? timeline::geometryOf(*m_state, 0, 0, 0).earliestEnd() : 0;
+    return m_state->earliest(m_marker);
 }
 
 double TimelineMarker::maximum() const {
-    return m_role == Role::trimStart ? timeline::geometryOf(*m_state, 0, 0, 0).latestStart()
-                                     : m_state->duration();
+    return m_state->latest(m_marker);
 }
 
 QString TimelineMarker::valueText() const {
-    return timeline::shownTime(value());
+    return timelineLabel(value());
 }
 
 void TimelineMarker::setValue(double seconds) {
-    if (!m_state->videoURL() || std::isnan(seconds))
-        return;
-    if (m_role == Role::playhead)
-        m_state->seek(seconds);
-    else
-        timeline::moveEdge(*m_state, edgeOf(m_role), seconds);
+    if (m_state->videoURL())
+        m_state->moveMarker(m_marker, seconds);
 }
 
 void TimelineMarker::announceValue() {
     if (!QAccessible::isActive())
         return;
-    // A tenth of a second is all that is ever read out.
+    // Screen readers read the text, which changes by tenths of a second.
     if (QString text = valueText(); text != m_announced) {
         m_announced = std::move(text);
         QAccessibleValueChangeEvent changed(this, value());
@@ -117,9 +100,9 @@ void TimelineMarker::announceValue() {
 }
 
 bool TimelineMarker::takesKeys() const {
-    // A handle that got the focus only because a window must give it to something would surprise
-    // with a range that changes; the playhead does what the arrows do everywhere.
-    return m_role == Role::playhead || m_isFocusShown;
+    // A handle may have the focus only because the window had to give it to some widget; keys that
+    // change the range would be a surprise then. The playhead does what the arrows do everywhere.
+    return m_marker == EditMarker::playhead || m_isFocusShown;
 }
 
 bool TimelineMarker::event(QEvent* event) {
@@ -148,11 +131,7 @@ void TimelineMarker::keyPressEvent(QKeyEvent* event) {
 void TimelineMarker::apply(const TimelineMove& move) {
     switch (move.kind) {
     case TimelineMove::Kind::byFrames:
-        // The playhead goes from frame to frame even where they do not follow the nominal rate.
-        if (m_role == Role::playhead)
-            m_state->playerController().player()->step(move.count);
-        else
-            setValue(value() + move.count * timeline::frameDuration(*m_state));
+        m_state->stepMarker(m_marker, move.count);
         return;
     case TimelineMove::Kind::bySeconds:
         setValue(value() + move.count);
@@ -169,8 +148,8 @@ void TimelineMarker::apply(const TimelineMove& move) {
 void TimelineMarker::focusInEvent(QFocusEvent* event) {
     const Qt::FocusReason reason = event->reason();
     if (!isPassingFocus(reason))
-        m_isFocusShown =
-            isKeyboardFocus(reason) || (reason == Qt::OtherFocusReason && m_role != Role::playhead);
+        m_isFocusShown = isKeyboardFocus(reason) ||
+                         (reason == Qt::OtherFocusReason && m_marker != EditMarker::playhead);
     Q_EMIT focusShownChanged();
     QWidget::focusInEvent(event);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Views/Timeline/TimelineGeometry.h"
+#include "Models/EditMarker.h"
 
 #include <QString>
 #include <QWidget>
@@ -20,38 +20,36 @@ struct TimelineMove {
     /// Frames or seconds; negative moves back.
     int count = 0;
 
-    /// The move that a key stands for, if any. Back is always left, whatever the direction of the
-    /// writing.
+    /// The move that a key stands for, if any. Left is always backward, also where text runs from
+    /// right to left.
     static std::optional<TimelineMove> of(int key, Qt::KeyboardModifiers modifiers);
 
     friend bool operator==(const TimelineMove&, const TimelineMove&) = default;
 };
 
-/// One end of the range or the playhead, for the keyboard and for assistive technology: a slider
-/// over the time. It takes the focus and the keys and keeps nothing; it paints nothing and lets the
-/// mouse through, since the strip that it lies on does that for all of them. Main thread.
+/// One end of the range or the playhead, as a slider over the time for the keyboard and for
+/// assistive technology. It takes the focus and the keys and has no state of its own. It paints
+/// nothing and is transparent to the mouse: the strip below does both for all markers. Main thread.
 class TimelineMarker final : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Role { trimStart, playhead, trimEnd };
+    TimelineMarker(std::shared_ptr<EditState> state, EditMarker marker, QWidget* strip);
 
-    TimelineMarker(std::shared_ptr<EditState> state, Role role, QWidget* strip);
-
-    [[nodiscard]] Role role() const { return m_role; }
+    [[nodiscard]] EditMarker marker() const { return m_marker; }
 
     /// Seconds.
     [[nodiscard]] double value() const;
     [[nodiscard]] double minimum() const;
     [[nodiscard]] double maximum() const;
-    /// The value as people read it.
+    /// The value as it is shown.
     [[nodiscard]] QString valueText() const;
 
-    /// Moves there, as near as the limits allow, like a drag.
+    /// Moves there as a drag would, as near as the limits allow. Does nothing without a video.
     void setValue(double seconds);
 
-    /// Whether the focus is to be shown: it came by the keyboard or was given to this handle, or a
-    /// key was used since.
+    /// Whether to paint the focus: it came by the keyboard or was given to this handle, or a key
+    /// has been used since.
     [[nodiscard]] bool isFocusShown() const { return hasFocus() && m_isFocusShown; }
 
     /// Tells assistive technology of a new value.
@@ -72,7 +70,7 @@ private:
     void apply(const TimelineMove& move);
 
     std::shared_ptr<EditState> m_state;
-    Role m_role;
+    EditMarker m_marker;
     bool m_isFocusShown = false;
     QString m_announced;
 };

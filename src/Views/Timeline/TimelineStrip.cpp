@@ -4,7 +4,6 @@
 #include "Views/Painting/DeviceGrid.h"
 #include "Views/Painting/Symbols.h"
 #include "Views/Painting/Theme.h"
-#include "Views/Timeline/TimelineEdits.h"
 #include "Views/Timeline/TimelineMarker.h"
 
 #include <QCursor>
@@ -27,32 +26,36 @@ constexpr double kCornerRadius = 6;
 constexpr double kShadowOpacity = 0.33;
 /// How far the playhead's shadow can be seen, points.
 constexpr double kShadowReach = 2;
-/// Of the blur that has the shadow's radius of one point.
+/// The standard deviation of a blur whose radius is one point.
 constexpr double kShadowDeviation = 0.75;
 constexpr double kSymbolOpacity = 0.6;
-/// The square that the handles' symbols are drawn on, points: of bold text of size 11.
+/// The side of the square in which a handle's symbol is drawn, points: that of bold text of
+/// size 11.
 constexpr double kSymbolSide = 18;
 constexpr double kFocusWidth = 2;
 /// From the playhead to its focus ring, points.
 constexpr double kFocusDistance = 2;
 
+/// In the order in which their handles are painted.
+constexpr std::array kRangeEnds{EditMarker::trimStart, EditMarker::trimEnd};
+
 QColor blackOf(double opacity) {
     return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
 }
 
-/// The part that can be seen, and a little around it: painting need not take on any number that a
-/// damaged file makes.
+/// The visible part and a little around it, so that painting need not cope with the huge numbers
+/// that a damaged file can state.
 QRectF bounded(const QRectF& rect, const QRectF& strip) {
     const double reach = 2 * strip.height();
     return rect.intersected(strip.adjusted(-reach, 0, reach, 0));
 }
 
-QPainterPath handlePath(const QRectF& rect, HandleEdge edge) {
+QPainterPath handlePath(const QRectF& rect, EditMarker end) {
     QPainterPath path;
     path.addRoundedRect(rect, kCornerRadius, kCornerRadius);
-    // The side toward the range has square corners.
+    // The corners on the side of the range are square.
     QPainterPath inner;
-    const double left = edge == HandleEdge::leading ? rect.center().x() : rect.left();
+    const double left = end == EditMarker::trimStart ? rect.center().x() : rect.left();
     inner.addRect(QRectF(left, rect.top(), rect.width() / 2, rect.height()));
     return path.united(inner);
 }
@@ -65,10 +68,9 @@ TimelineStrip::TimelineStrip(std::shared_ptr<EditState> state, int stripHeight, 
       m_state(std::move(state)),
       m_stripHeight(stripHeight),
       m_handleWidth(handleWidth) {
-    using Role = TimelineMarker::Role;
-    m_markers = {new TimelineMarker(m_state, Role::trimStart, this),
-                 new TimelineMarker(m_state, Role::playhead, this),
-                 new TimelineMarker(m_state, Role::trimEnd, this)};
+    std::ranges::transform(kEditMarkers, m_markers.begin(), [this](EditMarker marker) {
+        return new TimelineMarker(m_state, marker, this);
+    });
     setMouseTracking(true);
     setFixedHeight(stripHeight);
     observe();
@@ -76,7 +78,17 @@ TimelineStrip::TimelineStrip(std::shared_ptr<EditState> state, int stripHeight, 
 }
 
 TimelineGeometry TimelineStrip::geometryNow() const {
-    return timeline::geometryOf(*m_state, width(), m_stripHeight, m_handleWidth);
+    return {.duration = m_state->duration(),
+            .trimStart = m_state->trimStart(),
+            .trimEnd = m_state->trimEnd(),
+            .currentTime = m_state->currentTime(),
+            .width = static_cast<double>(width()),
+            .stripHeight = static_cast<double>(m_stripHeight),
+            .handleWidth = static_cast<double>(m_handleWidth)};
+}
+
+TimelineMarker& TimelineStrip::marker(EditMarker marker) const {
+    return *m_markers.at(static_cast<std::size_t>(marker));
 }
 
 void TimelineStrip::observe() {
@@ -96,8 +108,8 @@ void TimelineStrip::refresh() {
     repaintDifference(std::exchange(m_shown, now), now);
     placeMarkers(now);
     for (TimelineMarker* marker : m_markers) {
-        // Nobody listens to a clock that runs: only a playhead that is moved speaks.
-        if (marker->role() != TimelineMarker::Role::playhead || !m_state->isPlaying())
+        // While the video plays, announcing the playhead would interrupt everything else.
+        if (marker->marker() != EditMarker::playhead || !m_state->isPlaying())
             marker->announceValue();
     }
 }
@@ -111,29 +123,28 @@ void TimelineStrip::repaintDifference(const TimelineGeometry& before, const Time
         const QRectF around = rect.adjusted(-reach, 0, reach, 0);
         update(bounded(around, m_shown.strip()).toAlignedRect());
     };
-    // One more point: lines may have been put on the pixels of the screen.
+    // One point more, since lines may be moved to the nearest pixels of the screen.
     constexpr double kPlayheadReach = kShadowReach + kFocusDistance + kFocusWidth + 1;
     constexpr double kHandleReach = kFrameWidth + 1;
     if (before.currentTime != now.currentTime) {
-        repaint(before.playhead(), kPlayheadReach);
-        repaint(now.playhead(), kPlayheadReach);
+        repaint(before.marker(EditMarker::playhead), kPlayheadReach);
+        repaint(now.marker(EditMarker::playhead), kPlayheadReach);
     }
-    for (const HandleEdge edge : {HandleEdge::leading, HandleEdge::trailing}) {
-        if (before.handle(edge) != now.handle(edge))
-            repaint(before.handle(edge).united(now.handle(edge)), kHandleReach);
+    for (const EditMarker end : kRangeEnds) {
+        if (before.marker(end) != now.marker(end))
+            repaint(before.marker(end).united(now.marker(end)), kHandleReach);
     }
 }
 
 void TimelineStrip::placeMarkers(const TimelineGeometry& geometry) {
-    const auto place = [&](TimelineMarker& marker, const QRectF& rect) {
+    for (TimelineMarker* marker : m_markers) {
+        // The playhead is as wide as a handle and its own bar together.
+        const double reach = marker->marker() == EditMarker::playhead ? m_handleWidth / 2.0 : 0;
+        const QRectF rect = geometry.marker(marker->marker()).adjusted(-reach, 0, reach, 0);
         const double x =
             std::clamp(rect.x(), -rect.width(), std::max(geometry.width, -rect.width()));
-        marker.setGeometry(QRectF(x, 0, rect.width(), rect.height()).toAlignedRect());
-    };
-    const double reach = m_handleWidth / 2.0;
-    place(*m_markers[0], geometry.handle(HandleEdge::leading));
-    place(*m_markers[1], geometry.playhead().adjusted(-reach, 0, reach, 0));
-    place(*m_markers[2], geometry.handle(HandleEdge::trailing));
+        marker->setGeometry(QRectF(x, 0, rect.width(), rect.height()).toAlignedRect());
+    }
 }
 
 void TimelineStrip::resizeEvent(QResizeEvent* event) {
@@ -146,22 +157,20 @@ void TimelineStrip::mousePressEvent(QMouseEvent* event) {
         event->ignore();
         return;
     }
-    const auto handle = geometryNow().handleAt(event->position());
-    beginDrag(!handle                          ? Drag::playhead
-              : *handle == HandleEdge::leading ? Drag::leading
-                                               : Drag::trailing);
-    moveFocusFromOthers();
+    const EditMarker dragged = geometryNow().draggedAt(event->position());
+    beginDrag(dragged);
+    moveFocusFromOthers(dragged);
     dragTo(event->position().x());
 }
 
 void TimelineStrip::mouseMoveEvent(QMouseEvent* event) {
-    // The release went elsewhere where a dialog took the pointer.
+    // If a dialog took the pointer meanwhile, the release of the button went to it.
     if (!(event->buttons() & Qt::LeftButton))
         endDrag();
-    if (m_drag == Drag::none)
-        showCursor(event->position());
-    else
+    if (m_dragged)
         dragTo(event->position().x());
+    else
+        showCursor(event->position());
 }
 
 void TimelineStrip::mouseReleaseEvent(QMouseEvent* event) {
@@ -171,55 +180,40 @@ void TimelineStrip::mouseReleaseEvent(QMouseEvent* event) {
     showCursor(event->position());
 }
 
-void TimelineStrip::beginDrag(Drag drag) {
-    m_drag = drag;
-    const auto dragged =
-        drag == Drag::playhead ? timeline::Dragged::playhead : timeline::Dragged::edge;
-    m_escape.begin([this, dragged, start = timeline::dragStart(*m_state)] {
-        m_drag = Drag::none;
-        timeline::takeBack(*m_state, start, dragged);
+void TimelineStrip::beginDrag(EditMarker marker) {
+    m_dragged = marker;
+    m_escape.begin([this, origin = m_state->dragOrigin(marker)] {
+        m_dragged.reset();
+        m_state->takeBackDrag(origin);
         showCursor(mapFromGlobal(QCursor::pos()));
     });
 }
 
 void TimelineStrip::endDrag() {
-    m_drag = Drag::none;
+    m_dragged.reset();
     m_escape.end();
 }
 
 void TimelineStrip::dragTo(double position) {
-    const double time = geometryNow().time(position);
-    switch (m_drag) {
-    case Drag::none:
-        return;
-    case Drag::playhead:
-        m_state->seek(time);
-        return;
-    case Drag::leading:
-        timeline::moveEdge(*m_state, HandleEdge::leading, time);
-        return;
-    case Drag::trailing:
-        timeline::moveEdge(*m_state, HandleEdge::trailing, time);
-        return;
-    }
+    if (m_dragged)
+        m_state->moveMarker(*m_dragged, geometryNow().time(position));
 }
 
-void TimelineStrip::moveFocusFromOthers() {
-    const std::size_t dragged = m_drag == Drag::leading ? 0 : m_drag == Drag::playhead ? 1 : 2;
-    // Who goes on with the mouse expects the arrow keys to step frames again.
-    for (std::size_t index = 0; index < m_markers.size(); ++index) {
-        if (index != dragged && m_markers[index]->hasFocus()) {
-            playhead().setFocus(Qt::MouseFocusReason);
+void TimelineStrip::moveFocusFromOthers(EditMarker dragged) {
+    // A user who goes on with the mouse expects the arrow keys to step frames again.
+    for (const TimelineMarker* each : m_markers) {
+        if (each->marker() != dragged && each->hasFocus()) {
+            marker(EditMarker::playhead).setFocus(Qt::MouseFocusReason);
             return;
         }
     }
 }
 
 void TimelineStrip::showCursor(const QPointF& position) {
-    if (geometryNow().handleAt(position))
-        setCursor(Qt::SizeHorCursor);
-    else
+    if (geometryNow().draggedAt(position) == EditMarker::playhead)
         unsetCursor();
+    else
+        setCursor(Qt::SizeHorCursor);
 }
 
 void TimelineStrip::paintEvent(QPaintEvent* /*event*/) {
@@ -235,8 +229,8 @@ void TimelineStrip::paintEvent(QPaintEvent* /*event*/) {
     paintShades(painter, grid);
     paintRangeFrame(painter, grid);
     paintPlayhead(painter, grid);
-    paintHandle(painter, grid, HandleEdge::leading);
-    paintHandle(painter, grid, HandleEdge::trailing);
+    for (const EditMarker end : kRangeEnds)
+        paintHandle(painter, grid, end);
     paintFocus(painter, grid);
 }
 
@@ -260,12 +254,12 @@ void TimelineStrip::paintRangeFrame(QPainter& painter, const DeviceGrid& grid) c
 
 void TimelineStrip::paintPlayhead(QPainter& painter, const DeviceGrid& grid) const {
     const TimelineGeometry geometry = geometryNow();
-    const QRectF wanted = bounded(geometry.playhead(), geometry.strip());
+    const QRectF wanted = bounded(geometry.marker(EditMarker::playhead), geometry.strip());
     if (wanted.isEmpty())
         return;
     const QRectF bar(grid.x(wanted.x()), 0, grid.thickness(wanted.width()), wanted.height());
     const double pixel = grid.pixel();
-    // How much of a bar under a Gaussian blur is left beside it.
+    // How much of a blurred bar falls at a distance beside it (Gaussian blur).
     const auto share = [&](double distance) {
         const double scale = kShadowDeviation * std::sqrt(2.0);
         return (std::erf((distance + bar.width()) / scale) - std::erf(distance / scale)) / 2;
@@ -278,13 +272,13 @@ void TimelineStrip::paintPlayhead(QPainter& painter, const DeviceGrid& grid) con
     painter.fillRect(bar, Qt::white);
 }
 
-void TimelineStrip::paintHandle(QPainter& painter, const DeviceGrid& grid, HandleEdge edge) const {
+void TimelineStrip::paintHandle(QPainter& painter, const DeviceGrid& grid, EditMarker end) const {
     const TimelineGeometry geometry = geometryNow();
-    const QRectF handle = geometry.handle(edge);
+    const QRectF handle = geometry.marker(end);
     if (!handle.intersects(geometry.strip()))
         return;
     const QRectF rect(grid.x(handle.x()), 0, grid.thickness(handle.width()), handle.height());
-    QPainterPath path = handlePath(rect, edge);
+    QPainterPath path = handlePath(rect, end);
     if (!geometry.strip().contains(rect)) {
         QPainterPath strip;
         strip.addRoundedRect(geometry.strip(), kCornerRadius, kCornerRadius);
@@ -293,7 +287,7 @@ void TimelineStrip::paintHandle(QPainter& painter, const DeviceGrid& grid, Handl
     painter.fillPath(path, kYellow);
     QRectF symbol(0, 0, kSymbolSide, kSymbolSide);
     symbol.moveCenter(rect.center());
-    paintSymbol(painter, edge == HandleEdge::leading ? Symbol::chevronLeft : Symbol::chevronRight,
+    paintSymbol(painter, end == EditMarker::trimStart ? Symbol::chevronLeft : Symbol::chevronRight,
                 symbol, blackOf(kSymbolOpacity));
 }
 
@@ -304,15 +298,9 @@ void TimelineStrip::paintFocus(QPainter& painter, const DeviceGrid& grid) const 
         return;
     const TimelineGeometry geometry = geometryNow();
     const double line = grid.thickness(kFocusWidth);
-    const auto role = (*focused)->role();
-    QRectF rect;
-    if (role == TimelineMarker::Role::playhead) {
-        const double reach = kFocusDistance + line;
-        rect = grid.rect(geometry.playhead()).adjusted(-reach, 0, reach, 0);
-    } else {
-        rect = grid.rect(geometry.handle(
-            role == TimelineMarker::Role::trimStart ? HandleEdge::leading : HandleEdge::trailing));
-    }
+    const EditMarker marker = (*focused)->marker();
+    const double reach = marker == EditMarker::playhead ? kFocusDistance + line : 0;
+    const QRectF rect = grid.rect(geometry.marker(marker)).adjusted(-reach, 0, reach, 0);
     const QRectF middle = rect.adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(theme::accentFill(palette()), line));

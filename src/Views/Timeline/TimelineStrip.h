@@ -8,6 +8,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace brisklet {
 
@@ -16,8 +17,8 @@ class EditState;
 class TimelineMarker;
 
 /// The filmstrip with the kept range, its two handles and the playhead. A drag on a handle moves
-/// that end of the range, one anywhere else moves the playhead; both go by where the pointer is,
-/// not by how far it came. Escape takes a drag back. Main thread.
+/// that end of the range, one anywhere else moves the playhead; both follow the absolute position
+/// of the pointer. Escape takes a drag back. Main thread.
 class TimelineStrip final : public QWidget {
     Q_OBJECT
 
@@ -28,10 +29,12 @@ public:
 
     [[nodiscard]] TimelineGeometry geometryNow() const;
 
-    /// In the order of the tab key: trim start, playhead, trim end.
-    [[nodiscard]] const std::array<TimelineMarker*, 3>& markers() const { return m_markers; }
+    /// In the order of kEditMarkers, which is that of the tab key.
+    [[nodiscard]] const std::array<TimelineMarker*, kEditMarkers.size()>& markers() const {
+        return m_markers;
+    }
 
-    [[nodiscard]] TimelineMarker& playhead() const { return *m_markers[1]; }
+    [[nodiscard]] TimelineMarker& marker(EditMarker marker) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -41,32 +44,31 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    enum class Drag { none, playhead, leading, trailing };
-
     void observe();
     void refresh();
     void repaintDifference(const TimelineGeometry& before, const TimelineGeometry& now);
     void placeMarkers(const TimelineGeometry& geometry);
-    void beginDrag(Drag drag);
+    void beginDrag(EditMarker marker);
     void endDrag();
     void dragTo(double position);
-    void moveFocusFromOthers();
+    void moveFocusFromOthers(EditMarker dragged);
     void showCursor(const QPointF& position);
 
     void paintShades(QPainter& painter, const DeviceGrid& grid) const;
     void paintRangeFrame(QPainter& painter, const DeviceGrid& grid) const;
     void paintPlayhead(QPainter& painter, const DeviceGrid& grid) const;
-    void paintHandle(QPainter& painter, const DeviceGrid& grid, HandleEdge edge) const;
+    void paintHandle(QPainter& painter, const DeviceGrid& grid, EditMarker end) const;
     void paintFocus(QPainter& painter, const DeviceGrid& grid) const;
 
     std::shared_ptr<EditState> m_state;
     int m_stripHeight;
     int m_handleWidth;
-    std::array<TimelineMarker*, 3> m_markers{};
+    std::array<TimelineMarker*, kEditMarkers.size()> m_markers{};
     TimelineFilmstrip m_filmstrip;
-    /// What was asked to be painted last.
+    /// The geometry for which a repaint was requested last.
     TimelineGeometry m_shown;
-    Drag m_drag = Drag::none;
+    /// What the mouse drags; none while it drags nothing.
+    std::optional<EditMarker> m_dragged;
     DragEscape m_escape{*this};
 };
 

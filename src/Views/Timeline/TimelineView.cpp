@@ -4,7 +4,7 @@
 #include "Views/Painting/TabularLabel.h"
 #include "Views/Painting/TabularText.h"
 #include "Views/Painting/Theme.h"
-#include "Views/Timeline/TimelineEdits.h"
+#include "Views/Timeline/TimelineLabels.h"
 #include "Views/Timeline/TimelineMarker.h"
 #include "Views/Timeline/TimelineStrip.h"
 
@@ -18,9 +18,9 @@ namespace brisklet {
 
 namespace {
 
-/// From the strip to the times, points.
+/// Between the strip and the labels, points.
 constexpr int kSpacing = 4;
-/// The least distance between two times, points.
+/// The least distance between two labels, points.
 constexpr int kLabelDistance = 12;
 
 int widthOf(const QString& text, const QFont& font) {
@@ -40,7 +40,7 @@ TimelineView::TimelineView(std::shared_ptr<EditState> state, int stripHeight, in
     setAccessibleName(tr("Timeline"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
-    setFocusProxy(&m_strip->playhead());
+    setFocusProxy(&m_strip->marker(EditMarker::playhead));
     for (TabularLabel* label : {m_start, m_position, m_end}) {
         label->setTextFormat(Qt::PlainText);
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -76,23 +76,23 @@ void TimelineView::showDuration() {
 }
 
 void TimelineView::showStart() {
-    m_start->setText(timeline::shownTime(m_state->trimStart()));
+    m_start->setText(timelineLabel(m_state->trimStart()));
     placeLabels();
 }
 
 void TimelineView::showPosition() {
-    m_position->setText(timeline::shownTime(m_state->currentTime()) + QStringLiteral(" / ") +
-                        timeline::shownTime(m_state->duration()));
+    m_position->setText(timelineLabel(m_state->currentTime()) + QStringLiteral(" / ") +
+                        timelineLabel(m_state->duration()));
     placeLabels();
 }
 
 void TimelineView::showEnd() {
-    m_end->setText(timeline::shownTime(m_state->trimEnd()));
+    m_end->setText(timelineLabel(m_state->trimEnd()));
     placeLabels();
 }
 
 TimelineView::LabelWidths TimelineView::labelWidths() const {
-    const QString longest = timeline::shownTime(m_state->duration());
+    const QString longest = timelineLabel(m_state->duration());
     const QFont& font = m_start->font();
     return {.edge = std::max({widthOf(longest, font), widthOf(m_start->text(), font),
                               widthOf(m_end->text(), font)}),
@@ -105,8 +105,8 @@ int TimelineView::labelHeight() const {
 }
 
 void TimelineView::placeLabels() {
-    // The room is that of the longest time from the start, so no time moves when another one
-    // becomes longer; and the duration stands still whatever the position is.
+    // Each label has room for the longest time from the beginning, so no label moves when another
+    // becomes longer, and the duration stays in place while the position changes.
     const LabelWidths widths = labelWidths();
     const int top = m_strip->height() + kSpacing;
     const auto placeRight = [&](TabularLabel& label, int right) {

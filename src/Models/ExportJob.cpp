@@ -1,0 +1,32 @@
+#include "Models/ExportJob.h"
+
+#include "Export/AVFoundationExporter.h"
+#include "Media/Error.h"
+#include "Support/MainThread.h"
+
+#include <exception>
+#include <utility>
+
+namespace brisklet {
+
+QCoro::Task<ExportOutcome> runExport(ExportRequest request,
+                                     std::function<void(double fraction)> onProgress,
+                                     std::stop_token stop) {
+    const auto postProgress = [onProgress = std::move(onProgress)](double fraction) {
+        postToMainThread([onProgress, fraction] { onProgress(fraction); });
+    };
+    ExportOutcome outcome;
+    try {
+        const AVFoundationExporter exporter;
+        auto task = exporter.exportVideo(std::move(request), postProgress, stop);
+        co_await task;
+    } catch (const media::Cancelled&) {
+        outcome.kind = ExportOutcome::Kind::cancelled;
+    } catch (const std::exception& error) {
+        outcome = {.kind = ExportOutcome::Kind::failed,
+                   .message = QStringLiteral("Export failed: ") + QString::fromUtf8(error.what())};
+    }
+    co_return outcome;
+}
+
+} // namespace brisklet

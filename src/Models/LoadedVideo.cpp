@@ -1,0 +1,28 @@
+#include "Models/LoadedVideo.h"
+
+#include "Support/FileNames.h"
+#include "Support/FileUrl.h"
+#include "Support/Workers.h"
+
+#include <cmath>
+
+namespace brisklet {
+
+QCoro::Task<LoadedVideo> openVideo(const QUrl& url, const std::stop_token& stop) {
+    return runOnWorker([path = pathOf(url), stop] {
+        LoadedVideo video;
+        video.asset = media::Asset::open(path, stop);
+        video.duration = video.asset->duration().seconds();
+        const auto tracks = video.asset->tracks(media::MediaType::video);
+        if (!tracks.empty()) {
+            video.displaySize = media::orientedSize(tracks.front());
+            const auto rate = static_cast<double>(tracks.front().nominalFrameRate);
+            if (rate > 0 && std::isfinite(rate))
+                video.frameDuration = 1 / rate;
+        }
+        video.maxNameBytes = maxNameBytesIn(path.parent_path());
+        return video;
+    });
+}
+
+} // namespace brisklet

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Media/Asset.h"
+#include "Media/Geometry.h"
+
+#include <QCoroTask>
+#include <QUrl>
+
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace brisklet {
+
+/// An opened file, and the facts about it that an edit needs.
+struct LoadedVideo {
+    /// The open file, which may be renamed or deleted meanwhile.
+    std::shared_ptr<const media::Asset> asset;
+    /// Seconds.
+    double duration = 0;
+    /// Pixels of the picture as the source orients it; none if the file has no video track.
+    std::optional<media::Size> displaySize;
+    /// Seconds, by the nominal frame rate; 1/30 if the file states none.
+    double frameDuration = 1.0 / 30;
+    /// The longest name, in bytes, that a file beside this one may have.
+    int maxNameBytes = 0;
+};
+
+/// Opens a file on a worker thread and resumes the caller on its own. Throws std::runtime_error
+/// with a sentence for the user; media::Cancelled after a stop request.
+QCoro::Task<LoadedVideo> openVideo(const QUrl& url, const std::stop_token& stop);
+
+} // namespace brisklet

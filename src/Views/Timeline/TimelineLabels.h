@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace brisklet {
+
+/// A time in seconds as the timeline shows it. Times that a damaged file makes too long, infinity
+/// among them, are shown as the longest one.
+QString timelineLabel(double seconds);
+
+} // namespace brisklet
