@@ -1,4 +1,5 @@
 #include "BriskletApp.h"
+#include "Media/Player.h"
 #include "Models/EditState.h"
 #include "Support/FileUrl.h"
 #include "Tools/bench/Benchmarks.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -20,7 +22,8 @@ namespace brisklet::bench {
 
 namespace {
 
-/// What an idle player has decoded ahead at most.
+constexpr media::Time kTickInterval{1, 30};
+/// The most that an idle player decodes ahead.
 constexpr double kReadAheadSeconds = 2.1;
 
 double millisecondsSince(Clock::time_point start) {
@@ -44,13 +47,18 @@ public:
 
     [[nodiscard]] EditState& state() const { return *m_window->state(); }
 
+    /// The player behind the picture, for observers and figures; null before a file is open.
+    [[nodiscard]] std::shared_ptr<media::Player> player() const {
+        return m_window->findChild<PlayerLayerView*>()->player();
+    }
+
     /// The picture in device pixels; empty before there is one.
     [[nodiscard]] QSize pictureSize() const {
         const auto* view = m_window->findChild<PlayerLayerView*>();
         return (view->videoRect().size() * view->devicePixelRatio()).toSize();
     }
 
-    /// Opens the file and waits for its first frame; gives the milliseconds that took.
+    /// Opens the file and waits for its first frame; returns how long that took, milliseconds.
     double open(const std::filesystem::path& source) {
         auto* view = m_window->findChild<PlayerLayerView*>();
         const auto start = Clock::now();
@@ -66,7 +74,7 @@ public:
         return *duration;
     }
 
-    /// Waits for the filmstrip, whose making is no part of what is measured.
+    /// Waits for the filmstrip, so that making it is not measured too.
     void finishFilmstrip() const {
         waitUntil([&] { return !state().thumbnails().isEmpty(); });
     }
@@ -79,7 +87,7 @@ private:
 
 namespace {
 
-/// Notices how long the event loop does not come round.
+/// Measures the longest time that the event loop was blocked.
 class Watchdog {
 public:
     Watchdog() {
@@ -113,20 +121,39 @@ private:
     double m_longestOwn = 0;
 };
 
+/// Calls a function with each time (seconds) that a paused player jumps to, for as long as it
+/// lives.
+class JumpObserver {
+public:
+    JumpObserver(media::Player& player, const std::function<void(double time)>& onJump)
+        : m_player(player),
+          m_token(player.addPeriodicTimeObserver(
+              kTickInterval, [onJump](media::Time time) { onJump(time.seconds()); })) {}
+
+    JumpObserver(const JumpObserver&) = delete;
+    JumpObserver& operator=(const JumpObserver&) = delete;
+
+    ~JumpObserver() { m_player.removeTimeObserver(m_token); }
+
+private:
+    media::Player& m_player;
+    media::Player::Token m_token;
+};
+
 double peakMiB() {
     rusage usage = {};
     ::getrusage(RUSAGE_SELF, &usage);
     return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
-/// Seeks to all the times, 60 each second, and waits for the last exact frame.
+/// Seeks to all the times, 60 each second, and waits for the exact frame of the last.
 DragFigures dragIn(ShownWindow& window, const std::vector<double>& times) {
     DragFigures figures;
     double lastExact = -1;
-    window.state().playerController().onTick = [&](double time) {
+    const JumpObserver observer(*window.player(), [&](double time) {
         ++figures.exact;
         lastExact = time;
-    };
+    });
     const Watchdog watchdog;
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
@@ -136,17 +163,16 @@ DragFigures dragIn(ShownWindow& window, const std::vector<double>& times) {
     });
     timer.start(std::chrono::milliseconds(16));
     waitUntil([&] { return figures.seeks == times.size(); });
-    // The last one is exact in any case.
-    const double last = window.state().playerController().player()->currentTime().seconds();
+    // The last seek is always shown exactly: no later one replaces it.
+    const double last = window.player()->currentTime().seconds();
     waitUntil([&] { return figures.exact > 0 && lastExact == last; });
-    window.state().playerController().onTick = nullptr;
     figures.longestBlock = watchdog.longest();
     figures.longestOwnBlock = watchdog.longestOwn();
     figures.peakMiB = peakMiB();
     return figures;
 }
 
-/// Runs the event loop for so long.
+/// Runs the event loop for that long.
 void rest(std::chrono::seconds duration) {
     const auto end = Clock::now() + duration;
     waitUntil([&] { return Clock::now() >= end; });
@@ -164,7 +190,7 @@ DragFigures drag(const std::filesystem::path& source, const std::vector<double>&
 
 WindowsFigures windows(const std::vector<std::filesystem::path>& sources,
                        const std::vector<double>& times) {
-    // What is read ahead after the last drag, in all windows, counts too.
+    // Frames that are read ahead after the last drag, in all windows, count too.
     constexpr std::chrono::seconds kRest{10};
     BriskletApp app;
     WindowsFigures figures;
@@ -194,7 +220,7 @@ PlayFigures play(const std::filesystem::path& source, double seconds) {
     window.open(source);
     window.finishFilmstrip();
 
-    media::Player& player = *window.state().playerController().player();
+    const media::Player& player = *window.player();
     bool hasStarted = false;
     const auto playFor = [&](double duration) {
         const auto end = Clock::now() + std::chrono::duration<double>(duration);
@@ -203,14 +229,15 @@ PlayFigures play(const std::filesystem::path& source, double seconds) {
             return Clock::now() >= end || (hasStarted && !window.state().isPlaying());
         });
     };
-    player.play();
+    window.state().togglePlayback();
     playFor(kReadAheadSeconds);
     const auto before = player.statistics();
     const double cpuBefore = cpuSeconds();
     playFor(seconds);
     const auto after = player.statistics();
     const double cpuAfter = cpuSeconds();
-    player.pause();
+    if (window.state().isPlaying())
+        window.state().togglePlayback();
     return {after.shown - before.shown, after.late - before.late, after.dropped - before.dropped,
             cpuAfter - cpuBefore, window.pictureSize()};
 }
