@@ -1,5 +1,7 @@
 #include "Platform/Appearance.h"
 
+#include "Support/MainThread.h"
+
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -53,6 +55,7 @@ QPalette darkPalette() {
 
 Appearance::Appearance(QDBusConnection bus, QObject* parent)
     : QObject(parent), m_bus(std::move(bus)) {
+    verifyMainThread();
     // Qt finds no slot with a parameter of this type until somebody has used the type.
     qRegisterMetaType<QDBusVariant>();
     m_bus.connect(QLatin1String(kService), QLatin1String(kPath), QLatin1String(kInterface),

@@ -48,6 +48,7 @@ DesktopApplication::~DesktopApplication() {
 
 DesktopApplication::Role DesktopApplication::claim(const QList<QUrl>& files,
                                                    const QVariantMap& platformData) {
+    m_thread.check();
     // The object stands before the name does, so the first call after that finds it.
     if (!m_bus.isConnected() || !m_bus.registerObject(m_path, this))
         return Role::alone;
@@ -101,6 +102,7 @@ QString DesktopApplication::ownerOfName() const {
 }
 
 void DesktopApplication::release() {
+    m_thread.check();
     // The bus answers after it has passed on everything that was sent to the name before; those
     // calls wait in the event queue by now.
     if (std::exchange(m_isOwner, false))
@@ -112,6 +114,7 @@ void DesktopApplication::release() {
 }
 
 void DesktopApplication::reclaim() {
+    m_thread.check();
     m_bus.registerObject(m_path, this);
     m_isOwner = m_bus.registerService(m_name);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Media/Threading/ThreadAffinity.h"
+
 #include <QDBusConnection>
 #include <QList>
 #include <QObject>
@@ -63,6 +65,7 @@ private:
     Answer handOver(const QList<QUrl>& files, const QVariantMap& platformData);
     [[nodiscard]] QString ownerOfName() const;
 
+    media::ThreadAffinity m_thread;
     QDBusConnection m_bus;
     QString m_name;
     QString m_path;

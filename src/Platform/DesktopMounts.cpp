@@ -2,6 +2,7 @@
 
 #include "Platform/GvfsMount.h"
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 
 #include <QCoroFuture>
 #include <QDBusMessage>
@@ -62,6 +63,7 @@ DesktopMounts::DesktopMounts(QDBusConnection bus, Limits limits)
     : m_bus(std::move(bus)), m_limits(limits) {}
 
 QCoro::Task<std::optional<QUrl>> DesktopMounts::find(QUrl address) {
+    verifyMainThread();
     // Of a file address with the name of another host the desktop knows only the path.
     if (address.scheme() == u"file")
         co_return std::nullopt;

@@ -1,5 +1,7 @@
 #include "Platform/DesktopNotifications.h"
 
+#include "Support/MainThread.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -36,6 +38,7 @@ DesktopNotifications::DesktopNotifications(QDBusConnection bus, QObject* parent)
 
 void DesktopNotifications::show(const QString& title, const QString& text,
                                 std::function<void()> chosen) {
+    verifyMainThread();
     QDBusMessage call = QDBusMessage::createMethodCall(serviceName(), objectPath(), serviceName(),
                                                        QStringLiteral("Notify"));
     constexpr int kUsualDuration = -1;

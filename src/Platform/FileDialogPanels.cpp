@@ -2,6 +2,7 @@
 
 #include "Platform/SavePlace.h"
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 #include "Support/Preferences.h"
 
 #include <QCoroFuture>
@@ -116,6 +117,7 @@ FileDialogPanels::FileDialogPanels(QWidget* window, std::shared_ptr<RemoteFiles>
     : m_window(window), m_remoteFiles(std::move(remoteFiles)) {}
 
 QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
+    verifyMainThread();
     auto* dialog = new QFileDialog(m_window, QFileDialog::tr("Open"));
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFile);
@@ -131,6 +133,7 @@ QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
 }
 
 QCoro::Task<std::optional<QUrl>> FileDialogPanels::saveMovie(SaveProposal proposal) {
+    verifyMainThread();
     while (m_window) {
         const QFuture<Answer> asked = ask(makeSavePanel(m_window, proposal));
         const Answer answer = co_await asked;

@@ -1,5 +1,7 @@
 #include "Platform/FileTransferPortal.h"
 
+#include "Support/MainThread.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -11,6 +13,7 @@ namespace brisklet {
 
 void retrieveTransferredFiles(QDBusConnection bus, const QByteArray& key,
                               std::function<void(const QList<QUrl>&)> done) {
+    verifyMainThread();
     auto message = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.portal.Documents"),
         QStringLiteral("/org/freedesktop/portal/documents"),

@@ -1,5 +1,7 @@
 #include "Platform/LauncherProgress.h"
 
+#include "Support/MainThread.h"
+
 #include <QDBusMessage>
 #include <QString>
 #include <QVariantMap>
@@ -19,6 +21,7 @@ constexpr double kSmallestStep = 0.005;
 LauncherProgress::LauncherProgress(QDBusConnection bus) : m_bus(std::move(bus)) {}
 
 void LauncherProgress::show(std::optional<double> fraction) {
+    verifyMainThread();
     const bool isSame = fraction.has_value() == m_shown.has_value() &&
                         (!fraction || std::abs(*fraction - *m_shown) < kSmallestStep);
     if (isSame)

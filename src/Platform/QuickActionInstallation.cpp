@@ -2,6 +2,7 @@
 
 #include "Platform/Failures.h"
 #include "Platform/FileManagerEntries.h"
+#include "Support/MainThread.h"
 #include "Support/QuickAction/QuickAction.h"
 
 #include <QFile>
@@ -30,6 +31,7 @@ std::filesystem::path ownProgram() {
 } // namespace
 
 void install() {
+    verifyMainThread();
     Failures failures;
     failures.in(
         [] { FileManagerEntries::install(FileManagerEntries::dataFolder(), ownProgram()); });
@@ -41,6 +43,7 @@ void install() {
 }
 
 void uninstall() {
+    verifyMainThread();
     Failures failures;
     failures.in([] { QuickAction::shared().uninstall(); });
     failures.in([] { FileManagerEntries::uninstall(FileManagerEntries::dataFolder()); });

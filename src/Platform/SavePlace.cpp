@@ -1,6 +1,7 @@
 #include "Platform/SavePlace.h"
 
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 #include "Support/Workers.h"
 
 #include <QObject>
@@ -49,6 +50,7 @@ fs::path withExtension(fs::path file, const SaveProposal& proposal) {
 
 QCoro::Task<SavePlace> findSavePlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl answer,
                                      SaveProposal proposal) {
+    verifyMainThread();
     SavePlace place{.file = answer, .isToBeConfirmed = false, .objection = {}};
     try {
         auto finding = findLocalDestination(remoteFiles, answer);

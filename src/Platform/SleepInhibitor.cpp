@@ -1,5 +1,7 @@
 #include "Platform/SleepInhibitor.h"
 
+#include "Support/MainThread.h"
+
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -39,6 +41,7 @@ SleepInhibitor::~SleepInhibitor() {
 }
 
 void SleepInhibitor::inhibit(const QString& reason) {
+    verifyMainThread();
     m_isWanted = true;
     // The answer to an earlier question still comes, and serves this one.
     if (m_isAsked || m_isRefused || m_release.type() != QDBusMessage::InvalidMessage)
@@ -49,6 +52,7 @@ void SleepInhibitor::inhibit(const QString& reason) {
 }
 
 void SleepInhibitor::release() {
+    verifyMainThread();
     m_isWanted = false;
     m_isRefused = false;
     if (m_release.type() != QDBusMessage::InvalidMessage)

@@ -1,5 +1,7 @@
 #include "Platform/StartupNotification.h"
 
+#include "Support/MainThread.h"
+
 #include <QGuiApplication>
 
 #include <xcb/xcb.h>
@@ -61,6 +63,7 @@ void broadcast(xcb_connection_t* connection, xcb_window_t root, xcb_window_t sen
 } // namespace
 
 void endStartupNotification(const QString& id) {
+    verifyMainThread();
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (id.isEmpty() || x11 == nullptr || x11->connection() == nullptr)
         return;

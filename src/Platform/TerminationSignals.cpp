@@ -1,5 +1,7 @@
 #include "Platform/TerminationSignals.h"
 
+#include "Support/MainThread.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -27,6 +29,7 @@ extern "C" void noteRequest(int signal) {
 } // namespace
 
 TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
+    verifyMainThread();
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         return;
@@ -46,6 +49,7 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
 }
 
 TerminationSignals::~TerminationSignals() {
+    verifyMainThread();
     if (m_readEnd < 0)
         return;
     for (const int signal : kSignals) {

@@ -9,8 +9,8 @@ namespace brisklet {
 /// Whether the calling thread is the one that runs the application's event loop.
 bool isMainThread();
 
-/// Aborts with the caller's place on any other thread. Classes whose comment says "main thread"
-/// call it first in the operations that change them.
+/// Aborts with the caller's place on any other thread, as long as there is an application object.
+/// Classes whose comment says "main thread" call it first in the operations that change them.
 void verifyMainThread(const media::SourceLocation& where = media::SourceLocation::current());
 
 /// Runs `work` on the main thread at a later turn of its event loop, in the order given. Callable

@@ -1,5 +1,7 @@
 #include "Support/OpenBridge.h"
 
+#include "Support/MainThread.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -28,6 +30,7 @@ std::vector<std::weak_ptr<OpenTarget>>& OpenBridge::windows() {
 }
 
 void OpenBridge::registerState(const std::shared_ptr<OpenTarget>& state) {
+    verifyMainThread();
     auto& states = windows();
     std::erase_if(states, [](const auto& record) { return record.expired(); });
     const bool isKnown =
@@ -37,10 +40,12 @@ void OpenBridge::registerState(const std::shared_ptr<OpenTarget>& state) {
 }
 
 void OpenBridge::unregisterState(const OpenTarget& state) {
+    verifyMainThread();
     std::erase_if(windows(), [&](const auto& record) { return record.lock().get() == &state; });
 }
 
 std::optional<QUrl> OpenBridge::takePending() {
+    verifyMainThread();
     auto& files = pending();
     if (files.empty())
         return std::nullopt;
@@ -52,6 +57,7 @@ std::optional<QUrl> OpenBridge::takePending() {
 }
 
 void OpenBridge::open(const QUrl& url) {
+    verifyMainThread();
     for (const auto& record : windows()) {
         // A window that is still loading is not empty: a second file would replace the first.
         if (const auto state = record.lock(); state && state->isEmpty()) {

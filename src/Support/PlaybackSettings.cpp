@@ -1,5 +1,6 @@
 #include "Support/PlaybackSettings.h"
 
+#include "Support/MainThread.h"
 #include "Support/Preferences.h"
 
 namespace brisklet {
@@ -22,6 +23,7 @@ PlaybackSettings::PlaybackSettings()
       m_isLoopEnabled(m_preferences->value(loopPlaybackKey()).toBool()) {}
 
 void PlaybackSettings::setLoopEnabled(bool enabled) {
+    verifyMainThread();
     m_isLoopEnabled = enabled;
     storePreference(*m_preferences, loopPlaybackKey(), enabled);
 }

@@ -1,6 +1,7 @@
 #include "Support/RemoteFiles.h"
 
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 
 #include <QByteArray>
 
@@ -10,6 +11,7 @@
 namespace brisklet {
 
 QCoro::Task<QUrl> findLocalFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
+    verifyMainThread();
     if (isOnThisComputer(url))
         co_return url;
     std::optional<QUrl> found;
@@ -23,6 +25,7 @@ QCoro::Task<QUrl> findLocalFile(std::shared_ptr<RemoteFiles> remoteFiles, QUrl u
 }
 
 QCoro::Task<QUrl> findLocalDestination(std::shared_ptr<RemoteFiles> remoteFiles, QUrl url) {
+    verifyMainThread();
     if (isOnThisComputer(url))
         co_return url;
     std::optional<QUrl> folder;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -144,6 +145,11 @@ TEST_F(OpenBridgeTest, keepsNoWindowAlive) {
     const std::weak_ptr<FakeWindow> weak = m_windows[0];
     m_windows.clear();
     EXPECT_TRUE(weak.expired());
+}
+
+TEST(OpenBridgeDeathTest, takesFilesOnTheMainThreadOnly) {
+    EXPECT_DEATH(std::jthread([] { OpenBridge::open(QUrl()); }).join(),
+                 "OpenBridge\\.cpp:[0-9]+: .*: called on another thread");
 }
 
 } // namespace

@@ -24,7 +24,8 @@ struct ScheduledFrame {
     ffmpeg::FramePtr following;
 };
 
-/// Decides which source pictures an export has, and when each is shown. Use from one thread.
+/// Decides which source pictures an export has, and when each is shown. Use from one thread
+/// at a time.
 class FrameSchedule {
 public:
     /// Every source frame whose display interval meets the range, with its own timing: the first

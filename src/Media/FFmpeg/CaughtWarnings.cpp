@@ -43,10 +43,12 @@ CaughtWarnings::CaughtWarnings() : m_outer(listener) {
 }
 
 CaughtWarnings::~CaughtWarnings() {
+    m_thread.check();
     listener = m_outer;
 }
 
 bool CaughtWarnings::mention(std::string_view name) const {
+    m_thread.check();
     return !name.empty() && std::ranges::any_of(m_lines, [name](const std::string& line) {
         return holdsName(line, name);
     });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Media/Threading/ThreadAffinity.h"
+
 #include <cstdarg>
 #include <string>
 #include <string_view>
@@ -26,6 +28,7 @@ public:
                                                    std::va_list arguments) noexcept;
 
 private:
+    ThreadAffinity m_thread;
     std::vector<std::string> m_lines;
     CaughtWarnings* m_outer;
 };

@@ -15,6 +15,7 @@ namespace {
 ClassicLocale::ClassicLocale() noexcept : m_before(::uselocale(classic())) {}
 
 ClassicLocale::~ClassicLocale() {
+    m_thread.check();
     ::uselocale(m_before);
 }
 

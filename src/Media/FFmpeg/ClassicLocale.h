@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Media/Threading/ThreadAffinity.h"
+
 #include <clocale>
 
 namespace media::ffmpeg {
@@ -17,6 +19,7 @@ public:
     ClassicLocale& operator=(const ClassicLocale&) = delete;
 
 private:
+    ThreadAffinity m_thread;
     ::locale_t m_before;
 };
 

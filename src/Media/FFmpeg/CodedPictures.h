@@ -25,7 +25,7 @@ struct CodedPicture {
 };
 
 /// Reads the headers of the packets of one H.264, HEVC, MPEG-1, 2 or 4 bitstream. Use from one
-/// thread.
+/// thread at a time.
 class CodedPictures {
 public:
     static bool canRead(AVCodecID codec);

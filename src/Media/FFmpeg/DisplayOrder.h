@@ -13,7 +13,7 @@ namespace media::ffmpeg {
 
 /// Puts the pictures of a bitstream, which come in the order in which they are decoded, into the
 /// order in which they are shown, one after the other. Counts in halves of a frame. Use from one
-/// thread.
+/// thread at a time.
 class DisplayOrder {
 public:
     struct Place {

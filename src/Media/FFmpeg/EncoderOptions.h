@@ -8,7 +8,8 @@
 namespace media::ffmpeg {
 
 /// Collects what a libav encoder is asked for, and opens it only with all of it. This is the one
-/// place where settings become text, the same in every locale. One thread.
+/// place where settings become text, the same in every locale. Use from one thread at a
+/// time.
 class EncoderOptions final {
 public:
     /// Of an encoder that is not open yet; it must outlive this object.

@@ -43,6 +43,7 @@ FirstPicturesReader::FirstPicturesReader(Demuxer& demuxer, const SourceTrack& tr
 }
 
 FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
+    m_thread.check();
     const bool mustJudge = !m_demuxer.statesPresentationTimes();
     for (int read = 0; !m_timestamp || (mustJudge && m_packets < kPacketsToJudge) ||
                        (isAwaitingSound() && read < kPacketsForSound);
@@ -56,6 +57,7 @@ FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
 }
 
 std::vector<std::int64_t> FirstPicturesReader::times(const std::stop_token& stop) {
+    m_thread.check();
     while (m_packets < kTimesToJudge && m_bytes < kBytesToJudge && readPacket(stop)) {
     }
     if (m_packetsWithoutPts > 0)

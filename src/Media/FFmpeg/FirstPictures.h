@@ -3,6 +3,7 @@
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Threading/ThreadAffinity.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -50,6 +51,7 @@ private:
     [[nodiscard]] bool isAwaitingSound() const;
     [[nodiscard]] FirstPictures judged() const;
 
+    ThreadAffinity m_thread;
     Demuxer& m_demuxer;
     const SourceTrack& m_track;
     Decoder m_decoder;

@@ -1,5 +1,7 @@
 #include "Platform/Updater/Download.h"
 
+#include "Support/MainThread.h"
+
 #include <QCoreApplication>
 #include <QHostAddress>
 #include <QNetworkAccessManager>
@@ -30,6 +32,7 @@ bool isSafeAddress(const QUrl& url) {
 Download::Download(QNetworkAccessManager& network, const QUrl& url, QIODevice& into, Limits limits,
                    QObject* parent)
     : QObject(parent), m_url(url), m_into(into), m_limits(limits) {
+    verifyMainThread();
     QMetaObject::invokeMethod(
         this,
         [this, manager = QPointer<QNetworkAccessManager>(&network)] {
@@ -50,6 +53,7 @@ Download::~Download() {
 }
 
 void Download::cancel() {
+    verifyMainThread();
     m_isFinished = true;
     if (m_reply) {
         m_reply->disconnect(this);

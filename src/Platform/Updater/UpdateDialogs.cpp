@@ -1,5 +1,7 @@
 #include "Platform/Updater/UpdateDialogs.h"
 
+#include "Support/MainThread.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -124,6 +126,7 @@ void UpdateDialogs::showDownload(const AppcastItem& item, std::function<void()> 
 }
 
 void UpdateDialogs::showDownloaded(qint64 bytes) {
+    verifyMainThread();
     if (m_bar && m_expectedBytes > 0)
         m_bar->setValue(static_cast<int>(bytes * kBarSteps / m_expectedBytes));
 }
@@ -157,6 +160,7 @@ void UpdateDialogs::showProgress(const QString& text, std::function<void()> canc
 }
 
 void UpdateDialogs::present(QDialog* dialog) {
+    verifyMainThread();
     dismiss();
     m_dialog = dialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -167,6 +171,7 @@ void UpdateDialogs::present(QDialog* dialog) {
 }
 
 void UpdateDialogs::dismiss() {
+    verifyMainThread();
     if (!m_dialog)
         return;
     // Nobody answers a dialog that is taken down.

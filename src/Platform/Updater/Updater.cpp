@@ -2,6 +2,7 @@
 
 #include "Platform/Updater/Download.h"
 #include "Platform/Updater/PackageSignature.h"
+#include "Support/MainThread.h"
 
 #include <QDir>
 #include <QFile>
@@ -102,11 +103,13 @@ bool Updater::canCheckForUpdates() const {
 }
 
 void Updater::checkForUpdates() {
+    verifyMainThread();
     if (canCheckForUpdates())
         check(Mode::byCommand);
 }
 
 void Updater::checkIfDue(const QDateTime& now) {
+    verifyMainThread();
     const QSettings& settings = *m_configuration.settings;
     if (!canCheckForUpdates() || !settings.value(automaticKey()).toBool())
         return;

@@ -1,5 +1,6 @@
 #include "Support/QuickAction/QuickAction.h"
 
+#include "Support/MainThread.h"
 #include "Support/QuickAction/WorkflowDocument.h"
 
 #include <QDir>
@@ -82,12 +83,14 @@ void QuickAction::writeWorkflow(const fs::path& to) {
 }
 
 void QuickAction::install() {
+    verifyMainThread();
     writeWorkflow(workflowPath());
     refreshServicesRegistry();
     m_isInstalled = true;
 }
 
 void QuickAction::uninstall() {
+    verifyMainThread();
     std::error_code error;
     const bool isThere = fs::exists(fs::symlink_status(workflowPath(), error));
     if (!isThere)
