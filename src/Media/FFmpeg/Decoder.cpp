@@ -2,6 +2,7 @@
 
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
+#include "Media/Threading/ThreadName.h"
 
 #include <algorithm>
 #include <thread>
@@ -25,6 +26,9 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     m_context->pkt_timebase = timeBase;
     m_context->thread_count = threads > 0 ? threads : usualThreads();
     const ClassicLocale classic;
+    // What libav starts here would have the name of whichever thread that is.
+    const ThreadName name(parameters.codec_type == AVMEDIA_TYPE_VIDEO ? "decode-video"
+                                                                      : "decode-audio");
     check(avcodec_open2(m_context.get(), codec, nullptr));
 }
 
