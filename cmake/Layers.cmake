@@ -15,7 +15,28 @@ function(brisklet_add_layer name)
         "${LAYER_PUBLIC}" "${LAYER_PRIVATE}")
 endfunction()
 
+# brisklet_unproven_headers(<variable> <headers>...): those that the build does not show to compile
+# alone by itself, as it does with each that its own source includes before anything else.
+function(brisklet_unproven_headers variable)
+    set(unproven)
+    foreach(header IN LISTS ARGN)
+        string(REGEX REPLACE "\\.h$" ".cpp" source "${header}")
+        file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/src" "${header}")
+        set(first)
+        if(EXISTS "${source}")
+            file(STRINGS "${source}" first REGEX "^#include" LIMIT_COUNT 1)
+        endif()
+        if(NOT first STREQUAL "#include \"${name}\"")
+            list(APPEND unproven "${header}")
+        endif()
+    endforeach()
+    set(${variable} "${unproven}" PARENT_SCOPE)
+endfunction()
+
 # The part of brisklet_add_layer that does not look for files.
+#
+# The target all_verify_interface_header_sets compiles the headers that need it alone; the preset ci
+# builds it.
 function(brisklet_add_layer_from name sources headers qt public private)
     string(TOLOWER "brisklet_${name}" target)
     if(NOT sources)
@@ -24,8 +45,16 @@ function(brisklet_add_layer_from name sources headers qt public private)
         target_link_libraries(${target} INTERFACE ${public} ${private})
     else()
         add_library(${target} STATIC ${sources})
+        brisklet_unproven_headers(unproven ${headers})
+        if(unproven)
+            list(REMOVE_ITEM headers ${unproven})
+        endif()
         target_sources(${target} PUBLIC
-            FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${headers})
+            FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${headers}
+            FILE_SET unproven TYPE HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${unproven})
+        set_target_properties(${target} PROPERTIES
+            VERIFY_INTERFACE_HEADER_SETS ON
+            INTERFACE_HEADER_SETS_TO_VERIFY unproven)
         target_link_libraries(${target}
             PUBLIC ${public}
             PRIVATE ${private} brisklet_warnings)
