@@ -2,7 +2,7 @@
 
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
-#include "Media/FFmpeg/SourceInfo.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -153,11 +153,11 @@ void Demuxer::usePictures(std::shared_ptr<const PictureIndex> pictures) {
 }
 
 bool Demuxer::statesPresentationTimes() const {
-    return m_pictures || ffmpeg::statesPresentationTimes(*m_context->iformat);
+    return m_pictures || containerTraits(*m_context->iformat).statesPresentationTimes;
 }
 
 bool Demuxer::canOnlyReadOn() const {
-    return !m_pictures && isBareBitstream(*m_context->iformat);
+    return !m_pictures && containerTraits(*m_context->iformat).isBareBitstream;
 }
 
 std::optional<std::int64_t> Demuxer::keyFrameBefore(int streamIndex, std::int64_t timestamp) const {

@@ -36,8 +36,7 @@ public:
     /// first packet on.
     void usePictures(std::shared_ptr<const PictureIndex> pictures);
 
-    /// Whether every packet has its presentation time by itself, so that none need be parsed to
-    /// find it, and the demuxer comes back to a position exactly.
+    /// As ContainerTraits has it; true with an index of pictures.
     [[nodiscard]] bool statesPresentationTimes() const;
 
     /// Whether times and positions only make sense when the file is read from its start.

@@ -1,10 +1,10 @@
 #include "Media/FFmpeg/Encryption.h"
 
 #include "Media/Error.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 extern "C" {
 #include <libavutil/intreadwrite.h>
@@ -87,12 +87,11 @@ private:
 } // namespace
 
 void expectNoEncryption(const AVFormatContext& context) {
-    // In other formats these are names that anybody may use.
-    const std::string_view format(context.iformat->name);
-    const bool isAsf = format == "asf";
-    const bool isMatroska = format.starts_with("matroska");
-    if (isAsf && (hasEntry(context.metadata, "ASF_Protection_Type") ||
-                  hasEntry(context.metadata, "encryption")))
+    using Mark = ContainerTraits::EncryptionMark;
+    // In other formats the entries are names that anybody may use.
+    const Mark mark = containerTraits(*context.iformat).encryptionMark;
+    if (mark == Mark::fileMetadata && (hasEntry(context.metadata, "ASF_Protection_Type") ||
+                                       hasEntry(context.metadata, "encryption")))
         throwEncrypted();
     for (unsigned i = 0; i < context.nb_streams; ++i) {
         const AVStream& stream = *context.streams[i];
@@ -100,7 +99,7 @@ void expectNoEncryption(const AVFormatContext& context) {
         if (type != AVMEDIA_TYPE_VIDEO && type != AVMEDIA_TYPE_AUDIO)
             continue;
         if (isEncryptedEntry(stream.codecpar->codec_tag) ||
-            (isMatroska && hasEntry(stream.metadata, "enc_key_id")))
+            (mark == Mark::trackMetadata && hasEntry(stream.metadata, "enc_key_id")))
             throwEncrypted();
     }
 }

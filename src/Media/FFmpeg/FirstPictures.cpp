@@ -1,10 +1,10 @@
 #include "Media/FFmpeg/FirstPictures.h"
 
 #include "Media/Error.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 #include "Media/FFmpeg/Encryption.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace media::ffmpeg {
 
@@ -28,7 +28,7 @@ constexpr int kPacketsForSound = 64;
 bool beginsSilently(const AVFormatContext& context, const AVStream& stream) {
     const AVCodecID codec = stream.codecpar->codec_id;
     return (codec == AV_CODEC_ID_VORBIS || codec == AV_CODEC_ID_OPUS) &&
-           std::string_view(context.iformat->name).starts_with("matroska");
+           containerTraits(*context.iformat).countsSoundPriming;
 }
 
 } // namespace

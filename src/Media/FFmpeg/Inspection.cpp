@@ -1,6 +1,7 @@
 #include "Media/FFmpeg/Inspection.h"
 
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 #include "Media/FFmpeg/Demuxer.h"
 #include "Media/FFmpeg/Encryption.h"
 #include "Media/FFmpeg/FirstPictures.h"
@@ -12,7 +13,6 @@
 #include <cmath>
 #include <map>
 #include <optional>
-#include <string_view>
 
 namespace media::ffmpeg {
 
@@ -53,7 +53,7 @@ std::optional<std::int64_t> presentationStart(const AVStream& stream,
 /// packet of Vorbis, of which nothing is heard; those of other containers do not.
 CorrectedStarts correctedStarts(const AVFormatContext& context, const FirstPicturesReader* reader) {
     CorrectedStarts starts;
-    if (!std::string_view(context.iformat->name).starts_with("matroska"))
+    if (!containerTraits(*context.iformat).countsSoundPriming)
         return starts;
     for (unsigned i = 0; i < context.nb_streams; ++i) {
         const AVStream& stream = *context.streams[i];
@@ -114,7 +114,7 @@ std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& s
 /// Whether the container's index shows every sample, up to the claimed end, to lie in the file.
 bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
                      const std::vector<SourceTrack>& tracks) {
-    if (!std::string_view(context.iformat->name).starts_with("mov"))
+    if (!containerTraits(*context.iformat).indexesEverySample)
         return false;
     return std::ranges::all_of(tracks, [&](const SourceTrack& track) {
         AVStream* stream = context.streams[track.facts.streamIndex];

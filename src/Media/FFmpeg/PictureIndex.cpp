@@ -1,12 +1,12 @@
 #include "Media/FFmpeg/PictureIndex.h"
 
 #include "Media/FFmpeg/CodedPictures.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
 #include "Media/FFmpeg/DisplayOrder.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace media::ffmpeg {
 
@@ -21,10 +21,7 @@ constexpr std::size_t kMostPackets = 8'000'000;
 
 /// The codec of a bitstream whose packets tell the order of their pictures.
 std::optional<AVCodecID> orderedCodec(const AVFormatContext& context) {
-    constexpr std::string_view kFormats[] = {"h264", "hevc", "mpegvideo", "m4v"};
-    const bool isKnown =
-        std::ranges::find(kFormats, std::string_view(context.iformat->name)) != std::end(kFormats);
-    if (!isKnown || context.nb_streams != 1)
+    if (!containerTraits(*context.iformat).hasOrderedPictures || context.nb_streams != 1)
         return std::nullopt;
     return context.streams[0]->codecpar->codec_id;
 }

@@ -1,8 +1,9 @@
 #include "Media/FFmpeg/PrevailingRate.h"
 
+#include "Media/FFmpeg/ContainerTraits.h"
+
 #include <algorithm>
 #include <cstdlib>
-#include <string_view>
 
 namespace media::ffmpeg {
 
@@ -55,7 +56,7 @@ std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRationa
 
 std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream& stream) {
     std::vector<std::int64_t> times;
-    if (!std::string_view(context.iformat->name).starts_with("mov"))
+    if (!containerTraits(*context.iformat).indexesEverySample)
         return times;
     const int count = avformat_index_get_entries_count(&stream);
     times.reserve(static_cast<std::size_t>(std::max(count, 0)));

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
-#include <string_view>
 
 namespace media::ffmpeg {
 
@@ -13,17 +12,6 @@ const SourceTrack& SourceInfo::track(int streamIndex) const {
             return track;
     }
     std::abort();
-}
-
-bool statesPresentationTimes(const AVInputFormat& format) {
-    const std::string_view name(format.name);
-    return name.starts_with("mov") || name.starts_with("matroska");
-}
-
-bool isBareBitstream(const AVInputFormat& format) {
-    constexpr std::string_view kBitstreams[] = {"mpegvideo", "h264", "hevc", "m4v",   "h263",
-                                                "h261",      "obu",  "vc1",  "dirac", "cavsvideo"};
-    return std::ranges::find(kBitstreams, std::string_view(format.name)) != std::end(kBitstreams);
 }
 
 Time timeOf(std::int64_t timestamp, AVRational timeBase) {

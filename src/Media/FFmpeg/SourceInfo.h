@@ -57,13 +57,6 @@ struct SourceInfo {
     [[nodiscard]] const SourceTrack& track(int streamIndex) const;
 };
 
-/// Whether the container gives every packet its presentation time by itself, so that packets need
-/// not be parsed to find it.
-bool statesPresentationTimes(const AVInputFormat& format);
-/// Whether times and positions only make sense when the file is read from its start (bare
-/// bitstreams without a container).
-bool isBareBitstream(const AVInputFormat& format);
-
 /// A timestamp as a Time. One that no time can hold, as only damaged files have it, is the nearest
 /// that one can.
 Time timeOf(std::int64_t timestamp, AVRational timeBase);

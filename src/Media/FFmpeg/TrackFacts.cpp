@@ -1,10 +1,10 @@
 #include "Media/FFmpeg/TrackFacts.h"
 
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 #include "Media/FFmpeg/LibavReleases.h"
 
 #include <algorithm>
-#include <string_view>
 
 extern "C" {
 #include <libavutil/display.h>
@@ -19,11 +19,6 @@ namespace {
 constexpr double kHighestFrameRate = 1000;
 /// The highest rate that is believed when only the shortest gap between two frames is known.
 constexpr double kHighestGuessedFrameRate = 240;
-
-bool isStillPictureFormat(const AVInputFormat& format) {
-    return std::string_view(format.name).ends_with("_pipe") &&
-           std::string_view(format.name) != "yuv4mpegpipe";
-}
 
 std::string nameOrNothing(const char* name) {
     return name ? name : "";
@@ -109,7 +104,8 @@ bool isUsableStream(const AVFormatContext& context, const AVStream& stream) {
     if (parameters.codec_type == AVMEDIA_TYPE_VIDEO) {
         constexpr int kPictures = AV_DISPOSITION_ATTACHED_PIC | AV_DISPOSITION_TIMED_THUMBNAILS |
                                   AV_DISPOSITION_STILL_IMAGE;
-        return !(stream.disposition & kPictures) && !isStillPictureFormat(*context.iformat);
+        return !(stream.disposition & kPictures) &&
+               !containerTraits(*context.iformat).isStillPicture;
     }
     return parameters.codec_type == AVMEDIA_TYPE_AUDIO && parameters.sample_rate > 0 &&
            parameters.ch_layout.nb_channels > 0 && avcodec_find_decoder(parameters.codec_id);

@@ -1,11 +1,11 @@
 #include "Media/Reading/AudioFrames.h"
 
 #include "Media/Error.h"
+#include "Media/FFmpeg/ContainerTraits.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string_view>
 
 namespace media {
 
@@ -20,18 +20,6 @@ constexpr std::size_t kFramesAhead = 8;
 /// Steps back for containers that land behind the time they were asked for.
 constexpr std::array<double, 3> kStepsBackSeconds = {0, 2, 10};
 
-/// Whether packets carry all their facts without a look at the streams' content first.
-bool describesPackets(const AVInputFormat& format) {
-    const std::string_view name(format.name);
-    return name.starts_with("mov") || name.starts_with("matroska");
-}
-
-/// Whether the container's index knows positions by the picture track only.
-bool isIndexedByPictures(const AVInputFormat& format) {
-    const std::string_view name(format.name);
-    return name.starts_with("matroska") || name.ends_with("flv");
-}
-
 } // namespace
 
 AudioFrames::AudioFrames(std::shared_ptr<const Asset> asset, const AssetTrack& facts)
@@ -40,7 +28,7 @@ AudioFrames::AudioFrames(std::shared_ptr<const Asset> asset, const AssetTrack& f
       m_demuxer(m_asset->file(), m_asset->info().format),
       m_decoder(*m_track.parameters, m_track.timeBase, 1),
       m_skipBefore(-kPrerollSeconds) {
-    if (!describesPackets(*m_asset->info().format))
+    if (!m_demuxer.statesPresentationTimes())
         m_demuxer.findStreamInfo();
     m_demuxer.selectOnly({m_track.facts.streamIndex});
 }
@@ -101,7 +89,7 @@ bool AudioFrames::seekContainer(double audible, const std::stop_token& stop) {
 
 const ffmpeg::SourceTrack& AudioFrames::guideTrack() const {
     const ffmpeg::SourceInfo& info = m_asset->info();
-    if (isIndexedByPictures(*info.format)) {
+    if (ffmpeg::containerTraits(*info.format).isIndexedByPictures) {
         for (const ffmpeg::SourceTrack& track : info.tracks) {
             if (track.facts.type == MediaType::video)
                 return track;
