@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <span>
 
 namespace media {
@@ -74,17 +75,17 @@ public:
         require(m_frame->pts == 0);
     }
 
-    /// `end`: when the last picture's turn is over; the stream's time base.
-    void checkLast(std::int64_t end) {
-        const std::int64_t last = lastTimestamp();
+    /// `end`: when the last picture's turn is over.
+    void checkLast(ffmpeg::Timestamp end) {
+        const ffmpeg::Timestamp last = lastTimestamp();
         require(last < end && m_demuxer.seek(m_stream.index, last, m_stop));
         m_decoder.flush();
-        std::int64_t latest = AV_NOPTS_VALUE;
+        std::optional<ffmpeg::Timestamp> latest;
         bool isDraining = false;
         for (;;) {
             if (receive()) {
                 requireIntact();
-                latest = std::max(latest, m_frame->pts);
+                latest = std::max(latest, ffmpeg::Timestamp::stated(m_frame->pts));
             } else if (isDraining) {
                 break;
             } else {
@@ -96,28 +97,29 @@ public:
 
 private:
     /// Of the pictures from the last key frame on, the one that is shown last.
-    std::int64_t lastTimestamp() {
-        require(m_demuxer.seek(m_stream.index, m_stream.start_time + m_stream.duration, m_stop));
-        std::int64_t last = AV_NOPTS_VALUE;
+    ffmpeg::Timestamp lastTimestamp() {
+        const ffmpeg::Timestamp end(m_stream.start_time + m_stream.duration);
+        require(m_demuxer.seek(m_stream.index, end, m_stop));
+        std::optional<ffmpeg::Timestamp> last;
         while (m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::packet) {
-            last = std::max(last, m_packet->pts);
+            last = std::max(last, ffmpeg::ptsOf(*m_packet));
             av_packet_unref(m_packet.get());
         }
-        require(last != AV_NOPTS_VALUE);
-        return last;
+        require(last.has_value());
+        return *last;
     }
 
     bool receive() { return m_decoder.receive(*m_frame) == ffmpeg::Decoder::Status::frame; }
 
     /// Hands in the next packet; on the way to the picture `wanted` no picture that no other needs.
     /// False where there is none: then the decoder is being drained.
-    bool feed(std::int64_t wanted) {
+    bool feed(ffmpeg::Timestamp wanted) {
         if (m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::endOfFile) {
             m_decoder.send(nullptr);
             return false;
         }
         if (m_disposability.judge(*m_packet) != ffmpeg::Dispensable::entirely ||
-            m_packet->pts == wanted)
+            ffmpeg::ptsOf(*m_packet) == wanted)
             m_decoder.send(m_packet.get());
         av_packet_unref(m_packet.get());
         return true;
@@ -153,7 +155,7 @@ void check(const std::shared_ptr<const ffmpeg::SourceFile>& file, const ExportPl
     demuxer.selectOnly({video.index});
     EndsReader reader(demuxer, video, stop);
     reader.checkFirst();
-    reader.checkLast(video.start_time + video.duration);
+    reader.checkLast(ffmpeg::Timestamp(video.start_time + video.duration));
 }
 
 } // namespace

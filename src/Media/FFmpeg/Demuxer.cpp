@@ -160,14 +160,14 @@ bool Demuxer::canOnlyReadOn() const {
     return !m_pictures && containerTraits(*m_context->iformat).isBareBitstream;
 }
 
-std::optional<std::int64_t> Demuxer::keyFrameBefore(int streamIndex, std::int64_t timestamp) const {
+std::optional<Timestamp> Demuxer::keyFrameBefore(int streamIndex, Timestamp timestamp) const {
     if (m_pictures) {
         const PictureIndex::Entry* key = m_pictures->keyFrameDecodedBefore(timestamp);
         return key ? std::optional(key->dts) : std::nullopt;
     }
     const AVIndexEntry* entry = avformat_index_get_entry_from_timestamp(
-        m_context->streams[streamIndex], timestamp, AVSEEK_FLAG_BACKWARD);
-    return entry ? std::optional(entry->timestamp) : std::nullopt;
+        m_context->streams[streamIndex], timestamp.value(), AVSEEK_FLAG_BACKWARD);
+    return entry ? std::optional(Timestamp(entry->timestamp)) : std::nullopt;
 }
 
 void Demuxer::moveTo(const PictureIndex::Entry& entry) {
@@ -230,7 +230,7 @@ void Demuxer::checkSource() const {
         throw Error("The video was cut short while it was being read.");
 }
 
-bool Demuxer::seek(int streamIndex, std::int64_t timestamp, const std::stop_token& stop) {
+bool Demuxer::seek(int streamIndex, Timestamp timestamp, const std::stop_token& stop) {
     const CallScope scope(*m_io, m_ioContext.get(), stop);
     if (m_pictures) {
         const PictureIndex::Entry* key = m_pictures->keyFrameShownBefore(timestamp);
@@ -238,7 +238,8 @@ bool Demuxer::seek(int streamIndex, std::int64_t timestamp, const std::stop_toke
             moveTo(*key);
         return key != nullptr;
     }
-    const int result = av_seek_frame(m_context.get(), streamIndex, timestamp, AVSEEK_FLAG_BACKWARD);
+    const int result =
+        av_seek_frame(m_context.get(), streamIndex, timestamp.value(), AVSEEK_FLAG_BACKWARD);
     if (stop.stop_requested())
         throw Cancelled();
     return result >= 0;

@@ -3,6 +3,7 @@
 #include "Media/FFmpeg/Handles.h"
 #include "Media/FFmpeg/PictureIndex.h"
 #include "Media/FFmpeg/SourceFile.h"
+#include "Media/FFmpeg/Timestamp.h"
 
 #include <memory>
 #include <optional>
@@ -42,10 +43,9 @@ public:
     /// Whether times and positions only make sense when the file is read from its start.
     [[nodiscard]] bool canOnlyReadOn() const;
 
-    /// The dts of the last key frame that is known to be decoded at or before `timestamp`; both in
-    /// the time base of the stream.
-    [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(int streamIndex,
-                                                             std::int64_t timestamp) const;
+    /// The dts of the last key frame that is known to be decoded at or before `timestamp`.
+    [[nodiscard]] std::optional<Timestamp> keyFrameBefore(int streamIndex,
+                                                          Timestamp timestamp) const;
 
     /// Leaves out the packets of all other streams from now on.
     void selectOnly(const std::vector<int>& streamIndexes);
@@ -55,9 +55,9 @@ public:
     /// truncated meanwhile simply ends. Throws Error on a read error; Cancelled.
     Status read(AVPacket& packet, const std::stop_token& stop = {});
 
-    /// Moves to the last random-access point at or before `timestamp` of the stream (its time
-    /// base). False if the container cannot.
-    bool seek(int streamIndex, std::int64_t timestamp, const std::stop_token& stop = {});
+    /// Moves to the last random-access point at or before `timestamp` of the stream. False if the
+    /// container cannot.
+    bool seek(int streamIndex, Timestamp timestamp, const std::stop_token& stop = {});
     /// Opens the file anew, so that read() starts at its very first packet, whatever the container
     /// can or cannot do. The selection stays.
     void reopen(const std::stop_token& stop = {});

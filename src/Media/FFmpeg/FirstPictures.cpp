@@ -11,11 +11,11 @@ namespace media::ffmpeg {
 namespace {
 
 /// How many packets are looked at to learn whether a track states its presentation times.
-constexpr int kPacketsToJudge = 16;
+constexpr std::size_t kPacketsToJudge = 16;
 
 /// How much is read of a container without an index of all pictures to learn at which distances
 /// they follow one another.
-constexpr int kTimesToJudge = 64;
+constexpr std::size_t kTimesToJudge = 64;
 constexpr std::int64_t kBytesToJudge = 4'000'000;
 /// No decoder keeps more pictures to put them in order.
 constexpr std::size_t kMostReordered = 16;
@@ -45,36 +45,33 @@ FirstPicturesReader::FirstPicturesReader(Demuxer& demuxer, const SourceTrack& tr
 FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
     m_thread.check();
     const bool mustJudge = !m_demuxer.statesPresentationTimes();
-    for (int read = 0; !m_timestamp || (mustJudge && m_packets < kPacketsToJudge) ||
+    for (int read = 0; !m_hasPicture || (mustJudge && m_packets < kPacketsToJudge) ||
                        (isAwaitingSound() && read < kPacketsForSound);
          ++read) {
         if (!readPacket(stop))
             break;
     }
-    if (!m_timestamp)
+    if (!m_hasPicture)
         throw Error("Not one picture in this file can be decoded.");
     return judged();
 }
 
-std::vector<std::int64_t> FirstPicturesReader::times(const std::stop_token& stop) {
+std::vector<Timestamp> FirstPicturesReader::times(const std::stop_token& stop) {
     m_thread.check();
     while (m_packets < kTimesToJudge && m_bytes < kBytesToJudge && readPacket(stop)) {
     }
-    if (m_packetsWithoutPts > 0)
-        return std::ranges::find(m_dts, AV_NOPTS_VALUE) == m_dts.end()
-                   ? m_dts
-                   : std::vector<std::int64_t>();
+    if (m_pts.size() < m_packets)
+        return m_dts.size() == m_packets ? m_dts : std::vector<Timestamp>();
     // Between the last ones some may be missing that are decoded later.
-    std::vector<std::int64_t> shown = m_pts;
+    std::vector<Timestamp> shown = m_pts;
     std::ranges::sort(shown);
     shown.resize(shown.size() - std::min(shown.size(), kMostReordered));
     return shown;
 }
 
-std::optional<std::int64_t> FirstPicturesReader::packetTime(int stream, std::size_t number) const {
+std::optional<Timestamp> FirstPicturesReader::packetTime(int stream, std::size_t number) const {
     const auto entry = m_soundTimes.find(stream);
-    if (entry == m_soundTimes.end() || entry->second.size() <= number ||
-        entry->second[number] == AV_NOPTS_VALUE)
+    if (entry == m_soundTimes.end() || entry->second.size() <= number)
         return std::nullopt;
     return entry->second[number];
 }
@@ -91,11 +88,11 @@ bool FirstPicturesReader::readPacket(const std::stop_token& stop) {
     }
     if (hasPacket)
         notePicture();
-    if (!m_timestamp) {
+    if (!m_hasPicture) {
         m_decoder.send(hasPacket ? m_packet.get() : nullptr);
-        if (m_decoder.receive(*m_frame) == Decoder::Status::frame)
-            m_timestamp =
-                m_frame->pts != AV_NOPTS_VALUE ? m_frame->pts : m_frame->best_effort_timestamp;
+        m_hasPicture = m_decoder.receive(*m_frame) == Decoder::Status::frame;
+        if (m_hasPicture)
+            m_timestamp = ptsOf(*m_frame);
     }
     av_packet_unref(m_packet.get());
     return hasPacket;
@@ -103,17 +100,16 @@ bool FirstPicturesReader::readPacket(const std::stop_token& stop) {
 
 void FirstPicturesReader::notePicture() {
     ++m_packets;
-    m_packetsWithoutPts += m_packet->pts == AV_NOPTS_VALUE ? 1 : 0;
-    m_pts.push_back(m_packet->pts);
-    m_dts.push_back(m_packet->dts);
-    if (m_firstDts == AV_NOPTS_VALUE)
-        m_firstDts = m_packet->dts;
+    if (const auto pts = ptsOf(*m_packet))
+        m_pts.push_back(*pts);
+    if (const auto dts = dtsOf(*m_packet))
+        m_dts.push_back(*dts);
 }
 
 void FirstPicturesReader::noteSound() {
     const auto entry = m_soundTimes.find(m_packet->stream_index);
     if (entry != m_soundTimes.end() && entry->second.size() < 2)
-        entry->second.push_back(m_packet->pts);
+        entry->second.push_back(ptsOf(*m_packet));
 }
 
 bool FirstPicturesReader::isAwaitingSound() const {
@@ -122,15 +118,16 @@ bool FirstPicturesReader::isAwaitingSound() const {
 }
 
 FirstPictures FirstPicturesReader::judged() const {
-    FirstPictures result{*m_timestamp, false, false};
+    FirstPictures result{m_timestamp, false, false};
+    const std::size_t withoutPts = m_packets - m_pts.size();
     const AVCodecID codec = m_track.parameters->codec_id;
     const bool reordersByOne = codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG2VIDEO ||
                                codec == AV_CODEC_ID_MPEG4;
-    if (reordersByOne && m_packetsWithoutPts > 0) {
+    if (reordersByOne && withoutPts > 0) {
         result.needsGeneratedTimes = true;
-    } else if (m_packetsWithoutPts * 2 > m_packets) {
+    } else if (withoutPts * 2 > m_packets) {
         result.lacksPresentationTimes = true;
-        result.timestamp = m_firstDts;
+        result.timestamp = m_dts.empty() ? std::nullopt : std::optional(m_dts.front());
     }
     return result;
 }

@@ -16,8 +16,8 @@ namespace media::ffmpeg {
 
 /// What the first pictures of a track tell.
 struct FirstPictures {
-    /// Of the first picture that decodes; AV_NOPTS_VALUE if there is none.
-    std::int64_t timestamp = AV_NOPTS_VALUE;
+    /// Of the first picture that decodes, if it has one.
+    std::optional<Timestamp> timestamp;
     bool lacksPresentationTimes = false;
     bool needsGeneratedTimes = false;
 };
@@ -33,12 +33,12 @@ public:
     FirstPictures read(const std::stop_token& stop);
 
     /// When the first pictures are shown or, if not all say so, decoded; after read(), and as far
-    /// as little has to be read for it. In the track's time base.
-    std::vector<std::int64_t> times(const std::stop_token& stop);
+    /// as little has to be read for it.
+    std::vector<Timestamp> times(const std::stop_token& stop);
 
-    /// When the first or second packet (0, 1) of a stream is presented; its time base. Known of
-    /// those that begin silently only.
-    [[nodiscard]] std::optional<std::int64_t> packetTime(int stream, std::size_t number) const;
+    /// When the first or second packet (0, 1) of a stream is presented. Known of those that begin
+    /// silently only.
+    [[nodiscard]] std::optional<Timestamp> packetTime(int stream, std::size_t number) const;
 
     /// The first picture, once read() has returned.
     [[nodiscard]] const AVFrame& picture() const { return *m_frame; }
@@ -57,15 +57,15 @@ private:
     Decoder m_decoder;
     PacketPtr m_packet = makePacket();
     FramePtr m_frame = makeFrame();
-    std::optional<std::int64_t> m_timestamp;
-    std::int64_t m_firstDts = AV_NOPTS_VALUE;
+    bool m_hasPicture = false;
+    std::optional<Timestamp> m_timestamp;
     /// The first two times of each stream that begins silently.
-    std::map<int, std::vector<std::int64_t>> m_soundTimes;
+    std::map<int, std::vector<std::optional<Timestamp>>> m_soundTimes;
     std::int64_t m_bytes = 0;
-    std::vector<std::int64_t> m_pts;
-    std::vector<std::int64_t> m_dts;
-    int m_packets = 0;
-    int m_packetsWithoutPts = 0;
+    /// As far as packets have them.
+    std::vector<Timestamp> m_pts;
+    std::vector<Timestamp> m_dts;
+    std::size_t m_packets = 0;
 };
 
 } // namespace media::ffmpeg

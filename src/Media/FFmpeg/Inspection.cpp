@@ -38,15 +38,15 @@ AVFieldOrder fieldOrderOf(const AVCodecParameters& parameters, const AVFrame& pi
                                                       : parameters.field_order;
 }
 
-/// Where the container's times are not those of presentation: by stream, in its time base.
-using CorrectedStarts = std::map<int, std::int64_t>;
+/// Where the container's times are not those of presentation: by stream.
+using CorrectedStarts = std::map<int, Timestamp>;
 
-/// When a stream is first seen or heard; its time base.
-std::optional<std::int64_t> presentationStart(const AVStream& stream,
-                                              const CorrectedStarts& corrected) {
+/// When a stream is first seen or heard.
+std::optional<Timestamp> presentationStart(const AVStream& stream,
+                                           const CorrectedStarts& corrected) {
     if (const auto entry = corrected.find(stream.index); entry != corrected.end())
         return entry->second;
-    return stream.start_time == AV_NOPTS_VALUE ? std::nullopt : std::optional(stream.start_time);
+    return Timestamp::stated(stream.start_time);
 }
 
 /// Matroska's times count the samples that an Opus decoder drops at the beginning and a first
@@ -58,16 +58,16 @@ CorrectedStarts correctedStarts(const AVFormatContext& context, const FirstPictu
     for (unsigned i = 0; i < context.nb_streams; ++i) {
         const AVStream& stream = *context.streams[i];
         const AVCodecParameters& parameters = *stream.codecpar;
-        if (stream.start_time == AV_NOPTS_VALUE)
+        const auto stated = Timestamp::stated(stream.start_time);
+        if (!stated)
             continue;
         const auto packet = [&](std::size_t number) {
             return reader ? reader->packetTime(stream.index, number) : std::nullopt;
         };
         // By its first packet: newer releases of libav leave the dropped samples out of the start.
         if (parameters.codec_id == AV_CODEC_ID_OPUS) {
-            starts[stream.index] = packet(0).value_or(stream.start_time) +
-                                   av_rescale_q(parameters.initial_padding,
-                                                {1, parameters.sample_rate}, stream.time_base);
+            starts[stream.index] = packet(0).value_or(*stated).advancedBy(av_rescale_q(
+                parameters.initial_padding, {1, parameters.sample_rate}, stream.time_base));
         } else if (const auto second = packet(1)) {
             starts[stream.index] = *second;
         }
@@ -98,15 +98,15 @@ Time findOrigin(const AVFormatContext& context, const CorrectedStarts& corrected
 std::optional<Time> containerEnd(const AVFormatContext& context) {
     if (context.duration == AV_NOPTS_VALUE || context.duration <= 0)
         return std::nullopt;
-    const std::int64_t start = context.start_time != AV_NOPTS_VALUE ? context.start_time : 0;
-    return timeOf(av_sat_add64(start, context.duration), av_get_time_base_q());
+    const Timestamp start = Timestamp::stated(context.start_time).value_or(Timestamp(0));
+    return timeOf(start.advancedBy(context.duration), av_get_time_base_q());
 }
 
 /// The stream's end as the container states it, in container time.
 std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& stream) {
     if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0) {
-        const std::int64_t start = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;
-        return timeOf(av_sat_add64(start, stream.duration), stream.time_base);
+        const Timestamp start = Timestamp::stated(stream.start_time).value_or(Timestamp(0));
+        return timeOf(start.advancedBy(stream.duration), stream.time_base);
     }
     return containerEnd(context);
 }
@@ -123,7 +123,7 @@ bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
         if (count == 0 || !end)
             return false;
         const AVIndexEntry* last = avformat_index_get_entry(stream, count - 1);
-        const Time lastTime = timeOf(last->timestamp, stream->time_base);
+        const Time lastTime = timeOf(Timestamp(last->timestamp), stream->time_base);
         return last->pos + last->size <= file.size() && (*end - lastTime).seconds() < kTailSeconds;
     });
 }
@@ -133,10 +133,11 @@ Ends readEnds(Demuxer& demuxer, const std::stop_token& stop) {
     Ends ends;
     const PacketPtr packet = makePacket();
     while (demuxer.read(*packet, stop) == Demuxer::Status::packet) {
-        const std::int64_t start = packet->pts != AV_NOPTS_VALUE ? packet->pts : packet->dts;
-        if (start != AV_NOPTS_VALUE && !(packet->flags & AV_PKT_FLAG_DISCARD)) {
+        const auto pts = ptsOf(*packet);
+        const auto start = pts ? pts : dtsOf(*packet);
+        if (start && !(packet->flags & AV_PKT_FLAG_DISCARD)) {
             const AVStream& stream = *demuxer.context().streams[packet->stream_index];
-            const Time end = timeOf(av_sat_add64(start, packet->duration), stream.time_base);
+            const Time end = timeOf(start->advancedBy(packet->duration), stream.time_base);
             const auto [entry, isNew] = ends.try_emplace(packet->stream_index, end);
             if (!isNew && entry->second < end)
                 entry->second = end;
@@ -161,8 +162,7 @@ Ends measureEnds(Demuxer& demuxer, const std::vector<SourceTrack>& tracks,
     if (latest) {
         const Time tail = *latest - Time::fromSeconds(kTailSeconds, kComparisonTimescale);
         const AVRational timeBase = demuxer.context().streams[indexes.front()]->time_base;
-        const std::int64_t timestamp = av_rescale_q(tail.value, {1, tail.timescale}, timeBase);
-        if (demuxer.seek(indexes.front(), timestamp, stop)) {
+        if (demuxer.seek(indexes.front(), nearestTimestamp(tail, timeBase), stop)) {
             Ends ends = readEnds(demuxer, stop);
             if (!ends.empty())
                 return ends;
@@ -203,8 +203,8 @@ void describeChapters(SourceInfo& info, const AVFormatContext& context) {
     for (unsigned i = 0; i < context.nb_chapters; ++i) {
         const AVChapter& chapter = *context.chapters[i];
         SourceChapter result;
-        result.range.start = timeOf(chapter.start, chapter.time_base) - info.origin;
-        result.range.end = timeOf(chapter.end, chapter.time_base) - info.origin;
+        result.range.start = timeOf(Timestamp(chapter.start), chapter.time_base) - info.origin;
+        result.range.end = timeOf(Timestamp(chapter.end), chapter.time_base) - info.origin;
         if (const auto* title = av_dict_get(chapter.metadata, "title", nullptr, 0))
             result.title = title->value;
         info.chapters.push_back(std::move(result));
@@ -225,8 +225,7 @@ void findFrameRate(SourceTrack& track, const SourceInfo& info, Demuxer& demuxer,
         return;
     }
     AVFormatContext& context = demuxer.context();
-    std::vector<std::int64_t> times =
-        indexedTimes(context, *context.streams[track.facts.streamIndex]);
+    std::vector<Timestamp> times = indexedTimes(context, *context.streams[track.facts.streamIndex]);
     if (times.empty() && !track.isInterlaced())
         times = reader.times(stop);
     const auto rate = rateBetweenGaps(std::move(times), track.timeBase);
@@ -286,8 +285,8 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;
-        if (first.timestamp != AV_NOPTS_VALUE)
-            firstPicture = timeOf(first.timestamp, video->timeBase);
+        if (first.timestamp)
+            firstPicture = timeOf(*first.timestamp, video->timeBase);
     }
     const CorrectedStarts corrected = correctedStarts(context, reader ? &*reader : nullptr);
     info.origin = findOrigin(context, corrected, firstPicture, pictureStream);

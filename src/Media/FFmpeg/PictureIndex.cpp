@@ -86,20 +86,20 @@ public:
         if (m_entries.empty())
             return nullptr;
         const AVRational half{frameRate.den, 2 * frameRate.num};
-        const auto timeOf = [&](std::int64_t halves) {
+        const auto inTimeBase = [&](std::int64_t halves) {
             return av_rescale_q(halves, half, timeBase);
         };
         const std::vector<DisplayOrder::Place> places = m_order.finish();
         for (std::size_t i = 0; i < m_entries.size(); ++i) {
             const DisplayOrder::Place& place = places[m_slots[i]];
             PictureIndex::Entry& entry = m_entries[i];
-            entry.dts = timeOf(place.decodedAt - m_order.delay());
-            entry.duration = timeOf(place.halves);
+            entry.dts = Timestamp(inTimeBase(place.decodedAt - m_order.delay()));
+            entry.duration = inTimeBase(place.halves);
             if (place.shownAt)
-                entry.pts = timeOf(*place.shownAt);
+                entry.pts = Timestamp(inTimeBase(*place.shownAt));
         }
         return std::make_shared<const PictureIndex>(std::move(m_entries), frameRate,
-                                                    timeOf(m_order.end()));
+                                                    Timestamp(inTimeBase(m_order.end())));
     }
 
 private:
@@ -111,11 +111,10 @@ private:
 
 } // namespace
 
-PictureIndex::PictureIndex(std::vector<Entry> entries, AVRational frameRate, std::int64_t end)
+PictureIndex::PictureIndex(std::vector<Entry> entries, AVRational frameRate, Timestamp end)
     : m_entries(std::move(entries)), m_frameRate(frameRate), m_end(end) {
-    std::ranges::copy_if(m_entries, std::back_inserter(m_keyFrames), [](const Entry& entry) {
-        return entry.isKey && entry.pts != AV_NOPTS_VALUE;
-    });
+    std::ranges::copy_if(m_entries, std::back_inserter(m_keyFrames),
+                         [](const Entry& entry) { return entry.isKey && entry.pts; });
     std::ranges::stable_sort(m_keyFrames, {}, &Entry::pts);
 }
 
@@ -144,18 +143,18 @@ std::shared_ptr<const PictureIndex> PictureIndex::read(Demuxer& demuxer,
 bool PictureIndex::stamp(AVPacket& packet) const {
     const auto entry = std::ranges::lower_bound(m_entries, packet.pos, {}, &Entry::position);
     const bool isKnown = entry != m_entries.end() && entry->position == packet.pos;
-    packet.pts = isKnown ? entry->pts : AV_NOPTS_VALUE;
-    packet.dts = isKnown ? entry->dts : AV_NOPTS_VALUE;
+    packet.pts = isKnown ? valueOf(entry->pts) : AV_NOPTS_VALUE;
+    packet.dts = isKnown ? entry->dts.value() : AV_NOPTS_VALUE;
     packet.duration = isKnown ? entry->duration : 0;
-    return !isKnown || entry->pts != AV_NOPTS_VALUE;
+    return !isKnown || entry->pts;
 }
 
-const PictureIndex::Entry* PictureIndex::keyFrameShownBefore(std::int64_t pts) const {
-    const auto after = std::ranges::upper_bound(m_keyFrames, pts, {}, &Entry::pts);
+const PictureIndex::Entry* PictureIndex::keyFrameShownBefore(Timestamp pts) const {
+    const auto after = std::ranges::upper_bound(m_keyFrames, std::optional(pts), {}, &Entry::pts);
     return after == m_keyFrames.begin() ? nullptr : &*std::prev(after);
 }
 
-const PictureIndex::Entry* PictureIndex::keyFrameDecodedBefore(std::int64_t dts) const {
+const PictureIndex::Entry* PictureIndex::keyFrameDecodedBefore(Timestamp dts) const {
     const auto after = std::ranges::upper_bound(m_keyFrames, dts, {}, &Entry::dts);
     return after == m_keyFrames.begin() ? nullptr : &*std::prev(after);
 }

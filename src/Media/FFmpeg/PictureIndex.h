@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Media/FFmpeg/Handles.h"
+#include "Media/FFmpeg/Timestamp.h"
 
 #include <cstdint>
 #include <memory>
@@ -20,16 +21,16 @@ public:
     struct Entry {
         /// Where the packet begins in the file; bytes.
         std::int64_t position = 0;
-        /// Counted from the first picture to be shown; AV_NOPTS_VALUE of one that is not shown.
-        std::int64_t pts = AV_NOPTS_VALUE;
+        /// Counted from the first picture to be shown; none of one that is not shown.
+        std::optional<Timestamp> pts;
         /// Not after the pts of any picture.
-        std::int64_t dts = 0;
+        Timestamp dts;
         std::int64_t duration = 0;
         bool isKey = false;
     };
 
     /// `entries` in the order of the file, at least one; `end`: of the picture shown last.
-    PictureIndex(std::vector<Entry> entries, AVRational frameRate, std::int64_t end);
+    PictureIndex(std::vector<Entry> entries, AVRational frameRate, Timestamp end);
 
     /// Reads the whole file once, with a demuxer that has just found its stream's parameters, and
     /// leaves that at the end. Null for containers, for bitstreams whose pictures cannot be put in
@@ -41,23 +42,23 @@ public:
     bool stamp(AVPacket& packet) const;
 
     /// The last key frame that is shown at or before `pts`; null if there is none.
-    [[nodiscard]] const Entry* keyFrameShownBefore(std::int64_t pts) const;
+    [[nodiscard]] const Entry* keyFrameShownBefore(Timestamp pts) const;
     /// The last key frame that is decoded at or before `dts`; null if there is none.
-    [[nodiscard]] const Entry* keyFrameDecodedBefore(std::int64_t dts) const;
+    [[nodiscard]] const Entry* keyFrameDecodedBefore(Timestamp dts) const;
 
     [[nodiscard]] const Entry& first() const { return m_entries.front(); }
 
     /// As the stream states it, of MPEG-4 as its pictures show it, or else 25.
     [[nodiscard]] AVRational frameRate() const { return m_frameRate; }
 
-    [[nodiscard]] std::int64_t end() const { return m_end; }
+    [[nodiscard]] Timestamp end() const { return m_end; }
 
 private:
     std::vector<Entry> m_entries;
     /// Those of key frames that are shown, in that order, in which they are decoded too.
     std::vector<Entry> m_keyFrames;
     AVRational m_frameRate;
-    std::int64_t m_end;
+    Timestamp m_end;
 };
 
 } // namespace media::ffmpeg

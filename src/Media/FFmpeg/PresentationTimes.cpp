@@ -8,8 +8,9 @@ void PresentationTimes::clear() {
 }
 
 void PresentationTimes::notePacket(const AVPacket& packet) {
-    if (packet.dts != AV_NOPTS_VALUE && m_track.lacksPresentationTimes)
-        m_pendingDts.insert(packet.dts);
+    const auto dts = dtsOf(packet);
+    if (dts && m_track.lacksPresentationTimes)
+        m_pendingDts.insert(*dts);
 }
 
 Time PresentationTimes::next(const AVFrame& frame) {
@@ -21,16 +22,16 @@ Time PresentationTimes::next(const AVFrame& frame) {
 }
 
 Time PresentationTimes::timeOf(const AVFrame& frame) {
-    std::int64_t timestamp = frame.pts != AV_NOPTS_VALUE ? frame.pts : frame.best_effort_timestamp;
+    std::optional<Timestamp> timestamp = ptsOf(frame);
     if (m_track.lacksPresentationTimes) {
-        timestamp = AV_NOPTS_VALUE;
+        timestamp.reset();
         if (!m_pendingDts.empty()) {
             timestamp = *m_pendingDts.begin();
             m_pendingDts.erase(m_pendingDts.begin());
         }
     }
-    if (timestamp != AV_NOPTS_VALUE)
-        return assetTime(m_info, m_track, timestamp);
+    if (timestamp)
+        return assetTime(m_info, m_track, *timestamp);
     if (!m_last.isNumeric())
         return m_track.facts.startTime;
     const float rate = m_track.facts.nominalFrameRate;

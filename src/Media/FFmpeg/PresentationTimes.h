@@ -26,7 +26,7 @@ private:
     const SourceInfo& m_info;
     const SourceTrack& m_track;
     /// Decoding times of pictures not yet given out, for tracks without presentation times.
-    std::multiset<std::int64_t> m_pendingDts;
+    std::multiset<Timestamp> m_pendingDts;
     Time m_last = Time::negativeInfinity();
 };
 

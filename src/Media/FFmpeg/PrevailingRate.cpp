@@ -19,19 +19,19 @@ constexpr std::size_t kFewestDistances = 8;
 /// most.
 constexpr double kHighestRate = 240;
 
-std::vector<std::int64_t> distances(std::vector<std::int64_t> times) {
+std::vector<std::int64_t> distances(std::vector<Timestamp> times) {
     std::ranges::sort(times);
     std::vector<std::int64_t> result;
     for (std::size_t i = 1; i < times.size(); ++i) {
         if (times[i] > times[i - 1])
-            result.push_back(times[i] - times[i - 1]);
+            result.push_back(times[i].value() - times[i - 1].value());
     }
     return result;
 }
 
 } // namespace
 
-std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRational timeBase) {
+std::optional<double> rateBetweenGaps(std::vector<Timestamp> times, AVRational timeBase) {
     std::vector<std::int64_t> all = distances(std::move(times));
     if (all.size() < kFewestDistances)
         return std::nullopt;
@@ -54,8 +54,8 @@ std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRationa
     return rate <= kHighestRate ? std::optional(rate) : std::nullopt;
 }
 
-std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream& stream) {
-    std::vector<std::int64_t> times;
+std::vector<Timestamp> indexedTimes(const AVFormatContext& context, AVStream& stream) {
+    std::vector<Timestamp> times;
     if (!containerTraits(*context.iformat).indexesEverySample)
         return times;
     const int count = avformat_index_get_entries_count(&stream);
@@ -63,7 +63,7 @@ std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream&
     for (int i = 0; i < count; ++i) {
         const AVIndexEntry* entry = avformat_index_get_entry(&stream, i);
         if (!(entry->flags & AVINDEX_DISCARD_FRAME))
-            times.push_back(entry->timestamp);
+            times.emplace_back(entry->timestamp);
     }
     return times;
 }

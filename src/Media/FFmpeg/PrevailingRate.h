@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Media/FFmpeg/Handles.h"
+#include "Media/FFmpeg/Timestamp.h"
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -12,10 +11,10 @@ namespace media::ffmpeg {
 /// of them, of which an average knows nothing. None where there are no such gaps, where the
 /// distances are of all kinds, too few to tell or too short for a rate (over 240 a second). `times`
 /// in any order, in `timeBase`.
-std::optional<double> rateBetweenGaps(std::vector<std::int64_t> times, AVRational timeBase);
+std::optional<double> rateBetweenGaps(std::vector<Timestamp> times, AVRational timeBase);
 
-/// When the samples are decoded that a container's index lists, as far as they are shown; in the
-/// stream's time base. Empty for containers whose index does not list all.
-std::vector<std::int64_t> indexedTimes(const AVFormatContext& context, AVStream& stream);
+/// When the samples are decoded that a container's index lists, as far as they are shown. Empty for
+/// containers whose index does not list all.
+std::vector<Timestamp> indexedTimes(const AVFormatContext& context, AVStream& stream);
 
 } // namespace media::ffmpeg

@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/Handles.h"
 #include "Media/FFmpeg/HighDynamicRange.h"
 #include "Media/FFmpeg/PictureIndex.h"
+#include "Media/FFmpeg/Timestamp.h"
 
 #include <memory>
 #include <string>
@@ -57,13 +58,9 @@ struct SourceInfo {
     [[nodiscard]] const SourceTrack& track(int streamIndex) const;
 };
 
-/// A timestamp as a Time. One that no time can hold, as only damaged files have it, is the nearest
-/// that one can.
-Time timeOf(std::int64_t timestamp, AVRational timeBase);
-
 /// A timestamp of a stream on the asset's time line.
-Time assetTime(const SourceInfo& info, const SourceTrack& track, std::int64_t timestamp);
+Time assetTime(const SourceInfo& info, const SourceTrack& track, Timestamp timestamp);
 /// The timestamp of a stream at a time on the asset's time line, rounded to the nearest.
-std::int64_t streamTimestamp(const SourceInfo& info, const SourceTrack& track, Time time);
+Timestamp streamTimestamp(const SourceInfo& info, const SourceTrack& track, Time time);
 
 } // namespace media::ffmpeg

@@ -102,17 +102,17 @@ const ffmpeg::SourceTrack& AudioFrames::guideTrack() const {
 std::optional<double> AudioFrames::readLanding(const std::stop_token& stop) {
     av_packet_unref(m_packet.get());
     m_hasPacket = readPacket(stop);
-    return m_hasPacket ? timeOf(m_packet->pts) : std::nullopt;
+    return m_hasPacket ? timeOf(ffmpeg::ptsOf(*m_packet)) : std::nullopt;
 }
 
-std::optional<double> AudioFrames::timeOf(std::int64_t timestamp) const {
-    if (timestamp == AV_NOPTS_VALUE)
+std::optional<double> AudioFrames::timeOf(std::optional<ffmpeg::Timestamp> timestamp) const {
+    if (!timestamp)
         return std::nullopt;
-    return ffmpeg::assetTime(m_asset->info(), m_track, timestamp).seconds();
+    return ffmpeg::assetTime(m_asset->info(), m_track, *timestamp).seconds();
 }
 
 std::optional<double> AudioFrames::timeOf(const AVFrame& frame) const {
-    return timeOf(frame.pts != AV_NOPTS_VALUE ? frame.pts : frame.best_effort_timestamp);
+    return timeOf(ffmpeg::ptsOf(frame));
 }
 
 /// The next packet of our track into m_packet.
@@ -127,7 +127,7 @@ bool AudioFrames::readPacket(const std::stop_token& stop) {
 }
 
 bool AudioFrames::isBeforePreroll() const {
-    const auto time = timeOf(m_packet->pts);
+    const auto time = timeOf(ffmpeg::ptsOf(*m_packet));
     return time && *time + static_cast<double>(m_packet->duration) * av_q2d(m_track.timeBase) <
                        m_skipBefore;
 }

@@ -48,7 +48,7 @@ private:
     bool seekContainer(double audible, const std::stop_token& stop);
     [[nodiscard]] const ffmpeg::SourceTrack& guideTrack() const;
     std::optional<double> readLanding(const std::stop_token& stop);
-    [[nodiscard]] std::optional<double> timeOf(std::int64_t timestamp) const;
+    [[nodiscard]] std::optional<double> timeOf(std::optional<ffmpeg::Timestamp> timestamp) const;
     bool readPacket(const std::stop_token& stop);
     [[nodiscard]] bool isBeforePreroll() const;
     void feed(const std::stop_token& stop);

@@ -147,7 +147,7 @@ private:
     }
 
     /// The dts of the last key frame that the container's index knows at or before `ticks`.
-    [[nodiscard]] std::optional<std::int64_t> keyFrameBefore(Ticks ticks) {
+    [[nodiscard]] std::optional<ffmpeg::Timestamp> keyFrameBefore(Ticks ticks) {
         return m_demuxer->keyFrameBefore(
             m_track.facts.streamIndex,
             ffmpeg::streamTimestamp(m_asset->info(), m_track, Time::fromTicks(ticks)));
@@ -155,7 +155,7 @@ private:
 
     [[nodiscard]] bool hasKeyFrameWithin(Ticks earliest, Ticks latest) {
         const auto key = keyFrameBefore(latest);
-        return key && ffmpeg::assetTime(m_asset->info(), m_track, *key).ticks() >= earliest;
+        return key && ticksAt(*key) >= earliest;
     }
 
     /// Whether the frame at `ticks` is queued or best reached by decoding on.
@@ -171,7 +171,7 @@ private:
             return true;
         const auto key =
             m_demuxer->statesPresentationTimes() ? keyFrameBefore(ticks) : std::nullopt;
-        if (key && m_lastReadDts != AV_NOPTS_VALUE)
+        if (key && m_lastReadDts)
             return *key <= m_lastReadDts;
         return ticks - last <= kNear;
     }
@@ -180,13 +180,12 @@ private:
     [[nodiscard]] std::optional<Ticks> nextTicks() const {
         if (!m_queue.empty())
             return m_queue.front().ticks;
-        if (m_ahead.empty() || m_ahead.front()->pts == AV_NOPTS_VALUE)
-            return std::nullopt;
-        return ticksOf(*m_ahead.front());
+        const auto pts = m_ahead.empty() ? std::nullopt : ffmpeg::ptsOf(*m_ahead.front());
+        return pts ? std::optional(ticksAt(*pts)) : std::nullopt;
     }
 
-    [[nodiscard]] Ticks ticksOf(const AVPacket& packet) const {
-        return ffmpeg::assetTime(m_asset->info(), m_track, packet.pts).ticks();
+    [[nodiscard]] Ticks ticksAt(ffmpeg::Timestamp timestamp) const {
+        return ffmpeg::assetTime(m_asset->info(), m_track, timestamp).ticks();
     }
 
     /// Drops queued frames until the first is the frame at `ticks`.
@@ -241,7 +240,7 @@ private:
     /// comes out begins at or before `limit`. It is given up when none has come by `vain`: from
     /// there on, it is known, none comes in time.
     Landing landAt(Ticks ticks, Ticks limit, Ticks vain, const std::stop_token& stop) {
-        const std::int64_t timestamp =
+        const ffmpeg::Timestamp timestamp =
             ffmpeg::streamTimestamp(m_asset->info(), m_track, Time::fromTicks(ticks));
         if (!m_demuxer->seek(m_track.facts.streamIndex, timestamp, stop))
             return Landing::refused;
@@ -278,7 +277,7 @@ private:
         m_isDrained = false;
         m_isDraining = false;
         m_awaitsKeyFrame = false;
-        m_lastReadDts = AV_NOPTS_VALUE;
+        m_lastReadDts.reset();
         m_bestTicks = kNoTarget;
         m_gaplessFrom = kNoTarget;
     }
@@ -336,11 +335,9 @@ private:
 
     /// When the picture of a packet is shown, or at least decoded; kNoTarget if that is not known.
     [[nodiscard]] Ticks takenAt(const AVPacket& packet) const {
-        const bool isShownAt = packet.pts != AV_NOPTS_VALUE && !m_track.lacksPresentationTimes;
-        const std::int64_t timestamp = isShownAt ? packet.pts : packet.dts;
-        if (timestamp == AV_NOPTS_VALUE)
-            return kNoTarget;
-        return ffmpeg::assetTime(m_asset->info(), m_track, timestamp).ticks();
+        const auto pts = m_track.lacksPresentationTimes ? std::nullopt : ffmpeg::ptsOf(packet);
+        const auto timestamp = pts ? pts : ffmpeg::dtsOf(packet);
+        return timestamp ? ticksAt(*timestamp) : kNoTarget;
     }
 
     void send(const AVPacket& packet) {
@@ -367,8 +364,8 @@ private:
             ffmpeg::PacketPtr packet = ffmpeg::makePacket();
             if (m_demuxer->read(*packet, stop) == ffmpeg::Demuxer::Status::endOfFile)
                 return false;
-            if (packet->dts != AV_NOPTS_VALUE)
-                m_lastReadDts = packet->dts;
+            if (const auto dts = ffmpeg::dtsOf(*packet))
+                m_lastReadDts = dts;
             m_ahead.push_back(std::move(packet));
         }
         return true;
@@ -382,7 +379,8 @@ private:
             return std::nullopt;
         if (!ffmpeg::isShownRightBefore(*m_ahead[0], *m_ahead[1], m_track.parameters->codec_id))
             return std::nullopt;
-        const TickRange alone{ticksOf(*m_ahead[0]), ticksOf(*m_ahead[1])};
+        const TickRange alone{ticksAt(*ffmpeg::ptsOf(*m_ahead[0])),
+                              ticksAt(*ffmpeg::ptsOf(*m_ahead[1]))};
         return alone.holds(m_target) ? std::optional(alone) : std::nullopt;
     }
 
@@ -397,9 +395,10 @@ private:
     /// On the way to a target: whether a later picture, already read, will be shown at or before
     /// it, so that this one is not the picture there.
     [[nodiscard]] bool isPassedBy(const AVPacket& packet) {
-        if (m_target == kNoTarget || packet.pts == AV_NOPTS_VALUE || m_track.lacksPresentationTimes)
+        const auto pts = ffmpeg::ptsOf(packet);
+        if (m_target == kNoTarget || !pts || m_track.lacksPresentationTimes)
             return false;
-        const Ticks ticks = ticksOf(packet);
+        const Ticks ticks = ticksAt(*pts);
         if (ticks <= m_target)
             m_bestTicks = std::max(m_bestTicks, ticks);
         return ticks < m_bestTicks && ticks < m_completeFrom;
@@ -435,7 +434,7 @@ private:
     bool m_isDrained = false;
     /// Moved to a place that need not be a random-access point.
     bool m_awaitsKeyFrame = false;
-    std::int64_t m_lastReadDts = AV_NOPTS_VALUE;
+    std::optional<ffmpeg::Timestamp> m_lastReadDts;
 
     /// The tick that a seek is on its way to, and the latest tick at or before it among the
     /// pictures read so far.
