@@ -10,10 +10,6 @@
 
 namespace media {
 
-namespace playback {
-class AudioOutput;
-}
-
 /// Runs a callable later on the thread that owns a player, in the order given. The program posts
 /// to its main loop; tests pump by hand. Called on any thread, until the player is gone; must not
 /// run the callable before it returns. What was posted may run later than that.
@@ -51,23 +47,20 @@ public:
     /// Sounds on the system's default device. Throws Error if the engine can't be loaded.
     static std::shared_ptr<Player> make(Executor executor);
 
-    /// For the engine and its tests: sounds on `output`, which is used and released on a thread of
-    /// the player's own.
-    Player(Executor executor, std::unique_ptr<playback::AudioOutput> output);
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
-    virtual ~Player();
+    virtual ~Player() = default;
 
     /// null removes the item: the sink is told to show nothing. A running player plays the new
     /// item from its start; a paused one shows its first frame.
-    virtual void replaceCurrentItem(std::shared_ptr<const PlayerItem> item);
-    [[nodiscard]] virtual std::shared_ptr<const PlayerItem> currentItem() const;
+    virtual void replaceCurrentItem(std::shared_ptr<const PlayerItem> item) = 0;
+    [[nodiscard]] virtual std::shared_ptr<const PlayerItem> currentItem() const = 0;
 
     /// Sets the rate to 1 or 0. play() at the end of the item ends at once (and reports it).
-    virtual void play();
-    virtual void pause();
+    virtual void play() = 0;
+    virtual void pause() = 0;
     /// 1 while playing, else 0; becomes 0 when the item plays to its end.
-    [[nodiscard]] virtual float rate() const;
+    [[nodiscard]] virtual float rate() const = 0;
 
     /// Moves to `time`, clamped to the item; keeps the rate. A zero tolerance shows the frame at
     /// exactly that time; until it is decoded a nearer one than that on show may stand in for it,
@@ -75,39 +68,39 @@ public:
     /// (may be empty) runs when the frame has been handed to the sink (true) or the seek was
     /// replaced (false).
     virtual void seek(Time time, Time toleranceBefore, Time toleranceAfter,
-                      std::function<void(bool finished)> done = {});
+                      std::function<void(bool finished)> done = {}) = 0;
     /// Moves by `count` frames (negative: backward) from the frame on screen, which is left where
     /// it is at either end, and pauses. The current time becomes that of the frame shown.
-    virtual void step(int count);
+    virtual void step(int count) = 0;
 
     /// The current time on the item's time line; during a seek its target. invalid() without item.
-    [[nodiscard]] virtual Time currentTime() const;
+    [[nodiscard]] virtual Time currentTime() const = 0;
 
-    virtual void setMuted(bool muted);
-    [[nodiscard]] virtual bool isMuted() const;
+    virtual void setMuted(bool muted) = 0;
+    [[nodiscard]] virtual bool isMuted() const = 0;
 
     /// The sink must outlive the player or be taken away first; null for none. `pixelWidth` ×
     /// `pixelHeight` is the size of the view in device pixels: frames are delivered scaled to fit
     /// into it, never enlarged; 0 × 0 asks for full size. A paused player delivers its frame again.
-    virtual void setVideoSink(VideoSink* sink);
-    virtual void setPreviewSize(int pixelWidth, int pixelHeight);
+    virtual void setVideoSink(VideoSink* sink) = 0;
+    virtual void setPreviewSize(int pixelWidth, int pixelHeight) = 0;
 
     /// Times of the current item that are likely to be gone to, such as the ends of a selection:
     /// frames around them are made ready when there is nothing else to do, and kept longer. A new
     /// item has none.
-    virtual void setPointsOfInterest(const std::vector<Time>& times);
+    virtual void setPointsOfInterest(const std::vector<Time>& times) = 0;
 
     /// Calls `handler` with the current time every `interval` of playback and whenever the time
     /// jumps. An owner that falls behind gets one call for several intervals.
-    virtual Token addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler);
-    virtual void removeTimeObserver(Token token);
+    virtual Token addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler) = 0;
+    virtual void removeTimeObserver(Token token) = 0;
     /// Called after every change of rate(), with the new rate.
-    virtual void setRateHandler(std::function<void(float rate)> handler);
+    virtual void setRateHandler(std::function<void(float rate)> handler) = 0;
     /// Called when an item has played to its end, after the time observers have got the end time
     /// and the rate handler the rate of 0, in this order: whoever stops before the end by the time
     /// still knows that it played. The argument is that item.
     virtual void
-    setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler);
+    setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler) = 0;
 
     /// Counts of frames since creation.
     struct Statistics {
@@ -125,11 +118,13 @@ public:
         std::uint64_t decodersGivenUp = 0;
     };
 
-    [[nodiscard]] virtual Statistics statistics() const;
+    [[nodiscard]] virtual Statistics statistics() const = 0;
 
-private:
+protected:
+    /// What the engine keeps behind a player.
     class Private;
-    std::shared_ptr<Private> d;
+
+    Player() = default;
 };
 
 } // namespace media

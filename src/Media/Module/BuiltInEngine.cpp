@@ -3,6 +3,7 @@
 #include "Media/Export/StagedExportSession.h"
 #include "Media/Pictures/DecodingImageGenerator.h"
 #include "Media/Playback/CubebOutput.h"
+#include "Media/Playback/ThreadedPlayer.h"
 #include "Media/Reading/OpenedAsset.h"
 
 #include <malloc.h>
@@ -27,8 +28,8 @@ public:
     }
 
     [[nodiscard]] std::shared_ptr<Player> makePlayer(Executor executor) const override {
-        return std::make_shared<Player>(std::move(executor),
-                                        std::make_unique<playback::CubebOutput>());
+        return std::make_shared<ThreadedPlayer>(std::move(executor),
+                                                std::make_unique<playback::CubebOutput>());
     }
 
     [[nodiscard]] std::unique_ptr<ImageGenerator>

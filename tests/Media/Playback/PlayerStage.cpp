@@ -1,5 +1,6 @@
 #include "PlayerStage.h"
 
+#include "Media/Playback/ThreadedPlayer.h"
 #include "TestSupport/NumberedPicture.h"
 
 #include <gtest/gtest.h>
@@ -109,7 +110,7 @@ std::optional<int> readNumber(const media::ImagePtr& image) {
 }
 
 PlayerStage::PlayerStage()
-    : player(std::make_unique<media::Player>(executor.executor(), device.output())) {
+    : player(std::make_unique<media::ThreadedPlayer>(executor.executor(), device.output())) {
     player->setPreviewSize(160, 120);
     player->setVideoSink(&sink);
     player->setRateHandler(

@@ -1,4 +1,4 @@
-#include "Media/Player.h"
+#include "Media/Playback/ThreadedPlayer.h"
 
 #include "Media/Playback/PlayerPrivate.h"
 
@@ -14,104 +14,106 @@ SteadyTime now() {
 
 } // namespace
 
-Player::Player(Executor executor, std::unique_ptr<playback::AudioOutput> output)
+ThreadedPlayer::ThreadedPlayer(Executor executor, std::unique_ptr<playback::AudioOutput> output)
     : d(std::make_shared<Private>(std::move(executor), std::move(output))) {
     d->start();
 }
 
-Player::~Player() {
+ThreadedPlayer::~ThreadedPlayer() {
     d->assertOwner();
     d->close();
 }
 
-void Player::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {
+void ThreadedPlayer::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {
     d->assertOwner();
     d->replaceCurrentItem(std::move(item));
 }
 
-std::shared_ptr<const PlayerItem> Player::currentItem() const {
+std::shared_ptr<const PlayerItem> ThreadedPlayer::currentItem() const {
     d->assertOwner();
     return d->state()->item();
 }
 
-void Player::play() {
+void ThreadedPlayer::play() {
     d->assertOwner();
     d->setPlaying(true);
 }
 
-void Player::pause() {
+void ThreadedPlayer::pause() {
     d->assertOwner();
     d->setPlaying(false);
 }
 
-float Player::rate() const {
+float ThreadedPlayer::rate() const {
     d->assertOwner();
     return d->state()->isPlaying() ? 1.0F : 0.0F;
 }
 
-void Player::seek(Time time, Time toleranceBefore, Time toleranceAfter,
-                  std::function<void(bool finished)> done) {
+void ThreadedPlayer::seek(Time time, Time toleranceBefore, Time toleranceAfter,
+                          std::function<void(bool finished)> done) {
     d->assertOwner();
     d->seek(time, toleranceBefore, toleranceAfter, std::move(done));
 }
 
-void Player::step(int count) {
+void ThreadedPlayer::step(int count) {
     d->assertOwner();
     d->step(count);
 }
 
-Time Player::currentTime() const {
+Time ThreadedPlayer::currentTime() const {
     d->assertOwner();
     return d->state()->time(now());
 }
 
-void Player::setMuted(bool muted) {
+void ThreadedPlayer::setMuted(bool muted) {
     d->assertOwner();
     d->isMuted = muted;
     d->sound().setMuted(muted);
 }
 
-bool Player::isMuted() const {
+bool ThreadedPlayer::isMuted() const {
     d->assertOwner();
     return d->isMuted;
 }
 
-void Player::setVideoSink(VideoSink* sink) {
+void ThreadedPlayer::setVideoSink(VideoSink* sink) {
     d->assertOwner();
     d->setVideoSink(sink);
 }
 
-void Player::setPreviewSize(int pixelWidth, int pixelHeight) {
+void ThreadedPlayer::setPreviewSize(int pixelWidth, int pixelHeight) {
     d->assertOwner();
     d->state()->setPreviewSize({std::max(pixelWidth, 0), std::max(pixelHeight, 0)});
 }
 
-void Player::setPointsOfInterest(const std::vector<Time>& times) {
+void ThreadedPlayer::setPointsOfInterest(const std::vector<Time>& times) {
     d->assertOwner();
     d->state()->setPointsOfInterest(times);
 }
 
-Player::Token Player::addPeriodicTimeObserver(Time interval, std::function<void(Time)> handler) {
+Player::Token ThreadedPlayer::addPeriodicTimeObserver(Time interval,
+                                                      std::function<void(Time)> handler) {
     d->assertOwner();
     return d->addObserver(interval, std::move(handler));
 }
 
-void Player::removeTimeObserver(Token token) {
+void ThreadedPlayer::removeTimeObserver(Token token) {
     d->assertOwner();
     d->removeObserver(token);
 }
 
-void Player::setRateHandler(std::function<void(float rate)> handler) {
+void ThreadedPlayer::setRateHandler(std::function<void(float rate)> handler) {
     d->assertOwner();
     d->rateHandler = std::move(handler);
 }
 
-void Player::setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler) {
+void ThreadedPlayer::setEndHandler(
+    std::function<void(const std::shared_ptr<const PlayerItem>&)> handler) {
     d->assertOwner();
     d->endHandler = std::move(handler);
 }
 
-Player::Statistics Player::statistics() const {
+Player::Statistics ThreadedPlayer::statistics() const {
     d->assertOwner();
     return d->state()->statistics();
 }
