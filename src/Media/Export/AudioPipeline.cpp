@@ -14,13 +14,14 @@ namespace media {
 
 namespace {
 
-/// So far may the sound be ahead of the picture; at 48 kHz 22 s, in less than a megabyte a channel
-/// pair. While the picture's decoder, which cannot keep every processor busy by itself, is on its
-/// way to the range, the sound takes what it leaves.
+/// How far the sound may run ahead of the picture, in AAC packets: 22 s at 48 kHz, less than a
+/// megabyte for two channels. Until the video decoder has reached the range it cannot keep every
+/// processor busy, and the sound uses the idle ones.
 constexpr std::size_t kPacketsWaiting = 1024;
 
-/// The layout under which AAC writes these channels. Side and back speakers of 5.1 are the same
-/// two loudspeakers in another place; only one of the arrangements has a number in AAC.
+/// The channel layout under which AAC writes these channels. 5.0 and 5.1 come with side or with
+/// back speakers, which differ only in where they stand; AAC has a channel configuration for back
+/// only.
 AVChannelLayout aacLayout(const AVChannelLayout& source) {
     const AVChannelLayout side = AV_CHANNEL_LAYOUT_5POINT1;
     if (av_channel_layout_compare(&source, &side) == 0)
@@ -49,7 +50,7 @@ void AudioPipeline::open(const Composition& composition) {
     m_encoder = ffmpeg::Encoder::forAudio(format.sampleRate, aacLayout(m_reader->channelLayout()));
     if (m_encoder)
         return;
-    // An arrangement of loudspeakers that AAC has no way to write is heard in stereo.
+    // A channel layout that AAC cannot write is mixed down to stereo.
     format.channels = 2;
     m_reader.emplace(composition.asset, m_track.source, format);
     m_encoder = ffmpeg::Encoder::forAudio(format.sampleRate, m_reader->channelLayout());
@@ -116,7 +117,7 @@ void AudioPipeline::encode(ffmpeg::FramePtr block) {
 }
 
 void AudioPipeline::encodeSilence() {
-    // A track whose sound has ended before the range begins stays a track.
+    // A track whose sound ends before the range begins is still a track of the export.
     AVCodecContext& context = m_encoder->context();
     ffmpeg::FramePtr silence = ffmpeg::makeFrame();
     silence->format = context.sample_fmt;

@@ -10,8 +10,8 @@
 
 namespace media {
 
-/// The road of one audio track through an export: decode → cut to the sample → encode, on one
-/// thread that the owner provides.
+/// Takes one audio track through an export: decode → cut to the sample → encode, on one thread that
+/// the owner provides.
 class AudioPipeline {
 public:
     /// Opens decoder and encoder. Throws Error. `stop` ends run() early, with Cancelled.
@@ -43,11 +43,11 @@ private:
     std::optional<AudioReader> m_reader;
     std::optional<ffmpeg::Encoder> m_encoder;
     PacketStream m_output;
-    /// The length of the range in samples, and how many have been taken and encoded.
+    /// The length of the range in samples, and how many of them have been read and encoded.
     std::int64_t m_wantedSamples = 0;
     std::int64_t m_encodedSamples = 0;
     std::int64_t m_packets = 0;
-    /// Samples that do not yet fill one of the encoder's frames.
+    /// Samples that do not fill a frame of the encoder yet.
     ffmpeg::FramePtr m_partial;
 };
 

@@ -11,9 +11,9 @@
 
 namespace media {
 
-/// Hands values from one thread to another in order, holding up the writer while `capacity` of
-/// them wait, or with a capacity of 0 until the reader comes for one (a reader that waits makes
-/// room for one more). Both ends throw Cancelled as soon as `stop` is requested.
+/// A first-in, first-out queue between threads. push() blocks while `capacity` values are waiting;
+/// each thread that waits in pop() makes room for one more, so with a capacity of 0 push() blocks
+/// until somebody wants the value. Both ends throw Cancelled as soon as `stop` is requested.
 template<typename T>
 class BoundedQueue {
 public:

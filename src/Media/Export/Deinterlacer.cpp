@@ -16,9 +16,9 @@ namespace media {
 
 namespace {
 
-/// How many bits the numbers in the picture's memory have, whichever components they belong to;
-/// none where they are not whole bytes or native words. Interpolation looks up and down, never
-/// sideways, so that components may stand side by side.
+/// Bits per sample, if all components have the same and their samples are whole bytes or native
+/// 16-bit words; none for any other pixel format. Components may be interleaved in a plane:
+/// interpolation compares lines, never neighbours in a line.
 std::optional<int> sampleDepth(const AVPixFmtDescriptor& format) {
     constexpr unsigned kOther = AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BITSTREAM |
                                 AV_PIX_FMT_FLAG_FLOAT | AV_PIX_FMT_FLAG_HWACCEL;

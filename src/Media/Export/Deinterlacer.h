@@ -4,13 +4,14 @@
 
 namespace media {
 
-/// Makes whole pictures of one moment out of pictures that weave two fields together. One picture
-/// for each, that of its first field. Use from one thread at a time.
+/// Turns interlaced frames into progressive ones, one for one: keeps the lines of the first field
+/// and interpolates those of the second. Use from one thread at a time.
 class Deinterlacer {
 public:
-    /// `frame` if it is not interlaced, or in a format whose samples are not plain planes;
-    /// otherwise a new frame in the same format with its properties. The pictures before and after
-    /// it show what moves; null, or of another size or format, where there is none.
+    /// `frame` itself if it is not interlaced, or if its pixel format is packed into bits, big
+    /// endian on this machine or otherwise not made of whole samples; else a new frame with the
+    /// same format and properties. The frames before and after it tell what moves; one that is
+    /// null, or has another size or format, is not used.
     [[nodiscard]] static ffmpeg::FramePtr apply(const AVFrame& frame, const AVFrame* previous,
                                                 const AVFrame* following);
 };

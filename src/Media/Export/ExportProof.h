@@ -28,9 +28,9 @@ struct ExportPlan {
 };
 
 /// Opens a file just written, as any player would, and compares it with its plan: the tracks, the
-/// samples of each and that all of them lie in the file, when the picture begins and ends, and that
-/// its first and last pictures decode. Takes far less time than writing it did: what no check needs
-/// is not decoded. Throws Error if the file is not what was planned; Cancelled.
+/// number of samples in each, that all of them lie inside the file, when the picture begins and
+/// ends, and that its first and last pictures decode. Nothing else is decoded, so it takes far less
+/// time than writing did. Throws Error if the file is not what was planned; Cancelled.
 void proveExport(const std::shared_ptr<const ffmpeg::SourceFile>& file, const ExportPlan& plan,
                  const std::stop_token& stop = {});
 

@@ -16,8 +16,8 @@ PictureTransform::Output halved(PictureTransform::Output output) {
     return output;
 }
 
-/// The lines of one field as a picture of its own, in the same memory. The palette of formats that
-/// have one is no plane of pixels.
+/// The lines of one field as a picture of its own, in the same memory. Formats with a palette have
+/// it where a second plane would be.
 ffmpeg::FramePtr fieldOf(const AVFrame& frame, int firstLine) {
     ffmpeg::FramePtr field = ffmpeg::referenced(frame);
     const AVPixFmtDescriptor& format =

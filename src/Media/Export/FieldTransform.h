@@ -4,8 +4,8 @@
 
 namespace media {
 
-/// Brings interlaced pictures into an encoder's format without mixing their fields: each field is
-/// a picture of half the height. Use from one thread at a time.
+/// Converts interlaced pictures to an encoder's pixel format without mixing their fields: each
+/// field is converted as a picture of half the height. Use from one thread at a time.
 class FieldTransform {
 public:
     /// `output.height` is a multiple of 4. The pictures keep their size, cut to the output's.

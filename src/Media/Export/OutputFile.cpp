@@ -14,8 +14,8 @@ namespace media {
 
 namespace {
 
-/// So much is written before the disk is asked to start on it: the flush at the end then finds
-/// little left to do.
+/// How much is written before the kernel is asked to start writing it back to disk, so that little
+/// is left for the flush at the end.
 constexpr std::int64_t kWritebackBytes = 8 * 1024 * 1024;
 
 /// The file itself where the destination is a link to one.
@@ -41,7 +41,7 @@ std::filesystem::path checked(std::filesystem::path destination) {
     return destination;
 }
 
-/// Advice only: a file system that does not know it writes when it likes.
+/// A hint: file systems that do not support it write back when they choose to.
 void startWriteback(int descriptor, std::int64_t position, std::int64_t count) {
     ::sync_file_range(descriptor, position, count, SYNC_FILE_RANGE_WRITE);
 }
@@ -102,8 +102,8 @@ std::shared_ptr<const ffmpeg::SourceFile> OutputFile::reader() const {
 void OutputFile::commit() {
     if (const int error = m_file.takeName(); error != 0)
         throwError(error);
-    // The new name itself is brought to disk too; where that is not possible the file is there
-    // all the same.
+    // The folder's new entry is flushed as well. Where that fails the file is complete all the
+    // same.
     const int folder = ::open(folderOf(m_destination).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder >= 0) {
         ::fsync(folder);

@@ -36,14 +36,14 @@ public:
 
     [[nodiscard]] std::int64_t size() const { return m_size; }
 
-    /// Asks the disk to start on everything that it has not got yet, so that commit() waits less.
+    /// Starts to write back to disk what is not there yet, so that commit() waits less.
     void startFlush();
 
     /// What has been written so far, opened for reading. Throws Error.
     [[nodiscard]] std::shared_ptr<const ffmpeg::SourceFile> reader() const;
 
-    /// Removes the temporary file at once, and frees the destination for others; what is written
-    /// from now on goes nowhere.
+    /// Removes the temporary file at once and lets other exports have the destination. Whatever is
+    /// written after that is lost.
     void discard();
 
     /// Throws the Error for a failure of write().

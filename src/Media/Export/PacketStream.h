@@ -5,7 +5,7 @@
 
 namespace media {
 
-/// The encoded packets of one output stream on their way to the file.
+/// The queue of encoded packets of one output stream, and where the muxer writes them.
 struct PacketStream {
     PacketStream(std::size_t capacity, std::stop_token stop) : packets(capacity, std::move(stop)) {}
 

@@ -23,12 +23,14 @@ namespace media {
 
 namespace {
 
-/// Of others that come and go between two looks at a name; each takes one attempt at the most.
+/// How often creating the file is tried while others create and remove files of that name; each
+/// of them costs one attempt at most.
 constexpr int kAttempts = 100;
 
-/// Whether "A.mp4" and "a.mp4" are one file there, as far as the kind of the disk tells.
+/// Whether "A.mp4" and "a.mp4" are one file in that folder, as far as the type of the file system
+/// tells.
 bool ignoresCase(const std::filesystem::path& folder) {
-    // Those of FAT, exFAT, CIFS, SMB 2 and HFS+; not all of them have names in the system's header.
+    // FAT, exFAT, CIFS, SMB 2 and HFS+. Not all of them have a name in <linux/magic.h>.
     constexpr std::array<std::uint32_t, 5> kTypes = {MSDOS_SUPER_MAGIC, 0x2011BAB0, 0xFF534D42,
                                                      0xFE534D42, 0x482B};
     struct statfs status = {};
@@ -44,7 +46,7 @@ std::string temporaryName(std::uint64_t number) {
     return ".brisklet-" + digits + ".part";
 }
 
-/// Of one length however long the destination's name is.
+/// The name that belongs to a destination. Always of the same length, however long that name is.
 std::string nameFor(const std::filesystem::path& destination) {
     std::string name = destination.filename().string();
     if (ignoresCase(folderOf(destination))) {
@@ -102,7 +104,7 @@ bool TemporaryFile::createLocked(const std::filesystem::path& shownName) {
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         const bool isNew = create();
         if (!isNew && !openLeftover()) {
-            // It has just got its name.
+            // The other export has just finished and renamed it.
             if (errno == ENOENT)
                 continue;
             return false;
@@ -118,7 +120,7 @@ bool TemporaryFile::createLocked(const std::filesystem::path& shownName) {
             close();
             return false;
         }
-        // Between its opening and its lock another may have completed it, or removed it.
+        // Before it was locked another export may have renamed or removed it.
         const bool isOurs = isNamed(m_descriptor, m_path);
         if (isOurs && isNew)
             return true;
@@ -139,7 +141,7 @@ void TemporaryFile::createUnlocked() {
     throwWriteError(EEXIST, m_destination);
 }
 
-/// False if there is something of that name; throws Error if it can't be created.
+/// False if something has that name already; throws Error if the file can't be created.
 bool TemporaryFile::create() {
     m_descriptor = ::open(m_path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (m_descriptor < 0 && errno != EEXIST)
@@ -147,11 +149,11 @@ bool TemporaryFile::create() {
     return m_descriptor >= 0;
 }
 
-/// False, with errno, if what has the name can't be opened; it need not be one of ours.
+/// Opens what has the name; false, with errno set, if that fails. It need not be a file of ours.
 bool TemporaryFile::openLeftover() {
     constexpr int kCarefully = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
     m_descriptor = ::open(m_path.c_str(), O_RDWR | kCarefully);
-    // Another user's can at least be asked for its lock.
+    // Another user's file may be readable only, which is enough to try its lock.
     if (m_descriptor < 0 && errno == EACCES)
         m_descriptor = ::open(m_path.c_str(), O_RDONLY | kCarefully);
     return m_descriptor >= 0;

@@ -4,13 +4,13 @@
 
 namespace media {
 
-/// The hidden file in which an export to one destination grows, alone: while it is there no other
-/// export to that destination begins, in this process or in another.
+/// The hidden file that an export writes before it gets its final name. While it is locked no other
+/// export to the same destination can begin, in this process or another.
 ///
-/// Its name follows from the destination's, and it is locked while it is open, so that the lock
-/// dies with the process and what a killed export left behind is known as such, and removed. Where
-/// the file system has no locks the name is a random one, and nobody is kept away. Use from one
-/// thread at a time.
+/// Its name is derived from the destination's, and it is locked as long as it is open. The lock
+/// ends with the process, so a file without a lock is what a killed export has left behind, and is
+/// removed. Where the file system has no locks the name is random and other exports are not kept
+/// out. Use from one thread at a time.
 class TemporaryFile {
 public:
     /// Creates and locks it beside the destination, which must not be a link. Throws Error: if
@@ -27,7 +27,8 @@ public:
 
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
 
-    /// Removes it at once, which frees the destination; the descriptor goes on into nowhere.
+    /// Removes it at once, which frees the destination. The descriptor stays usable, but what is
+    /// written to it is lost.
     void remove();
 
     /// Gives it the destination's name, in place of an older file there; 0, or the errno of the
@@ -35,7 +36,8 @@ public:
     int takeName();
 
 private:
-    /// False where others, or a lack of locks, leave only random names.
+    /// False where only a random name is possible: the file system has no locks, or the derived
+    /// name is blocked by something that cannot be removed.
     bool createLocked(const std::filesystem::path& shownName);
     void createUnlocked();
     [[nodiscard]] bool create();

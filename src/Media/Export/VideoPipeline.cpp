@@ -14,19 +14,20 @@ namespace media {
 
 namespace {
 
-/// Each picture that waits costs its full size in memory. The decoder has some in hand by itself,
-/// so that one comes as soon as it is asked for; the encoder takes them unevenly.
+/// Capacities of the queues. Each waiting picture costs its full size in memory. None need to wait
+/// for the transform, since the decoder holds some finished pictures anyway; the encoder takes
+/// pictures unevenly.
 constexpr std::size_t kDecodedWaiting = 0;
 constexpr std::size_t kTransformedWaiting = 2;
 constexpr std::size_t kPacketsWaiting = 32;
 
-/// From how much smaller than the source an output is decoding the greater part of the work.
+/// With an output of at most this share of the source's pixels, decoding is most of the work.
 constexpr double kDecodingPrevails = 0.5;
 
-/// Where encoding is the greater part the decoder's threads stand back behind the encoder's: those
-/// wait for each other now and then, and what they leave is enough for decoding, whereas a decoder
-/// that runs first fills its queue, stops, and leaves the encoder alone with processors that it
-/// cannot fill.
+/// Where encoding is most of the work the decoder's threads get a lower priority than the
+/// encoder's. The encoder's threads wait for each other now and then, and the time they leave is
+/// enough for decoding. A decoder of equal priority fills its queue and stops, and then the encoder
+/// by itself cannot keep all processors busy.
 VideoReader::Options readerOptions(const AssetTrack& source,
                                    const std::optional<VideoComposition>& composition) {
     const double sourcePixels = static_cast<double>(source.codedWidth) * source.codedHeight;
@@ -38,11 +39,12 @@ VideoReader::Options readerOptions(const AssetTrack& source,
     return options;
 }
 
-/// From which ratio of areas on pictures count as scaled down: not where a side is made even.
+/// Below this ratio of areas, output to source, pictures count as scaled down. Above it lies what
+/// comes of making a side even.
 constexpr double kReducedArea = 0.9;
 
-/// How long a run of pictures the proof of a finished file may have to decode: those after the
-/// last key frame. Pixels.
+/// How much the check of the finished file may have to decode from the last key frame on; pixels of
+/// all these pictures together.
 constexpr double kTailPixels = 4 * 1920.0 * 1080;
 
 /// The same in seconds, for one stream.
@@ -101,7 +103,7 @@ void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderS
         encoding.sampleAspectRatio = track.sampleAspectRatio;
         if (track.averageFrameRate.num > 0 && track.averageFrameRate.den > 0)
             encoding.frameRate = track.averageFrameRate;
-        // Without a video composition pixels stay what they are, whatever their shape.
+        // Without a video composition the pixel aspect ratio stays what it is.
         natural = {static_cast<double>(facts.codedWidth), static_cast<double>(facts.codedHeight)};
         encoding.fieldOrder = track.fieldOrder;
     }
@@ -158,7 +160,7 @@ void VideoPipeline::encodeStage() {
     while (auto scheduled = m_transformed.pop()) {
         AVFrame& frame = *scheduled->frame;
         frame.pts = scheduled->pts;
-        // The source's choice of picture types is not the encoder's.
+        // The encoder must not take over the source's picture types.
         frame.pict_type = beginsTail(*scheduled) ? AV_PICTURE_TYPE_I : AV_PICTURE_TYPE_NONE;
         m_durations[scheduled->pts] = scheduled->duration;
         m_latestPts = scheduled->pts;
@@ -187,8 +189,8 @@ void VideoPipeline::drainEncoder() {
             packet->duration = entry->second;
             m_durations.erase(entry);
         }
-        // x265 leaves the decoding times of a stream shorter than its reordering undefined. True
-        // ones go before the first picture by no more than what has been handed in.
+        // x265 leaves the dts undefined in streams that are shorter than its reordering delay. A
+        // valid one is at most as far below 0 as the latest pts sent is above it.
         if (packet->dts > packet->pts || packet->dts < -m_latestPts)
             packet->dts = packet->pts;
         if (!m_held)
@@ -203,9 +205,9 @@ void VideoPipeline::drainEncoder() {
 void VideoPipeline::pushLast() {
     if (!m_held)
         return;
-    // A track's length in the file, and with it its frame rate, is a sum of distances between
-    // decoding times: pictures of unequal length that are reordered do not fill it. The last
-    // picture to be decoded takes the difference, but none longer than the track is shown.
+    // In MP4 a track's length, and with it its frame rate, is the sum of the distances between its
+    // dts. With reordered pictures of unequal length that falls short of how long the track is
+    // shown. The last packet makes up the difference, but the track gets no longer than that.
     AVPacket& last = *m_held;
     last.dts = std::max(last.dts, last.pts + m_firstDts);
     const bool isShownLast = last.pts + last.duration == m_end;

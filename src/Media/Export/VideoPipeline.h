@@ -14,14 +14,13 @@
 
 namespace media {
 
-/// How far the threads that feed a video encoder, and those that work beside it, stand back behind
-/// its own; see standBack(). Measured: 4 gains less, 19 no more, and a busy machine still gives
-/// them their share.
+/// The niceness of the threads that feed a video encoder or work beside it, relative to the
+/// encoder's own; see standBack(). Measured: 4 gains less, 19 gains no more, and at 7 they still
+/// get their share of a busy machine.
 constexpr int kFeederNiceness = 7;
 
-/// The picture's road through an export: decode → transform → encode. The three stages are run
-/// by three threads that the owner provides; each returns when its work is done and throws what
-/// went wrong.
+/// Takes the video track through an export: decode → transform → encode. The owner runs each stage
+/// on a thread of its own; a stage returns when its work is done and throws what went wrong.
 class VideoPipeline {
 public:
     /// Opens decoder and encoder. Throws Error. `stop` ends the stages early, with Cancelled.
@@ -45,9 +44,9 @@ public:
 private:
     void openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& settings,
                      const std::optional<VideoComposition>& videoComposition, Time duration);
-    /// What the encoder gets of a source picture.
+    /// The source picture as the encoder gets it.
     ffmpeg::FramePtr transformed(const ScheduledFrame& scheduled);
-    /// Once: for the first picture of the tail.
+    /// True once, for the first picture of the tail: the one that becomes the last key frame.
     bool beginsTail(const ScheduledFrame& frame);
     void drainEncoder();
     void pushLast();
@@ -56,7 +55,7 @@ private:
     VideoReader m_reader;
     std::unique_ptr<FrameSchedule> m_schedule;
     std::optional<PictureTransform> m_transform;
-    /// Where interlaced pictures stay so.
+    /// Set when interlaced pictures stay interlaced.
     std::optional<FieldTransform> m_fieldTransform;
     bool m_deinterlaces = false;
     std::optional<ffmpeg::Encoder> m_encoder;
@@ -69,13 +68,13 @@ private:
     /// Encode thread: how long each picture inside the encoder is shown, by its pts.
     std::map<std::int64_t, std::int64_t> m_durations;
     std::int64_t m_latestPts = 0;
-    /// Encode thread: the latest packet, kept until it is known not to be the last, and when the
-    /// last picture's turn is over.
+    /// Encode thread: the latest packet, held back until it is known whether it is the last; the
+    /// first packet's dts; and the latest end of any picture so far. In the encoder's time base.
     ffmpeg::PacketPtr m_held;
     /// Not above 0.
     std::int64_t m_firstDts = 0;
     std::int64_t m_end = 0;
-    /// Encode thread: from when on the last key frame is due, until it has been asked for.
+    /// Encode thread: the pts from which the last key frame is due; empty once it is requested.
     std::optional<std::int64_t> m_tailStart;
 };
 
