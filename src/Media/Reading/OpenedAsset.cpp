@@ -6,8 +6,8 @@
 #include "Media/FFmpeg/Inspection.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Threading/Verify.h"
 
-#include <cstdlib>
 #include <utility>
 
 namespace media {
@@ -40,8 +40,7 @@ std::shared_ptr<const OpenedAsset> OpenedAsset::open(const std::filesystem::path
 
 std::shared_ptr<const OpenedAsset> OpenedAsset::of(const std::shared_ptr<const Asset>& asset) {
     auto opened = std::dynamic_pointer_cast<const OpenedAsset>(asset);
-    if (!opened)
-        std::abort();
+    verify(opened != nullptr, "the asset is one of this engine’s");
     return opened;
 }
 
