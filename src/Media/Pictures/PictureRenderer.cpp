@@ -81,10 +81,9 @@ private:
     PlanarReader m_reader;
     RecentlyUsed<Key, CanvasPainter> m_painters{4};
     RecentlyUsed<MappingKey, ScreenMapping> m_mappings{2};
-    /// The picture in its own colours, before it is mapped.
+    /// The picture in the source's colours, before they are mapped to the screen's.
     std::array<PlaneBuffer, 3> m_unmapped;
-    /// How bright pictures become, of the last one that said it; where none does, as if they were
-    /// made for a screen of 1000 cd/m².
+    /// The latest stated peak luminance, in multiples of 100 cd/m²; 1000 cd/m² until one is stated.
     float m_peak = 10;
 };
 

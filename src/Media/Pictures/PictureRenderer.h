@@ -20,10 +20,10 @@ struct ImageSize {
 /// pixels (0 leaves a side free), never enlarged; at least 1 × 1.
 ImageSize fittedSize(Size natural, int maxWidth, int maxHeight);
 
-/// Turns decoded frames of one track into upright screen pictures: colour matrix and range
-/// applied, PQ, HLG and wide gamut mapped to a usual screen, pixel aspect ratio resampled to square
-/// pixels, transparency over black. Keeps its conversion tables between calls. Use from one thread
-/// at a time.
+/// Turns decoded frames of one track into upright screen pictures: applies the colour matrix and
+/// range, maps PQ, HLG and wide gamuts to a standard screen, resamples to square pixels and
+/// composes transparent pixels over black. Keeps its conversion tables between calls. Use from one
+/// thread at a time.
 class PictureRenderer {
 public:
     explicit PictureRenderer(const AssetTrack& track);
@@ -35,7 +35,7 @@ public:
     /// enlarged; at least 1 × 1. Throws Error if the frame's pixel format cannot be converted.
     [[nodiscard]] ImagePtr render(const AVFrame& frame, int maxWidth, int maxHeight);
 
-    /// The same in the form in which many are kept: chroma is as coarse as that of the source.
+    /// The same in the smaller form that caches keep: chroma is subsampled if the source's is.
     [[nodiscard]] PreviewPicturePtr preview(const AVFrame& frame, int maxWidth, int maxHeight);
 
 private:

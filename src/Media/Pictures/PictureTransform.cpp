@@ -18,12 +18,12 @@ using namespace pixels;
 
 namespace {
 
-/// The format a frame would have if full range were a tag of it, as for all other formats.
+/// The pixel format without the full-range meaning that the deprecated YUVJ formats have.
 AVPixelFormat withoutRange(int format) {
     return format == AV_PIX_FMT_YUVJ420P ? AV_PIX_FMT_YUV420P : static_cast<AVPixelFormat>(format);
 }
 
-/// Removes what speaks of places in the picture: it holds for the source's places only.
+/// Removes the side data that refers to positions in the source picture.
 void removePlacedSideData(AVFrame& frame) {
     for (const AVFrameSideDataType type :
          {AV_FRAME_DATA_PANSCAN, AV_FRAME_DATA_DISPLAYMATRIX, AV_FRAME_DATA_AFD,
@@ -32,13 +32,13 @@ void removePlacedSideData(AVFrame& frame) {
         av_frame_remove_side_data(&frame, type);
 }
 
-/// Forgets how the source was coded, which an encoder would take for a wish.
+/// Clears how the source was coded, which an encoder would take for a request.
 void forgetCoding(AVFrame& frame) {
     frame.pict_type = AV_PICTURE_TYPE_NONE;
     ffmpeg::forgetKeyPicture(frame);
 }
 
-/// The first pixel shown if an axis is shown as it is, from an even one on.
+/// The first pixel shown, if the axis is neither scaled nor mirrored and begins at an even pixel.
 std::optional<int> plainStart(const AxisMapping& mapping, int length, int canvasLength) {
     const AxisSampling pixels = sampling(mapping, {}, {}, {0, canvasLength});
     if (!pixels.isCopyOf(length) || pixels.mirrored || pixels.firstCopied() % 2 != 0)
@@ -83,7 +83,7 @@ private:
     RecentlyUsed<PlanarFormat, CanvasPainter> m_painters{4};
 };
 
-/// The canvas as a window into the frame's own memory, where it is no more than that.
+/// The canvas as a reference to the frame's own memory, where it is a plain crop of the frame.
 ffmpeg::FramePtr PictureTransform::Private::window(const AVFrame& frame,
                                                    const CanvasMapping& mapping) const {
     if (withoutRange(frame.format) != m_output.format || mapping.transposed || !frame.buf[0])

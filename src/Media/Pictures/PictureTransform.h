@@ -7,11 +7,11 @@
 
 namespace media {
 
-/// Renders decoded frames into an encoder's format for an export, with zimg: crop, turn and scale
-/// as one resample of exactly the source region, quarter turns and mirrorings as exact
-/// transposes; chroma positions honoured. YUV never passes through RGB: colour matrix, transfer,
-/// primaries and range stay as they are (RGB sources become YUV with the matrix given). What lies
-/// outside the source is black. Transparent sources are composed over black.
+/// Renders decoded frames into an encoder's format for an export, with zimg. Crop and scale are one
+/// resample of exactly the source region, at the right chroma locations; quarter turns and
+/// mirroring only move samples. YUV never passes through RGB: colour matrix, transfer, primaries
+/// and range stay as they are (RGB sources become YUV with the given matrix). What lies outside the
+/// source is black. Transparent sources are composed over black.
 ///
 /// Frames may change size or format from one to the next. Use from one thread at a time.
 class PictureTransform {

@@ -21,7 +21,7 @@ void blend(const std::uint8_t* a, const std::uint8_t* b, std::uint8_t* out, int 
         out[i] = static_cast<std::uint8_t>((a[i] + b[i] + 1) / 2);
 }
 
-/// Sets a sample between every two of `in`, which has one more at its end than are read in pairs.
+/// Inserts the mean between every two neighbouring samples; reads `pairs` + 1 samples of `in`.
 void widen(const std::uint8_t* in, std::uint8_t* out, int pairs) {
     for (int i = 0; i < pairs; ++i) {
         out[2 * i] = in[i];
@@ -29,7 +29,7 @@ void widen(const std::uint8_t* in, std::uint8_t* out, int pairs) {
     }
 }
 
-/// Gives the lines of a chroma plane at full size, one after another from the top.
+/// The lines of a chroma plane, interpolated to full size.
 class ChromaLines {
 public:
     ChromaLines(ConstPlane plane, int shift, int width)

@@ -11,20 +11,20 @@
 
 namespace media {
 
-/// An upright picture at the size of the screen in a form that takes a third to half of the memory
-/// of an Image, in which many are kept: its planes as the colours of the source have them, chroma
-/// on every second pixel and line where that of the source is coarser than its luma. Filled once
-/// by its maker, immutable from then on and shared between threads.
+/// An upright picture at preview size, in the form that caches keep: it takes a third to half of
+/// the memory of an Image. The planes are in the source's colour model; chroma is 4:2:0 if the
+/// source's is subsampled in any way. Filled once by its maker, immutable after that and shared
+/// between threads.
 class PreviewPicture {
 public:
-    /// What the three planes are.
+    /// The colour model of the planes.
     enum class Kind { grey, yuv, rgb };
 
     struct Format {
         int width = 1;
         int height = 1;
         Kind kind = Kind::yuv;
-        /// 1 where chroma stands on the even pixels of the even lines, else 0.
+        /// 1 where chroma is sited on the even pixels of the even lines, else 0.
         int chromaShift = 0;
         /// Of yuv.
         AVColorSpace matrix = AVCOL_SPC_BT709;
@@ -42,7 +42,7 @@ public:
     /// For the maker. Grey has only the first; aligned for zimg.
     [[nodiscard]] std::array<pixels::Plane, 3> planes();
 
-    /// The picture as the screen takes it. Any thread.
+    /// The picture in the screen's pixel format. Any thread.
     [[nodiscard]] ImagePtr image() const;
 
 private:

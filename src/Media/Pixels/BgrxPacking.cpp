@@ -9,16 +9,16 @@ namespace media::pixels {
 
 namespace {
 
-// Luma is multiplied as (Y − black) × 2^7 by a factor × 2^14, chroma as (C − 128) × 2^8 by a
-// factor × 2^13; the upper 16 bits of either product have 5 fractional bits. Each is the widest
-// that 16 bits hold.
+// Fixed point: luma is (Y − black) × 2^7 times a factor × 2^14, chroma (C − 128) × 2^8 times a
+// factor × 2^13, so that the upper 16 bits of both products have 5 fractional bits. These are the
+// largest scales that fit into 16 bits.
 constexpr int kLumaShift = 7;
 constexpr int kChromaShift = 8;
 constexpr double kLumaOne = 1 << 14;
 constexpr double kChromaOne = 1 << 13;
 constexpr int kFractionBits = 5;
 
-/// Half of the last bit that is kept, and the mean of what cutting off three products loses.
+/// Half of the last bit that is kept, plus the mean error of truncating three products.
 constexpr int kRounding = (1 << (kFractionBits - 1)) + 1;
 
 constexpr int kRun = 64;
@@ -96,8 +96,8 @@ YuvToRgb::YuvToRgb(AVColorSpace matrix, bool isFullRange) {
 
 void YuvToRgb::convertLine(const std::uint8_t* y, const std::uint8_t* u, const std::uint8_t* v,
                            std::uint8_t* out, int count) const {
-    // All in 16-bit lanes, of which a vector register holds eight; in short runs, so that what
-    // stands between the two steps stays in the nearest cache.
+    // Only 16-bit arithmetic, so that the compiler fits eight values into a vector register, and in
+    // short runs, so that the values between the two steps stay in the first-level cache.
     std::array<std::uint16_t, kRun> blueGreen;
     std::array<std::uint16_t, kRun> redUnused;
     const std::array<std::int16_t, 3> uScale = m_uScale;

@@ -14,7 +14,8 @@ namespace media::pixels {
 /// Y′CbCr of 8 bits to R′G′B′, in 16-bit fixed point; within 1 of the exact values.
 class YuvToRgb {
 public:
-    /// A matrix that is none of the simple ones counts as BT.709.
+    /// Matrices other than those of BT.601, FCC, SMPTE 240M, BT.2020 and YCgCo are treated as
+    /// BT.709.
     YuvToRgb(AVColorSpace matrix, bool isFullRange);
 
     /// Writes `count` opaque pixels, 4 bytes each: blue, green, red, 255.

@@ -7,8 +7,8 @@ namespace media::pixels {
 
 namespace {
 
-/// The part of a sample below which a shift cannot be seen: a quarter of a level of 8 bits even at
-/// the hardest edge.
+/// Shifts below this are ignored; in samples. Even at an edge from black to white they change an
+/// 8-bit value by a quarter only.
 constexpr double kNegligible = 1.0 / 1024;
 
 AxisMapping axisAround(double canvasCentre, double scale, int length) {

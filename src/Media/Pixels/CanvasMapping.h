@@ -38,10 +38,11 @@ struct CanvasMapping {
                                  int height);
 };
 
-/// The pixels of a canvas axis whose centre shows some of the `length` pixels of the picture.
+/// The pixels of a canvas axis whose centres lie inside the `length` pixels of the picture.
 Span coverage(const AxisMapping& mapping, int length, int canvasLength);
 
-/// Where the samples of a plane stand along one axis: sample i at `site` + `spacing` × i pixels.
+/// Where the samples of a plane are sited along one axis: sample i at `site` + `spacing` × i
+/// pixels.
 struct SampleGrid {
     double site = 0.5;
     double spacing = 1;
@@ -55,16 +56,17 @@ SampleGrid chromaGridY(AVChromaLocation location, int shift);
 /// one, but centred between the lines when the source has chroma on every line.
 AVChromaLocation locationIn420(AVChromaLocation location, int sourceShiftY);
 
-/// A run of samples taken along one axis of a plane: the mean positions of the samples are
-/// start + step × (i + ½), in plane samples from the outer edge of the first one, with step > 0;
-/// mirrored means that they are wanted in the opposite order.
+/// A run of samples taken along one axis of a plane: sample i is centred at start + step × (i + ½),
+/// in plane samples from the outer edge of the first one, with step > 0; mirrored means that they
+/// are wanted in reverse order.
 struct AxisSampling {
     double start = 0;
     double step = 1;
     int count = 0;
     bool mirrored = false;
 
-    /// The positions are those of samples: nothing is to be computed inside of the plane.
+    /// The positions are exactly those of samples, so that none needs interpolation inside the
+    /// plane.
     [[nodiscard]] bool isCopy() const;
     /// Every sample is one of the `length` that the plane has.
     [[nodiscard]] bool isCopyOf(int length) const;

@@ -25,7 +25,7 @@ void fill(Plane plane, int depth, unsigned value) {
     }
 }
 
-/// Everything but the columns and rows given.
+/// Fills everything outside the given columns and rows.
 void fillAround(Plane plane, Span columns, Span rows, int depth, unsigned value) {
     fill(part(plane, 0, 0, plane.width, rows.first, depth), depth, value);
     fill(part(plane, 0, rows.end, plane.width, plane.height - rows.end, depth), depth, value);
@@ -34,7 +34,7 @@ void fillAround(Plane plane, Span columns, Span rows, int depth, unsigned value)
          depth, value);
 }
 
-/// Moves every sample half-way to the value given.
+/// Replaces every sample by its mean with `value`.
 template<typename T>
 void halve(Plane plane, unsigned value) {
     for (int y = 0; y < plane.height; ++y) {
@@ -44,7 +44,7 @@ void halve(Plane plane, unsigned value) {
     }
 }
 
-/// The samples of a plane with 2^shift pixels each that touch any of the pixels.
+/// The samples, of 2^shift pixels each, that overlap any of the pixels.
 Span subsampled(Span pixels, int shift) {
     return {pixels.first >> shift, (pixels.end + (1 << shift) - 1) >> shift};
 }
@@ -96,7 +96,7 @@ void CanvasPainter::prepare(Step& step, unsigned plane, const CanvasMapping& map
     const AxisSampling down =
         sampling(mapping.vertical, mapping.transposed ? from.x : from.y, to.y, step.rows);
     step.turn = {mapping.transposed, across.mirrored, down.mirrored};
-    // Chroma has its zero in the middle: a change of depth multiplies it in either range.
+    // Chroma is centred on its middle value: a change of depth multiplies it in both ranges.
     prepareSamples(step, {.width = (m_picture.width + (1 << shiftX) - 1) >> shiftX,
                           .height = (m_picture.height + (1 << shiftY) - 1) >> shiftY,
                           .depth = m_picture.depth,
@@ -151,8 +151,8 @@ void CanvasPainter::paintPlane(Step& step, ConstPlane in, Plane out) const {
 }
 
 void CanvasPainter::softenChromaEdges(const Step& step, Plane out) const {
-    // A chroma sample that the picture shares with the black beside it has half of each; the last
-    // one of an odd canvas has only the picture.
+    // A chroma sample that covers a pixel of the picture and one of the black beside it is the mean
+    // of both. The last one of a canvas of odd size covers one pixel only.
     if (!step.isSubsampled)
         return;
     const int depth = m_canvas.depth;

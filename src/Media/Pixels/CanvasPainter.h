@@ -19,21 +19,21 @@ struct CanvasFormat {
     int chromaShift = 0;
     AVChromaLocation chromaLocation = AVCHROMA_LOC_LEFT;
     Filter filter = Filter::spline36;
-    /// Spreads what is lost when the picture has more bits.
+    /// Ordered dithering, where the picture has more bits per sample.
     bool dithers = false;
 };
 
-/// Paints pictures of one format on canvases of one format: each plane is cropped, shifted and
-/// scaled in one resample, of exactly the region that the canvas shows, and then turned by moving
-/// samples. What the picture does not cover is black. Chroma is resampled to where the canvas has
-/// it, by the positions of both sides. Use from one thread at a time.
+/// Paints pictures of one format on canvases of one format. Each plane is cropped, shifted and
+/// scaled in a single resample of exactly the region that the canvas shows, and then turned by
+/// moving samples. What the picture does not cover is black. Chroma is resampled from the picture's
+/// chroma location to the canvas's. Use from one thread at a time.
 class CanvasPainter {
 public:
     CanvasPainter(const PlanarFormat& picture, const CanvasMapping& mapping,
                   const CanvasFormat& canvas);
 
-    /// Fills the three planes of the canvas; a grey picture gets chroma without colour on a canvas
-    /// of three planes, and none where the second plane has no data.
+    /// Fills the planes of the canvas that have data. On a canvas of three planes a grey picture
+    /// gets neutral chroma.
     void paint(const PlanarPicture& picture, const std::array<Plane, 3>& canvas);
 
     /// The part of the picture's plane that shows on the canvas, if the canvas' plane would be
@@ -42,7 +42,7 @@ public:
                                                       unsigned plane) const;
 
 private:
-    /// What becomes of one plane of the canvas.
+    /// How one plane of the canvas is made.
     struct Step {
         Span columns;
         Span rows;

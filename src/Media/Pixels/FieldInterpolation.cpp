@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <cstring>
 
-// The choice between the clones is made before the thread sanitizer, which would follow it, is
-// ready.
+// Clones are chosen when the program is loaded, in instrumented code that would call the thread
+// sanitizer before it is initialised.
 #ifdef __SANITIZE_THREAD__
 #define BRISKLET_CLONED
 #else
@@ -17,15 +17,15 @@ namespace media::pixels {
 
 namespace {
 
-/// Weston's taps in 1/8192: for the low frequencies of the field's own lines, for the high ones of
-/// the lines of the fields before and after, and for fields that have to do without those.
+/// Weston's filter coefficients, in 1/8192: low frequencies from lines of the same field, high
+/// frequencies from the fields before and after, and the coefficients for the same field alone.
 constexpr int kLow[] = {4309, 213};
 constexpr int kHigh[] = {5570, 3801, 1016};
 constexpr int kAlone[] = {5077, 981};
 constexpr int kTapBits = 13;
 
-/// The lines around the one to be computed, in the order of their distance from it, above and
-/// below. "Before" and "after" are the fields that have the missing line itself.
+/// The lines around the one to be computed, by their distance from it. "before" and "after" are the
+/// fields before and after in time that contain the missing line itself.
 template<typename T>
 struct Neighbours {
     /// The kept field: one and three lines away.
@@ -51,7 +51,7 @@ template<typename T>
             (std::abs(n.laterAbove[x] - above) + std::abs(n.laterBelow[x] - below)) >> 1;
         int bound = std::max({change >> 1, changeEarlier, changeLater});
 
-        // Detail that stands out between the lines above and below is no movement.
+        // Vertical detail finer than the lines above and below must not be taken for movement.
         const int highAbove = ((n.beforeAbove[x] + n.afterAbove[x]) >> 1) - above;
         const int highBelow = ((n.beforeBelow[x] + n.afterBelow[x]) >> 1) - below;
         const int stillBelow = still - below;
@@ -93,8 +93,8 @@ void compute(const Neighbours<std::uint16_t>& n, std::uint16_t* out, int width, 
     computeWords(n, out, width, most);
 }
 
-/// Line `y` of a plane that goes on mirrored beyond its edges, so that the lines of a field stay
-/// those of that field.
+/// Line `y` of a plane that is continued by its mirror image beyond its edges. The mirror keeps odd
+/// lines odd, so that they belong to the same field.
 template<typename T>
 const T* lineOf(const ConstPlane& plane, int y) {
     const int last = plane.height - 1;

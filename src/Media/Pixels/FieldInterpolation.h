@@ -11,9 +11,9 @@ struct FieldPlanes {
     ConstPlane following;
 };
 
-/// Makes a plane that shows one moment only, that of the current picture's first field: its lines
-/// are kept, those of the second field are computed from the lines around them in place and in
-/// time, the more from those of other moments the less moves there.
+/// Deinterlaces a plane: keeps the lines of the current picture's first field and computes those of
+/// the second from the lines around them in space and time. The less moves at a place, the more
+/// weight the fields before and after get there.
 ///
 /// The rule is that of the "Bob Weaver" filter (bwdif): a bound by the change over time, as in
 /// yadif, around the taps of Weston's three-field interpolation. All planes have one size and

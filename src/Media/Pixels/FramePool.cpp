@@ -16,7 +16,7 @@ FramePool::FramePool(int width, int height, AVPixelFormat format)
         m_strides[plane] = alignedUp(static_cast<std::size_t>(width >> shift) * sampleBytes);
         size += m_strides[plane] * static_cast<std::size_t>(height >> shift);
     }
-    // Room to move the start to an aligned place, and for encoders that read past the end.
+    // Once to align the start, and once for encoders that read past the end.
     m_pool.reset(ffmpeg::allocated(av_buffer_pool_init(size + 2 * kPlaneAlignment, nullptr)));
 }
 

@@ -12,9 +12,8 @@ extern "C" {
 
 namespace media::pixels {
 
-/// Makes frames of one size in a planar format of three planes, with 2 × 2 pixels per chroma
-/// sample, in memory that is used again once a frame is released. Frames may outlive the pool and
-/// be released on any thread.
+/// Makes frames of one size in a planar 4:2:0 format, in memory that is reused once a frame is
+/// released. Frames may outlive the pool and be released on any thread.
 class FramePool {
 public:
     FramePool(int width, int height, AVPixelFormat format);

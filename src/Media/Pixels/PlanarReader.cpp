@@ -22,8 +22,8 @@ bool isDeprecatedFullRange(AVPixelFormat format) {
            format == AV_PIX_FMT_YUVJ411P;
 }
 
-/// Whether pictures of the format have samples in main memory that are numbers at regular places,
-/// or can be made to have such.
+/// Whether pictures of the format can be read, by themselves or through plainSubstitute(): not
+/// those in the memory of a GPU, half floats, and 4:1:1 in groups of four pixels.
 bool isReadable(AVPixelFormat format, const AVPixFmtDescriptor& descriptor) {
     const bool isHalfFloat =
         descriptor.flags & AV_PIX_FMT_FLAG_FLOAT && descriptor.comp[0].depth != 32;
@@ -31,7 +31,8 @@ bool isReadable(AVPixelFormat format, const AVPixFmtDescriptor& descriptor) {
            format != AV_PIX_FMT_UYYVYY411;
 }
 
-/// The nearest format with such samples; AV_PIX_FMT_NONE for all that have them.
+/// The format that libswscale converts pictures to which unpackComponent() cannot read;
+/// AV_PIX_FMT_NONE for all others.
 AVPixelFormat plainSubstitute(AVPixelFormat format, const AVPixFmtDescriptor& descriptor) {
     if (descriptor.flags & AV_PIX_FMT_FLAG_BAYER)
         return AV_PIX_FMT_RGB24;
@@ -168,7 +169,7 @@ const AVFrame& PlanarReader::repacked(const AVFrame& frame, AVPixelFormat to) {
     m_repacked->width = frame.width;
     m_repacked->height = frame.height;
     m_repacked->chroma_location = frame.chroma_location;
-    // What becomes grey here has nothing but black and white.
+    // Only formats of 1 bit become grey here, as 0 and 255.
     m_repacked->color_range = to == AV_PIX_FMT_GRAY8 ? AVCOL_RANGE_JPEG : frame.color_range;
     if (av_frame_get_buffer(m_repacked.get(), 0) < 0)
         throw std::bad_alloc();

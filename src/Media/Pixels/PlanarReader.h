@@ -11,14 +11,14 @@ namespace media::pixels {
 
 enum class Family { grey, yuv, rgb };
 
-/// What the planes of a picture are.
+/// The layout and the value range of a picture's planes.
 struct PlanarFormat {
     Family family = Family::yuv;
     int width = 0;
     int height = 0;
     /// Bits per sample, 8 to 16.
     int depth = 8;
-    /// Base-2 logarithms of the pixels per chroma sample; 0 but for YUV.
+    /// Base-2 logarithms of the pixels per chroma sample; 0 unless YUV.
     int chromaShiftX = 0;
     int chromaShiftY = 0;
     /// Whether black is 0 (always so for RGB).
@@ -29,7 +29,8 @@ struct PlanarFormat {
     friend bool operator==(const PlanarFormat&, const PlanarFormat&) = default;
 };
 
-/// The value of black in the first plane (or each plane of RGB), and of no colour in chroma planes.
+/// The value of black in the first plane (in RGB in each plane), and the value of chroma planes
+/// where there is no colour.
 unsigned blackLevel(const PlanarFormat& format);
 unsigned neutralChroma(int depth);
 
@@ -39,10 +40,10 @@ struct PlanarPicture {
     std::array<ConstPlane, 3> planes;
 };
 
-/// Reads decoded frames of any pixel format as planes of plain samples: nothing is rounded or
-/// converted, except that transparent pixels come composed over black and samples of fewer than 8
-/// bits are stretched to 8. Frames that are such planes already are not copied. Use from one
-/// thread at a time.
+/// Reads decoded frames of any pixel format as one plane per component. Values are not rounded or
+/// converted, except that transparent pixels are composed over black and samples of fewer than 8
+/// bits are expanded to 8. Frames that are planar already are not copied. Use from one thread at a
+/// time.
 class PlanarReader {
 public:
     /// The planes are readable until the next call, and no longer than the frame lives. Throws

@@ -7,8 +7,8 @@
 
 namespace media::pixels {
 
-/// One plane of samples in memory that someone else owns: bytes up to 8 bits of depth, native
-/// 16-bit words above. The stride is in bytes and may be negative, or 0 for one line repeated.
+/// One plane of samples in memory owned by somebody else: bytes up to a depth of 8 bits, native
+/// 16-bit words above. The stride is in bytes and may be negative, or 0 to repeat one line.
 template<typename Byte>
 struct BasicPlane {
     Byte* data = nullptr;

@@ -39,8 +39,7 @@ double filterWeight(Filter filter, double distance) {
     return filter == Filter::cubic ? cubicWeight(x) : spline36Weight(x);
 }
 
-/// Whether the filter finds all its samples in the plane or next to it, so that zimg's rule for
-/// borders holds.
+/// Whether the filter reaches so little beyond the plane that zimg mirrors the border correctly.
 bool suitsGraph(const AxisSampling& axis, int length, Filter filter) {
     if (axis.isCopyOf(length))
         return true;
@@ -122,7 +121,7 @@ void PlaneResampler::buildGraph() {
     const Resampling& r = m_resampling;
     AxisSampling y = r.y;
     int height = r.height;
-    // Lines copied as they are need no filter, which zimg only sees if they are all there is.
+    // Lines that are only copied need no filter. zimg leaves it out only if it gets no other lines.
     if (y.isCopyOf(height)) {
         m_skippedLines = y.firstCopied();
         y.start = 0;
@@ -163,7 +162,7 @@ void PlaneResampler::runGraph(ConstPlane in, Plane out) {
     source.plane[0] = {in.line(m_skippedLines), in.stride, ZIMG_BUFFER_MAX};
     zimg_image_buffer result{.version = ZIMG_API_VERSION, .plane = {}};
     result.plane[0] = {target.data, target.stride, ZIMG_BUFFER_MAX};
-    // Without callbacks of ours there is nothing in it that can fail.
+    // Cannot fail: only callbacks could, and there are none.
     zimg_filter_graph_process(m_graph.get(), &source, &result, m_graphMemory.ensure(0), nullptr,
                               nullptr, nullptr, nullptr);
     if (target.data != out.data)

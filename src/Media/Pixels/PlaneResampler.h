@@ -10,7 +10,7 @@
 
 namespace media::pixels {
 
-/// How samples between samples are computed.
+/// The interpolation between samples.
 enum class Filter {
     /// Cubic (Catmull-Rom): quick, for the screen.
     cubic,
@@ -18,20 +18,20 @@ enum class Filter {
     spline36,
 };
 
-/// What a PlaneResampler makes of a plane.
+/// What a PlaneResampler does to a plane.
 struct Resampling {
     int width = 0;
     int height = 0;
     int depth = 8;
-    /// Along the plane's own axes; mirroring is left to others.
+    /// Along the plane's own axes. The resampler does not mirror.
     AxisSampling x;
     AxisSampling y;
     int newDepth = 8;
-    /// How values of one depth become values of the other: 0 … 2^depth − 1 onto its counterpart
-    /// if set, else multiplication by a power of two (limited range, and all chroma).
+    /// How the depth changes: if set 0 … 2^depth − 1 is scaled to 0 … 2^newDepth − 1, else values
+    /// are multiplied by a power of two (limited range, and chroma in any range).
     bool isFullRange = false;
     Filter filter = Filter::spline36;
-    /// Spreads the error of fewer bits over the neighbours instead of rounding each sample.
+    /// Ordered dithering instead of plain rounding.
     bool dithers = false;
 };
 
@@ -64,7 +64,7 @@ private:
     static Kernel kernel(const AxisSampling& sampling, int length, Filter filter);
 
     Resampling m_resampling;
-    /// Lines of the source left out at the top because the graph need not see them.
+    /// Lines at the top of the source that the graph does not read.
     int m_skippedLines = 0;
     std::unique_ptr<zimg_filter_graph, GraphDeleter> m_graph;
     AlignedBuffer m_graphMemory;

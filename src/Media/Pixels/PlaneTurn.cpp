@@ -20,7 +20,7 @@ struct Lanes {
 template<typename T>
 using Vector = typename Lanes<T>::Vector;
 
-/// Takes samples of a and b in turn, from the first or the second half of each.
+/// Interleaves the first or the second halves of a and b.
 template<bool SecondHalf, typename T, int... I>
 Vector<T> interleaved(Vector<T> a, Vector<T> b, std::integer_sequence<int, I...>) {
     constexpr int kCount = Lanes<T>::kCount;
@@ -28,7 +28,7 @@ Vector<T> interleaved(Vector<T> a, Vector<T> b, std::integer_sequence<int, I...>
     return __builtin_shufflevector(a, b, (kStart + I / 2 + (I % 2) * kCount)...);
 }
 
-/// How far ahead of the tile at hand a row is brought into the cache: two cache lines, in bytes.
+/// How far ahead of the current tile each row is prefetched: two cache lines, in bytes.
 constexpr int kFetchedAhead = 128;
 
 /// Transposes a square tile of kCount × kCount samples: each round of interleaving rows i and
@@ -42,7 +42,7 @@ void transposeTile(const std::uint8_t* in, std::ptrdiff_t inStride, std::uint8_t
     for (unsigned i = 0; i < kCount; ++i) {
         const std::uint8_t* line = in + static_cast<std::ptrdiff_t>(i) * inStride;
         std::memcpy(&rows[i], line, 16);
-        // Rows of a picture lie too far apart for the processor to see what comes next.
+        // The rows are too far apart for the processor's own prefetching.
         __builtin_prefetch(line + kFetchedAhead);
     }
     for (unsigned round = 1; round < kCount; round *= 2) {
@@ -98,7 +98,7 @@ Vector<T> reversed(Vector<T> lanes, std::integer_sequence<int, I...>) {
 template<typename T>
 Vector<T> reversed(Vector<T> lanes) {
     if constexpr (sizeof(T) == 1) {
-        // By pairs, which every processor can permute, and then within them.
+        // First the 16-bit pairs, which every processor can permute, then the two bytes of each.
         const auto pairs = reversed<std::uint16_t>(std::bit_cast<Vector<std::uint16_t>>(lanes));
         return std::bit_cast<Vector<T>>(pairs << 8 | pairs >> 8);
     } else {

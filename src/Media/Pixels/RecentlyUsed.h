@@ -8,7 +8,7 @@
 
 namespace media::pixels {
 
-/// Keeps the few most recently used values of what is costly to make.
+/// A small cache of values that are costly to make: keeps the most recently used ones.
 template<typename Key, typename Value>
 class RecentlyUsed {
 public:

@@ -9,12 +9,12 @@
 
 namespace media::pixels {
 
-/// The matrix that RGB is converted with when `wanted` is asked for: itself, or BT.709 where it is
-/// none that works on plain RGB.
+/// The matrix for converting RGB when `wanted` is asked for: `wanted` itself, or BT.709 if zimg
+/// cannot apply it to plain R′G′B′.
 AVColorSpace usableMatrix(AVColorSpace wanted);
 
-/// Converts RGB pictures, by zimg, to limited-range YUV of 16 bits with as many chroma samples as
-/// pixels. Use from one thread at a time.
+/// Converts RGB pictures to limited-range 16-bit YUV 4:4:4, with zimg. Use from one thread at a
+/// time.
 class RgbToYuv {
 public:
     /// `matrix` is one that usableMatrix() gives.

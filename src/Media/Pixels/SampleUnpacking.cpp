@@ -9,7 +9,7 @@ namespace media::pixels {
 
 namespace {
 
-/// Where the samples of one component stand in a line: every `step` bytes from `offset`.
+/// Where the samples of one component are in a line: every `step` bytes from `offset` on.
 struct Run {
     const std::uint8_t* data;
     std::ptrdiff_t stride;
@@ -41,7 +41,7 @@ void pickWords(Run run, int shift, unsigned mask, Plane out) {
     }
 }
 
-/// False where the layout is none of the common ones.
+/// Copies a component in one of the common layouts; false for any other layout.
 bool pickCommon(const AVFrame& frame, const AVPixFmtDescriptor& format,
                 const AVComponentDescriptor& component, Plane out) {
     if (format.flags & (AV_PIX_FMT_FLAG_BE | AV_PIX_FMT_FLAG_BITSTREAM))
@@ -79,7 +79,7 @@ bool pickCommon(const AVFrame& frame, const AVPixFmtDescriptor& format,
     }
 }
 
-/// Single-precision numbers; what lies outside of 0 … 1 is cut off.
+/// Single-precision samples, clamped to 0 … 1.
 void pickFloats(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out) {
     const std::uint8_t* planes[4] = {frame.data[0], frame.data[1], frame.data[2], frame.data[3]};
     const int strides[4] = {frame.linesize[0], frame.linesize[1], frame.linesize[2],
@@ -90,14 +90,14 @@ void pickFloats(const AVFrame& frame, const AVPixFmtDescriptor& format, int inde
         std::ranges::transform(
             line, reinterpret_cast<std::uint16_t*>(out.line(y)), [](std::uint32_t bits) {
                 const auto value = std::bit_cast<float>(bits);
-                // Not a number counts as nothing.
+                // NaN becomes 0.
                 const float level = value > 0 ? std::min(value, 1.0F) * 65535 : 0;
                 return static_cast<std::uint16_t>(level + 0.5F);
             });
     }
 }
 
-/// Every remaining layout, by way of libavutil's reader of single lines.
+/// Any other layout, line by line with av_read_image_line().
 void pickAny(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out) {
     const AVComponentDescriptor& component = format.comp[index];
     const std::uint8_t* planes[4] = {frame.data[0], frame.data[1], frame.data[2], frame.data[3]};
@@ -117,8 +117,8 @@ void pickAny(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, 
     }
 }
 
-/// (value × alpha + base × (most − alpha)) / most to the nearest, without a division: exact for
-/// most = 2^depth − 1.
+/// (value × alpha + base × (most − alpha)) / most, rounded to the nearest without a division; exact
+/// for most = 2^depth − 1.
 template<typename T>
 void composeLine(const T* in, const T* alpha, int depth, std::uint32_t base, T* out, int width) {
     const std::uint32_t most = (std::uint32_t{1} << depth) - 1;

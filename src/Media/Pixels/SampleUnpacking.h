@@ -17,8 +17,8 @@ int unpackedDepth(const AVPixFmtDescriptor& format, int component);
 bool isPlane(const AVPixFmtDescriptor& format, int component);
 
 /// Copies component `index` of every pixel into a plane of its own, whatever the layout in memory.
-/// Samples of fewer than 8 bits are stretched to 0 … 255, floating-point ones from 0 … 1 to
-/// 0 … 65535; others keep their value. Not for palettes and mosaics.
+/// Samples of fewer than 8 bits are scaled to 0 … 255, floating-point ones from 0 … 1 to 0 … 65535;
+/// others keep their value. Not for palettes and Bayer patterns.
 void unpackComponent(const AVFrame& frame, const AVPixFmtDescriptor& format, int index, Plane out);
 
 /// Splits a picture of palette entries into planes of 8 bits: red, green, blue over black.

@@ -12,7 +12,7 @@ namespace media::pixels {
 
 namespace {
 
-/// What 1 means in linear light, cd/m²: the white of a standard-range screen.
+/// The luminance of 1.0 in linear light, cd/m²: white on a standard-range screen.
 constexpr double kScreenWhite = 100;
 constexpr float kLeastSignal = 1e-6F;
 
@@ -86,8 +86,8 @@ Graph build(const zimg_image_format& from, const zimg_image_format& to) {
     parameters.resample_filter_uv = ZIMG_RESIZE_BILINEAR;
     parameters.dither_type = ZIMG_DITHER_ORDERED;
     parameters.nominal_peak_luminance = kScreenWhite;
-    // Quicker by far, and HLG is shown as others show it: its system gamma is applied to each
-    // component instead of to the luminance.
+    // Much faster, and HLG looks as in other players: the system gamma is applied to each component
+    // instead of to the luminance.
     parameters.allow_approximate_gamma = 1;
     parameters.cpu_type = ZIMG_CPU_AUTO;
     Graph graph(zimg_filter_graph_build(&from, &to, &parameters));
@@ -182,8 +182,8 @@ void ScreenMapping::process(const Graph& graph, const zimg_image_buffer_const& i
         throw Error("The colours of the picture cannot be converted.");
 }
 
-/// The brightest component goes through the curve, the others keep their ratio to it, so that no
-/// hue changes.
+/// Maps the brightest component through the curve and scales the others by the same factor, which
+/// keeps the hue.
 void ScreenMapping::compress(float peak) {
     const float white = 1 / filmic(peak);
     for (int y = 0; y < m_height; ++y) {

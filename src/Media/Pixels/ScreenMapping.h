@@ -11,8 +11,8 @@
 
 namespace media::pixels {
 
-/// The colours of a picture that a usual screen (BT.709 primaries, standard range) cannot take as
-/// they are.
+/// The colour description of a picture that a standard screen (BT.709 primaries, standard dynamic
+/// range) cannot show unchanged.
 struct ScreenColours {
     AVColorSpace matrix = AVCOL_SPC_BT709;
     AVColorTransferCharacteristic transfer = AVCOL_TRC_BT709;
@@ -29,8 +29,8 @@ struct ScreenColours {
 /// BT.2020 or P3.
 std::optional<ScreenColours> coloursToMap(const AVFrame& frame);
 
-/// How bright the picture becomes, as a multiple of 100 cd/m²: by the frame's content light level,
-/// or else its mastering display; none where it says neither.
+/// The picture's peak luminance as a multiple of 100 cd/m²: MaxCLL of the frame's content light
+/// level, or else the mastering display's maximum; none if the frame has neither.
 std::optional<float> statedPeak(const AVFrame& frame);
 
 /// Maps pictures of one size and format to the screen: to linear light where 1 is 100 cd/m² (for
