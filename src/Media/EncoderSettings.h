@@ -35,7 +35,7 @@ inline constexpr std::array<std::pair<EncoderPreset, const char*>, 10> kEncoderP
      {EncoderPreset::veryslow, "veryslow"},
      {EncoderPreset::placebo, "placebo"}}};
 
-/// A further parameter of an encoder, under the encoder's own name for it.
+/// A parameter of libx264 or libx265, by the library's own name for it.
 struct EncoderParameter {
     /// A number, two of them, or one of the encoder's own words.
     using Value = std::variant<int, double, std::pair<int, int>, std::string>;
@@ -46,16 +46,19 @@ struct EncoderParameter {
 
 using EncoderParameters = std::vector<EncoderParameter>;
 
-/// What the encoders are asked for. An export fails if its encoder does not take all of it. The
-/// defaults are the program's "highest quality"; the table of measurements behind them stands in
-/// docs/architecture.md.
+/// The settings of the video encoders. An export fails if its encoder refuses one of them. The
+/// defaults are the program's "highest quality"; docs/architecture.md has the measurements behind
+/// them.
 struct EncoderSettings {
     /// H.264 for 8-bit standard-range sources (libx264).
     EncoderPreset h264Preset = EncoderPreset::superfast;
-    /// Predicting motion a little better saves what it costs; more for complex pictures is where
-    /// this preset falls behind slower ones; weighing how many B pictures to use is not worth its
-    /// price; bits go to flat areas by how uneven the picture is as a whole; blocks of 4 × 4 cost
-    /// more than they save; edges of blocks are smoothed a little more.
+    /// What differs from the preset:
+    ///  - subme: a finer motion search saves more bits than it costs time.
+    ///  - qcomp: more bits for complex pictures, where this preset falls behind slower ones.
+    ///  - b-adapt: always three B-frames; choosing their number costs more than it saves.
+    ///  - aq-mode, aq-strength: adaptive quantisation by the variance of the whole picture.
+    ///  - partitions: no blocks of 4 × 4, which cost more than they save.
+    ///  - deblock: slightly stronger, which is nearer to the source.
     EncoderParameters h264Parameters = {{"subme", 2},
                                         {"qcomp", 0.85},
                                         {"b-adapt", 0},
@@ -63,15 +66,16 @@ struct EncoderSettings {
                                         {"aq-strength", 0.9},
                                         {"partitions", "i8x8"},
                                         {"deblock", std::pair(1, 1)}};
-    /// Constant rate factor, 0 to 51; less is better and larger.
+    /// Constant rate factor, 0 to 51; lower means better quality and larger files.
     double h264Crf = 17.1;
-    /// For pictures that are scaled down: what grain they had is averaged away, and without it
-    /// this preset falls further behind.
+    /// For pictures that are scaled down: scaling averages their grain away, and without grain this
+    /// preset falls further behind slower ones.
     double h264ReducedCrf = 16.1;
     /// HEVC Main 10 for deeper or HDR sources (libx265).
     EncoderPreset hevcPreset = EncoderPreset::ultrafast;
-    /// What is judged is likeness to the source, not its look of detail; edges of blocks are
-    /// smoothed more, which is nearer to the source.
+    /// What differs from the preset:
+    ///  - psy-rd: off, since it trades likeness to the source for an impression of detail.
+    ///  - deblock: stronger, which is nearer to the source.
     EncoderParameters hevcParameters = {{"psy-rd", 0}, {"deblock", std::pair(2, 2)}};
     double hevcCrf = 11;
 };

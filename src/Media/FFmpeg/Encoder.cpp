@@ -22,16 +22,17 @@ namespace {
 /// The sampling frequencies of ISO/IEC 14496-3, table 1.18, in ascending order; Hz.
 constexpr std::array kAacSampleRates = {7350,  8000,  11025, 12000, 16000, 22050, 24000,
                                         32000, 44100, 48000, 64000, 88200, 96000};
-/// Listening tests find AAC-LC transparent well below this; bits a second and channel.
+/// Listening tests find AAC-LC transparent well below this; bits per second and channel.
 constexpr std::int64_t kAacBitRatePerChannel = 128'000;
-/// AAC allows 6144 bits a channel in 1024 samples; more is refused. Bits a sample.
+/// AAC allows 6144 bits per channel in 1024 samples, and the encoder refuses more. Bits per sample.
 constexpr std::int64_t kAacMostBitsPerSample = 5;
-/// The preset's coding tree units, and small ones. x265 codes no picture with a smaller side.
-/// Pixels.
+/// The size of coding tree units in x265's preset, and a smaller one, in pixels. x265 cannot encode
+/// pictures with a side shorter than a coding tree unit.
 constexpr int kHevcUsualUnit = 32;
 constexpr int kHevcSmallUnit = 16;
-/// From level 5 on HEVC has no coding tree units of 16 × 16 (Rec. ITU-T H.265, A.4.1). The limits
-/// of level 4.1 (A.4.1, tables A.8 and A.9): pixels a picture, a side and a second.
+/// From level 5 on HEVC does not allow coding tree units of 16 × 16 (Rec. ITU-T H.265, A.4.1).
+/// These are the limits of level 4.1 (tables A.8 and A.9): luma samples per picture, the longest
+/// side, luma samples per second.
 constexpr double kHevcLevel41Pixels = 2'228'224;
 constexpr int kHevcLevel41Side = 4222;
 constexpr double kHevcLevel41PixelRate = 133'693'440;
@@ -45,7 +46,7 @@ void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
     const AVPixFmtDescriptor* descriptor =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(source.format));
     if (descriptor && (descriptor->flags & (AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL))) {
-        // RGB has no matrix of its own: the one it is converted with is stated.
+        // RGB has no matrix: the file is tagged with the one that it is converted with.
         context.colorspace = AVCOL_SPC_BT709;
         context.color_range = AVCOL_RANGE_MPEG;
     }
@@ -54,7 +55,7 @@ void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
         context.color_range = AVCOL_RANGE_JPEG;
 }
 
-/// The side of what x265 codes: whole coding units.
+/// A side rounded up to whole coding units, which is what x265 encodes.
 int codedSide(int side) {
     return (side + kHevcSmallUnit - 1) / kHevcSmallUnit * kHevcSmallUnit;
 }
@@ -68,9 +69,9 @@ bool canTakeSmallUnits(const VideoEncoding& encoding) {
            pixels * av_q2d(encoding.frameRate) <= kHevcLevel41PixelRate;
 }
 
-/// The side of the coding tree units; none where no HEVC is possible. Small ones wherever they are
-/// allowed: at this quality others would nearly always be divided, and trying them takes a tenth
-/// to a quarter of the encoder's time.
+/// The size of the coding tree units; none if the picture is too small for HEVC. The smaller size
+/// wherever it is allowed: at this quality larger units are nearly always split, and trying them
+/// takes a tenth to a quarter of the encoder's time.
 std::optional<int> hevcUnit(const VideoEncoding& encoding) {
     const int unit = canTakeSmallUnits(encoding) ? kHevcSmallUnit : kHevcUsualUnit;
     return std::min(encoding.width, encoding.height) < unit ? std::nullopt : std::optional(unit);
@@ -84,7 +85,7 @@ CodecContextPtr makeContext(const char* encoderName) {
     return CodecContextPtr(allocated(avcodec_alloc_context3(codec)));
 }
 
-/// Whether the field of the first line is shown first.
+/// Whether the top field is shown first.
 bool isTopFirst(AVFieldOrder order) {
     return order == AV_FIELD_TT || order == AV_FIELD_BT;
 }
@@ -108,7 +109,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
                           const EncoderSettings& settings) {
     const bool isDeep = needsDeepColor(track);
     const std::optional<int> unit = hevcUnit(encoding);
-    // Where the pictures are too small for x265, x264 keeps the ten bits as well.
+    // Pictures that are too small for x265 are encoded by x264, which has 10 bits too.
     const bool isHevc = isDeep && unit;
     CodecContextPtr context = makeContext(isHevc ? "libx265" : "libx264");
     context->width = encoding.width;
@@ -136,7 +137,8 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         options.setConstantRateFactor(encoding.isReduced ? settings.h264ReducedCrf
                                                          : settings.h264Crf);
         options.addAll(settings.h264Parameters);
-        // Pairs of lines of both fields are coded together, in pairs of macroblocks.
+        // Interlaced coding (MBAFF) of 4:2:0 needs a height that is a multiple of 4: two fields,
+        // each with chroma on every second line.
         if (encoding.fieldOrder != AV_FIELD_PROGRESSIVE && encoding.height % 4 == 0) {
             context->flags |= AV_CODEC_FLAG_INTERLACED_DCT;
             options.add({isTopFirst(encoding.fieldOrder) ? "tff" : "bff", 1});

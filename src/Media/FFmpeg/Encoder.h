@@ -21,7 +21,7 @@ struct VideoEncoding {
     AVRational frameRate{30, 1};
     AVRational sampleAspectRatio{1, 1};
     AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
-    /// Whether the pictures are scaled down.
+    /// Whether the pictures are scaled down, which asks for a lower rate factor.
     bool isReduced = false;
 };
 
@@ -40,7 +40,7 @@ public:
 
     [[nodiscard]] AVCodecContext& context() { return *m_context; }
 
-    /// Hands in one frame; null begins draining. Throws Error.
+    /// Sends one frame; null starts draining. Throws Error.
     void send(const AVFrame* frame);
     /// The next packet; false if the encoder needs more input or is drained. Throws Error.
     bool receive(AVPacket& packet);
@@ -51,7 +51,8 @@ private:
     CodecContextPtr m_context;
 };
 
-/// The sample rate at which AAC carries sound of `sampleRate` Hz: the same where AAC knows it.
+/// The sample rate of AAC for sound of `sampleRate` Hz: the same if AAC supports it, else the next
+/// higher one, 48 kHz above 96 kHz.
 int aacSampleRate(int sampleRate);
 
 } // namespace media::ffmpeg

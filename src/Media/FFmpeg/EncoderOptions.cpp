@@ -17,13 +17,13 @@ namespace media::ffmpeg {
 
 namespace {
 
-/// The factors that both encoders know.
+/// The range of constant rate factors in both encoders.
 constexpr double kLeastFactor = 0;
 constexpr double kMostFactor = 51;
 
 template<typename Number>
 std::string numberText(Number number) {
-    // The shortest form of any number, and some more.
+    // Longer than the shortest form of any number.
     std::array<char, 32> text = {};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), number);
     return {text.data(), end.ptr};
@@ -67,7 +67,7 @@ void EncoderOptions::setPreset(EncoderPreset preset) const {
 }
 
 void EncoderOptions::setConstantRateFactor(double factor) const {
-    // The encoders take any number for the nearest one that they know.
+    // The encoders would silently clamp other numbers.
     const bool isKnown = factor >= kLeastFactor && factor <= kMostFactor;
     if (!isKnown || av_opt_set_double(m_context.priv_data, "crf", factor, 0) < 0)
         throwRefused(m_context, "crf", textOf(factor));
@@ -91,8 +91,8 @@ void EncoderOptions::open(const char* option) const {
     handOver(option);
     const CaughtWarnings warnings;
     const int result = avcodec_open2(&m_context, m_context.codec, nullptr);
-    // A parameter that is not taken is only complained about, in words of each version's own, and
-    // the encoder goes on without it.
+    // libav only warns about a parameter that the encoder refuses, in words that differ between
+    // releases, and opens the encoder without it.
     for (const EncoderParameter& parameter : m_parameters) {
         if (warnings.mention(parameter.name))
             throwRefused(m_context, parameter.name, textOf(parameter.value));

@@ -12,7 +12,7 @@ namespace media::ffmpeg {
 
 namespace {
 
-/// The data of one kind that the container holds or else the picture.
+/// One kind of metadata, from the container or else from the picture.
 template<typename Data>
 std::optional<Data> described(const AVStream& stream, AVPacketSideDataType packetType,
                               const AVFrame& picture, AVFrameSideDataType frameType) {
@@ -28,7 +28,7 @@ std::optional<Data> described(const AVStream& stream, AVPacketSideDataType packe
     return result;
 }
 
-/// Written as the standard counts: chromaticities in 1/50000, luminances in 1/10000 cd/m².
+/// In the units of SMPTE ST 2086 metadata: chromaticities in 1/50000, luminances in 1/10000 cd/m².
 std::string counted(AVRational value, int unit) {
     return textOf(static_cast<int>(std::lround(av_q2d(value) * unit)));
 }

@@ -11,19 +11,19 @@ extern "C" {
 
 namespace media::ffmpeg {
 
-/// What a file says about the screen its pictures were graded on and how bright they become.
+/// HDR static metadata: the display that the pictures were mastered on, and their light levels.
 struct HighDynamicRange {
     std::optional<AVMasteringDisplayMetadata> masteringDisplay;
     std::optional<AVContentLightMetadata> lightLevel;
 };
 
-/// From the container and, where it does not say, from a decoded picture.
+/// The metadata in the container or, where that has none, in a decoded picture.
 HighDynamicRange describeDynamicRange(const AVStream& stream, const AVFrame& picture);
 
-/// The same as parameters of x265; none where there is nothing to say.
+/// The same as parameters of x265; empty without metadata.
 EncoderParameters x265Parameters(const HighDynamicRange& range);
 
-/// Has a muxer write it for an output stream.
+/// Adds the metadata to an output stream, for the muxer to write.
 void attach(AVStream& stream, const HighDynamicRange& range);
 
 } // namespace media::ffmpeg

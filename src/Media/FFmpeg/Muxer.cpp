@@ -26,25 +26,25 @@ namespace media::ffmpeg {
 namespace {
 
 constexpr int kWriteBufferBytes = 1024 * 1024;
-/// The most that one packet takes in a track's tables (stts, ctts, stss, stsz, stsc, co64); bytes.
+/// The most that one packet takes in the sample tables (stts, ctts, stss, stsz, stsc, co64); bytes.
 constexpr std::int64_t kIndexBytesPerPacket = 44;
 /// Everything else in the index: headers, decoder configurations, metadata; bytes.
 constexpr std::int64_t kIndexBytes = 32 * 1024;
 /// What a metadata entry takes besides its name and its value; bytes.
 constexpr std::int64_t kEntryBytes = 64;
 
-/// What describes the source's file format or its encoding rather than its content.
+/// Whether a metadata key describes the source's container or encoder rather than its content.
 bool belongsToTheOldFile(std::string_view key) {
     constexpr std::array<std::string_view, 7> kKeys = {
         "major_brand", "minor_version", "compatible_brands", "encoder", "vendor_id",
         "timecode",    "rotate"};
-    // libav's dictionaries do not tell capitals apart.
+    // The keys of libav's dictionaries are case-insensitive.
     return std::ranges::any_of(kKeys, [&](const std::string_view old) {
         return std::ranges::equal(key, old, {}, [](char c) { return av_tolower(c); });
     });
 }
 
-/// Some readers hand an entry out a second time under its language ("title-eng").
+/// Whether the demuxer repeats an entry under its language, as some do ("title-eng").
 bool isRepeatedUnderLanguage(const AVDictionary* source, const AVDictionaryEntry& entry) {
     constexpr std::size_t kSuffix = 4;
     const std::string_view key(entry.key);
@@ -71,16 +71,17 @@ std::int64_t metadataBytes(const AVDictionary* dictionary) {
         bytes += static_cast<std::int64_t>(std::string_view(entry->key).size() +
                                            std::string_view(entry->value).size()) +
                  kEntryBytes;
-    // Some of it is written in two places.
+    // Some entries are written in two places.
     return 2 * bytes;
 }
 
-/// Whether there are entries that have no place of their own in these files ("com.apple.…").
+/// Whether there are entries that only a table of named keys can hold ("com.apple.…").
 bool hasNamedEntries(const AVDictionary* metadata) {
     return av_dict_get(metadata, "com.", nullptr, AV_DICT_IGNORE_SUFFIX) != nullptr;
 }
 
-/// The QuickTime format numbers the languages, and libav knows each number by one code only.
+/// QuickTime files number their languages, and libav knows only one of the ISO 639-2 codes for each
+/// number.
 void useQuickTimeLanguage(AVDictionary*& metadata) {
     constexpr std::array<std::pair<std::string_view, const char*>, 14> kCodes = {{{"fre", "fra"},
                                                                                   {"deu", "ger"},
@@ -105,18 +106,20 @@ void useQuickTimeLanguage(AVDictionary*& metadata) {
         check(av_dict_set(&metadata, "language", code->second, 0));
 }
 
-/// Readers that know no titles of tracks show the handler's name.
+/// Sets the handler's name to the track's title: players that do not know titles of tracks show the
+/// handler.
 void nameHandlerByTitle(AVDictionary*& metadata) {
     const AVDictionaryEntry* title = av_dict_get(metadata, "title", nullptr, 0);
     const AVDictionaryEntry* handler = av_dict_get(metadata, "handler_name", nullptr, 0);
     const std::string_view name(handler ? handler->value : "");
-    // The latter two are what libav calls handlers without a name.
+    // libav's own names for handlers without one.
     if (title && (name.empty() || name == "SoundHandler" || name == "VideoHandler"))
         check(av_dict_set(&metadata, "handler_name", title->value, 0));
 }
 
-/// In this the edit lists count. Milliseconds, the default, would round the cut; multiples of the
-/// picture's time base do not, and fine ones round the sound by next to nothing.
+/// The movie timescale, which edit lists are written in. The default of milliseconds would round
+/// the cut. A multiple of the video's timescale does not, and a fine one rounds audio by next to
+/// nothing.
 int movieTimescale(AVRational videoTimeBase) {
     constexpr int kFineEnough = 100'000;
     int timescale = videoTimeBase.den;
@@ -246,7 +249,7 @@ void Muxer::writeHeader(std::int64_t expectedPackets) {
                   static_cast<std::int64_t>(m_context->nb_chapters) * 1024;
     for (unsigned i = 0; i < m_context->nb_streams; ++i)
         m_roomBytes += metadataBytes(m_context->streams[i]->metadata);
-    // A title stands both in the chapter list and in the chapter track.
+    // Chapter titles are written both to the chapter list and to the chapter track.
     for (unsigned i = 0; i < m_context->nb_chapters; ++i)
         m_roomBytes += 2 * metadataBytes(m_context->chapters[i]->metadata);
     m_roomBytes = std::min<std::int64_t>(m_roomBytes, std::numeric_limits<int>::max());
@@ -278,7 +281,7 @@ void Muxer::finish() {
 }
 
 void Muxer::turnReservedRoomIntoFreeBox() {
-    // The room follows the file's first box.
+    // The reserved space begins after the file's first box.
     avio_flush(m_ioContext.get());
     std::array<std::uint8_t, 4> size = {};
     const auto wanted = static_cast<std::int64_t>(size.size());

@@ -10,8 +10,8 @@ class OutputFile;
 
 namespace media::ffmpeg {
 
-/// Writes encoded streams into an MP4 or MOV file whose index stands in front of the media, in
-/// one pass: room for it is kept free from the start. Use from one thread at a time.
+/// Writes encoded streams into an MP4 or MOV file with the index (moov) in front of the media, in
+/// one pass: space for it is reserved when the header is written. Use from one thread at a time.
 class Muxer {
 public:
     /// Metadata, chapters and time code are those of `info`, cut to the range. `file` and `info`

@@ -15,16 +15,16 @@ namespace media::ffmpeg {
 
 namespace {
 
-/// Above this a frame rate is a tick rate that the container put in its place.
+/// A higher frame rate is taken for the container's tick rate.
 constexpr double kHighestFrameRate = 1000;
-/// The highest rate that is believed when only the shortest gap between two frames is known.
+/// The highest rate that is accepted if only the shortest distance between two frames is known.
 constexpr double kHighestGuessedFrameRate = 240;
 
 std::string nameOrNothing(const char* name) {
     return name ? name : "";
 }
 
-/// Whether the format itself says that the numbers use their full range.
+/// Whether the pixel format implies full range.
 bool isFullRange(int format) {
     return format == AV_PIX_FMT_YUVJ420P || format == AV_PIX_FMT_YUVJ422P ||
            format == AV_PIX_FMT_YUVJ444P || format == AV_PIX_FMT_YUVJ440P ||
@@ -39,8 +39,8 @@ ColorDescription describeColor(const AVCodecParameters& parameters) {
         color.transfer = nameOrNothing(av_color_transfer_name(parameters.color_trc));
     if (parameters.color_space != AVCOL_SPC_UNSPECIFIED)
         color.matrix = nameOrNothing(av_color_space_name(parameters.color_space));
-    // The pixel format comes from the stream, the tag since FFmpeg 9.0 from the container first;
-    // the decoder goes by the stream.
+    // The pixel format comes from the bitstream, but since FFmpeg 9.0 the range tag comes from the
+    // container first. The decoder goes by the bitstream.
     if (isFullRange(parameters.format))
         color.range = nameOrNothing(av_color_range_name(AVCOL_RANGE_JPEG));
     else if (parameters.color_range != AVCOL_RANGE_UNSPECIFIED)
@@ -59,7 +59,7 @@ AffineTransform displayTransform(const AVStream& stream) {
     constexpr double kOne = 65536;
     const AffineTransform transform{matrix[0] / kOne, matrix[1] / kOne, matrix[3] / kOne,
                                     matrix[4] / kOne, matrix[6] / kOne, matrix[7] / kOne};
-    // A matrix that flattens the picture says nothing about which way up it is.
+    // A singular matrix would collapse the picture to a line: it is ignored.
     return transform.determinant() == 0 ? AffineTransform{} : transform;
 }
 

@@ -4,11 +4,11 @@
 
 namespace media::ffmpeg {
 
-/// Whether a stream is a moving picture or sound that can be decoded here (no cover picture, no
-/// timed thumbnails, no still picture, no data).
+/// Whether a stream is video or audio that can be decoded: not a cover picture, a track of
+/// thumbnails, a still picture or data.
 bool isUsableStream(const AVFormatContext& context, const AVStream& stream);
 
-/// The facts of one usable stream; the start time is left for the inspection to fill in.
+/// The facts of one usable stream, except its start time, which inspect() fills in.
 SourceTrack describeStream(AVFormatContext& context, AVStream& stream);
 
 } // namespace media::ffmpeg
