@@ -6,9 +6,9 @@
 
 namespace brisklet {
 
-/// Gives the program a dark look while the desktop wants one and Qt did not notice: asks the
-/// settings portal for its colour scheme, and listens for changes. Where the palette that Qt found
-/// already is as the desktop wants it, it stays. Main thread.
+/// Gives the program a dark palette if the desktop prefers one and Qt has not noticed: asks the
+/// settings portal for the colour scheme and listens for changes. A palette of Qt's that already
+/// agrees with the desktop is kept. Main thread.
 class Appearance final : public QObject {
     Q_OBJECT
 

@@ -14,12 +14,12 @@ void ApplicationAdaptor::Activate(const QVariantMap& platformData) {
 void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platformData) {
     QList<QUrl> files;
     for (const QString& uri : uris) {
-        // Encoded, so that names that are no text arrive as they are.
+        // Percent-encoded, so that file names that are not valid text arrive unchanged.
         const QUrl url = QUrl::fromEncoded(uri.toUtf8());
         if (url.isValid() && !url.isEmpty())
             files << url;
         else if (!uri.isEmpty())
-            // Not to be passed over in silence: that there is no such file is told in a window.
+            // Kept, so that a window tells the user that there is no such file.
             files << urlOf(uri.toStdString());
     }
     Q_EMIT m_application->filesOpened(files, platformData);

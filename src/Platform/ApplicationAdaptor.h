@@ -8,8 +8,8 @@
 
 namespace brisklet {
 
-/// The interface org.freedesktop.Application on the bus; every call becomes a signal of its owner.
-/// Owned by it. Main thread.
+/// Serves the D-Bus interface org.freedesktop.Application: turns each call into a signal of its
+/// parent, which owns it. Main thread.
 class ApplicationAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -17,7 +17,7 @@ class ApplicationAdaptor final : public QDBusAbstractAdaptor {
 public:
     explicit ApplicationAdaptor(DesktopApplication* application);
 
-    // The names and types are the interface's own.
+    // The interface specifies the names and types.
 public Q_SLOTS:
     void Activate(const QVariantMap& platformData);
     void Open(const QStringList& uris, const QVariantMap& platformData);

@@ -10,8 +10,8 @@
 
 namespace brisklet {
 
-/// The program as the desktop's session knows it: one process owns its name on the session bus and
-/// serves org.freedesktop.Application; a later start hands over what it was asked for, and ends.
+/// The program's presence on the session bus: one process owns its name and serves
+/// org.freedesktop.Application; any later start passes its request on to that process and exits.
 ///
 ///     Unclaimed ──claim──▶ Owner ──release──▶ Unclaimed
 ///                            ◀───reclaim───
@@ -23,10 +23,10 @@ class DesktopApplication final : public QObject {
     Q_OBJECT
 
 public:
-    /// How a start goes on.
+    /// The result of claim().
     enum class Role {
         owner,      ///< This process serves the session.
-        handedOver, ///< Another one does and has taken the request.
+        handedOver, ///< Another process serves it and has taken the request.
         alone       ///< There is no session bus, or it does not answer.
     };
 
@@ -36,22 +36,22 @@ public:
 
     [[nodiscard]] const QDBusConnection& bus() const { return m_bus; }
 
-    /// Becomes the owner, or hands the request over: files to open, or none to come to the front.
-    /// `platformData` carries the launcher's activation token. Blocks until the other process has
-    /// taken the request. Throws std::runtime_error with a sentence for the user where that one
-    /// does not answer, so that no file is opened twice.
+    /// Becomes the owner, or passes the request on to the owner: to open these files or, without
+    /// any, to come to the front. `platformData` carries the launcher's activation token. Blocks
+    /// until the owner has taken the request. If it does not answer throws std::runtime_error with
+    /// a sentence for the user, rather than open a file twice.
     Role claim(const QList<QUrl>& files, const QVariantMap& platformData);
 
-    /// Gives the name back and serves no more calls. Every call that reached this process before
-    /// has been delivered when this returns: the owner looks then whether it still may end. Later
-    /// ones are refused, and whoever made them starts again.
+    /// Releases the name and stops serving calls. When it returns every call that had reached this
+    /// process has been delivered, so the caller can decide whether it may still exit. Later calls
+    /// are refused, and their senders try again.
     void release();
 
-    /// Serves again after release(), and takes the name, unless another process has it by now.
+    /// Takes the name and serves calls again after release(), unless another process has the name.
     void reclaim();
 
-    /// What the launcher put into the environment of this start, for platformData. To be asked
-    /// before QApplication exists, which takes it away.
+    /// The platformData that the launcher put into the environment of this process. Call it before
+    /// QApplication is constructed, which removes it from there.
     static QVariantMap launchData();
 
 Q_SIGNALS:

@@ -8,12 +8,12 @@
 
 namespace brisklet {
 
-/// What the desktop has mounted of other computers and devices: asks GVfs (GNOME and most others)
-/// for its mounts, then KDE's KIO FUSE, which mounts on demand. Main thread; never blocks it.
+/// Finds remote files that the desktop has mounted: asks GVfs (GNOME and most other desktops) for
+/// its mounts, then KDE's KIO FUSE, which mounts on demand. Main thread, which is never blocked.
 class DesktopMounts final : public RemoteFiles {
 public:
-    /// How long each of the two is waited for. The second may have to connect to a server, and to
-    /// ask the user for a password.
+    /// How long to wait for either. KIO FUSE may have to connect to a server and to ask the user
+    /// for a password.
     struct Limits {
         std::chrono::milliseconds listing{5000};
         std::chrono::milliseconds mounting{60000};

@@ -44,7 +44,7 @@ void DesktopNotifications::show(const QString& title, const QString& text,
     constexpr int kUsualDuration = -1;
     call << QStringLiteral("Brisklet") << uint{0} << QStringLiteral("com.quorvan.brisklet")
          << title
-         // Services read markup in this one.
+         // Services interpret markup in the body.
          << text.toHtmlEscaped() << QStringList{defaultAction(), tr("Show")}
          << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("com.quorvan.brisklet")}}
          << kUsualDuration;

@@ -6,10 +6,10 @@
 
 namespace brisklet {
 
-/// Collects what fails of several steps that are all to be taken.
+/// Runs several independent steps and collects their failures.
 class Failures final {
 public:
-    /// Takes one step; what it throws is kept.
+    /// Runs one step and keeps the exception that it throws.
     template<typename Step>
     void in(Step step) {
         try {
@@ -19,8 +19,7 @@ public:
         }
     }
 
-    /// Throws std::runtime_error with everything that failed, in one line; does nothing where
-    /// nothing did.
+    /// Throws std::runtime_error with all failures in one line; does nothing if there are none.
     void throwAny() const {
         if (!m_sentences.empty())
             throw std::runtime_error(m_sentences);

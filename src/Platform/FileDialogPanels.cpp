@@ -26,8 +26,8 @@ namespace {
 
 using Answer = std::optional<QUrl>;
 
-/// The extensions that movie files are known by. Both cases are named, since some dialogs tell
-/// them apart and many cameras write capitals.
+/// The file name extensions of movies, in lower and upper case: some dialogs are case-sensitive,
+/// and many cameras write upper case.
 QString movieFilter() {
     static constexpr auto kExtensions = std::to_array<const char*>(
         {"mp4", "m4v",  "mov", "qt",  "mkv", "webm", "avi", "mpg", "mpeg", "m2v", "ts",
@@ -44,7 +44,7 @@ QString openFolderKey() {
     return QStringLiteral("openFolder");
 }
 
-/// Where a video was picked last, else where the user keeps videos, as far as these exist.
+/// The folder in which a video was picked last, else the user's folder for videos, if they exist.
 QUrl folderToOpenIn() {
     const QString last = openPreferences()->value(openFolderKey()).toString();
     const QString videos = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
@@ -63,9 +63,9 @@ void rememberFolderOf(const QUrl& file) {
     storePreference(*preferences, openFolderKey(), QFile::decodeName(folder.c_str()));
 }
 
-/// Shows the dialog and gives what it answers. The dialog deletes itself.
+/// Shows the dialog; the future gets its answer. The dialog deletes itself.
 QFuture<Answer> ask(QFileDialog* dialog) {
-    // Not every desktop's own dialog keeps to it.
+    // A hint: some desktops' dialogs return other schemes all the same.
     dialog->setSupportedSchemes({QStringLiteral("file")});
     const auto promise = std::make_shared<QPromise<Answer>>();
     promise->start();
@@ -97,7 +97,7 @@ QFileDialog* makeSavePanel(QWidget* window, const SaveProposal& proposal) {
     return dialog;
 }
 
-/// Tells the user something over the window; over when it is dismissed or the window goes.
+/// Shows a message over the window; the future finishes when it is dismissed or the window goes.
 QFuture<void> tell(QWidget* window, const QString& sentence) {
     auto* box = new QMessageBox(QMessageBox::Warning, QFileDialog::tr("Export"), sentence,
                                 QMessageBox::Ok, window);
@@ -121,7 +121,7 @@ QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
     auto* dialog = new QFileDialog(m_window, QFileDialog::tr("Open"));
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    // The patterns are too many to read.
+    // There are too many patterns to show them all.
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilters({movieFilter(), QFileDialog::tr("All files (*)")});
     dialog->setDirectoryUrl(folderToOpenIn());

@@ -10,13 +10,13 @@
 
 namespace brisklet {
 
-/// The desktop's own file dialogs where it has them, Qt's otherwise; modal to one window. A window
-/// that goes away takes its open panel along, which then answers nothing. The folder in which a
-/// movie was picked last is kept in the user's preferences. Main thread.
+/// The desktop's own file dialogs where it has them, Qt's otherwise; modal to one window. When the
+/// window goes away its open dialog is closed without an answer. The folder in which a movie was
+/// picked last is kept in the user's preferences. Main thread.
 class FileDialogPanels final : public FilePanels {
 public:
-    /// `remoteFiles` finds a place to save in that is not on this computer; without it such a place
-    /// is refused.
+    /// `remoteFiles` maps remote addresses to mounted folders for saving; without it they are
+    /// refused.
     explicit FileDialogPanels(QWidget* window, std::shared_ptr<RemoteFiles> remoteFiles = nullptr);
 
     QCoro::Task<std::optional<QUrl>> openMovie() override;

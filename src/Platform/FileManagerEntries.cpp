@@ -19,17 +19,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Stands in every file that this program wrote, and tells it from those of others.
+/// In every file that this program writes, to tell them from files of others.
 constexpr const char* kMark = "# Written by Brisklet, which replaces and removes this file.";
-/// No entry of this program is anywhere near this long.
+/// Far longer than any entry of this program; bytes.
 constexpr qint64 kLongestEntry = 65536;
 
-// Entries ask for addresses (%U). Asked for paths (%F), some file managers pass over files that are
-// not on this computer without a word, and others copy the whole video here first, so that the
-// export would land beside the copy.
+// Entries ask for URLs (%U). When asked for paths (%F), some file managers silently leave out
+// remote files, and others download the whole video first, so that the export would be saved beside
+// the copy.
 
-/// One argument of an Exec line, which is quoted twice there: by the rules of the line, and by
-/// those of all texts in the file.
+/// An argument of an Exec line, quoted twice: by the rules of Exec lines, and by those of strings
+/// in desktop entries.
 QByteArray quotedForDesktopEntry(const fs::path& program) {
     QByteArray quoted = "\"";
     for (const char letter : program.string()) {
@@ -81,7 +81,7 @@ QByteArray thunarSendTo(const fs::path& program) {
 }
 
 QByteArray nemoAction(const fs::path& program) {
-    // As addresses in quotation marks, names need no other protection.
+    // The file names are URLs in quotation marks, which need no further quoting.
     return QByteArray(kMark) +
            "\n[Nemo Action]\n"
            "Active=true\n"
@@ -98,10 +98,10 @@ QByteArray nemoAction(const fs::path& program) {
 }
 
 QByteArray nautilusScript(const fs::path& program) {
-    // Scripts are offered for all files; what is known to be no video is left out here.
+    // Scripts are offered for files of all types: those that are not videos are left out here.
     return QByteArray("#!/bin/sh\n") + kMark +
            "\n"
-           // Of a folder that is not on this computer there are addresses instead of names.
+           // In remote folders scripts get URLs instead of names.
            "if [ $# -eq 0 ]; then\n"
            "    set -f\n"
            "    IFS='\n"
@@ -124,7 +124,7 @@ struct Entry {
     bool isExecutable;
 };
 
-/// Dolphin starts only those menus of the user's that are marked as executable.
+/// Dolphin ignores service menus in the user's folder unless they are executable.
 constexpr std::array kEntries = {
     Entry{"kio/servicemenus/com.quorvan.brisklet.trim-video.desktop", dolphinServiceMenu, true},
     Entry{"nautilus/scripts/Trim Video", nautilusScript, true},
@@ -135,7 +135,7 @@ QString textOf(const fs::path& path) {
     return QFile::decodeName(path.string().c_str());
 }
 
-/// Whether a name is free for us: nothing there, or a file that we wrote.
+/// Whether we may write a file: there is none of that name, or it is one that we wrote.
 bool isFree(const fs::path& path) {
     std::error_code ignored;
     const fs::file_status status = fs::symlink_status(path, ignored);
@@ -167,13 +167,13 @@ void write(const fs::path& path, const QByteArray& content, bool isExecutable) {
         fail("written", path, file.errorString().toStdString());
 }
 
-/// Together with the folders that it leaves empty.
+/// Removes a file, and its parent folders as far as they are empty then.
 void remove(const fs::path& dataFolder, const fs::path& place) {
     std::error_code error;
     const bool isRemoved = fs::remove(dataFolder / place, error);
     if (error && error != std::errc::not_a_directory)
         fail("removed", dataFolder / place, error.message());
-    // Only folders that are empty now can be removed this way.
+    // This removes empty folders only.
     fs::path folder = place.parent_path();
     for (; isRemoved && !folder.empty(); folder = folder.parent_path())
         fs::remove(dataFolder / folder, error);

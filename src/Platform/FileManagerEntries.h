@@ -11,12 +11,12 @@ namespace brisklet::FileManagerEntries {
 /// The user's data folder ($XDG_DATA_HOME), where file managers look.
 std::filesystem::path dataFolder();
 
-/// Writes the entries, which start `program` (an absolute path): all that can be written. Throws
-/// std::runtime_error afterwards with a line for the user about those that cannot.
+/// Writes as many of the entries as possible; they start `program` (an absolute path). Afterwards
+/// throws std::runtime_error with a line for the user if any could not be written.
 void install(const std::filesystem::path& dataFolder, const std::filesystem::path& program);
 
-/// Removes the entries that install() wrote, and the folders that it leaves empty. Throws likewise
-/// about those that cannot be removed.
+/// Removes the entries that install() wrote, and folders that become empty. Throws likewise if any
+/// could not be removed.
 void uninstall(const std::filesystem::path& dataFolder);
 
 } // namespace brisklet::FileManagerEntries

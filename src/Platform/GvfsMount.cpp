@@ -13,8 +13,8 @@ namespace brisklet {
 
 namespace {
 
-/// How the scheme of an address and the type of a mount go together where they have not the same
-/// name, and the port that goes without saying.
+/// The type of a mount for the scheme of an address, which may have another name, and its default
+/// port.
 struct Protocol {
     const char* scheme;
     const char* type;
@@ -26,7 +26,7 @@ constexpr std::array kProtocols = {Protocol{"sftp", "sftp", 22},      Protocol{"
                                    Protocol{"dav", "dav", 80},        Protocol{"davs", "dav", 443},
                                    Protocol{"afp", "afp-volume", 548}};
 
-/// The scheme must outlive the answer.
+/// `scheme` must outlive the result.
 Protocol protocolOf(const QByteArray& scheme) {
     for (const Protocol& protocol : kProtocols) {
         if (scheme == protocol.scheme)
@@ -35,7 +35,7 @@ Protocol protocolOf(const QByteArray& scheme) {
     return {scheme.constData(), scheme.constData(), -1};
 }
 
-/// Bytes with their encoding undone, without a final slash.
+/// The percent-decoded path of an address, without a final slash.
 QByteArray decodedPath(const QUrl& address) {
     QByteArray path = QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toLatin1());
     while (path.endsWith('/'))
@@ -43,12 +43,12 @@ QByteArray decodedPath(const QUrl& address) {
     return path;
 }
 
-/// Whether `folder` is `path` or one of the folders above it; both begin with a slash or are empty.
+/// Whether `folder` is `path` or one of its parents; both begin with a slash or are empty.
 bool leadsTo(const QByteArray& folder, const QByteArray& path) {
     return path.startsWith(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-/// Without the zero byte that GVfs ends its texts with.
+/// A byte string without the final zero byte that GVfs adds.
 QByteArray bytesOf(const QVariant& value) {
     QByteArray bytes =
         value.userType() == QMetaType::QString ? value.toString().toUtf8() : value.toByteArray();
@@ -86,13 +86,13 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, GvfsMount& mount)
 std::optional<GvfsMount::Match> GvfsMount::match(const QUrl& address) const {
     if (folder.isEmpty() || !isOfServer(address))
         return std::nullopt;
-    // In SMB the name of a domain may stand before that of the user.
+    // SMB user names may begin with a domain.
     const QString user = address.userName().section(u';', -1);
     const QString mountedBy = attributes.value(QStringLiteral("user"));
     if (!user.isEmpty() && user != mountedBy)
         return std::nullopt;
     QByteArray path = decodedPath(address);
-    // The share is the first folder of the address, and no folder of the mount.
+    // The first folder of the address is the share, which is not part of paths in the mount.
     const QString share =
         attributes.value(QStringLiteral("share"), attributes.value(QStringLiteral("volume")));
     if (!share.isEmpty()) {

@@ -15,23 +15,23 @@ namespace brisklet {
 
 /// One mount of GVfs: a plain value.
 struct GvfsMount {
-    /// An address that belongs to the mount.
+    /// How an address matches the mount.
     struct Match {
-        /// On this computer.
+        /// The path on this computer.
         std::filesystem::path path;
-        /// Greater for a mount that begins further down, and for one of the very user.
+        /// Greater is better: a longer prefix counts more than the same user.
         qsizetype closeness = 0;
     };
 
-    /// What it is of: "type", "host" or "server", "share", "user", "port" … as text.
+    /// What is mounted: "type", "host" or "server", "share", "user", "port" … as text.
     QMap<QString, QString> attributes;
-    /// The folder of the other side that it begins with.
+    /// The remote folder at the root of the mount.
     QByteArray prefix;
-    /// Where it stands among the folders of this computer; empty where it does not.
+    /// The local folder where it is mounted; empty if it has none.
     QByteArray folder;
 
-    /// None where the address does not belong to the mount. An address that names no user belongs
-    /// to the mount of any.
+    /// None if the address is not inside the mount. An address without a user matches mounts of any
+    /// user.
     [[nodiscard]] std::optional<Match> match(const QUrl& address) const;
 
 private:
@@ -41,8 +41,7 @@ private:
 /// The mounts in an answer to ListMounts; none in any other message.
 QList<GvfsMount> gvfsMountsIn(const QDBusMessage& reply);
 
-/// The path of an address under the mount that it belongs to most closely; none where there is no
-/// such mount.
+/// The local path of an address under the mount that matches it best; none if no mount matches.
 std::optional<std::filesystem::path> pathInMounts(const QList<GvfsMount>& mounts,
                                                   const QUrl& address);
 

@@ -13,7 +13,7 @@ namespace brisklet {
 
 namespace {
 
-/// Finer steps would be no different to see.
+/// Smaller steps would not be visible.
 constexpr double kSmallestStep = 0.005;
 
 } // namespace

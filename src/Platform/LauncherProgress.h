@@ -6,8 +6,8 @@
 
 namespace brisklet {
 
-/// Shows a progress on the program's entry in the desktop's taskbar, where that listens. Main
-/// thread.
+/// Shows progress on the program's icon in the desktop's taskbar or dock, where that supports it.
+/// Main thread.
 class LauncherProgress final {
 public:
     explicit LauncherProgress(QDBusConnection bus);

@@ -4,7 +4,7 @@
 
 namespace brisklet {
 
-/// The types of the files that the program opens, by their names in the desktop's database.
+/// The MIME types of the files that the program opens, as in the desktop's MIME database.
 const QStringList& movieMimeTypes();
 
 } // namespace brisklet

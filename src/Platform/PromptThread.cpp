@@ -10,8 +10,8 @@ namespace brisklet {
 
 namespace {
 
-/// The length of a turn, the shortest that the kernel takes: whose turn is to be shorter comes
-/// first. Nanoseconds.
+/// The length of the time slice: the shortest that the kernel accepts, since threads with shorter
+/// slices are scheduled first. Nanoseconds.
 constexpr __u64 kTurn = 100'000;
 
 } // namespace
@@ -23,7 +23,7 @@ void wakePromptly() {
     attributes.sched_flags = SCHED_FLAG_RESET_ON_FORK;
     attributes.sched_nice = ::getpriority(PRIO_PROCESS, 0);
     attributes.sched_runtime = kTurn;
-    // Advice: where it is refused everything works as well, only somewhat later.
+    // A hint: where it is refused the thread only wakes up somewhat later.
     ::syscall(SYS_sched_setattr, 0, &attributes, 0);
 }
 

@@ -2,10 +2,10 @@
 
 namespace brisklet {
 
-/// Asks the scheduler to give the calling thread its turn at once when something happens, before
-/// threads of the same priority that compute (decoders) have used up theirs. It does not get more
-/// of the processor for it, and threads that it starts do not inherit it. Needs no privilege; does
-/// nothing where the kernel knows no such request (Linux before 6.12). Never fails.
+/// Asks the scheduler for short time slices for the calling thread. When it wakes up it then runs
+/// at once, before busy threads of the same priority (decoders) have used up their slices. It does
+/// not get more processor time, and threads that it starts do not inherit this. Needs no privilege;
+/// does nothing before Linux 6.12. Never fails.
 void wakePromptly();
 
 } // namespace brisklet

@@ -16,7 +16,7 @@ namespace brisklet::QuickActionInstallation {
 
 namespace {
 
-/// Not the name that the program was called by: menus start it from any folder.
+/// The absolute path of the program, since menus start it from any folder.
 std::filesystem::path ownProgram() {
     std::error_code error;
     std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
@@ -36,7 +36,7 @@ void install() {
     failures.in(
         [] { FileManagerEntries::install(FileManagerEntries::dataFolder(), ownProgram()); });
     failures.in([] { QuickAction::shared().install(); });
-    // What is not installed is not offered to be removed either.
+    // Without the workflow nothing would offer to remove the entries.
     if (!QuickAction::shared().isInstalled())
         failures.in([] { FileManagerEntries::uninstall(FileManagerEntries::dataFolder()); });
     failures.throwAny();

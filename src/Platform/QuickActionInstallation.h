@@ -3,13 +3,12 @@
 /// The Quick Action together with its counterparts in the file managers of Linux. Main thread.
 namespace brisklet::QuickActionInstallation {
 
-/// Installs, or brings up to date, the workflow and the file managers' entries: all of them that
-/// can be. Throws std::runtime_error afterwards with one line for the user about those that cannot.
-/// Where the workflow is not installed in the end no entries are either: nothing would offer to
-/// remove them.
+/// Installs or updates the workflow and the file managers' entries, as many of them as possible.
+/// Afterwards throws std::runtime_error with one line for the user if any failed. If the workflow
+/// cannot be installed no entries are left either, since nothing would offer to remove them.
 void install();
 
-/// Removes all of them that can be; throws likewise.
+/// Removes as many of them as possible; throws likewise.
 void uninstall();
 
 } // namespace brisklet::QuickActionInstallation

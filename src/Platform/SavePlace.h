@@ -11,17 +11,17 @@
 
 namespace brisklet {
 
-/// What becomes of a name that the user gave to a save panel.
+/// Where a file is saved that the user named in a save panel.
 struct SavePlace {
-    /// The file to write: on this computer, with the extension that was asked for.
+    /// The local file to write, with the extension of the file type.
     QUrl file;
-    /// Another file of that name is there, and the user has not been asked about replacing it.
+    /// Another file has that name, and the user has not been asked whether to replace it.
     bool isToBeConfirmed = false;
     /// Why the file cannot be written there, as a sentence for the user; empty where it can.
     QString objection;
 };
 
-/// Looks at what a save panel answered. The disk is asked on another thread. Never throws. Main
+/// Examines the answer of a save panel. File system calls run on another thread. Never throws. Main
 /// thread.
 QCoro::Task<SavePlace> findSavePlace(std::shared_ptr<RemoteFiles> remoteFiles, QUrl answer,
                                      SaveProposal proposal);

@@ -43,7 +43,7 @@ SleepInhibitor::~SleepInhibitor() {
 void SleepInhibitor::inhibit(const QString& reason) {
     verifyMainThread();
     m_isWanted = true;
-    // The answer to an earlier question still comes, and serves this one.
+    // The answer to a request that is still on its way counts for this one too.
     if (m_isAsked || m_isRefused || m_release.type() != QDBusMessage::InvalidMessage)
         return;
     m_isAsked = true;

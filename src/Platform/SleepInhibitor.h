@@ -10,8 +10,8 @@ class QDBusServiceWatcher;
 namespace brisklet {
 
 /// Keeps the computer from going to sleep, through the desktop portal or, where there is none,
-/// through the screen saver's service. Where neither is there nothing happens. Neither call waits.
-/// Main thread.
+/// through the screen saver's service. Does nothing where there is neither. Never blocks. Main
+/// thread.
 class SleepInhibitor final : public QObject {
     Q_OBJECT
 
@@ -20,8 +20,8 @@ public:
     /// Lets the computer sleep.
     ~SleepInhibitor() override;
 
-    /// `reason` is a sentence for the user. Does nothing while it inhibits already. A refusal holds
-    /// until release(), or until one of the services appears anew.
+    /// `reason` is a sentence for the user. Does nothing while sleep is inhibited already. After a
+    /// refusal it is not asked again before release(), or before one of the services reappears.
     void inhibit(const QString& reason);
     void release();
 
@@ -37,9 +37,9 @@ private:
     bool m_isAsked = false;
     bool m_isRefused = false;
     QString m_reason;
-    /// Made with the first refusal.
+    /// Created after the first refusal.
     QDBusServiceWatcher* m_services = nullptr;
-    /// Ends what was granted; of no type while nothing was.
+    /// The call that ends the inhibition; invalid while nothing is inhibited.
     QDBusMessage m_release;
 };
 

@@ -15,7 +15,7 @@ namespace brisklet {
 
 namespace {
 
-/// Bytes of a message that fit into one event.
+/// How many bytes of a message fit into one X11 event.
 constexpr std::size_t kPieceSize = 20;
 
 struct Free {
@@ -40,7 +40,7 @@ xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-/// To everyone who listens, in pieces with the final zero byte. They belong together by `sender`.
+/// Sends a message with its final zero byte to all listeners, in pieces that `sender` identifies.
 void broadcast(xcb_connection_t* connection, xcb_window_t root, xcb_window_t sender,
                const QByteArray& message) {
     xcb_client_message_event_t event = {};

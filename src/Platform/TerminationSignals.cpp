@@ -14,13 +14,13 @@ namespace {
 
 constexpr std::array kSignals = {SIGTERM, SIGINT, SIGHUP};
 
-/// Where the handler writes; of the one instance there is.
+/// The end of the one instance's pipe that the signal handler writes to.
 volatile std::sig_atomic_t writeEnd = -1;
 
 extern "C" void noteRequest(int signal) {
     const int savedError = errno;
     const char note = 0;
-    // Nothing could be done about a failure here.
+    // A failure cannot be handled here.
     [[maybe_unused]] const ssize_t written = ::write(writeEnd, &note, 1);
     std::signal(signal, SIG_DFL);
     errno = savedError;

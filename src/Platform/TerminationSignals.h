@@ -7,16 +7,16 @@
 
 namespace brisklet {
 
-/// Turns the system's requests to end (SIGTERM, SIGINT, SIGHUP) into a signal of the event loop, so
-/// that the program can take its unfinished files away first. A second request ends the program as
-/// it would without this. At most one instance at a time. Main thread.
+/// Turns the signals that ask the program to end (SIGTERM, SIGINT, SIGHUP) into a Qt signal, so
+/// that it can remove unfinished files first. A second signal ends the program at once. At most one
+/// instance at a time. Main thread.
 class TerminationSignals final : public QObject {
     Q_OBJECT
 
 public:
-    /// Requests that the starter of the program had switched off stay so.
+    /// Signals that the parent process had set to be ignored stay ignored.
     explicit TerminationSignals(QObject* parent = nullptr);
-    /// Requests end the program at once again.
+    /// From now on the signals end the program at once.
     ~TerminationSignals() override;
 
 Q_SIGNALS:

@@ -98,7 +98,7 @@ void FeedReader::readEnclosure(AppcastItem& item) {
     const auto own = [&attributes](const char* name) {
         return attributes.value(appcastNamespace(), QString::fromLatin1(name)).toString();
     };
-    // Older feeds state the versions here.
+    // Older feeds have the versions as attributes of the enclosure.
     if (item.version.isEmpty())
         item.version = own("version");
     if (item.shortVersion.isEmpty())

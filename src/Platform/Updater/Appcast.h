@@ -11,7 +11,7 @@ namespace brisklet {
 
 /// One release in a feed.
 struct AppcastItem {
-    /// What is compared, and what people are shown.
+    /// The version that is compared, and the one that is shown.
     QString version;
     QString shortVersion;
     /// The oldest release of the system that it runs on; empty for all.
@@ -19,18 +19,18 @@ struct AppcastItem {
     /// Plain text.
     QString releaseNotes;
     QUrl packageUrl;
-    /// Of the package, in bytes; positive.
+    /// Size of the package in bytes; positive.
     qint64 length = 0;
     /// Ed25519 over the whole package: 64 bytes.
     QByteArray signature;
 };
 
-/// Reads the releases for Linux out of an RSS feed. Entries that lack what an update needs are left
-/// out. Throws std::runtime_error with a sentence for the user where the document is no feed.
+/// Reads the releases for Linux from an RSS feed. Incomplete entries are left out. Throws
+/// std::runtime_error with a sentence for the user if the document is not a feed.
 std::vector<AppcastItem> parseAppcast(const QByteArray& document);
 
-/// The newest release that is newer than `currentVersion` and runs on `systemVersion`; none where
-/// there is no such one.
+/// The newest release that is newer than `currentVersion` and runs on `systemVersion`; none if
+/// there is none.
 std::optional<AppcastItem> newestUpdate(const std::vector<AppcastItem>& items,
                                         const QString& currentVersion,
                                         const QString& systemVersion);

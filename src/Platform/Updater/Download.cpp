@@ -47,7 +47,7 @@ Download::Download(QNetworkAccessManager& network, const QUrl& url, QIODevice& i
 
 Download::~Download() {
     cancel();
-    // This may be the reply's own signal that ends the download.
+    // This may run inside a signal of the reply itself.
     if (m_reply)
         m_reply->deleteLater();
 }
@@ -76,12 +76,12 @@ void Download::start(QNetworkAccessManager& network) {
                       QStringLiteral("Brisklet/") + QCoreApplication::applicationVersion());
     request.setTransferTimeout(static_cast<int>(m_limits.silence.count()));
     m_reply = network.get(request);
-    // Whatever the server sends at once, no more than this waits in memory.
+    // Limits what is held in memory, however fast the server sends.
     m_reply->setReadBufferSize(256 * 1024);
     connect(m_reply, &QNetworkReply::redirected, this, &Download::follow);
     connect(m_reply, &QNetworkReply::readyRead, this, &Download::take);
     connect(m_reply, &QNetworkReply::finished, this, &Download::complete);
-    // Only to say what is wrong: the connection ends all the same.
+    // Only kept for the error message: the errors are not ignored, and the connection fails.
     connect(m_reply, &QNetworkReply::sslErrors, this,
             [this](const QList<QSslError>& errors) { m_distrust = errors.value(0).errorString(); });
 }
@@ -99,7 +99,7 @@ void Download::take() {
         return;
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QByteArray bytes = m_reply->readAll();
-    // What comes with a redirection or a refusal is no part of the file.
+    // The body of a redirection or an error is not part of the file.
     if (status != 200)
         return;
     m_received += bytes.size();

@@ -14,12 +14,12 @@ class QNetworkAccessManager;
 
 namespace brisklet {
 
-/// Whether an address may be used: HTTPS, or plain HTTP to this very machine.
+/// Whether an address may be used: HTTPS, or HTTP to this machine.
 bool isSafeAddress(const QUrl& url);
 
-/// Brings one file over the network into a device, within bounds: only over safe addresses, also
-/// after a redirection, and never more bytes than expected. Ends with exactly one finished().
-/// Destroying it ends it without. Main thread.
+/// Downloads one file into a device: only from safe addresses, also after a redirection, and never
+/// more bytes than expected. Emits finished() exactly once, but not if it is destroyed before. Main
+/// thread.
 class Download final : public QObject {
     Q_OBJECT
 
@@ -27,9 +27,9 @@ public:
     struct Limits {
         /// Bytes; one more is a failure.
         qint64 most = 0;
-        /// For the whole of it; none waits as long as something arrives.
+        /// For the whole download; none for no limit while data arrives.
         std::optional<std::chrono::milliseconds> duration;
-        /// Without a byte.
+        /// The longest wait without any data.
         std::chrono::milliseconds silence = std::chrono::seconds(30);
     };
 
@@ -38,7 +38,7 @@ public:
              QObject* parent = nullptr);
     ~Download() override;
 
-    /// Ends it without finished(); the device is not used any more.
+    /// Stops without finished(); the device is not used any more.
     void cancel();
 
 Q_SIGNALS:
@@ -60,7 +60,7 @@ private:
     QPointer<QNetworkReply> m_reply;
     qint64 m_received = 0;
     bool m_isFinished = false;
-    /// What is wrong with the server's certificate.
+    /// The error of the server's certificate.
     QString m_distrust;
 };
 

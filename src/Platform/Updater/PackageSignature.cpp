@@ -21,7 +21,7 @@ bool isSigned(const QString& file, const QByteArray& signature, const QByteArray
     QFile package(file);
     if (!package.open(QIODevice::ReadOnly) || package.size() == 0)
         return false;
-    // Mapped, so that the package need not fit into memory beside everything else.
+    // Memory-mapped, so that the package does not have to fit into memory.
     const uchar* content = package.map(0, package.size());
     return content != nullptr &&
            crypto_sign_verify_detached(bytesOf(signature), content,

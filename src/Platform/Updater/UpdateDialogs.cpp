@@ -23,7 +23,7 @@ constexpr int kProgressWidth = 320;
 constexpr QSize kNotesSize(440, 220);
 constexpr int kSpacing = 12;
 constexpr int kMargin = 20;
-/// The bar counts in thousandths: bytes may be too many for it.
+/// The bar counts in thousandths, since its range is too small for bytes.
 constexpr int kBarSteps = 1000;
 
 QString tr(const char* text) {
@@ -32,7 +32,7 @@ QString tr(const char* text) {
 
 QLabel* plainLabel(const QString& text) {
     auto* label = new QLabel(text);
-    // What comes from the feed is text.
+    // Text from the feed must not be interpreted as markup.
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
@@ -165,7 +165,7 @@ void UpdateDialogs::present(QDialog* dialog) {
     m_dialog = dialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setModal(false);
-    // The program may end while this is all that is left of it.
+    // The program may quit while this is its only window.
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
     dialog->show();
 }
@@ -174,7 +174,7 @@ void UpdateDialogs::dismiss() {
     verifyMainThread();
     if (!m_dialog)
         return;
-    // Nobody answers a dialog that is taken down.
+    // A dialog that is closed this way must not report an answer.
     QDialog* dialog = std::exchange(m_dialog, nullptr);
     dialog->disconnect();
     dialog->hide();

@@ -9,8 +9,8 @@ namespace brisklet {
 /// What the user wants with an update that is offered.
 enum class UpdateChoice { install, skipThisVersion, remindLater };
 
-/// Speaks with the user for the updater. Each call replaces what the one before shows; answers may
-/// come at any later time, at most once. Main thread.
+/// The updater's user interface. Each call replaces what the previous one shows; the answer comes
+/// at any later time, at most once. Main thread.
 class UpdateDriver {
 public:
     UpdateDriver() = default;
@@ -26,7 +26,7 @@ public:
     virtual void showDownload(const AppcastItem& item, std::function<void()> cancel) = 0;
     virtual void showDownloaded(qint64 bytes) = 0;
     virtual void showFailure(const QString& message) = 0;
-    /// Takes down whatever is shown.
+    /// Closes whatever is shown.
     virtual void dismiss() = 0;
     /// Hands a checked package to the desktop's package handler; false where there is none.
     virtual bool openPackage(const QString& file) = 0;

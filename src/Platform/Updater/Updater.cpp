@@ -22,7 +22,7 @@ constexpr qint64 kLongestFeed = 1024 * 1024;
 constexpr auto kFeedDuration = 60s;
 constexpr qint64 kLongestPackage = qint64{1024} * 1024 * 1024;
 constexpr qint64 kSecondsADay = 24 * 60 * 60;
-/// Looking at the clock this often notices a day that passed in sleep.
+/// How often the clock is compared: a single timer for a day would not count the time asleep.
 constexpr auto kClockInterval = 1h;
 
 QString skippedKey() {
@@ -41,7 +41,7 @@ QString hasRunKey() {
     return QStringLiteral("hasRunBefore");
 }
 
-/// A name that is nothing but a name, whatever the address says.
+/// A plain file name from a URL, without path separators or a leading dot.
 QString fileNameOf(const QUrl& url) {
     QString name;
     for (const QChar letter : url.fileName()) {
@@ -82,7 +82,7 @@ void Updater::begin() {
         checkIfDue(QDateTime::currentDateTimeUtc());
         return;
     }
-    // Nobody is asked on the first day with a new program.
+    // On the first run the user is not asked yet.
     if (!settings.value(hasRunKey()).toBool()) {
         settings.setValue(hasRunKey(), true);
         m_daily.stop();
@@ -114,7 +114,7 @@ void Updater::checkIfDue(const QDateTime& now) {
     if (!canCheckForUpdates() || !settings.value(automaticKey()).toBool())
         return;
     const QDateTime last = settings.value(lastCheckKey()).toDateTime();
-    // A clock that was set back must not end the checks for ever.
+    // A clock that was set back must not stop the checks for good.
     const bool isRecent = last.isValid() && last <= now && last.secsTo(now) < kSecondsADay;
     if (isRecent)
         return;

@@ -20,7 +20,7 @@ namespace brisklet {
 
 class Download;
 
-/// What an updater is made for. Fixed when the program is built, but for tests.
+/// The configuration of an updater. Fixed when the program is built, except in tests.
 struct UpdaterConfiguration {
     /// Empty where the program has no feed: then there are no updates.
     QUrl feed;
@@ -32,17 +32,17 @@ struct UpdaterConfiguration {
     QString downloadFolder;
     /// Remembers what the user chose and when it was checked last.
     std::shared_ptr<QSettings> settings;
-    /// From the start to the first look: the window stands well before.
+    /// From the program's start to the first check, long after the window is shown.
     std::chrono::milliseconds firstLook{10'000};
 };
 
-/// Looks for a newer release of the program in its feed, by command and once a day, offers it, and
-/// downloads and checks its package.
+/// Looks for a newer release of the program in its feed, on command and once a day, offers it,
+/// downloads its package and verifies it.
 ///
 ///     Idle ──check──▶ Checking ──newer──▶ Offering ──install──▶ Downloading ──genuine──▶ opened
 ///
-/// Each state falls back to Idle on failure, cancellation or another answer. What a check by itself
-/// finds wrong is not shown; what a command finds is. Main thread.
+/// Each state falls back to Idle on failure, cancellation or another answer. Failures of a daily
+/// check are not shown, those of a check on command are. Main thread.
 class Updater final : public QObject {
     Q_OBJECT
 
@@ -57,11 +57,11 @@ public:
 
     [[nodiscard]] bool isStarted() const { return m_isStarted; }
 
-    /// Checks by the user's command, and shows how it goes.
+    /// Checks on the user's command, and shows progress and failures.
     void checkForUpdates();
 
-    /// Checks where a day has passed since the last time; started instances do so by themselves.
-    /// `now` is the current time.
+    /// Checks if a day has passed since the last check; instances with `startingUpdater` call it
+    /// themselves. `now` is the current time.
     void checkIfDue(const QDateTime& now);
 
 Q_SIGNALS:
@@ -91,7 +91,7 @@ private:
     const bool m_isStarted;
     State m_state = State::idle;
     Mode m_mode = Mode::byItself;
-    /// Made by the first check: most runs of the program do without.
+    /// Created by the first check, since most runs of the program do not need it.
     QNetworkAccessManager* m_network = nullptr;
     QBuffer m_feed;
     AppcastItem m_item;

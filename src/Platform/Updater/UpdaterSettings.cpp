@@ -20,7 +20,7 @@ UpdaterConfiguration builtInUpdaterConfiguration() {
             .downloadFolder =
                 QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                 QStringLiteral("/brisklet/updates"),
-            // Beside the user's preferences and not among them.
+            // In a file of their own, beside the user's preferences.
             .settings =
                 std::make_shared<QSettings>(QSettings::IniFormat, QSettings::UserScope,
                                             QStringLiteral("brisklet"), QStringLiteral("updates"))};

@@ -4,8 +4,9 @@
 
 namespace brisklet {
 
-/// The updates of this program: feed and key as it was built with them, version and system as they
-/// are. The feed is empty where it was built without, or with an address or a key that is no good.
+/// The configuration of this program: the feed and the key that it was built with, its version and
+/// the running system's. The feed is empty if it was built without one, or with an unusable address
+/// or key.
 UpdaterConfiguration builtInUpdaterConfiguration();
 
 } // namespace brisklet

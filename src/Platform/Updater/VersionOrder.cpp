@@ -36,7 +36,7 @@ QList<Part> partsOf(QStringView version) {
 }
 
 std::strong_ordering compareNumbers(QStringView left, QStringView right) {
-    // As text, so that no number of digits is too many.
+    // Compared as text, so that any number of digits works.
     while (left.startsWith(u'0'))
         left = left.sliced(1);
     while (right.startsWith(u'0'))
