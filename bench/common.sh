@@ -44,7 +44,7 @@ measure() {
 # compare LABEL-A COMMAND-A LABEL-B COMMAND-B: runs two functions in turn and prints the medians.
 compare() {
     local wallsA=() wallsB=() peaksA=() peaksB=() i
-    "$2" >/dev/null && "$4" >/dev/null # What is read is in memory from here on.
+    "$2" >/dev/null && "$4" >/dev/null # Warms up the page cache.
     for ((i = 0; i < pairs; ++i)); do
         "$2"
         wallsA+=("$wall") peaksA+=("$peak")
@@ -71,8 +71,8 @@ generated() {
     echo "$file"
 }
 
-# Real footage where the samples are at hand, moving noise where they are not; a little grain on
-# top, so that repeated footage does not encode as if it stood still.
+# Real footage if the samples are there, else moving noise; with a little grain added, so that
+# repeated footage is not encoded as if it stood still.
 footage() {
     local grain=noise=alls=4:allf=t
     local clips=("mp4 name with spaces, 'quote' & ümläut.mp4"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Compares encoder settings by similarity, time and size: x264 presets against medium at crf 16,
-# x265 presets (10 bit) against medium at crf 18. Times are of the processors, on raw pictures:
-# encoders keep all of them busy, and what else the machine does changes wall times more.
+# Compares encoder settings by SSIM, time and size: x264 presets against medium at crf 16, x265
+# presets (10 bit) against medium at crf 18. Times are processor times for raw pictures: encoders
+# keep all processors busy, and wall times depend more on what else the machine does.
 source "$(dirname "$0")/common.sh"
 
 frames=${BENCH_FRAMES:-60}
@@ -39,7 +39,7 @@ row() {
         "$(ratio "$bytes" "$baseBytes")"
 }
 
-# table TITLE CLIP FORMAT ENCODER PRESET:CRF[:PARAMETERS]...: the first setting is what the others stand beside.
+# table TITLE CLIP FORMAT ENCODER PRESET:CRF[:PARAMETERS]...: the others are compared with the first setting.
 table() {
     local title=$1 clip=$2 format=$3 encoder=$4 setting
     shift 4

@@ -2,8 +2,8 @@
 # Exports 12 s out of a minute, from 24 s on, in four ways, and does the same with ffmpeg and, where
 # it is installed, HandBrake: once at the quality that is the program's aim (x264 medium crf 16, x265
 # medium crf 18), once with the program's own encoder settings. Prints medians of time and memory,
-# ratios, and likeness and size of what came out. At the end: how near an export comes to the limit
-# that the decoder alone and the encoder alone set together.
+# ratios, and SSIM and size of the results. At the end: how close an export comes to the limit that
+# the work of the decoder and the encoder sets.
 #
 #   bench/export.sh [straight] [turned] [smaller] [deep] [limit]      (all of them)
 source "$(dirname "$0")/common.sh"
@@ -32,7 +32,7 @@ deep() {
         -colorspace bt2020nc -tag:v hvc1 -c:a copy -f mp4 "$1"
 }
 
-# The case at hand: $source, $filter (ffmpeg's), $options (ours), $ours and $aim (encoders).
+# Sets up a case: $source, $filter (ffmpeg's), $options (ours), $ours and $aim (encoder settings).
 brisklet() {
     measure "$bin/brisklet-cli" export "$source" "$scratch/brisklet.mp4" --start 24 --end 36 \
         "${options[@]}"
@@ -50,7 +50,7 @@ handBrake() {
         --stop-at seconds:12 "${handBrakeOptions[@]}" -E av_aac -B 256 "${handBrakePicture[@]}"
 }
 
-# likeness FILE: SSIM against the source's pictures, rendered without loss by ffmpeg.
+# likeness FILE: SSIM against the source's pictures as ffmpeg renders them losslessly.
 likeness() {
     command ffmpeg -nostdin -hide_banner -i "$1" -ss 24 -t 12 -i "$source" -lavfi \
         "[1:v]$filter,settb=1/30,setpts=N[b];[0:v]settb=1/30,setpts=N[a];[a][b]ssim=shortest=1" \

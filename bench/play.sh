@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# What a second of playing a 1080p file with sound costs, against mpv with its x11 output at the
-# same size of picture. On an X display of its own, and with a sound server that has nothing but a
-# null sink; where pulseaudio is not installed, both play without sound. Needs mpv, python3, Xvfb.
+# Measures the processor time of playing a 1080p file with sound, compared with mpv's x11 output at
+# the same picture size. Uses an X display of its own and a sound server with only a null sink; where
+# pulseaudio is not installed both play without sound. Needs mpv, python3, Xvfb.
 #
 #     bench/play.sh [SECONDS]      (default: 15)
 source "$(dirname "$0")/common.sh"
@@ -19,8 +19,8 @@ if command -v pulseaudio >/dev/null; then
         -L module-native-protocol-unix -L "module-null-sink sink_name=null rate=48000" &
     servers+=($!)
     until pactl info >/dev/null 2>&1; do sleep 0.1; done
-    # On an idle null sink both players stand still for up to 1.5 s after they began, presumably
-    # because it has drawn silence ahead. Silence beside them keeps it awake.
+    # On an idle null sink both players stall for up to 1.5 s after the start, presumably because it
+    # has fetched silence in advance. A stream of silence beside them keeps it running.
     pacat --playback --latency-msec=20 /dev/zero &
     servers+=($!)
     sound="with sound"

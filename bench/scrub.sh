@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Seeks a paused player with brisklet-bench and a paused mpv (hr-seek, over its IPC socket) to the
 # same exact positions of the same files, in turn: a drag back and forth, random positions, and
-# steps backward. Then drags at 60 Hz and tells how long the main thread was blocked, and the
-# memory used. Prints milliseconds and ratios. Needs mpv and python3.
+# steps backward. Then drags at 60 Hz and prints how long the main thread was blocked, and the memory
+# used. Prints milliseconds and ratios. Needs mpv and python3.
 #
 #     bench/scrub.sh [SOURCE...]      (default: four generated files)
 source "$(dirname "$0")/common.sh"
@@ -31,7 +31,7 @@ times one "[8]"
 # field NAME: of the line of JSON on standard input.
 field() { python3 -c "import json, sys; print('%.2f' % json.load(sys.stdin)['$1'])"; }
 
-# against TIMES: both programs in turn, the medians of each figure, and their ratios.
+# against TIMES: runs both programs in turn; prints the medians of each figure and their ratios.
 against() {
     local -A ours=() theirs=()
     local i name line

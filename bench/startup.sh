@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# How soon the window and the first picture of a 1080p file stand, against mpv, and what an empty
-# window costs. On an X display of its own.
+# Measures how long it takes until the window and the first picture of a 1080p file are shown,
+# compared with mpv, and what an empty window costs. On an X display of its own.
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 source="$media/green-1080p.mp4"
@@ -14,7 +14,7 @@ until [[ -s "$scratch/display" ]]; do sleep 0.1; done
 DISPLAY=":$(<"$scratch/display")"
 export DISPLAY QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR="$scratch" XDG_CONFIG_HOME="$scratch"
 
-# With a session bus, as on a desktop.
+# With a session bus, as in a desktop session.
 session=()
 command -v dbus-run-session >/dev/null && session=(dbus-run-session --)
 

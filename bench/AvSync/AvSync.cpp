@@ -1,12 +1,12 @@
-// Measures how far picture and sound are apart: plays a film that clicks each whole second, listens
-// to the monitor of the sound device, and compares when each click is heard with when the frame of
-// its second is handed to the sink.
+// Measures the offset between picture and sound: plays a video with a click at every whole second,
+// records the monitor of the sound device, and compares when each click is heard with when the
+// frame of that second is handed to the sink.
 //
 //     av-sync SECONDS [MONITOR]
 //
 // Needs a PulseAudio server; MONITOR is the source to listen to (default: @DEFAULT_MONITOR@).
-// Prints one line of JSON; the differences are milliseconds, positive where the sound comes late.
-// The listening itself is certain to about the fragment size of the recording (5 ms).
+// Prints one line of JSON; the offsets are in milliseconds, positive where the sound is late. The
+// recording is accurate to about its fragment size (5 ms).
 
 #include "Media/Player.h"
 #include "TestSupport/ClickTrack.h"
@@ -111,8 +111,8 @@ private:
         }
     }
 
-    /// A block arrives at the earliest when its last sample has sounded: the least delayed arrival
-    /// within some seconds tells the time of the samples around it.
+    /// A block arrives after its last sample was played, with a varying delay: the least delayed
+    /// block within some seconds gives the time of the samples around it.
     [[nodiscard]] double timeOf(std::size_t index) const {
         constexpr std::size_t kAround = 2 * kRate;
         double earliest = std::numeric_limits<double>::infinity();

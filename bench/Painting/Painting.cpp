@@ -15,10 +15,10 @@
 #include <memory>
 #include <vector>
 
-// How long one change of the timeline or of the crop occupies the main thread: the model's change,
-// the views' reaction and the painting of what they asked for, in a window of 1280 × 800 points
-// with a video in it. Prints milliseconds: as they pass, and as the main thread's processor time,
-// which other programs do not change.
+// Measures how long one change of the timeline or of the crop occupies the main thread: the change
+// of the model, the reaction of the views and the repaint they ask for, in a window of 1280 × 800
+// points with a video. Prints milliseconds of wall time, and of the main thread's processor time,
+// which other programs do not affect.
 //
 //     QT_QPA_PLATFORM=offscreen [QT_SCALE_FACTOR=2] painting SOURCE
 
