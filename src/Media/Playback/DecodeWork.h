@@ -76,8 +76,6 @@ struct DecodeWork {
     Ticks completeFrom;
     /// seek, step: what lies before the target will likely be asked for next.
     bool isBackward = false;
-    /// decodeAhead: a frame that ends at or before this tick comes too late to be rendered.
-    Ticks lateUntil = Ticks::beginning();
     /// queue.
     std::optional<CachedFrame> frame;
 };

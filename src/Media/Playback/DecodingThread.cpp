@@ -134,21 +134,27 @@ void DecodingThread::seekNear(const DecodeWork& work) {
 
 void DecodingThread::decodeAhead(const DecodeWork& work) {
     const Ticks ticks = work.target.earliest;
-    const FrameSource::Goal goal{
-        .ticks = ticks, .completeFrom = ticks, .lateUntil = work.lateUntil};
+    const FrameSource::Goal goal{.ticks = ticks, .completeFrom = ticks};
     switch (m_source->advance(goal, work.previewSize, work.stop)) {
     case Outcome::onTheWay:
-        return;
-    case Outcome::late:
-        m_shared.lock()->nextFrameIsLate(work, m_source->arrivedEnd());
-        return;
+        return showLateFrame(work);
     case Outcome::nothing:
         return fail(work);
     case Outcome::arrived:
+    case Outcome::late:
         if (const auto frame = m_shared.cache().find(ticks, work.imageSize))
             queue(work, *frame);
         return;
     }
+}
+
+/// Where decoding is behind, a frame that it passes is better than none.
+void DecodingThread::showLateFrame(const DecodeWork& work) {
+    if (!m_shared.lock()->wantsLateFrame(work, now()))
+        return;
+    const auto frame = m_source->passing(work.previewSize);
+    RenderedFrame rendered = render(*frame);
+    m_shared.lock()->lateFrameArrived(work, std::move(rendered), now());
 }
 
 void DecodingThread::queue(const DecodeWork& work, const CachedFrame& frame) {

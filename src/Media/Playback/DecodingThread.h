@@ -26,6 +26,7 @@ private:
     void seekNear(const DecodeWork& work);
     void showProgress(const DecodeWork& work);
     void decodeAhead(const DecodeWork& work);
+    void showLateFrame(const DecodeWork& work);
     void queue(const DecodeWork& work, const CachedFrame& frame);
     void advance(const DecodeWork& work);
     void fail(const DecodeWork& work);

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <deque>
 #include <optional>
+#include <utility>
 
 namespace media::playback {
 
@@ -26,6 +27,9 @@ public:
 
     /// The frame at next().
     void push(RenderedFrame frame);
+
+    /// A frame before the one at next(), which is due already.
+    void pushLate(RenderedFrame frame) { m_frames.push_back(std::move(frame)); }
 
     /// The frames before `next` are left out.
     void skipTo(Ticks next) { m_next = next; }

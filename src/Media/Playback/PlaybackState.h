@@ -123,8 +123,10 @@ public:
     void nearFrameArrived(const DecodeWork& work, Ticks ticks);
     /// queue, decodeAhead: the frame at the target, with its picture.
     void nextFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now);
-    /// decodeAhead: the frame at the target came too late; the one after it begins at `end`.
-    void nextFrameIsLate(const DecodeWork& work, Ticks end);
+    /// decodeAhead: whether a frame that is passed on the way should be given to
+    /// lateFrameArrived(), so that the picture does not stand still.
+    [[nodiscard]] bool wantsLateFrame(const DecodeWork& work, SteadyTime now) const;
+    void lateFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now);
     /// There is no frame at the target that decodes.
     void frameFailed(const DecodeWork& work, SteadyTime now);
     /// Whether a frame that a seek passes should be given to substituteArrived().
@@ -185,9 +187,7 @@ private:
     [[nodiscard]] bool isReadAheadDue(const DecoderStatus& decoder, SteadyTime now) const;
     [[nodiscard]] SteadyTime nextDecodeLook(const DecoderStatus& decoder, SteadyTime now) const;
     [[nodiscard]] Ticks completeFrom(Ticks target) const;
-    [[nodiscard]] bool mayDropFrames(SteadyTime now) const;
-    [[nodiscard]] bool isTooLate(Ticks end, Ticks clock, SteadyTime now) const;
-    void passOver(Ticks end, Ticks clock);
+    void leaveOutLateFrames(Ticks clock);
     void endJumpWithoutPicture(SteadyTime now);
     [[nodiscard]] bool isCurrent(const DecodeWork& work) const;
 

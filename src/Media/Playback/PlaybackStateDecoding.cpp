@@ -9,10 +9,13 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// Further behind than this, decoding what lies between is given up.
-constexpr Ticks kFarBehind{Ticks::kPerSecond / 2};
-/// However far behind, one frame in this time is shown.
-constexpr milliseconds kLongestFreeze{200};
+/// Where decoding does not keep up, frames are shown late by as much as this; further behind, those
+/// up to the clock are left out. Sound that comes sooner by more than an eighth of a second is
+/// noticed (ITU-R BT.1359).
+constexpr Ticks kLongestLag{Ticks::kPerSecond / 10};
+/// On the way to the clock, frames that are passed are shown no closer together than this: what is
+/// shown comes evenly, and rendering does not hold decoding up.
+constexpr milliseconds kLateFrameInterval{40};
 /// Frames that are kept on the way to a target: when it is approached backward more of them will
 /// be asked for.
 constexpr Ticks kMargin{Ticks::kPerSecond / 4};
@@ -123,36 +126,29 @@ bool PlaybackState::choosePlaying(DecodeWork& work, const DecoderStatus& decoder
         work.target = SeekTarget::exactly(missing);
         return missing != Ticks::forever() && decoder.position != missing;
     }
+    leaveOutLateFrames(clock);
     work.frame = m_cache.find(m_queue.next(), work.imageSize);
-    while (work.frame && isTooLate(work.frame->range.end, clock, now)) {
-        passOver(work.frame->range.end, clock);
-        work.frame = m_cache.find(m_queue.next(), work.imageSize);
-    }
     work.target = SeekTarget::exactly(m_queue.next());
     work.kind = work.frame ? DecodeWork::Kind::queue : DecodeWork::Kind::decodeAhead;
-    work.lateUntil = mayDropFrames(now) ? clock : Ticks::beginning();
-    return !m_queue.hasEnded();
+    return true;
 }
 
-bool PlaybackState::mayDropFrames(SteadyTime now) const {
-    return now - m_lastQueued <= kLongestFreeze;
-}
-
-/// Whether the frame after the one that ends then is to be shown already, so that showing this one
-/// would only make that one late too.
-bool PlaybackState::isTooLate(Ticks end, Ticks clock, SteadyTime now) const {
-    return end <= clock && mayDropFrames(now);
-}
-
-/// Leaves out a frame that is to follow while playing, since its time is over.
-void PlaybackState::passOver(Ticks end, Ticks clock) {
-    ++m_statistics.dropped;
-    m_queue.skipTo(end);
-    if (clock - end <= kFarBehind)
-        return;
-    m_queue.skipTo(clock);
-    // The search may itself take long: its frame is shown all the same.
-    m_lastQueued = {};
+/// Leaves out frames that are to follow while playing, but whose time is over. Those in the cache
+/// cost nothing. Decoding goes on to the frame at the clock where it is far behind: on the way the
+/// pictures that no other picture needs are not decoded, nor are whole groups once the clock has
+/// come to the key frame of the next.
+void PlaybackState::leaveOutLateFrames(Ticks clock) {
+    const Ticks first = m_queue.next();
+    while (const auto frame = m_cache.find(m_queue.next(), imageSize())) {
+        if (frame->range.end > clock)
+            break;
+        m_queue.skipTo(frame->range.end);
+    }
+    if (m_queue.next() + kLongestLag < clock)
+        m_queue.skipTo(clock);
+    if (m_frameTicks > 0)
+        m_statistics.dropped +=
+            static_cast<std::uint64_t>(distance(first, m_queue.next()) / m_frameTicks);
 }
 
 bool PlaybackState::chooseIdle(DecodeWork& work, const DecoderStatus& decoder, SteadyTime now) {
@@ -231,9 +227,17 @@ void PlaybackState::nextFrameArrived(const DecodeWork& work, RenderedFrame frame
     m_aftermath.wakes.presenting = true;
 }
 
-void PlaybackState::nextFrameIsLate(const DecodeWork& work, Ticks end) {
-    if (isCurrent(work) && !m_immediate)
-        passOver(end, work.lateUntil);
+bool PlaybackState::wantsLateFrame(const DecodeWork& work, SteadyTime now) const {
+    return isCurrent(work) && m_queue.isEmpty() && now - m_lastQueued >= kLateFrameInterval;
+}
+
+void PlaybackState::lateFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now) {
+    if (!isCurrent(work) || m_immediate || !m_queue.isEmpty() || !m_steps.isEmpty() ||
+        frame.range.end <= m_shown.range.end)
+        return;
+    m_lastQueued = now;
+    m_queue.pushLate(std::move(frame));
+    m_aftermath.wakes.presenting = true;
 }
 
 void PlaybackState::frameFailed(const DecodeWork& work, SteadyTime now) {

@@ -140,10 +140,6 @@ void PlaybackRig::decodeFrame(const DecodeWork& work) {
     }
     ++decoder.decodedCount;
     decoder.position = frame.range.end;
-    if (work.kind == DecodeWork::Kind::decodeAhead && frame.range.end <= work.lateUntil) {
-        state.nextFrameIsLate(work, frame.range.end);
-        return;
-    }
     cache.insert(work.item.get(), frame);
     if (work.kind == DecodeWork::Kind::decodeAhead)
         state.nextFrameArrived(work, renderedFrame(frame), now);
@@ -197,7 +193,7 @@ void PlaybackRig::answer() {
     }
 }
 
-void PlaybackRig::sound() {
+void PlaybackRig::letSoundWork() {
     if (const auto run = state.nextSoundRun(m_run, now))
         m_run = run->number;
     if (!hasSound)
@@ -208,7 +204,7 @@ void PlaybackRig::settle() {
     for (int i = 0; i < 3; ++i) {
         decodeAll();
         present();
-        sound();
+        letSoundWork();
         answer();
     }
 }

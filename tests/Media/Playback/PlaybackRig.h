@@ -42,11 +42,17 @@ public:
     void decodeAll();
     /// All that the presenting thread has to do.
     void present();
+    /// What the sound thread has to do: where there is no sound, the clock runs without.
+    void letSoundWork();
     /// Answers what was reported, as the owner does.
     void answer();
 
     /// Seeks exactly to the frame of this number; the generation.
     std::uint64_t seek(int frame);
+
+    [[nodiscard]] media::playback::CachedFrame frameOf(int number) const {
+        return frameAt(media::Ticks(number * kFrameLength.count()), kFrameSize);
+    }
 
     [[nodiscard]] int shownFrame() const { return numberOf(state.shown()); }
 
@@ -89,7 +95,6 @@ private:
                                                        media::ImageSize size) const;
     void perform(const media::playback::DecodeWork& work);
     void decodeFrame(const media::playback::DecodeWork& work);
-    void sound();
 
     Sink m_sink;
     std::vector<int> m_shown;
