@@ -3,7 +3,7 @@
 #include "Media/Error.h"
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
-#include "Media/FFmpeg/PacketFacts.h"
+#include "Media/FFmpeg/NonReferenceDetector.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
@@ -57,7 +57,7 @@ public:
         : m_demuxer(demuxer),
           m_stream(stream),
           m_stop(stop),
-          m_disposability(*stream.codecpar),
+          m_detector(*stream.codecpar),
           m_decoder(*stream.codecpar, stream.time_base) {
         // How smooth the edges of blocks are proves nothing.
         m_decoder.context().skip_loop_filter = AVDISCARD_ALL;
@@ -118,7 +118,7 @@ private:
             m_decoder.send(nullptr);
             return false;
         }
-        if (m_disposability.judge(*m_packet) != ffmpeg::Dispensable::entirely ||
+        if (m_detector.inspect(*m_packet) != ffmpeg::Discardable::entirely ||
             ffmpeg::ptsOf(*m_packet) == wanted)
             m_decoder.send(m_packet.get());
         av_packet_unref(m_packet.get());
@@ -133,7 +133,7 @@ private:
     ffmpeg::Demuxer& m_demuxer;
     const AVStream& m_stream;
     std::stop_token m_stop;
-    ffmpeg::Disposability m_disposability;
+    ffmpeg::NonReferenceDetector m_detector;
     ffmpeg::Decoder m_decoder;
     ffmpeg::PacketPtr m_packet = ffmpeg::makePacket();
     ffmpeg::FramePtr m_frame = ffmpeg::makeFrame();

@@ -1,16 +1,14 @@
 #include "Media/FFmpeg/CodedPictures.h"
 
 #include "Media/FFmpeg/Check.h"
+#include "Media/FFmpeg/NalUnits.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 
 namespace media::ffmpeg {
 
 namespace {
-
-constexpr std::array<std::uint8_t, 3> kStartCode{0, 0, 1};
 
 /// Rec. ITU-T H.264, table 7-1.
 enum H264Unit { kFirstSlice = 1, kInstantRefresh = 5 };
@@ -30,14 +28,13 @@ bool isPictureOf(AVCodecID codec, int unitType) {
                                      : unitType < kFirstWithoutPicture;
 }
 
-/// The type of the first unit of a picture in an H.264 or HEVC packet; none without a picture.
+/// The type of the first NAL unit of a picture in an H.264 or HEVC packet; none without a picture.
 std::optional<int> firstPictureUnit(const AVPacket& packet, AVCodecID codec) {
     std::span<const std::uint8_t> rest(packet.data,
                                        static_cast<std::size_t>(std::max(packet.size, 0)));
     for (;;) {
-        const auto found =
-            std::search(rest.begin(), rest.end(), kStartCode.begin(), kStartCode.end());
-        const auto past = static_cast<std::size_t>(found - rest.begin()) + kStartCode.size();
+        const auto found = static_cast<std::size_t>(startCodeIn(rest) - rest.begin());
+        const std::size_t past = found + kStartCodeLength;
         rest = rest.subspan(std::min(past, rest.size()));
         if (rest.empty())
             return std::nullopt;

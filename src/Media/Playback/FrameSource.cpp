@@ -79,7 +79,8 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_position = Ticks::beginning();
         m_hasMoved = true;
         const Ticks beginAt = goal.isBackward ? goal.ticks - kBackward : goal.ticks;
-        reader().approach(goal.ticks, goal.completeFrom, beginAt, stop);
+        reader().approach(
+            {.target = goal.ticks, .completeFrom = goal.completeFrom, .beginAt = beginAt}, stop);
         m_goal = goal.ticks;
     }
     std::optional<Decoded> decoded = decode(goal, stop);

@@ -59,12 +59,21 @@ public:
     /// reader stays usable; its position is then unspecified until the next seek).
     void seek(Ticks ticks, const std::stop_token& stop = {});
 
+    /// What an approach() is to come to.
+    struct Approach {
+        /// The frame at this tick.
+        Ticks target;
+        /// Frames before this tick may be left out on the way; those from there on are all given
+        /// out as long as isCompleteFrom() says so.
+        Ticks completeFrom;
+        /// Where key frames stand close to one another, it begins at the one before this tick if
+        /// that costs little, so that there are such frames.
+        Ticks beginAt;
+    };
+
     /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
-    /// frame at `ticks` or one before it, from which the others follow. Frames before
-    /// `completeFrom` may be left out on the way, those from there on are all given out as long as
-    /// isCompleteFrom() says so. Where key frames stand close to one another, it begins at the one
-    /// before `beginAt` if that costs little, so that there are such frames.
-    void approach(Ticks ticks, Ticks completeFrom, Ticks beginAt, const std::stop_token& stop = {});
+    /// frame at the target or one before it, from which the others follow.
+    void approach(const Approach& way, const std::stop_token& stop = {});
 
     /// Whether no frame between one given out at `ticks` and the next frame was left out.
     [[nodiscard]] bool isCompleteFrom(Ticks ticks) const;

@@ -1,4 +1,4 @@
-#include "Media/FFmpeg/PacketFacts.h"
+#include "Media/FFmpeg/NonReferenceDetector.h"
 
 #include "Media/FFmpeg/Decoder.h"
 #include "Media/FFmpeg/Demuxer.h"
@@ -31,16 +31,16 @@ std::string samplesOf(const AVFrame& frame) {
     return samples;
 }
 
-/// Calls `use` with each packet of a file's first stream, and how far it can be done without.
+/// Calls `use` with each packet of a file's first stream, and whether it can be discarded.
 void forEachPacket(const std::filesystem::path& path,
-                   const std::function<void(const AVPacket&, Dispensable)>& use) {
+                   const std::function<void(const AVPacket&, Discardable)>& use) {
     Demuxer demuxer(SourceFile::open(path));
     demuxer.findStreamInfo();
     demuxer.selectOnly({0});
-    Disposability disposability(*demuxer.context().streams[0]->codecpar);
+    NonReferenceDetector detector(*demuxer.context().streams[0]->codecpar);
     const PacketPtr packet = makePacket();
     while (demuxer.read(*packet) == Demuxer::Status::packet) {
-        use(*packet, disposability.judge(*packet));
+        use(*packet, detector.inspect(*packet));
         av_packet_unref(packet.get());
     }
 }
@@ -58,8 +58,8 @@ std::map<std::int64_t, std::string> decoded(const std::filesystem::path& path, b
         while (decoder.receive(*frame) == Decoder::Status::frame)
             pictures[frame->pts] = samplesOf(*frame);
     };
-    forEachPacket(path, [&](const AVPacket& packet, Dispensable dispensable) {
-        if (isComplete || dispensable != Dispensable::entirely) {
+    forEachPacket(path, [&](const AVPacket& packet, Discardable discardable) {
+        if (isComplete || discardable != Discardable::entirely) {
             decoder.send(&packet);
             receive();
         }
@@ -71,7 +71,7 @@ std::map<std::int64_t, std::string> decoded(const std::filesystem::path& path, b
 
 /// Gives how many pictures are left of how many.
 std::pair<std::size_t, std::size_t>
-expectNothingDependsOnNeedlessPackets(const std::filesystem::path& path) {
+expectNothingDependsOnDiscardedPackets(const std::filesystem::path& path) {
     const auto all = decoded(path, true);
     const auto needed = decoded(path, false);
     EXPECT_FALSE(needed.empty());
@@ -80,65 +80,65 @@ expectNothingDependsOnNeedlessPackets(const std::filesystem::path& path) {
     return {needed.size(), all.size()};
 }
 
-void expectManyNeedlessPackets(const Recipe& recipe) {
-    const auto [needed, all] = expectNothingDependsOnNeedlessPackets(makeFixture(recipe).path);
+void expectManyDiscardablePackets(const Recipe& recipe) {
+    const auto [needed, all] = expectNothingDependsOnDiscardedPackets(makeFixture(recipe).path);
     EXPECT_LT(needed, all * 3 / 4);
 }
 
-TEST(NeedlessPackets, ofH264AreThoseThatNoOtherPictureDependsOn) {
-    expectManyNeedlessPackets({.codec = VideoCodec::h264});
+TEST(DiscardablePackets, ofH264AreThoseThatNoOtherPictureDependsOn) {
+    expectManyDiscardablePackets({.codec = VideoCodec::h264});
 }
 
-TEST(NeedlessPackets, ofH264InATransportStreamAreThoseThatNoOtherPictureDependsOn) {
-    expectManyNeedlessPackets({.codec = VideoCodec::h264, .container = "ts"});
+TEST(DiscardablePackets, ofH264InATransportStreamAreThoseThatNoOtherPictureDependsOn) {
+    expectManyDiscardablePackets({.codec = VideoCodec::h264, .container = "ts"});
 }
 
-TEST(NeedlessPackets, ofHevcAreThoseThatNoOtherPictureDependsOn) {
-    expectManyNeedlessPackets({.codec = VideoCodec::hevc});
+TEST(DiscardablePackets, ofHevcAreThoseThatNoOtherPictureDependsOn) {
+    expectManyDiscardablePackets({.codec = VideoCodec::hevc});
 }
 
-TEST(NeedlessPackets, ofARecorderThatRepeatsParametersAreThoseThatNoOtherPictureDependsOn) {
+TEST(DiscardablePackets, ofARecorderThatRepeatsParametersAreThoseThatNoOtherPictureDependsOn) {
     const auto sample = testsupport::sampleMedia("mkv-screenrec-1080p60-aac.mkv");
     if (!sample)
         GTEST_SKIP() << "the sample with parameters beside every picture is not here";
-    const auto [needed, all] = expectNothingDependsOnNeedlessPackets(*sample);
+    const auto [needed, all] = expectNothingDependsOnDiscardedPackets(*sample);
     EXPECT_LT(needed, all * 3 / 4);
 }
 
 /// A field without its partner would be taken for the partner of the next.
-TEST(NeedlessPackets, areNoSingleFields) {
+TEST(DiscardablePackets, areNoSingleFields) {
     const auto sample = testsupport::sampleMedia("mts-avchd-1080i50-ac3-pgs.mts");
     if (!sample)
         GTEST_SKIP() << "the sample with fields is not here";
-    expectNothingDependsOnNeedlessPackets(*sample);
+    expectNothingDependsOnDiscardedPackets(*sample);
 }
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// A generated stream, and packets made from one of its needless ones.
+/// A generated stream, and packets made from one of its discardable ones.
 class PacketMaker {
 public:
     explicit PacketMaker(const Recipe& recipe)
         : m_demuxer(SourceFile::open(makeFixture(recipe).path)),
           m_hasStartCodes(recipe.container == "ts") {
         m_demuxer.findStreamInfo();
-        forEachPacket(makeFixture(recipe).path, [this](const AVPacket& packet, Dispensable judged) {
-            Bytes& kind = judged == Dispensable::entirely ? m_needless : m_needed;
+        forEachPacket(makeFixture(recipe).path, [this](const AVPacket& packet, Discardable judged) {
+            Bytes& kind = judged == Discardable::entirely ? m_discardable : m_needed;
             kind.assign(packet.data, packet.data + packet.size);
         });
     }
 
-    [[nodiscard]] const Bytes& needless() const { return m_needless; }
+    [[nodiscard]] const Bytes& discardable() const { return m_discardable; }
 
     [[nodiscard]] const Bytes& needed() const { return m_needed; }
 
-    /// The needless packet with more units behind or in front of its own.
+    /// The discardable packet with more units behind or in front of its own.
     [[nodiscard]] Bytes followedBy(const std::vector<Bytes>& units) const {
-        return joined({m_needless, unitsOf(units)});
+        return joined({m_discardable, unitsOf(units)});
     }
 
     [[nodiscard]] Bytes precededBy(const std::vector<Bytes>& units) const {
-        return joined({unitsOf(units), m_needless});
+        return joined({unitsOf(units), m_discardable});
     }
 
     [[nodiscard]] AVCodecParameters& parameters() const {
@@ -165,72 +165,72 @@ private:
 
     mutable Demuxer m_demuxer;
     bool m_hasStartCodes;
-    Bytes m_needless;
+    Bytes m_discardable;
     Bytes m_needed;
 };
 
-/// Judges packets one after the other.
-class Judge {
+/// Inspects packets one after the other.
+class Inspector {
 public:
-    explicit Judge(const PacketMaker& maker) : m_disposability(maker.parameters()) {}
+    explicit Inspector(const PacketMaker& maker) : m_detector(maker.parameters()) {}
 
-    bool isNeedless(const Bytes& bytes, int flags = 0) {
+    bool isDiscardable(const Bytes& bytes, int flags = 0) {
         const PacketPtr packet = makePacket();
         EXPECT_EQ(av_new_packet(packet.get(), static_cast<int>(bytes.size())), 0);
         std::ranges::copy(bytes, packet->data);
         packet->flags = flags;
-        return m_disposability.judge(*packet) == Dispensable::entirely;
+        return m_detector.inspect(*packet) == Discardable::entirely;
     }
 
-    void restart() { m_disposability.restart(); }
+    void restart() { m_detector.restart(); }
 
 private:
-    Disposability m_disposability;
+    NonReferenceDetector m_detector;
 };
 
 /// H.264 whose packets have lengths of four bytes in front of their units.
-class NeedlessPacket : public testing::Test {
+class DiscardablePacket : public testing::Test {
 protected:
-    [[nodiscard]] bool isNeedless(const Bytes& bytes) const {
-        return Judge(m_maker).isNeedless(bytes);
+    [[nodiscard]] bool isDiscardable(const Bytes& bytes) const {
+        return Inspector(m_maker).isDiscardable(bytes);
     }
 
     PacketMaker m_maker{{}};
 };
 
-TEST_F(NeedlessPacket, hasOnlyPicturesMessagesAndFiller) {
-    EXPECT_TRUE(isNeedless(m_maker.needless()));
-    EXPECT_TRUE(isNeedless(m_maker.followedBy({{0x06, 0x80}, {0x0c, 0xff}, {0x01, 0x80}})));
-    EXPECT_FALSE(isNeedless(m_maker.needed()));
-    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x41, 0x80}}))) << "a picture others refer to";
-    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x68, 0x80}}))) << "parameters";
-    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x0b}}))) << "the end of a stream";
-    EXPECT_FALSE(isNeedless({}));
+TEST_F(DiscardablePacket, hasOnlyPicturesMessagesAndFiller) {
+    EXPECT_TRUE(isDiscardable(m_maker.discardable()));
+    EXPECT_TRUE(isDiscardable(m_maker.followedBy({{0x06, 0x80}, {0x0c, 0xff}, {0x01, 0x80}})));
+    EXPECT_FALSE(isDiscardable(m_maker.needed()));
+    EXPECT_FALSE(isDiscardable(m_maker.followedBy({{0x41, 0x80}}))) << "a picture others refer to";
+    EXPECT_FALSE(isDiscardable(m_maker.followedBy({{0x68, 0x80}}))) << "parameters";
+    EXPECT_FALSE(isDiscardable(m_maker.followedBy({{0x0b}}))) << "the end of a stream";
+    EXPECT_FALSE(isDiscardable({}));
 }
 
-TEST_F(NeedlessPacket, isCutOffNowhere) {
-    const Bytes& whole = m_maker.needless();
-    EXPECT_FALSE(isNeedless(Bytes(whole.begin(), whole.end() - 1)));
-    EXPECT_FALSE(isNeedless(Bytes(whole.begin(), whole.begin() + 4)));
+TEST_F(DiscardablePacket, isCutOffNowhere) {
+    const Bytes& whole = m_maker.discardable();
+    EXPECT_FALSE(isDiscardable(Bytes(whole.begin(), whole.end() - 1)));
+    EXPECT_FALSE(isDiscardable(Bytes(whole.begin(), whole.begin() + 4)));
     Bytes bytes = whole;
     bytes.insert(bytes.end(), {0, 0});
-    EXPECT_FALSE(isNeedless(bytes));
+    EXPECT_FALSE(isDiscardable(bytes));
     bytes.insert(bytes.end(), {0, 0});
-    EXPECT_FALSE(isNeedless(bytes)) << "a unit of nothing";
+    EXPECT_FALSE(isDiscardable(bytes)) << "a unit of nothing";
 }
 
 /// Some files state lengths and have start codes all the same, which decoders notice.
-TEST_F(NeedlessPacket, hasLengthsWhereTheStreamSaysSo) {
+TEST_F(DiscardablePacket, hasLengthsWhereTheStreamSaysSo) {
     Bytes bytes{0, 0, 0, 1, 0x09, 0xf0};
     bytes.insert(bytes.end(), m_maker.needed().begin(), m_maker.needed().end());
     std::ranges::copy(Bytes{0, 0, 0, 1}, bytes.begin() + 6);
-    EXPECT_FALSE(isNeedless(bytes));
-    EXPECT_FALSE(isNeedless(m_maker.followedBy({{0x06, 0x80, 0, 0, 1, 0x68, 0xee}})))
+    EXPECT_FALSE(isDiscardable(bytes));
+    EXPECT_FALSE(isDiscardable(m_maker.followedBy({{0x06, 0x80, 0, 0, 1, 0x68, 0xee}})))
         << "parameters inside of a message";
 }
 
-TEST_F(NeedlessPacket, isNotMarkedAsDamaged) {
-    EXPECT_FALSE(Judge(m_maker).isNeedless(m_maker.needless(), AV_PKT_FLAG_CORRUPT));
+TEST_F(DiscardablePacket, isNotMarkedAsDamaged) {
+    EXPECT_FALSE(Inspector(m_maker).isDiscardable(m_maker.discardable(), AV_PKT_FLAG_CORRUPT));
 }
 
 /// Some cameras and recorders send the parameters of pictures along with each of them. The units
@@ -249,65 +249,65 @@ class RepeatedParameters : public testing::TestWithParam<ParameterUnits> {};
 TEST_P(RepeatedParameters, areNotNeededAgain) {
     const ParameterUnits& units = GetParam();
     const PacketMaker maker(units.recipe);
-    Judge judge(maker);
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters}))) << "the first time";
-    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_TRUE(judge.isNeedless(maker.needless()));
-    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters, units.second})));
-    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.second, units.parameters})));
+    Inspector inspector(maker);
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters}))) << "the first time";
+    EXPECT_TRUE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_TRUE(inspector.isDiscardable(maker.discardable()));
+    EXPECT_TRUE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters, units.second})));
+    EXPECT_TRUE(inspector.isDiscardable(maker.precededBy({units.second, units.parameters})));
 }
 
 TEST_P(RepeatedParameters, areNeededAgainAfterOthersOfTheirNumber) {
     const ParameterUnits& units = GetParam();
     const PacketMaker maker(units.recipe);
-    Judge judge(maker);
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.others})));
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
+    Inspector inspector(maker);
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.others})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_TRUE(inspector.isDiscardable(maker.precededBy({units.parameters})));
 }
 
 TEST_P(RepeatedParameters, areNeededAgainAfterWhatTheyBuildOn) {
     const ParameterUnits& units = GetParam();
     const PacketMaker maker(units.recipe);
-    Judge judge(maker);
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.ofSequence})));
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_TRUE(judge.isNeedless(maker.precededBy({units.parameters})));
+    Inspector inspector(maker);
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.ofSequence})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_TRUE(inspector.isDiscardable(maker.precededBy({units.parameters})));
 }
 
 TEST_P(RepeatedParameters, areNeededAgainAfterARestart) {
     const ParameterUnits& units = GetParam();
     const PacketMaker maker(units.recipe);
-    Judge judge(maker);
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
-    judge.restart();
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    Inspector inspector(maker);
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    inspector.restart();
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
 }
 
 TEST_P(RepeatedParameters, areNotKnownFromBehindAPicture) {
     const ParameterUnits& units = GetParam();
     const PacketMaker maker(units.recipe);
-    Judge judge(maker);
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
-    EXPECT_FALSE(judge.isNeedless(maker.followedBy({units.parameters})));
-    EXPECT_FALSE(judge.isNeedless(maker.precededBy({units.parameters})));
+    Inspector inspector(maker);
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.followedBy({units.parameters})));
+    EXPECT_FALSE(inspector.isDiscardable(maker.precededBy({units.parameters})));
 }
 
 TEST_P(RepeatedParameters, areNotKnownFromADamagedPacket) {
     const ParameterUnits& units = GetParam();
     const PacketMaker maker(units.recipe);
-    Judge judge(maker);
+    Inspector inspector(maker);
     const Bytes repeating = maker.precededBy({units.parameters});
-    EXPECT_FALSE(judge.isNeedless(repeating, AV_PKT_FLAG_CORRUPT));
-    EXPECT_FALSE(judge.isNeedless(repeating));
-    EXPECT_TRUE(judge.isNeedless(repeating));
+    EXPECT_FALSE(inspector.isDiscardable(repeating, AV_PKT_FLAG_CORRUPT));
+    EXPECT_FALSE(inspector.isDiscardable(repeating));
+    EXPECT_TRUE(inspector.isDiscardable(repeating));
     if (units.recipe.container == "ts")
         return;
-    EXPECT_FALSE(judge.isNeedless(Bytes(repeating.begin(), repeating.end() - 1)));
-    EXPECT_FALSE(judge.isNeedless(repeating)) << "after one whose lengths are wrong";
+    EXPECT_FALSE(inspector.isDiscardable(Bytes(repeating.begin(), repeating.end() - 1)));
+    EXPECT_FALSE(inspector.isDiscardable(repeating)) << "after one whose lengths are wrong";
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, RepeatedParameters,
