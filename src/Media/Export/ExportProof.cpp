@@ -15,7 +15,7 @@ namespace media {
 
 namespace {
 
-/// Index and edit list round to ticks of their own; seconds.
+/// The sample table and the edit list round to their own time scales; seconds.
 constexpr double kRounding = 0.002;
 
 [[noreturn]] void fail() {
@@ -27,7 +27,7 @@ void require(bool condition) {
         fail();
 }
 
-/// The streams that make tracks; chapters and time codes are none.
+/// The video and audio streams, without chapter and timecode tracks.
 std::vector<AVStream*> mediaStreams(const AVFormatContext& context) {
     std::vector<AVStream*> streams;
     for (AVStream* stream : std::span(context.streams, context.nb_streams)) {
@@ -59,12 +59,12 @@ public:
           m_stop(stop),
           m_detector(*stream.codecpar),
           m_decoder(*stream.codecpar, stream.time_base) {
-        // How smooth the edges of blocks are proves nothing.
+        // Whether a picture decodes does not depend on deblocking.
         m_decoder.context().skip_loop_filter = AVDISCARD_ALL;
     }
 
-    /// Decodes one packet only: of those after it the decoder would want some before it gives out
-    /// a picture.
+    /// Decodes the first packet alone and drains the decoder, which would otherwise take several
+    /// more packets before it returns a picture.
     void checkFirst() {
         require(m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::packet);
         m_decoder.send(m_packet.get());
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    /// Of the pictures from the last key frame on, the one that is shown last.
+    /// The latest pts of the pictures from the last key frame on.
     ffmpeg::Timestamp lastTimestamp() {
         const ffmpeg::Timestamp end(m_stream.start_time + m_stream.duration);
         require(m_demuxer.seek(m_stream.index, end, m_stop));
@@ -111,8 +111,9 @@ private:
 
     bool receive() { return m_decoder.receive(*m_frame) == ffmpeg::Decoder::Status::frame; }
 
-    /// Hands in the next packet; on the way to the picture `wanted` no picture that no other needs.
-    /// False where there is none: then the decoder is being drained.
+    /// Sends the next packet to the decoder, unless no other picture refers to its picture and it
+    /// is not the one with the pts `wanted`. At the end of the file starts to drain the decoder and
+    /// returns false.
     bool feed(ffmpeg::Timestamp wanted) {
         if (m_demuxer.read(*m_packet, m_stop) == ffmpeg::Demuxer::Status::endOfFile) {
             m_decoder.send(nullptr);

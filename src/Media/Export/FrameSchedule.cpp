@@ -15,7 +15,7 @@ constexpr std::int64_t kFinestTimescale = 1'000'000;
 /// The fallback's ticks are those of transport streams, a whole number for the usual frame rates.
 constexpr std::int32_t kFallbackTimescale = 90'000;
 
-/// A picture farther away than this is no neighbour whose fields tell anything.
+/// Pictures farther apart than this do not help to deinterlace each other.
 constexpr Ticks kFarthestNeighbour(Ticks::kPerSecond);
 
 /// A timescale in which both the source's times and cuts at 1/600 s are whole numbers.
@@ -32,7 +32,7 @@ public:
           m_end(track.range.end.ticks()),
           m_timescale(timescaleFor(sourceTimescale)),
           m_duration(track.range.duration().rescaled(m_timescale).value) {
-        // Sources of variable rate may well run faster for a while than they do on average.
+        // A source of variable rate may run faster than its average for a while.
         constexpr double kLeastRate = 60;
         const double rate =
             std::max(kLeastRate, 2 * static_cast<double>(track.source.nominalFrameRate));
@@ -86,13 +86,13 @@ private:
     bool m_isOver = false;
 };
 
-/// The source picture at a tick that never decreases.
+/// Finds the source picture at each of a sequence of ticks that never decrease.
 class PictureSource {
 public:
     PictureSource(VideoReader& reader, FrameSchedule::Neighbours neighbours)
         : m_reader(reader), m_keepsNeighbours(neighbours == FrameSchedule::Neighbours::decoded) {}
 
-    /// Null without any picture.
+    /// The picture at that tick; null if the source has none at all.
     const DecodedFrame* moveTo(Ticks ticks, const std::stop_token& stop) {
         if (!m_keepsNeighbours) {
             m_reader.seek(ticks, stop);
@@ -128,7 +128,7 @@ private:
 
     VideoReader& m_reader;
     bool m_keepsNeighbours;
-    /// Only with neighbours: the following one is the reader's next.
+    /// Used only with neighbours; the following one is the reader's next.
     std::optional<DecodedFrame> m_previous;
     std::optional<DecodedFrame> m_current;
 };

@@ -18,8 +18,8 @@ struct ScheduledFrame {
     std::int64_t duration = 0;
     /// The same source picture as the one before.
     bool isRepeat = false;
-    /// Of interlaced pictures of a constant rate: the pictures before and after in the source;
-    /// null at its ends.
+    /// The source's pictures before and after this one, if they were asked for; null at the ends of
+    /// the source.
     ffmpeg::FramePtr previous;
     ffmpeg::FramePtr following;
 };
@@ -34,8 +34,8 @@ public:
     sourceTiming(VideoReader& reader, const CompositionTrack& track, std::int32_t sourceTimescale);
     enum class Neighbours { none, decoded };
 
-    /// A frame every `frameDuration` from 0, each the source's frame at that time of the range;
-    /// with its neighbours if they are asked for, for which every picture has to be decoded.
+    /// A frame every `frameDuration` from 0, each the source's frame at that time of the range. If
+    /// its neighbours are asked for, every picture has to be decoded.
     static std::unique_ptr<FrameSchedule> constantRate(VideoReader& reader, const TimeRange& range,
                                                        Time frameDuration, Neighbours neighbours);
 

@@ -7,27 +7,27 @@
 
 namespace media::ffmpeg {
 
-/// Collects what a libav encoder is asked for, and opens it only with all of it. This is the one
-/// place where settings become text, the same in every locale. Use from one thread at a
-/// time.
+/// Collects the options of a libav encoder and opens it, but only if it accepts all of them. This
+/// is the one place where settings become text, which is the same in every locale. Use from one
+/// thread at a time.
 class EncoderOptions final {
 public:
-    /// Of an encoder that is not open yet; it must outlive this object.
+    /// `context` is an encoder's that is not open yet; it must outlive this object.
     explicit EncoderOptions(AVCodecContext& context) : m_context(context) {}
 
-    /// An option of libav's part of the encoder. Throws Error if it has none of that name and kind.
+    /// Sets an option of libav's wrapper. Throws Error if it has no integer option of that name.
     void set(const char* name, int value) const;
     /// Throws Error if the encoder does not know it.
     void setPreset(EncoderPreset preset) const;
     /// Throws Error unless it is from 0 to 51.
     void setConstantRateFactor(double factor) const;
 
-    /// Parameters of the encoding library itself. A later one takes the place of one of its name.
+    /// Adds parameters of the encoder library itself. One replaces an earlier one of the same name.
     void add(const EncoderParameter& parameter);
     void addAll(const EncoderParameters& parameters);
 
-    /// Hands the parameters over under `option`, such as "x264-params", and opens the encoder.
-    /// Throws Error, also if the encoder does not take one of them.
+    /// Passes the parameters on in `option`, such as "x264-params", and opens the encoder. Throws
+    /// Error, also if the encoder refuses one of them.
     void open(const char* option) const;
 
 private:
@@ -37,7 +37,7 @@ private:
     EncoderParameters m_parameters;
 };
 
-/// A value as encoders read it: "0.85", "1,1".
+/// A value in the form that encoders read: "0.85", "1,1".
 std::string textOf(const EncoderParameter::Value& value);
 
 } // namespace media::ffmpeg

@@ -18,19 +18,20 @@ namespace media::ffmpeg {
 
 namespace {
 
-/// A container's duration is believed when the last packets end within this many seconds of it.
+/// The container's duration is accepted if the last packets end within this many seconds of it.
 constexpr double kDurationSlack = 0.25;
-/// How far before the claimed end the tail is read.
+/// How far before the stated end reading of the tail begins; seconds.
 constexpr double kTailSeconds = 2;
 
-/// Where packets of each stream end, in container time.
+/// The end of the last packet by stream index, in container time.
 using Ends = std::map<int, Time>;
 
-/// By which part an average has to differ from the rate that prevails; too little to lose a
-/// picture.
+/// The relative difference between the average and the prevailing frame rate from which the latter
+/// is used. A smaller difference loses no picture.
 constexpr double kSmallestDeviation = 0.0025;
 
-/// By a picture, and where that has no fields, as some of a stream that has them, by the container.
+/// The field order of a decoded picture or, since single pictures of an interlaced stream may be
+/// progressive, that of the container.
 AVFieldOrder fieldOrderOf(const AVCodecParameters& parameters, const AVFrame& picture) {
     if (isInterlaced(picture))
         return isTopFieldFirst(picture) ? AV_FIELD_TT : AV_FIELD_BB;
@@ -38,7 +39,8 @@ AVFieldOrder fieldOrderOf(const AVCodecParameters& parameters, const AVFrame& pi
                                                       : parameters.field_order;
 }
 
-/// Where the container's times are not those of presentation: by stream.
+/// The starts of streams whose container states another time than that of presentation, by stream
+/// index.
 using CorrectedStarts = std::map<int, Timestamp>;
 
 /// When a stream is first seen or heard.
@@ -49,8 +51,8 @@ std::optional<Timestamp> presentationStart(const AVStream& stream,
     return Timestamp::stated(stream.start_time);
 }
 
-/// Matroska's times count the samples that an Opus decoder drops at the beginning and a first
-/// packet of Vorbis, of which nothing is heard; those of other containers do not.
+/// Matroska's timestamps include the samples that an Opus decoder drops at the beginning, and the
+/// first packet of Vorbis, which is silent; those of other containers do not.
 CorrectedStarts correctedStarts(const AVFormatContext& context, const FirstPicturesReader* reader) {
     CorrectedStarts starts;
     if (!containerTraits(*context.iformat).countsSoundPriming)
@@ -64,7 +66,8 @@ CorrectedStarts correctedStarts(const AVFormatContext& context, const FirstPictu
         const auto packet = [&](std::size_t number) {
             return reader ? reader->packetTime(stream.index, number) : std::nullopt;
         };
-        // By its first packet: newer releases of libav leave the dropped samples out of the start.
+        // From its first packet: newer releases of libav exclude the dropped samples from the
+        // start.
         if (parameters.codec_id == AV_CODEC_ID_OPUS) {
             starts[stream.index] = packet(0).value_or(*stated).advancedBy(av_rescale_q(
                 parameters.initial_padding, {1, parameters.sample_rate}, stream.time_base));
@@ -102,7 +105,7 @@ std::optional<Time> containerEnd(const AVFormatContext& context) {
     return timeOf(start.advancedBy(context.duration), av_get_time_base_q());
 }
 
-/// The stream's end as the container states it, in container time.
+/// The end of a stream as the container states it, in container time.
 std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& stream) {
     if (stream.duration != AV_NOPTS_VALUE && stream.duration > 0) {
         const Timestamp start = Timestamp::stated(stream.start_time).value_or(Timestamp(0));
@@ -111,7 +114,7 @@ std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& s
     return containerEnd(context);
 }
 
-/// Whether the container's index shows every sample, up to the claimed end, to lie in the file.
+/// Whether by the container's index all samples up to the stated end lie inside the file.
 bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
                      const std::vector<SourceTrack>& tracks) {
     if (!containerTraits(*context.iformat).indexesEverySample)
@@ -128,7 +131,7 @@ bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
     });
 }
 
-/// Reads packets to the end of the file and notes where each stream's end.
+/// Reads packets to the end of the file and notes where each stream ends.
 Ends readEnds(Demuxer& demuxer, const std::stop_token& stop) {
     Ends ends;
     const PacketPtr packet = makePacket();
@@ -191,8 +194,8 @@ Time findDuration(Demuxer& demuxer, const SourceFile& file, const SourceInfo& in
         if (end && latest < *end)
             latest = *end;
     }
-    // A track's own length is a sum of decoding times; where pictures are reordered and of unequal
-    // length only the whole file's is that of their presentation.
+    // A track's duration is a sum of distances between decoding times. With reordered pictures of
+    // unequal length only the duration of the whole file is that of presentation.
     const auto whole = containerEnd(demuxer.context());
     if (isIndexed && whole && latest < *whole && (*whole - latest).seconds() < kDurationSlack)
         latest = *whole;
@@ -216,8 +219,8 @@ void setFrameRate(SourceTrack& track, AVRational rate) {
     track.facts.nominalFrameRate = static_cast<float>(av_q2d(rate));
 }
 
-/// The rate that prevails in a track, where the average over all is another because of gaps. Fields
-/// that come one by one and those that come in pairs are at different distances, but no gaps.
+/// Uses the rate that prevails between the gaps of a track where gaps make the average differ.
+/// Single fields and pairs of fields have different distances too, but those are not gaps.
 void findFrameRate(SourceTrack& track, const SourceInfo& info, Demuxer& demuxer,
                    FirstPicturesReader& reader, const std::stop_token& stop) {
     if (info.pictures) {
@@ -230,12 +233,12 @@ void findFrameRate(SourceTrack& track, const SourceInfo& info, Demuxer& demuxer,
         times = reader.times(stop);
     const auto rate = rateBetweenGaps(std::move(times), track.timeBase);
     const double average = static_cast<double>(track.facts.nominalFrameRate);
-    // Where there is no real difference the container knows better than its rounded times.
+    // Without a real difference the container's rate is more exact than its rounded timestamps.
     if (rate && std::abs(*rate - average) > kSmallestDeviation * *rate)
         track.facts.nominalFrameRate = static_cast<float>(*rate);
 }
 
-/// Time codes stand with the picture, with a track of their own or with the whole file.
+/// The timecode may be in the metadata of the video stream, of a timecode track or of the file.
 std::string findTimecode(const AVFormatContext& context, int pictureStream) {
     const auto of = [](const AVDictionary* metadata) -> std::string {
         const AVDictionaryEntry* entry = av_dict_get(metadata, "timecode", nullptr, 0);

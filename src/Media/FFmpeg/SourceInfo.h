@@ -24,11 +24,11 @@ struct SourceTrack {
     HighDynamicRange dynamicRange;
     DictionaryPtr metadata;
     int disposition = 0;
-    /// The file's pictures come without presentation times: they are taken to be shown one after
-    /// another at their decoding times.
+    /// No packet has a presentation time: pictures are shown one after another, in display order,
+    /// at the decoding times.
     bool lacksPresentationTimes = false;
-    /// Only pictures that others refer to come without a presentation time: theirs is the decoding
-    /// time of the next such picture, which the demuxer can fill in.
+    /// Only reference pictures have no presentation time: it is the decoding time of the next
+    /// reference picture, which the demuxer can fill in.
     bool needsGeneratedTimes = false;
 
     [[nodiscard]] bool isInterlaced() const { return fieldOrder != AV_FIELD_PROGRESSIVE; }
@@ -41,9 +41,9 @@ struct SourceChapter {
 
 /// Everything that opening a file found out. Immutable once made.
 struct SourceInfo {
-    /// Short name of the demuxer, handed to later openings so that nothing is guessed twice.
+    /// The demuxer, passed on when the file is opened again so that it is not probed twice.
     const AVInputFormat* format = nullptr;
-    /// Of a bare bitstream whose pictures can be put in order; null for others.
+    /// For bare bitstreams whose pictures can be put in order; null for other files.
     std::shared_ptr<const PictureIndex> pictures;
     /// The container time that is the asset's time 0.
     Time origin;
@@ -51,7 +51,7 @@ struct SourceInfo {
     std::vector<SourceTrack> tracks;
     DictionaryPtr metadata;
     std::vector<SourceChapter> chapters;
-    /// The label of the first picture, "hh:mm:ss:ff"; empty if the file has no time code.
+    /// The timecode of the first picture, "hh:mm:ss:ff"; empty if the file has none.
     std::string timecode;
 
     /// The track of that stream; aborts if there is none.
