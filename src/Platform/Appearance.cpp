@@ -37,7 +37,7 @@ void setInk(QPalette& palette, const QColor& ink, const QColor& faint) {
 }
 
 QPalette darkPalette() {
-    // Derives the shades of edges from these two.
+    // QPalette derives the shades of edges from these two.
     QPalette palette(QColor(0x38, 0x38, 0x3d), QColor(0x24, 0x24, 0x28));
     setInk(palette, QColor(0xf2, 0xf2, 0xf4), QColor(0x85, 0x85, 0x8c));
     palette.setColor(QPalette::Base, QColor(0x1b, 0x1b, 0x1e));
@@ -56,7 +56,7 @@ QPalette darkPalette() {
 Appearance::Appearance(QDBusConnection bus, QObject* parent)
     : QObject(parent), m_bus(std::move(bus)) {
     verifyMainThread();
-    // Qt finds no slot with a parameter of this type until somebody has used the type.
+    // Without this QtDBus does not find the slot: the type of its parameter is not registered.
     qRegisterMetaType<QDBusVariant>();
     m_bus.connect(QLatin1String(kService), QLatin1String(kPath), QLatin1String(kInterface),
                   QStringLiteral("SettingChanged"), this,
@@ -83,7 +83,7 @@ void Appearance::settingChanged(const QString& group, const QString& key,
     if (group != QLatin1String(kGroup) || key != QLatin1String(kKey))
         return;
     QVariant scheme = value.variant();
-    // An answer to "Read" is wrapped once more than a change is.
+    // The reply to "Read" wraps the value in one variant more than the signal does.
     if (scheme.canConvert<QDBusVariant>())
         scheme = scheme.value<QDBusVariant>().variant();
     apply(scheme.toUInt());

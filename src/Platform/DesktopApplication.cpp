@@ -21,7 +21,7 @@ const QString& interfaceName() {
     return name;
 }
 
-/// How often the owner may change while a request looks for one to take it.
+/// How often a request is sent again because the owner changed meanwhile.
 constexpr int kMostAttempts = 20;
 /// The owner answers from its event loop, which is never busy for anywhere near this long.
 constexpr int kAnswerTimeoutMs = 20000;
@@ -49,7 +49,7 @@ DesktopApplication::~DesktopApplication() {
 DesktopApplication::Role DesktopApplication::claim(const QList<QUrl>& files,
                                                    const QVariantMap& platformData) {
     m_thread.check();
-    // The object stands before the name does, so the first call after that finds it.
+    // The object is registered before the name, so that the first call finds it.
     if (!m_bus.isConnected() || !m_bus.registerObject(m_path, this))
         return Role::alone;
     Answer answer = Answer::gone;
@@ -73,8 +73,8 @@ DesktopApplication::Answer DesktopApplication::handOver(const QList<QUrl>& files
     const QString owner = ownerOfName();
     if (owner.isEmpty())
         return Answer::gone;
-    // To the process and not to the name: what one owner did not take while it ended must not
-    // reach the next one in addition to a second attempt.
+    // Sent to the process, not to the name: a call that an exiting owner did not take must not
+    // reach the next owner as well as the second attempt does.
     QDBusMessage call = QDBusMessage::createMethodCall(owner, m_path, interfaceName(),
                                                        files.isEmpty() ? QStringLiteral("Activate")
                                                                        : QStringLiteral("Open"));
@@ -90,7 +90,8 @@ DesktopApplication::Answer DesktopApplication::handOver(const QList<QUrl>& files
         return Answer::taken;
     if (ownerOfName() != owner)
         return Answer::gone;
-    // An owner that was about to end may have stayed. What got no answer may still be carried out.
+    // An owner that was about to exit may have stayed: a call without an answer may still be
+    // served.
     if (QDBusError(reply).type() == QDBusError::NoReply)
         throwUnanswered();
     return Answer::refused;
@@ -103,12 +104,12 @@ QString DesktopApplication::ownerOfName() const {
 
 void DesktopApplication::release() {
     m_thread.check();
-    // The bus answers after it has passed on everything that was sent to the name before; those
-    // calls wait in the event queue by now.
+    // The bus answers only after it has delivered all calls that were sent to the name, so these
+    // are in the event queue now.
     if (std::exchange(m_isOwner, false))
         m_bus.unregisterService(m_name);
-    // Whoever learned earlier which process has the name calls that one still. The event loop may
-    // deliver such a call after the decision to end, with an answer, and end all the same.
+    // Others that looked the owner up earlier still call this process. Without the object such a
+    // call is refused instead of being answered by a process that exits all the same.
     m_bus.unregisterObject(m_path);
     QCoreApplication::sendPostedEvents(this);
 }

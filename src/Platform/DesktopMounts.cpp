@@ -18,7 +18,7 @@ namespace brisklet {
 
 namespace {
 
-/// The answer, or an error message once the limit is over.
+/// Calls a method; the future gets the reply, or an error message after the time limit.
 QFuture<QDBusMessage> call(QDBusConnection bus, const QDBusMessage& message,
                            std::chrono::milliseconds limit) {
     const auto promise = std::make_shared<QPromise<QDBusMessage>>();
@@ -34,7 +34,7 @@ QFuture<QDBusMessage> call(QDBusConnection bus, const QDBusMessage& message,
 }
 
 QDBusMessage listGvfsMounts() {
-    // A newer method of this interface can leave some out; this one is there in all releases.
+    // All releases have this method, but not the newer ones of this interface.
     return QDBusMessage::createMethodCall(
         QStringLiteral("org.gtk.vfs.Daemon"), QStringLiteral("/org/gtk/vfs/mounttracker"),
         QStringLiteral("org.gtk.vfs.MountTracker"), QStringLiteral("ListMounts"));
@@ -64,7 +64,7 @@ DesktopMounts::DesktopMounts(QDBusConnection bus, Limits limits)
 
 QCoro::Task<std::optional<QUrl>> DesktopMounts::find(QUrl address) {
     verifyMainThread();
-    // Of a file address with the name of another host the desktop knows only the path.
+    // For file URLs with another host's name the desktop only uses the path.
     if (address.scheme() == u"file")
         co_return std::nullopt;
     const QDBusConnection bus = m_bus;

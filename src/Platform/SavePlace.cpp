@@ -17,13 +17,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What the disk knows of a name.
+/// What is known about a file name on disk.
 struct Taken {
     bool exists = false;
     bool isSource = false;
 };
 
-/// Links are followed, and other names of the same file found out.
+/// Follows links, and notices other names of the same file.
 Taken lookAt(const fs::path& file, const fs::path& source) {
     std::error_code ignored;
     return {.exists = fs::exists(fs::symlink_status(file, ignored)),
@@ -34,8 +34,8 @@ bool hasExtension(const fs::path& file, const QString& extension) {
     return displayName(urlOf(file)).endsWith(u'.' + extension, Qt::CaseInsensitive);
 }
 
-/// A name that was typed without the extension gets it, also where another full stop stands in it;
-/// that of another type gives way to it.
+/// Adds the extension to a name that was typed without it, even if the name contains another full
+/// stop; replaces the extension of another file type.
 fs::path withExtension(fs::path file, const SaveProposal& proposal) {
     const std::string extension = '.' + proposal.extension.toStdString();
     if (hasExtension(file, proposal.extension))
