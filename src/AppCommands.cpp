@@ -35,7 +35,7 @@ AppCommands::~AppCommands() = default;
 
 QAction* AppCommands::add(const QString& title, const QKeySequence& key) {
     auto* action = new QAction(title, this);
-    // The keys of a window's commands are for that window alone: not for its dialogs and menus.
+    // The keys work in this window only, not in its dialogs and menus (Qt::WindowShortcut).
     action->setShortcut(key);
     action->setAutoRepeat(false);
     action->setMenuRole(QAction::NoRole);
@@ -71,7 +71,7 @@ void AppCommands::makeFileActions() {
             state->presentExportPanel();
     });
     m_close = add(tr("Close Video"));
-    // The menu shows the first; the second is what desktop programs close a window with.
+    // The menu shows the first; the second is the usual one of the desktop.
     m_close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)});
     connect(m_close, &QAction::triggered, this, &AppCommands::closeWindow);
 }
@@ -91,7 +91,7 @@ void AppCommands::makeClipActions() {
     connect(m_previousFrame, &QAction::triggered, this, [this] { stepFrames(-1); });
     m_nextFrame = add(tr("Next Frame"), QKeySequence(Qt::Key_Right));
     connect(m_nextFrame, &QAction::triggered, this, [this] { stepFrames(1); });
-    // A key held down goes on stepping.
+    // Holding the key down repeats the step.
     m_previousFrame->setAutoRepeat(true);
     m_nextFrame->setAutoRepeat(true);
 

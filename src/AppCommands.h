@@ -17,19 +17,19 @@ class EditState;
 class FocusedValues;
 class Updater;
 
-/// The commands of one menu bar. They act on a focused model, whichever that is at the moment, and
-/// on the window of the menu bar. They keep no state of their own: what is enabled follows that
-/// model at once. Main thread.
+/// The commands of one menu bar. They act on the model that is focused at the moment, and on the
+/// window of the menu bar. They have no state of their own: what is enabled follows the model.
+/// Main thread.
 class AppCommands final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both outlive this. A window gives its menus focused values of their own: assistive
-    /// technology chooses from the menus of any window, and means that one.
+    /// Both outlive this. A window passes focused values of its own, not the program's: assistive
+    /// technology can trigger the menus of a window that is not active, and they act on that one.
     AppCommands(Updater& updater, FocusedValues& focusedValues, QObject* parent = nullptr);
     ~AppCommands() override;
 
-    /// Puts the menus into a menu bar, which must not outlive this.
+    /// Adds the menus to a menu bar, which must not outlive this.
     void fill(QMenuBar& menuBar);
 
 Q_SIGNALS:

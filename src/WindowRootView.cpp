@@ -47,9 +47,9 @@ WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, Q
 }
 
 WindowRootView::~WindowRootView() {
-    // An export may keep the model for a while; this window no longer listens to it.
+    // An export may keep the model alive for a while; this window must not hear of it any more.
     m_state->disconnect(this);
-    // They refer to members, which go before children do.
+    // They refer to members, which are destroyed before child objects.
     delete m_commands;
     if (m_focusedValues.editState() == m_state)
         m_focusedValues.setEditState(nullptr);
@@ -101,7 +101,7 @@ void WindowRootView::appear() {
         m_isForFile = true;
         m_state->load(*url);
     }
-    // Where nothing else has the keyboard this window is about to get it.
+    // If no other window is active, this one is about to be.
     if (!m_focusedValues.editState())
         publish();
 }
@@ -126,7 +126,7 @@ void WindowRootView::followExport() {
         return;
     m_hasAgreedToStop = false;
     delete m_closeQuestion;
-    // Of a failure the user is being told right now.
+    // The alert about a failure is being shown, so the window must stay.
     answer(m_state->errorMessage() ? CloseAnswer::declined : CloseAnswer::exportEnded);
     if (m_closesAfterExport)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
@@ -135,16 +135,17 @@ void WindowRootView::followExport() {
 void WindowRootView::followMessage() {
     if (!m_isForFile || m_state->errorMessage() || !m_state->isEmpty())
         return;
-    // From here on it is an empty window like others.
+    // From now on it is an empty window like any other.
     m_isForFile = false;
-    // The alert that was dismissed is still about to close.
+    // The dismissed alert has not closed yet.
     QMetaObject::invokeMethod(this, &WindowRootView::becameNeedless, Qt::QueuedConnection);
 }
 
 void WindowRootView::closeEvent(QCloseEvent* event) {
     if (!m_state->exportProgress()) {
         event->accept();
-        // It lives until the event loop comes round: long enough for a file to get lost in it.
+        // The window lives until the event loop deletes it; a file must not be loaded into it
+        // meanwhile.
         OpenBridge::unregisterState(*m_state);
         return;
     }

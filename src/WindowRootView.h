@@ -18,18 +18,18 @@ class EditState;
 class RemoteFiles;
 class Updater;
 
-/// One editor window: the menu bar over the content, and a model of its own that lives as long.
-/// Publishes the model to the program while it is the active window, and to its own menus always;
-/// takes files from the open bridge. Asks before it closes while an export runs. Deletes itself
-/// when closed. Main thread.
+/// One editor window: the menu bar, the content, and a model that lives as long as the window.
+/// Publishes the model to the program while it is the active window, and always to its own menus.
+/// Takes files from the open bridge. Asks before it closes during an export. Deletes itself when
+/// closed. Main thread.
 class WindowRootView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// What became of the question whether the running export may be stopped.
+    /// The answer to the question whether the running export may be stopped.
     enum class CloseAnswer {
-        agreed,     ///< The export runs on until the window is closed.
-        declined,   ///< The window stays; also where the export failed, which it now shows.
+        agreed,     ///< The export continues until the window is closed.
+        declined,   ///< The window stays; also if the export failed, which it now shows.
         exportEnded ///< There is nothing left to ask.
     };
 
@@ -41,31 +41,31 @@ public:
 
     [[nodiscard]] ContentView& content() const { return *m_content; }
 
-    /// Who finds files that are not on this computer. To be set before the window is shown.
+    /// What finds files that are not on this computer. To be set before the window is shown.
     void setRemoteFiles(const std::shared_ptr<RemoteFiles>& remoteFiles);
 
-    /// Puts the window over the others and gives it the keyboard, as far as the desktop lets it.
+    /// Raises the window and activates it, as far as the desktop allows.
     void bringToFront();
 
     /// Whether an export runs that the user has not agreed to stop.
     [[nodiscard]] bool mustAskToClose() const;
 
-    /// Asks whether the running export may be stopped, in front of all windows. Does nothing but
-    /// ask; `answered` is called once, later, unless the window goes before. A question that is
-    /// open already serves this one, and its former asker hears nothing.
+    /// Asks the user whether the running export may be stopped, in front of all windows; does not
+    /// stop it. `answered` is called once, later, unless the window is destroyed before. If the
+    /// question is open already, `answered` replaces the callback of the earlier call.
     void askToClose(std::function<void(CloseAnswer)> answered);
 
-    /// The user has to be asked again about an export that they agreed to stop.
+    /// Forgets that the user agreed to stop the running export, so that they are asked again.
     void forgetAgreement() { m_hasAgreedToStop = false; }
 
-    /// Closes without a question; an export is stopped, and the window goes when it has ended.
+    /// Closes without asking. An export is stopped first; the window closes when it has ended.
     void closeNow();
 
 Q_SIGNALS:
     void newWindowRequested();
     void quitRequested();
-    /// The file that this window was opened for could not be, the user has been told, and nothing
-    /// else is in it or on its way.
+    /// The file that this window was opened for could not be opened, the user has dismissed the
+    /// alert, and the window is still empty.
     void becameNeedless();
 
 protected:
@@ -85,18 +85,18 @@ private:
 
     FocusedValues& m_focusedValues;
     std::shared_ptr<EditState> m_state;
-    /// For the commands of its own menus, whichever window is active.
+    /// For the commands of its own menus, which always act on this window.
     FocusedValues m_ownValues;
     AppCommands* m_commands;
     ContentView* m_content;
     QPointer<QMessageBox> m_closeQuestion;
     std::function<void(CloseAnswer)> m_closeAnswered;
     bool m_hasAppeared = false;
-    /// It was opened for a file, of which the user has not yet heard that it can't be opened.
+    /// It was opened for a file, and the user has not yet dismissed an alert about it.
     bool m_isForFile = false;
-    /// To stop the export that runs now.
+    /// To stopping the export that runs now.
     bool m_hasAgreedToStop = false;
-    /// The user wants the window closed as soon as the export has stopped.
+    /// The window is to close as soon as the export has stopped.
     bool m_closesAfterExport = false;
 };
 

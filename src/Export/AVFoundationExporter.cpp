@@ -21,8 +21,8 @@ const char* sentence(AVFoundationExporter::ExportError::Kind kind) {
                                       : "Couldn't create an export session for this video.";
 }
 
-/// The request's range, kept inside the source: the shortest range that the window can set is
-/// longer than some videos.
+/// The request's range, limited to the source: some videos are shorter than the shortest range that
+/// the window can set.
 media::TimeRange rangeOf(const ExportRequest& request, media::Time duration) {
     media::TimeRange range{media::Time::fromSeconds(request.startTime, media::kComparisonTimescale),
                            media::Time::fromSeconds(request.endTime, media::kComparisonTimescale)};
@@ -43,7 +43,7 @@ std::unique_ptr<media::ExportSession> makeSession(media::Composition composition
         return media::ExportSession::make(std::move(composition), pathOf(request.outputURL),
                                           traits(request.format).fileType, request.encoders);
     } catch (const media::Error&) {
-        // Every failure to set up the export has this one message; the cause is kept for a log.
+        // Every failure to set up the export has this one message; the cause is nested for a log.
         std::throw_with_nested(AVFoundationExporter::ExportError(
             AVFoundationExporter::ExportError::Kind::sessionCreationFailed));
     }
@@ -68,13 +68,13 @@ void AVFoundationExporter::run(const ExportRequest& request,
     std::shared_ptr<media::ExportSession> session = makeSession(std::move(toExport), request);
     session->setVideoComposition(rendering);
 
-    // An older file at the output is not removed here: the session replaces it in one step when
-    // the new one is complete, so an export that fails or is cancelled loses nothing.
+    // An older file at the output is not removed here: the session replaces it when the new one is
+    // complete, so nothing is lost if the export fails or is cancelled.
     try {
         const ProgressWatcher watcher(*session, onProgress);
         session->run(stop);
     } catch (const media::Cancelled&) {
-        // Its encoders may be in the middle of a large picture; nobody has to wait for that.
+        // Its encoders may be in the middle of a large picture; the caller need not wait for them.
         startWorker([session = std::move(session)] {});
         throw;
     }
@@ -87,7 +87,7 @@ std::shared_ptr<const media::Asset> AVFoundationExporter::source(const ExportReq
     try {
         return media::Asset::open(pathOf(request.sourceURL), stop);
     } catch (const media::Error& error) {
-        // The other failures of an export speak of the new file.
+        // The message names the source, since other failures of an export are about the new file.
         std::throw_with_nested(media::Error("Couldn't open “" +
                                             displayName(request.sourceURL).toStdString() +
                                             "”: " + error.what()));

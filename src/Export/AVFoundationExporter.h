@@ -12,8 +12,8 @@ namespace brisklet {
 /// Keeps no state between calls. Usable on any thread.
 class AVFoundationExporter final : public ExportBackend {
 public:
-    /// A failure to set up the export. Failures of the source file and of the export itself come
-    /// as media::Error. Not final: a cause can only be nested in what can be derived from.
+    /// A failure to set up the export. Failures of the source file and of the export itself are
+    /// media::Error. Not final, because std::throw_with_nested derives from it.
     class ExportError : public std::runtime_error {
     public:
         enum class Kind { noVideoTrack, sessionCreationFailed };
@@ -30,12 +30,12 @@ public:
     QCoro::Task<> exportVideo(ExportRequest request, ExportProgressHandler onProgress,
                               std::stop_token stop) const override;
 
-    /// The same on the calling thread, which it blocks until the file is complete. An older file
-    /// at the output stays what it was unless the export succeeds.
+    /// The same on the calling thread, which it blocks until the file is complete. An older file at
+    /// the output is left untouched unless the export succeeds.
     static void run(const ExportRequest& request, const ExportProgressHandler& onProgress,
                     const std::stop_token& stop);
 
-    /// The request's asset, or where it has none its source, opened by name on the calling thread.
+    /// The request's asset; if it has none, its source, opened by name on the calling thread.
     /// Throws media::Error, which names the file; media::Cancelled.
     static std::shared_ptr<const media::Asset> source(const ExportRequest& request,
                                                       const std::stop_token& stop);
@@ -45,13 +45,13 @@ public:
     static media::Composition composition(std::shared_ptr<const media::Asset> asset,
                                           const ExportRequest& request);
 
-    /// How the pictures have to be rendered; none where they stay as they are.
+    /// How the pictures are to be rendered; none if they stay as they are.
     static std::optional<media::VideoComposition> videoComposition(const media::AssetTrack& source,
                                                                    const ExportRequest& request);
 
     /// One transform, render size and frame duration for a turn (clockwise degrees), a crop
     /// (fractions of the turned picture) and a cap of the short edge (pixels). Never enlarges; the
-    /// render size is even, rounded down. A frame rate that is no finite number ends the program.
+    /// render size is even, rounded down. A frame rate that is not finite ends the program.
     static media::VideoComposition
     transformComposition(const media::AssetTrack& source, int rotation,
                          const std::optional<media::Rect>& normalizedCrop,

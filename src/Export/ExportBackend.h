@@ -9,8 +9,8 @@
 
 namespace brisklet {
 
-/// Hears the fraction done, 0 to 1, about ten times a second. Called on a thread of its own, never
-/// on the main thread, and not any more once the export has ended.
+/// Called with the fraction done, 0 to 1, about ten times a second, on a thread of its own, never
+/// on the main thread. Not called any more once the export has ended.
 using ExportProgressHandler = std::function<void(double fraction)>;
 
 /// An engine that turns a request into a file.

@@ -17,8 +17,8 @@ using media::Size;
 
 constexpr float kFallbackFrameRate = 30;
 
-/// The picture on its way to the canvas: what has been done to the natural frame so far, and the
-/// size of the picture that gives, its corner at the origin.
+/// The picture on its way to the canvas: the transform of the natural frame so far, and the size of
+/// the transformed picture, whose corner is at the origin.
 struct Placement {
     AffineTransform transform;
     Size size;
@@ -68,7 +68,7 @@ void cap(Placement& picture, int maxShortEdge) {
         picture.append(AffineTransform::scale(scale, scale), {width * scale, height * scale});
 }
 
-/// Even, rounded down, at least 2. At most one pixel is cut off by it.
+/// Even, rounded down, at least 2. Cuts off at most one pixel.
 int renderLength(double length) {
     constexpr double kLargest = std::numeric_limits<int>::max() - 1;
     return static_cast<int>(std::min(std::max(2.0, 2 * std::floor(length * 0.5)), kLargest));
@@ -79,8 +79,7 @@ media::Time frameDuration(float nominalFrameRate) {
     constexpr auto kLimit = static_cast<float>(std::numeric_limits<std::int32_t>::max());
     if (!std::isfinite(rate) || rate >= kLimit)
         qFatal("A frame rate of %g cannot be exported", static_cast<double>(nominalFrameRate));
-    // Less than half a frame a second rounds to none at all, and a canvas without a frame rate
-    // cannot be filled.
+    // A rate below half a frame per second rounds to 0, which is no frame rate.
     return {1, std::max<std::int32_t>(1, static_cast<std::int32_t>(rate))};
 }
 

@@ -21,7 +21,7 @@ void watch(const std::stop_token& stop, const media::ExportSession& session,
     while (!stop.stop_requested()) {
         if (session.state() == media::ExportSession::State::exporting)
             onProgress(session.progress());
-        // Ends the wait at once when the watcher is stopped, and otherwise when the time is up.
+        // Waits for the interval, or until the watcher is stopped.
         wakeUp.wait_for(lock, stop, kUpdateInterval, [] { return false; });
     }
 }

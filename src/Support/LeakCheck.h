@@ -6,9 +6,9 @@
 
 namespace brisklet {
 
-/// In a build with the address sanitizer: looks for leaks now and not at the end of the process,
-/// and ends it where there are some. To be called last in main(). Later Qt's own threads are on
-/// their way out, and what such a thread still holds for a moment is taken for lost.
+/// In a build with the address sanitizer: checks for leaks now instead of at the end of the
+/// process, and ends the process if there are any. To be called last in main(). Later, while Qt's
+/// own threads are ending, memory that they still hold would be reported as leaked.
 inline void checkForLeaks() {
 #if defined(__SANITIZE_ADDRESS__)
     __lsan_do_leak_check();

@@ -21,8 +21,8 @@ void verifyMainThread(const media::SourceLocation& where) {
 }
 
 void postToMainThread(std::function<void()> work) {
-    // The application object stands for its thread: it outlives every window, and the events of a
-    // destroyed receiver are dropped by Qt. Workers end before it does (exitStatusAfterWorkers()).
+    // The application object lives on the main thread and outlives every window; Qt drops events
+    // for a destroyed receiver. Workers end before it does (exitStatusAfterWorkers()).
     if (QCoreApplication* application = QCoreApplication::instance())
         QMetaObject::invokeMethod(application, std::move(work), Qt::QueuedConnection);
 }

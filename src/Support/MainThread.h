@@ -13,9 +13,9 @@ bool isMainThread();
 /// Classes whose comment says "main thread" call it first in the operations that change them.
 void verifyMainThread(const media::SourceLocation& where = media::SourceLocation::current());
 
-/// Runs `work` on the main thread at a later turn of its event loop, in the order given. Callable
-/// from any thread; what comes while the application is being taken down is dropped. Also serves
-/// as the executor of media players.
+/// Runs `work` on the main thread at a later turn of its event loop, in the order of the calls.
+/// Callable from any thread; dropped while the application is being destroyed. Also the executor of
+/// media players.
 void postToMainThread(std::function<void()> work);
 
 } // namespace brisklet

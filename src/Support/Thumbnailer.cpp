@@ -15,8 +15,7 @@ namespace brisklet::Thumbnailer {
 namespace {
 
 constexpr int kMaximumHeight = 120;
-/// How far an image may lie from the middle of its slice; in short videos it stays within the
-/// slice.
+/// How far an image may be from the middle of its slice; in short videos it stays within the slice.
 constexpr double kToleranceSeconds = 0.5;
 
 /// How long one image may take before the strips of other videos no longer wait for it. An image of
@@ -67,7 +66,7 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
             lease->renew();
         }
     } catch (const std::exception&) {
-        // No generator, no images: the timeline does without.
+        // Without a generator there are no images; the timeline shows a placeholder.
         return images;
     }
     return images;

@@ -9,8 +9,8 @@ namespace brisklet {
 
 namespace {
 
-/// 0 to 60 with two digits before the full stop and one after it, in every locale. A number in the
-/// middle of two goes to the even one, as C's own formatting has it and Qt's has not.
+/// 0 to 60 with two digits before the decimal point and one after it, in every locale. Ties round
+/// to even, as in C's own formatting but not in Qt's.
 QString inTenths(double seconds) {
     std::array<char, 16> text{};
     const auto end =

@@ -12,8 +12,8 @@ namespace {
 /// Encoders in the middle of a large picture take a second or two.
 constexpr std::chrono::seconds kLongestWindingDown(3);
 
-/// Not Qt's global pool: that one has a thread per processor, which two exports would keep busy
-/// while every other window waits.
+/// Not Qt's global pool, which has one thread per processor: two exports could occupy it while
+/// every other window waits.
 QThreadPool& pool() {
     static QThreadPool* const workers = [] {
         auto* created = new QThreadPool;
@@ -37,7 +37,7 @@ bool waitForWorkers(std::optional<std::chrono::milliseconds> limit) {
 int exitStatusAfterWorkers(int status) {
     if (!waitForWorkers(kLongestWindingDown)) {
         std::fflush(nullptr);
-        // Nothing that such a worker may still use can be destroyed.
+        // Without destructors: a worker may still use any object.
         std::_Exit(status);
     }
     return status;

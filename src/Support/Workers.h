@@ -16,12 +16,12 @@
 
 namespace brisklet {
 
-/// Starts `work` on a thread of its own choosing, at once: however many long jobs run already, a
-/// short one never waits behind them.
+/// Starts `work` on a thread of a pool at once: the pool grows as needed, so that a short job never
+/// waits for long ones.
 void startWorker(std::function<void()> work);
 
-/// Blocks until every worker has ended; false if some have not within the limit. The program calls
-/// it once its last window is gone, so that no worker outlives the application object.
+/// Blocks until every worker has ended; false if some still run at the limit. The program calls it
+/// after its last window has closed, so that no worker outlives the application object.
 bool waitForWorkers(std::optional<std::chrono::milliseconds> limit = std::nullopt);
 
 /// Waits a few seconds for workers that have been told to stop, and returns `status` for main() to
@@ -32,8 +32,8 @@ int exitStatusAfterWorkers(int status);
 
 namespace detail {
 
-/// What a worker leaves for the coroutine that awaits it. Exceptions are carried beside the
-/// future: QFuture itself keeps the type of only those that derive from QException.
+/// The result of a worker, for the coroutine that awaits it. Exceptions are stored beside the
+/// future, since QFuture keeps the type only of those that derive from QException.
 template<typename Result>
 struct Outcome {
     std::conditional_t<std::is_void_v<Result>, std::optional<bool>, std::optional<Result>> value;
@@ -44,8 +44,8 @@ struct Outcome {
 template<typename Result>
 QCoro::Task<Result> await(std::shared_ptr<Outcome<Result>> outcome) {
     QFuture<void> finished = outcome->promise.future();
-    // Even work that is done already is awaited through the event loop: whoever starts an operation
-    // goes on before any of its effects.
+    // Work that is already done is awaited through the event loop too: no effect of an operation
+    // comes before the call that starts it has returned.
     co_await QCoro::sleepFor(std::chrono::milliseconds(0));
     co_await finished;
     if (outcome->error)

@@ -23,8 +23,8 @@ constexpr qreal kDragFrameInset = 4;
 constexpr qreal kDragFrameRadius = 10;
 constexpr qreal kDragFrameWidth = 3;
 
-/// What a sandboxed application offers instead of names: the key of a transfer that the document
-/// portal keeps. The second is the name that older toolkits use for the same.
+/// What a sandboxed application offers instead of file names: the key of a transfer in the document
+/// portal. The second MIME type is the one that older toolkits use for it.
 QByteArray transferKey(const QMimeData& data) {
     for (const QString& type : {QStringLiteral("application/vnd.portal.filetransfer"),
                                 QStringLiteral("application/vnd.portal.files")}) {
@@ -46,7 +46,7 @@ ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
       m_dropZone(new DropZoneView(m_state)),
       m_editor(new EditorView(m_state)) {
     setAcceptDrops(true);
-    // One of them has the keyboard while no control has.
+    // One of them has the focus while no control has.
     m_dropZone->setAccessibleName(tr("Drop zone"));
     m_editor->setAccessibleName(tr("Editor"));
     for (QWidget* face : std::initializer_list<QWidget*>{m_dropZone, m_editor}) {
@@ -60,7 +60,7 @@ ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
 }
 
 ContentView::~ContentView() {
-    // An export may keep the model for a while; this view no longer listens to it.
+    // An export may keep the model alive for a while; this view must not hear of it any more.
     m_state->disconnect(this);
 }
 
@@ -84,7 +84,7 @@ void ContentView::showFace() {
     if (m_faces->currentWidget() == face)
         return;
     m_faces->setCurrentWidget(face);
-    // No control has the keyboard until the user gives it to one: keys are the window's.
+    // No control has the focus until the user gives it to one, so keys go to the window.
     face->setFocus(Qt::OtherFocusReason);
 }
 
@@ -113,7 +113,7 @@ void ContentView::showError() {
     if (!m_alert) {
         m_alert = new ErrorAlert(this);
         connect(m_alert, &QDialog::finished, this, [this] {
-            // It is about to be deleted, and the next message needs one of its own.
+            // It is about to be deleted, so the next message needs an alert of its own.
             m_alert.clear();
             m_state->clearErrorMessage();
         });
@@ -129,14 +129,14 @@ void ContentView::showEvent(QShowEvent* event) {
         handle->installEventFilter(this);
 }
 
-/// A file may fail before the window manager has found a place for its window. An alert is put over
-/// where its window is at that moment.
+/// Loading may fail before the window manager has placed the window. An alert is placed over its
+/// window when it opens, so it waits for that.
 bool ContentView::eventFilter(QObject* watched, QEvent* event) {
     const auto* window = qobject_cast<QWindow*>(watched);
     if (event->type() == QEvent::Expose && window != nullptr && window->isExposed()) {
         watched->removeEventFilter(this);
         m_isPlaced = true;
-        // Once the window knows of its place itself.
+        // At a later turn of the event loop the window knows its own position.
         QMetaObject::invokeMethod(this, &ContentView::showError, Qt::QueuedConnection);
     }
     return QWidget::eventFilter(watched, event);
@@ -155,7 +155,7 @@ void ContentView::setDragOver(bool isDragOver) {
 void ContentView::dragEnterEvent(QDragEnterEvent* event) {
     if (!isDroppable(*event->mimeData()))
         return;
-    // Whatever the other side proposes, its file stays where it is.
+    // Whatever action the source proposes, its file must not be moved.
     event->setDropAction(Qt::CopyAction);
     event->accept();
     setDragOver(true);
@@ -175,7 +175,7 @@ void ContentView::dropEvent(QDropEvent* event) {
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    // The names that a sandboxed application knows its files by may mean nothing outside.
+    // The paths that a sandboxed application uses may not exist outside its sandbox.
     if (!key.isEmpty())
         loadTransferred(key);
     else

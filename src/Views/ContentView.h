@@ -17,15 +17,15 @@ class EditState;
 class ErrorAlert;
 class ExportProgressView;
 
-/// All that one editor window contains: the drop zone while it is empty, else the editor. Takes
-/// dropped files on either, shows the model's error message as an alert and a running export as a
-/// sheet. Main thread.
+/// The content of one editor window: the drop zone while it is empty, otherwise the editor. Accepts
+/// dropped files on either, and shows the model's error message as an alert and a running export as
+/// a sheet. Main thread.
 class ContentView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Asks the desktop for the files behind the key of a transfer that a sandboxed application
-    /// began, and calls `done` with them, or with none, on the main thread, now or later.
+    /// Asks the desktop for the files of a transfer that a sandboxed application has begun, by the
+    /// key of the transfer. Calls `done` with them, or with none, on the main thread, now or later.
     using FileTransfer =
         std::function<void(const QByteArray& key, std::function<void(const QList<QUrl>&)> done)>;
 
@@ -34,12 +34,12 @@ public:
 
     [[nodiscard]] const std::shared_ptr<EditState>& state() const { return m_state; }
 
-    /// Without one, drops that carry only such a key are refused.
+    /// Without it, drops that carry only such a key are refused.
     void setFileTransfer(FileTransfer transfer) { m_fileTransfer = std::move(transfer); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// While an export or an alert keeps the window: the sheet or alert over it, else null.
+    /// The sheet or alert that blocks the window during an export or an error, otherwise null.
     [[nodiscard]] QWidget* attachedSheet() const;
 
 protected:
@@ -68,7 +68,7 @@ private:
     QPointer<ExportProgressView> m_exportSheet;
     QPointer<ErrorAlert> m_alert;
     bool m_isDragOver = false;
-    /// The window has been on the screen: before that nobody knows where it will be.
+    /// The window has been on the screen; before that its position is unknown.
     bool m_isPlaced = false;
 };
 

@@ -29,7 +29,7 @@ constexpr float kLitOpacity = 0.08F;
 
 QPen borderPen(const QColor& color) {
     QPen pen(color, kBorderWidth, Qt::CustomDashLine, Qt::FlatCap, Qt::MiterJoin);
-    // A pen counts its dashes in widths.
+    // A pen measures dashes in units of its width.
     pen.setDashPattern({kDash / kBorderWidth, kDash / kBorderWidth});
     return pen;
 }

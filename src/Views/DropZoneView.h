@@ -11,7 +11,7 @@ namespace brisklet {
 class EditState;
 class SymbolView;
 
-/// What an empty window shows: the invitation to drop a video, and a button to open one. Lights up
+/// What an empty window shows: an invitation to drop a video, and a button to open one. Highlighted
 /// while something that can be dropped is over the window. Main thread.
 class DropZoneView final : public QWidget {
     Q_OBJECT

@@ -47,7 +47,7 @@ void EditorView::resizeEvent(QResizeEvent* event) {
     m_videoArea->setGeometry(kPadding, kPadding, rowWidth,
                              std::max(0, timelineTop - kSpacing - kPadding));
     m_timeline->setGeometry(kPadding, timelineTop, rowWidth, timelineHeight);
-    // The frames of the buttons align with the rows above, not what lights up around them.
+    // The frames of the buttons align with the rows above, not their highlights.
     const int inset = ControlsView::leftInset();
     m_controls->setGeometry(kPadding - inset, controlsTop, rowWidth + inset, controlsHeight);
 }

@@ -15,12 +15,12 @@ namespace {
 constexpr int kSymbolSide = 36;
 constexpr int kSpacing = 12;
 constexpr int kPadding = 24;
-/// Of the message, points: about sixty letters to the line.
+/// Of the message, points: about sixty letters per line.
 constexpr int kTextWidth = 340;
 constexpr int kButtonWidth = 96;
 
-/// The same text, but with places to break a line inside words of more than a line's length: the
-/// name of a file can have 255 letters and no space.
+/// The same text with places for line breaks inside words that are longer than a line: a file name
+/// can have 255 letters and no space.
 QString withBreaksInLongWords(const QString& text) {
     constexpr int kLongestWord = 40;
     QString result;

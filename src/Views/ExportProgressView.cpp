@@ -23,7 +23,7 @@ constexpr int kBarSteps = 1000;
 } // namespace
 
 ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* window)
-    // Without a close button: what it would do is what the button in the sheet says.
+    // Without a close button: only the Cancel button ends the export.
     : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
       m_title(new QLabel(tr("Exporting…"))),
       m_bar(new QProgressBar) {

@@ -11,9 +11,9 @@ namespace brisklet {
 
 class EditState;
 
-/// The sheet over a window whose model exports: how far it is, and a button that cancels. Modal to
-/// its window. Nothing that the user does closes it: it goes away when the export has really
-/// ended. Main thread.
+/// The sheet over a window during an export: a progress bar, and a button that cancels. Modal to
+/// its window. The user cannot close it: it closes when the export has ended, also after a
+/// cancellation. Main thread.
 class ExportProgressView final : public QDialog {
     Q_OBJECT
 

@@ -4,13 +4,13 @@
 
 namespace brisklet {
 
-/// Whether a focus of this reason was brought by the keyboard, and so is to be shown.
+/// Whether a focus with this reason came by the keyboard, and so is to be shown.
 inline bool isKeyboardFocus(Qt::FocusReason reason) {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
            reason == Qt::ShortcutFocusReason;
 }
 
-/// Whether the focus goes to another window or to a menu for a while, or comes back from there: it
+/// Whether the focus moves to another window or a menu for a while, or comes back from there: it
 /// stays as visible as it was.
 inline bool isPassingFocus(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||

@@ -9,7 +9,8 @@ namespace brisklet {
 
 namespace {
 
-/// From the turned picture's own square to the picture: the quarter turn with its corner put back.
+/// The rotation by quarter turns about the origin, shifted so that the picture is at the origin
+/// again.
 QTransform quarterTurn(QSize image, int rotation) {
     switch ((rotation % 360 + 360) % 360) {
     case 90:

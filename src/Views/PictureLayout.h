@@ -6,9 +6,9 @@
 
 namespace brisklet {
 
-/// Where a picture of `image` pixels, turned clockwise by `rotation` degrees, lies inside `view`,
-/// all in device pixels: as large as fits, centred, on whole pixels. A picture that fits already
-/// to within the rounding of its own size keeps it, so that nothing is resampled for a fraction
+/// Where a picture of `image` pixels, rotated clockwise by `rotation` degrees, is inside `view`,
+/// all in device pixels: as large as fits, centred, on whole pixels. A picture whose size differs
+/// from the fitted one only by rounding keeps its size, so that it is not resampled for a fraction
 /// of a pixel.
 struct PictureLayout {
     QRect rect;

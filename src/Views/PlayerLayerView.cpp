@@ -31,7 +31,7 @@ public:
             inbox->newest = frame.image;
             isUpdateAsked = std::exchange(inbox->isUpdateAsked, true);
         }
-        // However many frames arrive before the main thread comes round, it takes the newest once.
+        // However many frames arrive before the main thread runs again, it takes only the newest.
         if (!isUpdateAsked)
             QMetaObject::invokeMethod(&m_view, &PlayerLayerView::takeFrame, Qt::QueuedConnection);
     }
@@ -97,12 +97,12 @@ void PlayerLayerView::takeFrame() {
 }
 
 void PlayerLayerView::paintEvent(QPaintEvent* /*event*/) {
-    // A window that moves to a screen of another density is only painted anew.
+    // A window that moves to a screen of another density gets only a paint event.
     announceSize();
     if (m_image.isNull())
         return;
     QPainter painter(this);
-    // The layout is made in the pixels of the screen, so that the picture's own pixels meet them.
+    // Computed in device pixels, so that the picture's own pixels coincide with them.
     const QTransform toDevice = painter.deviceTransform();
     const QRect view = toDevice.mapRect(QRectF(rect())).toRect();
     const auto layout = PictureLayout::fit(m_image.size(), m_rotation, view);

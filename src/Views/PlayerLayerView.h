@@ -12,11 +12,12 @@ struct TimedImage;
 
 namespace brisklet {
 
-/// Shows the current frame of one player: whole, centred, never stretched; and nothing but the
-/// frame, so what lies behind shows in the bars beside it. Each pixel that the player delivers is
-/// one pixel of the screen unless the picture is smaller than the view.
+/// Shows the current frame of one player: whole, centred, never stretched. Paints nothing else, so
+/// what is behind shows beside the frame. Each pixel that the player delivers is one pixel of the
+/// screen unless the picture is smaller than the view.
 ///
-/// Main thread, but for present(). Keeps the player it shows alive; a player is shown by one view.
+/// Main thread, except for present(). Keeps the player it shows alive; a player is shown by one
+/// view.
 class PlayerLayerView final : public QWidget {
     Q_OBJECT
 
@@ -29,7 +30,7 @@ public:
     /// null shows nothing.
     void setPlayer(std::shared_ptr<media::Player> player);
 
-    /// Turns the picture clockwise by quarter turns, in degrees. The player does not hear of it.
+    /// Rotates the picture clockwise, by a multiple of 90 degrees. Does not affect the player.
     [[nodiscard]] int rotation() const { return m_rotation; }
 
     void setRotation(int degrees);

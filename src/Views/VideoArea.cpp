@@ -18,11 +18,11 @@ namespace {
 constexpr int kCornerRadius = 8;
 constexpr int kCropHandleSize = 12;
 
-/// Covers what of a corner lies outside the rounding, with the colour of the window: cheaper than
+/// Covers the part of a corner outside the rounding with the colour of the window. Cheaper than
 /// clipping each frame of the video.
 class Corner final : public QWidget {
 public:
-    /// `center` is where in the widget the rounding has its centre.
+    /// `center` is the centre of the rounding, in the coordinates of this widget.
     Corner(QPoint center, QWidget* parent) : QWidget(parent), m_center(center) {
         setFixedSize(kCornerRadius, kCornerRadius);
         setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -87,7 +87,7 @@ void VideoArea::resizeEvent(QResizeEvent* event) {
     layOut();
 }
 
-/// An empty window makes no player.
+/// Asks for the player only once there is a video: asking for it creates it.
 void VideoArea::showPlayer() {
     if (m_state->videoURL())
         m_player->setPlayer(m_state->playerController().player());
@@ -99,7 +99,7 @@ void VideoArea::showRotation() {
 }
 
 void VideoArea::layOut() {
-    // The player stands on whole points; the overlay goes by where the picture really is.
+    // The player is on whole points, and the overlay uses the same rectangle.
     const QRect picture = onWholePoints(fittedPicture(m_state->rotatedDisplaySize(), size()));
     m_player->setGeometry(picture);
     m_cropOverlay->setGeometry(rect());

@@ -14,8 +14,8 @@ class CropOverlayView;
 class EditState;
 class PlayerContainerView;
 
-/// Where a picture of `picture` pixels stands in an area of `area` points: whole, centred, as large
-/// as possible. A picture of unknown size (0 × 0) stands as 16:9.
+/// Where a picture of `picture` pixels is in an area of `area` points: whole, centred, as large as
+/// possible. A picture of unknown size (0 × 0) counts as 16:9.
 QRectF fittedPicture(media::Size picture, QSizeF area);
 
 /// The picture on black with round corners, and the crop over it. Main thread.

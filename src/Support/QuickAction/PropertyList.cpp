@@ -8,7 +8,7 @@ QString element(const QString& name, const QString& content) {
     return u'<' + name + u'>' + content + QStringLiteral("</") + name + u'>';
 }
 
-/// The quotation mark stands for itself between tags.
+/// The quotation mark needs no escape between tags.
 QString escaped(QStringView text) {
     QString result;
     for (const QChar letter : text) {

@@ -6,9 +6,9 @@
 
 namespace brisklet {
 
-/// Writes an XML property list as text in the standard layout: one element a line, a tab for each
-/// level below the root dictionary, keys in the order in which they are written. The calls are the
-/// document: every value inside a dictionary follows a call of key(). Usable on any thread.
+/// Writes an XML property list as text in the standard layout: one element per line, a tab for each
+/// level below the root dictionary, keys in the order of the calls. Inside a dictionary a call of
+/// key() precedes each value. Usable on any thread.
 class PropertyList final {
 public:
     /// Opens the document and its root dictionary.
@@ -28,7 +28,7 @@ public:
     /// An array of this one string.
     PropertyList& singleString(QStringView value);
 
-    /// Closes the root dictionary and gives the document; no line feed follows its last line.
+    /// Closes the root dictionary and returns the document, without a line feed at its end.
     [[nodiscard]] QString finish();
 
 private:

@@ -37,7 +37,7 @@ void writeText(const fs::path& path, const QString& text) {
         fail("written", path, file.errorString().toStdString());
 }
 
-/// The program's own icon in the bundle's format; empty where it is installed without one.
+/// The program's own icon in the bundle's format; empty if it is not installed.
 fs::path programIcon() {
     const QString found = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
                                                  QStringLiteral("brisklet/AppIcon.icns"));

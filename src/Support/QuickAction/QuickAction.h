@@ -18,27 +18,27 @@ public:
 
     QuickAction();
 
-    /// Whether the bundle is believed to exist. Follows this program's own steps from then on.
+    /// Whether the bundle exists, as found on first use and changed by this program since.
     [[nodiscard]] bool isInstalled() const { return m_isInstalled; }
 
     void setInstalled(bool installed) { m_isInstalled = installed; }
 
-    /// Where the bundle stands: Library/Services in the user's home. Computed once.
+    /// The path of the bundle: in Library/Services in the user's home. Computed once.
     static const std::filesystem::path& workflowPath();
 
-    /// Writes the whole bundle in the place of whatever is there. Throws std::runtime_error with a
-    /// sentence for the user; a part of the bundle may remain then.
+    /// Writes the whole bundle and replaces an older one. Throws std::runtime_error with a sentence
+    /// for the user; a part of the bundle may remain then.
     static void writeWorkflow(const std::filesystem::path& to);
 
-    /// Writes the bundle to its place, tells the system, and isInstalled() holds. Throws as
-    /// writeWorkflow() does, changing nothing else.
+    /// Writes the bundle to its path, refreshes the system's services, and sets isInstalled().
+    /// Throws as writeWorkflow() does, and changes nothing else then.
     void install();
 
-    /// Removes the bundle, tells the system, and isInstalled() is over. Throws std::runtime_error
-    /// where the bundle cannot be removed, also because it is gone, and changes nothing then.
+    /// Removes the bundle, refreshes the system's services, and clears isInstalled(). Throws
+    /// std::runtime_error if the bundle cannot be removed or does not exist; changes nothing then.
     void uninstall();
 
-    /// Has the system read its services anew. Neither waits nor reports.
+    /// Makes the system read its services again. Does not wait, and reports no failure.
     static void refreshServicesRegistry();
 
 Q_SIGNALS:

@@ -23,11 +23,11 @@ struct ScrubFigures {
 };
 
 struct DragFigures {
-    /// Exact frames that were shown, and all seeks.
+    /// How many exact frames were shown, and how many seeks there were.
     std::uint64_t exact = 0;
     std::uint64_t seeks = 0;
-    /// The longest that the main thread's event loop did not come round, milliseconds: in all, and
-    /// of that what the thread itself ran.
+    /// The longest time that the main thread's event loop was blocked, and the longest processor
+    /// time of the thread in one turn; milliseconds.
     double longestBlock = 0;
     double longestOwnBlock = 0;
     /// Of the whole process.
@@ -46,9 +46,9 @@ struct PlayFigures {
 
 struct WindowsFigures {
     std::uint64_t windows = 0;
-    /// Exact frames shown in all of them.
+    /// How many exact frames were shown in all of them.
     std::uint64_t exact = 0;
-    /// Of the whole process: with all files open, and in the end.
+    /// Of the whole process: with all files open, and at the end.
     double openedMiB = 0;
     double peakMiB = 0;
 };
@@ -68,15 +68,15 @@ ScrubFigures step(const std::filesystem::path& source, double from, int count, Q
 /// Seeks the player of a window to one time after another, 60 each second, as a drag does.
 DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times);
 
-/// Opens each file in a window of its own, and then drags in one window after the other as above.
+/// Opens each file in a window of its own, then drags in one window after the other as drag() does.
 WindowsFigures windows(const std::vector<std::filesystem::path>& sources,
                        const std::vector<double>& times);
 
 /// Milliseconds from telling a window to open the file until its first frame has been painted.
 double open(const std::filesystem::path& source);
 
-/// Plays the file in a window for that many seconds, or to its end, after those that may have been
-/// decoded before.
+/// Plays the file in a window for that many seconds, or to its end. The seconds that may have been
+/// decoded before playing began are played first and not counted.
 PlayFigures play(const std::filesystem::path& source, double seconds);
 
 /// Milliseconds from `start` until the program's empty window has been painted.

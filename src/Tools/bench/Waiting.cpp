@@ -18,7 +18,7 @@ constexpr std::chrono::minutes kDeadline(5);
 
 void waitUntil(const std::function<bool()>& isDone) {
     const auto deadline = Clock::now() + kDeadline;
-    // Wakes the loop now and then, so that the deadline holds even when nothing happens.
+    // Wakes the loop every second, so that the deadline holds even when no event arrives.
     QTimer ticks;
     ticks.start(std::chrono::seconds(1));
     while (!isDone()) {
@@ -40,7 +40,7 @@ PaintWatch::~PaintWatch() {
 bool PaintWatch::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Paint)
         return false;
-    // Painted here, so that what is measured includes it; the event is then used up.
+    // Paints here, so that the measured time includes painting, and consumes the event.
     watched->removeEventFilter(this);
     watched->event(event);
     watched->installEventFilter(this);

@@ -7,8 +7,8 @@
 
 namespace brisklet::bench {
 
-/// Runs the event loop until `isDone`, which is asked after every turn. Throws BenchmarkError when
-/// that takes absurdly long.
+/// Runs the event loop until `isDone` returns true; checks it after every turn. Throws
+/// BenchmarkError after five minutes.
 void waitUntil(const std::function<bool()>& isDone);
 
 /// Calls a function after each painting of one widget.

@@ -24,7 +24,7 @@ using namespace brisklet::bench;
 
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
-/// The picture's share of a new window.
+/// The size of the picture in a new window.
 constexpr QSize kUsualSize(960, 540);
 constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [--size WxH]\n"
                                "       brisklet-bench step SOURCE SECONDS COUNT [--size WxH]\n"

@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] std::optional<std::string> value(std::string_view option) const;
 
-    /// The value as a finite number or a whole number. Throws UsageError if it is none.
+    /// The value as a finite number or an integer. Throws UsageError if it is not one.
     [[nodiscard]] std::optional<double> number(std::string_view option) const;
     [[nodiscard]] std::optional<int> integer(std::string_view option) const;
 
@@ -41,7 +41,7 @@ private:
     std::map<std::string, std::string, std::less<>> m_values;
 };
 
-/// The finite number that is all of `text`, a full stop before its decimals whatever the locale.
+/// `text` as a finite number, with a decimal point in every locale; none if it is not one.
 std::optional<double> parseNumber(std::string_view text);
 
 } // namespace brisklet::cli

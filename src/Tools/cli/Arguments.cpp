@@ -31,8 +31,8 @@ void expectOperands(const ArgumentList& list, std::size_t count, const char* nam
         throw UsageError("a name is empty");
 }
 
-/// A path stays as it is; an address becomes the path that it names. Throws where that is not on
-/// this computer.
+/// The path that an operand names: a path as it is, or a file URL. Throws if that is not on this
+/// computer.
 std::filesystem::path fileOf(const std::string& operand) {
     return looksLikeUrl(operand) ? pathOf(urlOfArgument(operand)) : std::filesystem::path(operand);
 }
@@ -169,7 +169,7 @@ ExportCommand parseExport(std::span<char* const> arguments) {
 } // namespace
 
 Command parseArguments(std::span<char* const> arguments) {
-    // Before a "--", a question for help wins over all else.
+    // Before a "--", --help and --version win over everything else.
     for (const std::string_view argument : arguments) {
         if (argument == "--")
             break;

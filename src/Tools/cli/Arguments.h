@@ -14,7 +14,7 @@
 
 namespace brisklet::cli {
 
-/// Arguments that make no command; what() says why.
+/// Wrong usage; what() says why.
 class UsageError final : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

@@ -7,13 +7,13 @@
 
 namespace brisklet::cli {
 
-/// A command that failed; what() is the one line to tell.
+/// A command that failed; what() is the one-line message.
 class CommandError final : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Each runs one command to its end on the calling thread. They throw CommandError, or
+/// Each runs one command on the calling thread until it is done. They throw CommandError, or
 /// media::Cancelled after a stop request.
 void run(const ProbeCommand& command, const std::stop_token& stop);
 void run(const FilmstripCommand& command, const std::stop_token& stop);

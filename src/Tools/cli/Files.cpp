@@ -44,7 +44,7 @@ void writeFile(const std::filesystem::path& path, const QByteArray& content) {
     if (!file)
         throwWriteError(path, errno);
     const auto size = static_cast<std::size_t>(content.size());
-    // A full disk may show only when the rest of the buffer goes out.
+    // A full disk may show only when the rest of the buffer is written.
     if (std::fwrite(content.constData(), 1, size, file.get()) != size ||
         std::fflush(file.get()) != 0)
         throwWriteError(path, errno);

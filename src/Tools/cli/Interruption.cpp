@@ -13,10 +13,10 @@
 namespace brisklet::cli {
 
 Interruption::Interruption() {
-    // Shells start background jobs with SIGINT ignored; whoever sends it to us means it.
+    // Shells start background jobs with SIGINT ignored; here it is always handled.
     for (const int signal : {SIGINT, SIGTERM})
         std::signal(signal, SIG_DFL);
-    // A reader that goes away must not end us before we have cleaned up.
+    // A reader that closes the pipe must not kill the process before it has cleaned up.
     std::signal(SIGPIPE, SIG_IGN);
     sigset_t set;
     sigemptyset(&set);

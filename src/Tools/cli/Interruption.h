@@ -6,7 +6,7 @@
 namespace brisklet::cli {
 
 /// Turns SIGINT, SIGTERM and SIGHUP into a stop request for as long as it lives. Create it before
-/// any other thread: threads inherit that these signals are not for them. One at a time.
+/// any other thread, since threads inherit the mask that blocks these signals. One at a time.
 class Interruption final {
 public:
     Interruption();

@@ -10,7 +10,7 @@ namespace brisklet::cli {
 
 namespace {
 
-/// Null where the file does not say.
+/// Null if the file does not state it.
 QJsonValue textOrNull(const std::string& text) {
     return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
 }

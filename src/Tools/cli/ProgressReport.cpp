@@ -33,7 +33,7 @@ void ProgressReport::show(double fraction) {
     }
     const QJsonObject report{{QStringLiteral("progress"), fraction}};
     const QByteArray line = QJsonDocument(report).toJson(QJsonDocument::Compact) + '\n';
-    // Nobody has to listen: the export goes on without its reports.
+    // A failure to write a report does not stop the export.
     std::fputs(line.constData(), stdout);
     std::fflush(stdout);
 }

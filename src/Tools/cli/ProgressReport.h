@@ -4,14 +4,14 @@
 
 namespace brisklet::cli {
 
-/// Tells a person (a bar on standard error, if that is a terminal) or a program (JSON lines on
-/// standard output) how far an export is. Use from one thread at a time.
+/// Shows the progress of an export to a person (a bar on standard error, if that is a terminal) or
+/// to a program (JSON lines on standard output). Use from one thread at a time.
 class ProgressReport final {
 public:
     explicit ProgressReport(ExportCommand::Progress kind);
     ProgressReport(const ProgressReport&) = delete;
     ProgressReport& operator=(const ProgressReport&) = delete;
-    /// Takes the bar away.
+    /// Erases the bar.
     ~ProgressReport();
 
     void show(double fraction);

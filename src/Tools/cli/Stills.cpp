@@ -75,7 +75,7 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
         try {
             still = generator->image(requested, stop);
         } catch (const media::Error& error) {
-            // As in the window, a damaged spot takes only its own picture away.
+            // As in the window, a damaged place costs only its own picture.
             lastFailure = error.what();
             continue;
         }

@@ -21,7 +21,7 @@ constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 constexpr int kInterrupted = 130;
 
-/// A failure is told in exactly one line, whatever the texts of other libraries hold.
+/// A failure is reported in exactly one line, also if the text of a library has several.
 void tell(std::string message) {
     std::ranges::replace(message, '\n', ' ');
     std::fprintf(stderr, "%s\n", message.c_str());
@@ -47,7 +47,7 @@ int perform(const Work& command) {
         // Encoders may still be winding down, and must not outlive main().
         return brisklet::exitStatusAfterWorkers(kInterrupted);
     } catch (const std::exception& error) {
-        // Whoever interrupts is not interested in what else went wrong because of it.
+        // After an interruption, failures that it caused are not reported.
         if (interruption.token().stop_requested())
             return kInterrupted;
         tell(error.what());

@@ -9,7 +9,7 @@ namespace brisklet {
 
 namespace {
 
-/// Whole pixels; the size of a picture never comes near the limit, a damaged file may claim it.
+/// In whole pixels. Limited, since a damaged file may state any size.
 int wholePixels(double length) {
     constexpr double kMost = 1e9;
     return std::isnan(length) ? 0 : static_cast<int>(std::round(std::clamp(length, 0.0, kMost)));

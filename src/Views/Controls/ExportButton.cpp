@@ -44,7 +44,7 @@ QRect ExportButton::menuRect() const {
 }
 
 void ExportButton::popUpMenu() {
-    // Above the button, which stands at the bottom of its window; below where the screen ends.
+    // Above the button, which is at the bottom of its window; Qt moves it if it does not fit there.
     const QSize size = menu()->sizeHint();
     const QPoint corner = mapToGlobal(QPoint(width() - size.width(), 0));
     menu()->popup(corner - QPoint(0, size.height() + kMenuGap));
@@ -65,7 +65,7 @@ void ExportButton::mousePressEvent(QMouseEvent* event) {
         popUpMenu();
         return;
     }
-    // Past QToolButton, which looks for a menu part where the style would have drawn one.
+    // Not QToolButton's, which opens the menu for a press where the style would draw its own arrow.
     QAbstractButton::mousePressEvent(event);
 }
 
@@ -98,7 +98,7 @@ void ExportButton::paintFill(QPainter& painter) const {
                                         : theme::quaternary(enabledPalette()));
     if (!isEnabled())
         return;
-    // Each part answers the pointer by itself.
+    // Each part is highlighted by itself.
     const bool isOnMenu = menuRect().contains(mapFromGlobal(QCursor::pos()));
     const auto shade = [&](const QRect& part, bool isHovered, bool isPressed) {
         if (!isHovered && !isPressed)
@@ -118,7 +118,7 @@ void ExportButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintFill(painter);
-    // The title says what is being exported meanwhile: grey, but not as faint as disabled text is.
+    // During an export the title stays legible: grey, but not as faint as disabled text.
     const QColor ink =
         isEnabled() ? theme::onAccentFill(palette()) : theme::secondary(enabledPalette());
     painter.setPen(ink);

@@ -4,8 +4,8 @@
 
 namespace brisklet {
 
-/// One button of two parts: the label, which does what it says, and a chevron at its right end,
-/// which opens the menu. The menu opens with the Down key too. Main thread.
+/// A button of two parts: the label, which triggers the action, and a chevron at the right end,
+/// which opens the menu. The Down key opens the menu too. Main thread.
 class ExportButton final : public QToolButton {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// The colours that it has while it is enabled.
+    /// The palette of the enabled button.
     [[nodiscard]] QPalette enabledPalette() const;
     void paintFill(QPainter& painter) const;
     [[nodiscard]] bool isMenuOpen() const;

@@ -38,7 +38,7 @@ QSize FlatButton::sizeHint() const {
 }
 
 bool FlatButton::event(QEvent* event) {
-    // With the keyboard on it, the keys that press a button are not a shortcut's.
+    // While it has the focus, the keys that press a button must not trigger shortcuts.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto* keyEvent = static_cast<QKeyEvent*>(event);
         if (keyEvent->modifiers() == Qt::NoModifier && keyEvent->key() == Qt::Key_Space)

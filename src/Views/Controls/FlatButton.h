@@ -6,9 +6,9 @@
 
 namespace brisklet {
 
-/// A button that shows one symbol and nothing else until the pointer or the keyboard is on it. The
-/// symbol stands in a frame of kFrameWidth points; what lights up around it is kPadding wider on
-/// each side. Takes the keyboard by Tab only, so that a click leaves it where it was. Main thread.
+/// A button that shows only a symbol until the pointer is over it or it has the focus. The symbol
+/// is in a frame of kFrameWidth points; the highlight around it is kPadding wider on each side.
+/// Takes the focus by Tab only, so that a click leaves the focus where it was. Main thread.
 class FlatButton final : public QAbstractButton {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
 
     explicit FlatButton(QWidget* parent = nullptr);
 
-    /// Also repaint, where the value is another one.
+    /// Both repaint if the value has changed.
     void setSymbol(Symbol symbol);
     void setTint(Tint tint);
 

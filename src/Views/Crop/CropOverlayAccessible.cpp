@@ -8,7 +8,8 @@ namespace brisklet {
 
 namespace {
 
-/// The size stands in the description as well: not every bridge passes on the text of a value.
+/// The size is in the description as well: not every accessibility bridge passes on the text of a
+/// value.
 class CropOverlayAccessible final : public QAccessibleWidget {
 public:
     explicit CropOverlayAccessible(CropOverlayView* view)
@@ -26,7 +27,7 @@ public:
     }
 
 private:
-    /// The widget owns its interface, and goes after it.
+    /// Outlives its interface, which it owns.
     CropOverlayView& m_view;
 };
 

@@ -2,7 +2,7 @@
 
 namespace brisklet {
 
-/// Has assistive technology read the size and place of the crop. Once for the program; further
+/// Makes assistive technology read the size and position of the crop. Once for the program; further
 /// calls do nothing. Main thread.
 void installCropOverlayAccessibility();
 

@@ -32,7 +32,7 @@ CropPainting::CropPainting(QPainter& painter, const CropGeometry& geometry,
       m_palette(palette) {}
 
 double CropPainting::reach(const CropGeometry& geometry) {
-    // One more: edges may have been put on the pixels of the screen.
+    // One point more, since edges may be moved to the nearest pixels of the screen.
     return std::max(geometry.handleSize / 2, kOutlineWidth) + kFocusWidth + 1;
 }
 

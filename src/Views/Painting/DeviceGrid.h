@@ -9,8 +9,8 @@
 
 namespace brisklet {
 
-/// The pixels of the screen under a painter: puts edges on them, so that lines of one or two points
-/// stay sharp at every scale of the screen. Knows shifted and scaled painters, not turned ones.
+/// The pixels of the screen under a painter. Aligns edges with them, so that lines of one or two
+/// points stay sharp at every scale. For painters that are shifted or scaled, not rotated.
 class DeviceGrid final {
 public:
     explicit DeviceGrid(const QPainter& painter) : m_toDevice(painter.deviceTransform()) {}
@@ -29,12 +29,12 @@ public:
         return {x(position.x()), y(position.y())};
     }
 
-    /// Each edge on its own, so rectangles that touch still do.
+    /// Aligns each edge by itself, so rectangles that touch still do.
     [[nodiscard]] QRectF rect(const QRectF& rect) const {
         return {point(rect.topLeft()), point(rect.bottomRight())};
     }
 
-    /// The width of a line in whole pixels of the screen, one at the least.
+    /// The width of a line in whole pixels of the screen, at least one.
     [[nodiscard]] double thickness(double points) const {
         return std::max(1.0, std::round(points * m_toDevice.m11())) / m_toDevice.m11();
     }

@@ -6,7 +6,7 @@
 
 namespace brisklet {
 
-/// A symbol that is only looked at, in the colour of its foreground role. Main thread.
+/// A symbol without a function, in the colour of its foreground role. Main thread.
 class SymbolView final : public QWidget {
     Q_OBJECT
 

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-/// The linker leaves the resources of a static library out unless something asks for them.
+/// The linker leaves out the resources of a static library unless something refers to them.
 static void initialiseResources() {
     Q_INIT_RESOURCE(symbols);
 }
@@ -51,7 +51,7 @@ QPixmap drawn(Symbol symbol, int pixels, const QColor& color) {
     initialiseResources();
     QPainter painter(&pixmap);
     QSvgRenderer(fileOf(symbol)).render(&painter);
-    // The files are black: what counts of them is where they are opaque.
+    // The files are black; only their opacity is used.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(pixmap.rect(), color);
     return pixmap;
@@ -77,7 +77,7 @@ QPixmap symbolPixmap(Symbol symbol, qreal side, const QColor& color, qreal devic
 void paintSymbol(QPainter& painter, Symbol symbol, const QRectF& rect, const QColor& color) {
     const qreal side = std::min(rect.width(), rect.height());
     const qreal ratio = painter.device()->devicePixelRatioF();
-    // On whole pixels of the device, so that its horizontal and vertical lines stay sharp.
+    // On whole device pixels, so that horizontal and vertical lines stay sharp.
     const auto aligned = [ratio](qreal points) { return std::round(points * ratio) / ratio; };
     painter.drawPixmap(
         QPointF(aligned(rect.center().x() - side / 2), aligned(rect.center().y() - side / 2)),

@@ -8,7 +8,7 @@ class QPainter;
 
 namespace brisklet {
 
-/// The program's own symbols: one hand, one grid of 24 units, one line weight.
+/// The program's own symbols, all drawn on a grid of 24 units with one line weight.
 enum class Symbol {
     play,
     pause,
@@ -27,8 +27,8 @@ enum class Symbol {
 /// `painter` paints on. Main thread.
 void paintSymbol(QPainter& painter, Symbol symbol, const QRectF& rect, const QColor& color);
 
-/// The symbol on a square of `side` points, for a screen of `devicePixelRatio`. Kept for the next
-/// time. Main thread.
+/// The symbol on a square of `side` points, for a screen of `devicePixelRatio`. Cached. Main
+/// thread.
 QPixmap symbolPixmap(Symbol symbol, qreal side, const QColor& color, qreal devicePixelRatio);
 
 } // namespace brisklet

@@ -20,7 +20,8 @@ qreal digitWidth(const QFontMetricsF& metrics) {
     return widest;
 }
 
-/// Calls `place(part, x, width)` for each digit and each run of other letters; the width of it all.
+/// Calls `place(part, x, width)` for each digit and each run of other letters; returns the total
+/// width.
 template<typename Place>
 qreal layOut(const QString& text, const QFontMetricsF& metrics, Place place) {
     const qreal cell = digitWidth(metrics);

@@ -6,8 +6,8 @@
 
 class QPainter;
 
-/// Text whose digits all take the width of the widest one, so that nothing moves when a number
-/// counts, whatever figures the font has.
+/// Text whose digits all take the width of the widest one, so that nothing moves while a number
+/// counts up, also with a font of proportional figures.
 namespace brisklet::tabular {
 
 /// Width of `text` in points.

@@ -15,7 +15,7 @@ constexpr double kSymbolContrast = 3.0;
 constexpr double kSecondaryShare = 0.62;
 constexpr double kQuaternaryShare = 0.16;
 
-/// Steps of the system's font.
+/// Sizes relative to the system font.
 constexpr double kCaptionStep = 0.85;
 constexpr double kTitleStep = 1.3;
 
@@ -28,7 +28,7 @@ double luminance(const QColor& color) {
            0.0722 * linear(color.blueF());
 }
 
-/// `share` of `front` over the rest of `back`.
+/// `front` blended over `back` with the opacity `share`.
 QColor mixed(const QColor& front, const QColor& back, double share) {
     const auto part = [share = static_cast<float>(share)](float a, float b) {
         return a * share + b * (1 - share);
@@ -37,7 +37,7 @@ QColor mixed(const QColor& front, const QColor& back, double share) {
                             part(front.blueF(), back.blueF()));
 }
 
-/// `color`, moved towards `text` until it stands out from `back`.
+/// `color`, moved towards `text` until its contrast with `back` suffices.
 QColor legible(const QColor& color, const QColor& text, const QColor& back, double least) {
     constexpr int kSteps = 20;
     for (int step = 0; step < kSteps; ++step) {

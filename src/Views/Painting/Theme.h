@@ -4,22 +4,22 @@
 #include <QFont>
 #include <QPalette>
 
-/// The few colours and type sizes that all views share, derived from the palette and the font that
-/// the desktop gives, so that they follow its light or dark look. Main thread.
+/// The colours and type sizes that all views share. They are derived from the desktop's palette and
+/// font, so they follow its light or dark style. Main thread.
 namespace brisklet::theme {
 
 /// Text and symbols.
 QColor primary(const QPalette& palette);
-/// Less important text; still 4.5:1 against the window.
+/// Less important text; its contrast with the window is still 4.5:1.
 QColor secondary(const QPalette& palette);
 /// Faint lines and fills.
 QColor quaternary(const QPalette& palette);
-/// What is switched on. Made as light or dark as a symbol on the window needs it.
+/// What is switched on. Light or dark enough for a symbol on the window.
 QColor accent(const QPalette& palette);
-/// The same as a fill, and what is written on it at 4.5:1.
+/// The same as a fill, and the colour of text on it, whose contrast is 4.5:1.
 QColor accentFill(const QPalette& palette);
 QColor onAccentFill(const QPalette& palette);
-/// What takes something away, such as the sound.
+/// What removes something, such as the sound.
 QColor red(const QPalette& palette);
 
 bool isDark(const QPalette& palette);

@@ -10,11 +10,11 @@ class QPainter;
 
 namespace brisklet {
 
-/// Draws the row of stills. Keeps it as one pixmap for the pixels of the screen, which is made anew
-/// when the stills, the size or the scale of the screen change. Main thread.
+/// Draws the row of stills. Caches it as one pixmap in device pixels, which is made again when the
+/// stills, the size or the scale of the screen change. Main thread.
 class TimelineFilmstrip final {
 public:
-    /// Each still fills its tile and is cut to it, whatever its shape. Nothing without stills.
+    /// Each still is scaled to fill its tile and clipped to it. Draws nothing without stills.
     void paint(QPainter& painter, const TimelineGeometry& geometry, const QList<QImage>& stills);
 
 private:

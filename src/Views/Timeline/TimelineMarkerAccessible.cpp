@@ -8,8 +8,8 @@ namespace brisklet {
 
 namespace {
 
-/// A slider in seconds. The text of the time stands in the description as well: not every bridge
-/// passes on the text of a value.
+/// A slider in seconds. The time as text is in the description as well: not every accessibility
+/// bridge passes on the text of a value.
 class TimelineMarkerAccessible final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     explicit TimelineMarkerAccessible(TimelineMarker* marker)
@@ -38,7 +38,7 @@ public:
     QVariant minimumStepSize() const override { return 0.0; }
 
 private:
-    /// The widget owns its interface, and goes after it.
+    /// Outlives its interface, which it owns.
     TimelineMarker& m_marker;
 };
 
