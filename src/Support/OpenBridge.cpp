@@ -10,6 +10,7 @@ namespace brisklet {
 namespace {
 
 /// Calls a copy: opening a window assigns OpenBridge::requestWindow.
+// NOLINTNEXTLINE(performance-unnecessary-value-param): it has to be one.
 void callRequest(std::function<void()> request) {
     if (request)
         request();

@@ -184,9 +184,9 @@ TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {
     m_updater->checkIfDue(noon);
     EXPECT_FALSE(m_updater->canCheckForUpdates());
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
-    m_updater->checkIfDue(noon.addSecs(23 * 3600));
+    m_updater->checkIfDue(noon.addSecs(qint64{23} * 3600));
     EXPECT_TRUE(m_updater->canCheckForUpdates());
-    m_updater->checkIfDue(noon.addSecs(24 * 3600));
+    m_updater->checkIfDue(noon.addSecs(qint64{24} * 3600));
     EXPECT_FALSE(m_updater->canCheckForUpdates());
     ASSERT_TRUE(pumpUntil([this] { return m_updater->canCheckForUpdates(); }));
     EXPECT_EQ(m_server.requestCount, 2);

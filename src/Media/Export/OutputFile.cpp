@@ -16,7 +16,7 @@ namespace {
 
 /// How much is written before the kernel is asked to start writing it back to disk, so that little
 /// is left for the flush at the end.
-constexpr std::int64_t kWritebackBytes = 8 * 1024 * 1024;
+constexpr std::int64_t kWritebackBytes = std::int64_t{8} * 1024 * 1024;
 
 /// The file itself where the destination is a link to one.
 std::filesystem::path resolved(const std::filesystem::path& destination) {

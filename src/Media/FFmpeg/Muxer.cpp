@@ -29,7 +29,7 @@ constexpr int kWriteBufferBytes = 1024 * 1024;
 /// The most that one packet takes in the sample tables (stts, ctts, stss, stsz, stsc, co64); bytes.
 constexpr std::int64_t kIndexBytesPerPacket = 44;
 /// Everything else in the index: headers, decoder configurations, metadata; bytes.
-constexpr std::int64_t kIndexBytes = 32 * 1024;
+constexpr std::int64_t kIndexBytes = std::int64_t{32} * 1024;
 /// What a metadata entry takes besides its name and its value; bytes.
 constexpr std::int64_t kEntryBytes = 64;
 

@@ -86,11 +86,12 @@ bool isAligned(const P& plane) {
 
 float sampleAt(ConstPlane plane, int depth, int x, int y) {
     const std::uint8_t* line = plane.line(y);
-    return depth > 8 ? reinterpret_cast<const std::uint16_t*>(line)[x] : line[x];
+    return static_cast<float>(depth > 8 ? reinterpret_cast<const std::uint16_t*>(line)[x]
+                                        : line[x]);
 }
 
 void putSample(Plane plane, int depth, int x, int y, float value) {
-    const float most = static_cast<float>((1U << depth) - 1);
+    const auto most = static_cast<float>((1U << depth) - 1);
     const auto sample = static_cast<std::uint16_t>(std::clamp(value + 0.5F, 0.0F, most));
     if (depth > 8)
         reinterpret_cast<std::uint16_t*>(plane.line(y))[x] = sample;
@@ -194,12 +195,14 @@ PlaneResampler::Kernel PlaneResampler::kernel(const AxisSampling& sampling, int 
 void PlaneResampler::runDirectly(ConstPlane in, Plane out) {
     const Resampling& r = m_resampling;
     const auto width = static_cast<std::size_t>(out.width);
+    const auto tapsX = static_cast<std::size_t>(m_kernelX.taps);
+    const auto tapsY = static_cast<std::size_t>(m_kernelY.taps);
     std::vector<float> lines(width * static_cast<std::size_t>(in.height));
     for (int y = 0; y < in.height; ++y) {
         for (int x = 0; x < out.width; ++x) {
             float sum = 0;
             for (int tap = 0; tap < m_kernelX.taps; ++tap) {
-                const auto at = static_cast<std::size_t>(x * m_kernelX.taps + tap);
+                const auto at = static_cast<std::size_t>(x) * tapsX + static_cast<std::size_t>(tap);
                 sum += m_kernelX.weights[at] * sampleAt(in, r.depth, m_kernelX.indices[at], y);
             }
             lines[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)] = sum;
@@ -210,7 +213,7 @@ void PlaneResampler::runDirectly(ConstPlane in, Plane out) {
         for (int x = 0; x < out.width; ++x) {
             float sum = 0;
             for (int tap = 0; tap < m_kernelY.taps; ++tap) {
-                const auto at = static_cast<std::size_t>(y * m_kernelY.taps + tap);
+                const auto at = static_cast<std::size_t>(y) * tapsY + static_cast<std::size_t>(tap);
                 const auto line = static_cast<std::size_t>(m_kernelY.indices[at]);
                 sum += m_kernelY.weights[at] * lines[line * width + static_cast<std::size_t>(x)];
             }

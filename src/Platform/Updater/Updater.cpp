@@ -18,10 +18,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr qint64 kLongestFeed = 1024 * 1024;
+constexpr qint64 kLongestFeed = qint64{1024} * 1024;
 constexpr auto kFeedDuration = 60s;
 constexpr qint64 kLongestPackage = qint64{1024} * 1024 * 1024;
-constexpr qint64 kSecondsADay = 24 * 60 * 60;
+constexpr qint64 kSecondsADay = qint64{24} * 60 * 60;
 /// How often the clock is compared: a single timer for a day would not count the time asleep.
 constexpr auto kClockInterval = 1h;
 
