@@ -41,8 +41,8 @@ public:
     /// into it any more. Harmless for one that is not recorded.
     static void unregisterState(const OpenTarget& state);
 
-    /// Takes the file that has waited longest, for a window that has just appeared. Requests another
-    /// window if more files wait.
+    /// Takes the file that has waited longest, for a window that has just appeared. Requests
+    /// another window if more files wait.
     static std::optional<QUrl> takePending();
 
     /// Loads one file into an empty window; without one, queues it and requests a window.

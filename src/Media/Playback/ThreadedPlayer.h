@@ -11,8 +11,8 @@ namespace playback {
 class AudioOutput;
 }
 
-/// The player that the engine makes. Checks that it is called on its owner's thread, and forwards to
-/// Player::Private, which outlives it where a thread is blocked by a disk that does not answer.
+/// The player that the engine makes. Checks that it is called on its owner's thread, and forwards
+/// to Player::Private, which outlives it where a thread is blocked by a disk that does not answer.
 class ThreadedPlayer final : public Player {
 public:
     /// Sounds on `output`, which is used and released on a thread of the player's own.
