@@ -81,7 +81,7 @@ TEST(Bench, playTellsFramesAndProcessorTime) {
     EXPECT_EQ(result.exitStatus, 0) << result.errors;
     EXPECT_THAT(result.output, MatchesRegex(std::string(R"(\{"cpuSeconds":)") + kNumber +
                                             R"(,"dropped":[0-9]+,"height":[1-9][0-9]*)"
-                                            R"(,"late":[0-9]+,"shown":[1-9][0-9]*)"
+                                            R"(,"late":[0-9]+,"longestStill":[0-9.]+,"shown":[1-9][0-9]*)"
                                             R"(,"width":[1-9][0-9]*\})"
                                             "\n"));
 }

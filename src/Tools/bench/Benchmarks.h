@@ -38,6 +38,8 @@ struct PlayFigures {
     std::uint64_t shown = 0;
     std::uint64_t late = 0;
     std::uint64_t dropped = 0;
+    /// The longest time for which the picture on the screen stood still; milliseconds.
+    double longestStill = 0;
     /// Of the whole process while it played.
     double cpuSeconds = 0;
     /// The picture in device pixels.

@@ -47,6 +47,8 @@ public:
 
     [[nodiscard]] EditState& state() const { return *m_window->state(); }
 
+    [[nodiscard]] QWidget& view() const { return *m_window->findChild<PlayerLayerView*>(); }
+
     /// The player behind the picture, for observers and figures; null before a file is open.
     [[nodiscard]] std::shared_ptr<media::Player> player() const {
         return m_window->findChild<PlayerLayerView*>()->player();
@@ -140,6 +142,30 @@ private:
     media::Player::Token m_token;
 };
 
+/// Measures how long a view is not painted, for as long as it lives.
+class StillWatch final : public QObject {
+public:
+    explicit StillWatch(QWidget& view) : m_last(Clock::now()) { view.installEventFilter(this); }
+
+    bool eventFilter(QObject* /*view*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            note();
+        return false;
+    }
+
+    /// Milliseconds.
+    [[nodiscard]] double longestStill() const { return m_longest; }
+
+private:
+    void note() {
+        m_longest = std::max(m_longest, millisecondsSince(m_last));
+        m_last = Clock::now();
+    }
+
+    Clock::time_point m_last;
+    double m_longest = 0;
+};
+
 double peakMiB() {
     rusage usage = {};
     ::getrusage(RUSAGE_SELF, &usage);
@@ -231,6 +257,7 @@ PlayFigures play(const std::filesystem::path& source, double seconds) {
     };
     window.state().togglePlayback();
     playFor(kReadAheadSeconds);
+    const StillWatch watch(window.view());
     const auto before = player.statistics();
     const double cpuBefore = cpuSeconds();
     playFor(seconds);
@@ -239,7 +266,7 @@ PlayFigures play(const std::filesystem::path& source, double seconds) {
     if (window.state().isPlaying())
         window.state().togglePlayback();
     return {after.shown - before.shown, after.late - before.late, after.dropped - before.dropped,
-            cpuAfter - cpuBefore, window.pictureSize()};
+            watch.longestStill(),       cpuAfter - cpuBefore,     window.pictureSize()};
 }
 
 double startup(Clock::time_point start) {

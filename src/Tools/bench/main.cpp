@@ -153,6 +153,7 @@ void runPlay(const std::vector<std::string>& operands) {
     print({{QStringLiteral("shown"), static_cast<qint64>(figures.shown)},
            {QStringLiteral("late"), static_cast<qint64>(figures.late)},
            {QStringLiteral("dropped"), static_cast<qint64>(figures.dropped)},
+           {QStringLiteral("longestStill"), figures.longestStill},
            {QStringLiteral("cpuSeconds"), figures.cpuSeconds},
            {QStringLiteral("width"), figures.pictureSize.width()},
            {QStringLiteral("height"), figures.pictureSize.height()}});
