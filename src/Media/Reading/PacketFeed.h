@@ -23,11 +23,12 @@ public:
 
     /// The next packet; null at the end of the file. Throws Error; Cancelled.
     [[nodiscard]] const AVPacket* front(const std::stop_token& stop);
-    /// Drops that packet, once there is one: it has been taken.
+    /// Removes that packet, which has been taken; there has to be one.
     void pop();
 
-    /// When the picture of the next packet is shown, if it is certain to be the one at `target` and
-    /// the packet after it to be a key frame that is shown right behind it. None at the end.
+    /// When the picture of the next packet is shown, if it is certain that this is the picture at
+    /// `target` and that the packet after it is a key frame shown right behind it. None at the end
+    /// of the file.
     [[nodiscard]] std::optional<TickRange> rangeBetweenKeyFrames(Ticks target,
                                                                  const std::stop_token& stop);
 
