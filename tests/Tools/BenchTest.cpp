@@ -79,11 +79,12 @@ TEST(Bench, openAndStartupTellMilliseconds) {
 TEST(Bench, playTellsFramesAndProcessorTime) {
     const ProcessResult result = bench({"play", source(), "1"});
     EXPECT_EQ(result.exitStatus, 0) << result.errors;
-    EXPECT_THAT(result.output, MatchesRegex(std::string(R"(\{"cpuSeconds":)") + kNumber +
-                                            R"(,"dropped":[0-9]+,"height":[1-9][0-9]*)"
-                                            R"(,"late":[0-9]+,"longestStill":[0-9.]+,"shown":[1-9][0-9]*)"
-                                            R"(,"width":[1-9][0-9]*\})"
-                                            "\n"));
+    EXPECT_THAT(result.output,
+                MatchesRegex(std::string(R"(\{"cpuSeconds":)") + kNumber +
+                             R"(,"dropped":[0-9]+,"height":[1-9][0-9]*)"
+                             R"(,"late":[0-9]+,"longestStill":[0-9.]+,"shown":[1-9][0-9]*)"
+                             R"(,"width":[1-9][0-9]*\})"
+                             "\n"));
 }
 
 TEST(Bench, windowsTellsTheirMemory) {

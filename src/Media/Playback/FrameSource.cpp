@@ -79,8 +79,11 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
         m_position = Ticks::beginning();
         m_hasMoved = true;
         const Ticks beginAt = goal.isBackward ? goal.ticks - kBackward : goal.ticks;
-        reader().approach(
-            {.target = goal.ticks, .completeFrom = goal.completeFrom, .beginAt = beginAt}, stop);
+        reader().approach({.target = goal.ticks,
+                           .completeFrom = goal.completeFrom,
+                           .beginAt = beginAt,
+                           .shortestLeap = goal.shortestLeap},
+                          stop);
         m_goal = goal.ticks;
     }
     std::optional<Decoded> decoded = decode(goal, stop);

@@ -30,6 +30,9 @@ public:
         /// More will be asked for backward from here: some frames before it are worth having even
         /// where a key frame stands nearer.
         bool isBackward = false;
+        /// A key frame that lies no further than this beyond where decoding stands is no reason to
+        /// begin anew there.
+        Ticks shortestLeap;
         /// A frame that ends at or before this tick need not be rendered: it is too late for it.
         Ticks lateUntil = Ticks::beginning();
     };

@@ -31,7 +31,7 @@ bool KeyFrameSearch::hasKeyFrameWithin(Ticks earliest, Ticks latest) const {
     return key && m_clock.ticksAt(*key) >= earliest;
 }
 
-bool KeyFrameSearch::isReachedByDecodingOn(Ticks ticks) const {
+bool KeyFrameSearch::isReachedByDecodingOn(Ticks ticks, Ticks shortestLeap) const {
     const std::optional<Ticks> next = m_run.nextTicks();
     if (!next || ticks < *next || !m_run.skipPolicy().isCompleteFrom(ticks))
         return false;
@@ -45,7 +45,7 @@ bool KeyFrameSearch::isReachedByDecodingOn(Ticks ticks) const {
     const auto key = m_demuxer.statesPresentationTimes() ? keyFrameBefore(ticks) : std::nullopt;
     const auto lastDts = m_run.feed().lastDts();
     if (key && lastDts)
-        return *key <= *lastDts;
+        return m_clock.ticksAt(*key) <= m_clock.ticksAt(*lastDts) + shortestLeap;
     return ticks - last <= kNear;
 }
 

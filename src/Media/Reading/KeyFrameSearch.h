@@ -19,8 +19,9 @@ public:
     /// included).
     [[nodiscard]] bool hasKeyFrameWithin(Ticks earliest, Ticks latest) const;
 
-    /// Whether the frame at `ticks` is among those ahead or best reached by decoding on.
-    [[nodiscard]] bool isReachedByDecodingOn(Ticks ticks) const;
+    /// Whether the frame at `ticks` is among those ahead or best reached by decoding on: no key
+    /// frame further than `shortestLeap` beyond where decoding stands leads to it.
+    [[nodiscard]] bool isReachedByDecodingOn(Ticks ticks, Ticks shortestLeap) const;
 
     /// Begins decoding at the last random-access point that the container knows at or before
     /// `ticks`, or, where its first picture is shown after `latest`, at an earlier one; at the

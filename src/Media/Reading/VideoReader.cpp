@@ -52,7 +52,7 @@ public:
     void approach(const Approach& way, const std::stop_token& stop) {
         const Ticks target = way.target;
         skipPolicy().aimAt(target, way.completeFrom);
-        if (m_search.isReachedByDecodingOn(target)) {
+        if (m_search.isReachedByDecodingOn(target, way.shortestLeap)) {
             m_run.fill(1, stop, target);
             // The picture of a packet that was read ahead need not decode.
             if (!frames().empty() && frames().front().ticks <= target)
@@ -75,7 +75,7 @@ public:
         // The index knows decoding times; its container goes by when a key frame is shown.
         const Ticks goal = hasKeyFrameAtHand ? std::min(middle + kLongestReorder, latest) : latest;
         if (hasKeyFrameAtHand || m_search.hasKeyFrameWithin(earliest, latest) || frames().empty() ||
-            !m_search.isReachedByDecodingOn(earliest))
+            !m_search.isReachedByDecodingOn(earliest, {}))
             beginAt(goal, latest, stop);
         m_run.fill(1, stop, latest);
         while (!frames().empty() && frames().front().ticks < earliest) {

@@ -69,6 +69,9 @@ public:
         /// Where key frames stand close to one another, it begins at the one before this tick if
         /// that costs little, so that there are such frames.
         Ticks beginAt;
+        /// A key frame is worth beginning anew at only if it lies further than this beyond where
+        /// decoding stands: the decoder gives nothing out for some pictures then.
+        Ticks shortestLeap;
     };
 
     /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
