@@ -121,9 +121,6 @@ public:
     [[nodiscard]] virtual Statistics statistics() const = 0;
 
 protected:
-    /// What the engine keeps behind a player.
-    class Private;
-
     Player() = default;
 };
 

@@ -61,7 +61,7 @@ EditState::EditState() {
 }
 
 EditState::~EditState() {
-    Q_ASSERT(isMainThread());
+    verifyMainThread();
     m_loads.request_stop();
     m_strip.request_stop();
 }

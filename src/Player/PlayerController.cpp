@@ -13,7 +13,7 @@ constexpr media::Time kTickInterval{1, 30};
 /// Calls a copy: a callback may replace itself, or end the object that holds it.
 template<typename Callback, typename... Arguments>
 void call(Callback callback, Arguments... arguments) {
-    Q_ASSERT(isMainThread());
+    verifyMainThread();
     if (callback)
         callback(arguments...);
 }

@@ -281,6 +281,23 @@ TEST(VideoReader, takesTheFrameBeforeAWindowBetweenTwoFrames) {
     EXPECT_NEAR(reader.next()->time.seconds(), first + 3, 0.001);
 }
 
+TEST(VideoReader, leapsOnlyToKeyFramesThatLieFarEnoughAhead) {
+    const Fixture fixture = makeFixture({.duration = 4, .groupOfPictures = 15, .audioTracks = 0});
+    const auto asset = Asset::open(fixture.path);
+    // The next key frame lies half a second beyond what was decoded: 15 frames at 30 a second.
+    for (const auto& [leap, expected] : {std::pair{Ticks(0), 30}, {Ticks(600), 2}}) {
+        VideoReader reader(asset, asset->tracks(MediaType::video).at(0));
+        ASSERT_TRUE(reader.next());
+        ASSERT_TRUE(reader.next());
+        const Ticks target(40 * 20);
+        reader.approach(
+            {.target = target, .completeFrom = Ticks(0), .beginAt = target, .shortestLeap = leap});
+        const auto frame = reader.next();
+        ASSERT_TRUE(frame);
+        EXPECT_EQ(frame->ticks, Ticks(expected * 20));
+    }
+}
+
 TEST(VideoReader, readsTheSameWithAnyNumberOfThreads) {
     const Source source({.codec = VideoCodec::hevc, .isOpenGroup = true});
     for (const int threads : {1, 2, 7}) {

@@ -16,7 +16,7 @@ SteadyTime now() {
 
 } // namespace
 
-Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutput> output)
+ThreadedPlayer::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutput> output)
     : m_executor(std::move(executor)),
       m_decoding(m_shared),
       m_sound(m_shared, std::move(output)),
@@ -24,14 +24,14 @@ Player::Private::Private(Executor executor, std::unique_ptr<playback::AudioOutpu
           post([event](Private& self) { self.handle(event); });
       }) {}
 
-void Player::Private::start() {
+void ThreadedPlayer::Private::start() {
     m_threads.start("player-video", [this](const std::stop_token& stop) { m_decoding.run(stop); });
     m_threads.start("player-audio", [this](const std::stop_token& stop) { m_sound.run(stop); });
     m_threads.start("player-present",
                     [this](const std::stop_token& stop) { m_presenting.run(stop); });
 }
 
-void Player::Private::close() {
+void ThreadedPlayer::Private::close() {
     m_isAlive = false;
     setVideoSink(nullptr);
     *m_executor.lock() = nullptr;
@@ -40,12 +40,12 @@ void Player::Private::close() {
     m_threads.finish(shared_from_this());
 }
 
-void Player::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {
+void ThreadedPlayer::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {
     abandonSeek();
     state()->replaceItem(std::move(item), now());
 }
 
-void Player::Private::setPlaying(bool isPlaying) {
+void ThreadedPlayer::Private::setPlaying(bool isPlaying) {
     if (state()->isPlaying() == isPlaying)
         return;
     // Before any thread can act on it, so that an end that follows at once is reported after it.
@@ -53,7 +53,8 @@ void Player::Private::setPlaying(bool isPlaying) {
     state()->setPlaying(isPlaying, now());
 }
 
-void Player::Private::seek(Time time, Time before, Time after, std::function<void(bool)> done) {
+void ThreadedPlayer::Private::seek(Time time, Time before, Time after,
+                                   std::function<void(bool)> done) {
     const auto generation = state()->beginSeek(time, before, after, now());
     if (!generation) {
         refuse(done);
@@ -64,18 +65,18 @@ void Player::Private::seek(Time time, Time before, Time after, std::function<voi
 }
 
 /// Tells whoever waits for a seek that it does not arrive.
-void Player::Private::refuse(const std::function<void(bool)>& done) {
+void ThreadedPlayer::Private::refuse(const std::function<void(bool)>& done) {
     if (done)
         post([done](Private&) { done(false); });
 }
 
-void Player::Private::abandonSeek() {
+void ThreadedPlayer::Private::abandonSeek() {
     const std::optional<AwaitedSeek> seek = std::exchange(m_awaitedSeek, std::nullopt);
     if (seek)
         refuse(seek->done);
 }
 
-void Player::Private::finishSeek(std::uint64_t generation) {
+void ThreadedPlayer::Private::finishSeek(std::uint64_t generation) {
     if (!m_awaitedSeek || m_awaitedSeek->generation != generation)
         return;
     const std::optional<AwaitedSeek> seek = std::exchange(m_awaitedSeek, std::nullopt);
@@ -83,28 +84,29 @@ void Player::Private::finishSeek(std::uint64_t generation) {
         seek->done(true);
 }
 
-void Player::Private::step(int count) {
+void ThreadedPlayer::Private::step(int count) {
     setPlaying(false);
     state()->beginStep(count);
 }
 
-void Player::Private::setVideoSink(VideoSink* sink) {
+void ThreadedPlayer::Private::setVideoSink(VideoSink* sink) {
     m_shared.lockBetweenDeliveries()->setSink(sink);
 }
 
-Player::Token Player::Private::addObserver(Time interval, std::function<void(Time)> handler) {
+Player::Token ThreadedPlayer::Private::addObserver(Time interval,
+                                                   std::function<void(Time)> handler) {
     const Token token = ++m_lastToken;
     m_timeHandlers[token] = std::make_shared<const std::function<void(Time)>>(std::move(handler));
     state()->addObserver(token, interval, now());
     return token;
 }
 
-void Player::Private::removeObserver(Token token) {
+void ThreadedPlayer::Private::removeObserver(Token token) {
     m_timeHandlers.erase(token);
     state()->removeObserver(token);
 }
 
-void Player::Private::post(std::function<void(Private&)> action) {
+void ThreadedPlayer::Private::post(std::function<void(Private&)> action) {
     // Held while it posts, so that close() returns after the last call of it.
     const auto executor = m_executor.lock();
     if (!*executor)
@@ -116,14 +118,14 @@ void Player::Private::post(std::function<void(Private&)> action) {
     });
 }
 
-void Player::Private::reportRate(float rate) {
+void ThreadedPlayer::Private::reportRate(float rate) {
     post([rate](Private& self) {
         if (const auto handler = self.rateHandler)
             handler(rate);
     });
 }
 
-void Player::Private::handle(const PlaybackEvent& event) {
+void ThreadedPlayer::Private::handle(const PlaybackEvent& event) {
     switch (event.kind) {
     case PlaybackEvent::Kind::tick:
         handleTick(event);
@@ -137,12 +139,12 @@ void Player::Private::handle(const PlaybackEvent& event) {
     }
 }
 
-void Player::Private::handleTick(const PlaybackEvent& event) {
+void ThreadedPlayer::Private::handleTick(const PlaybackEvent& event) {
     const std::vector<Token> due = state()->acceptTick(event);
     callObservers(due);
 }
 
-void Player::Private::handleJump(const PlaybackEvent& event) {
+void ThreadedPlayer::Private::handleJump(const PlaybackEvent& event) {
     if (!state()->acceptJump(event))
         return;
     callObservers(observerTokens());
@@ -150,7 +152,7 @@ void Player::Private::handleJump(const PlaybackEvent& event) {
         finishSeek(event.generation);
 }
 
-void Player::Private::handleEnd(const PlaybackEvent& event) {
+void ThreadedPlayer::Private::handleEnd(const PlaybackEvent& event) {
     const auto end = state()->acceptEnd(event);
     if (!end)
         return;
@@ -163,7 +165,7 @@ void Player::Private::handleEnd(const PlaybackEvent& event) {
         ended(end->item);
 }
 
-std::vector<Player::Token> Player::Private::observerTokens() const {
+std::vector<Player::Token> ThreadedPlayer::Private::observerTokens() const {
     std::vector<Token> tokens;
     for (const auto& [token, handler] : m_timeHandlers)
         tokens.push_back(token);
@@ -171,7 +173,7 @@ std::vector<Player::Token> Player::Private::observerTokens() const {
 }
 
 /// Handlers may remove observers and do anything else to the player, its destruction included.
-void Player::Private::callObservers(const std::vector<Token>& tokens) {
+void ThreadedPlayer::Private::callObservers(const std::vector<Token>& tokens) {
     for (const Token token : tokens) {
         const auto found = m_timeHandlers.find(token);
         if (!m_isAlive || found == m_timeHandlers.end())

@@ -5,7 +5,7 @@
 #include "Media/Playback/PresentingThread.h"
 #include "Media/Playback/SharedPlayback.h"
 #include "Media/Playback/SoundThread.h"
-#include "Media/Player.h"
+#include "Media/Playback/ThreadedPlayer.h"
 #include "Media/Threading/Guarded.h"
 #include "Media/Threading/ThreadAffinity.h"
 
@@ -19,7 +19,7 @@ namespace media {
 
 /// The owner's side of a player, and its threads. All members belong to the owner's thread except
 /// where they say otherwise.
-class Player::Private : public std::enable_shared_from_this<Private> {
+class ThreadedPlayer::Private : public std::enable_shared_from_this<Private> {
 public:
     Private(Executor executor, std::unique_ptr<playback::AudioOutput> output);
 

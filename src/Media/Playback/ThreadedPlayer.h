@@ -12,7 +12,7 @@ class AudioOutput;
 }
 
 /// The player that the engine makes. Checks that it is called on its owner's thread, and forwards
-/// to Player::Private, which outlives it where a thread is blocked by a disk that does not answer.
+/// to its Private, which outlives it where a thread is blocked by a disk that does not answer.
 class ThreadedPlayer final : public Player {
 public:
     /// Sounds on `output`, which is used and released on a thread of the player's own.
@@ -41,6 +41,7 @@ public:
     [[nodiscard]] Statistics statistics() const override;
 
 private:
+    class Private;
     std::shared_ptr<Private> d;
 };
 

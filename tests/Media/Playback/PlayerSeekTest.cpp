@@ -74,43 +74,6 @@ INSTANTIATE_TEST_SUITE_P(Files, PlayerSeek,
                                                  .frameRate = {60, 1},
                                                  .duration = 1})));
 
-TEST(Player, staysWhereItIsWhenSteppedPastEitherEnd) {
-    const Fixture fixture = makeFixture(silent({.duration = 1}));
-    const int last = fixture.frames.back().number;
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.player->step(-1);
-    ASSERT_TRUE(stage.stepUntilShown(1, 1)) << "the step back from the first frame did nothing";
-    stage.seekAndWait(Time::fromSeconds(fixture.videoEnd(), 600));
-    EXPECT_EQ(stage.sink.number(), last);
-    stage.player->step(1);
-    ASSERT_TRUE(stage.stepUntilShown(-1, last - 1));
-    stage.player->step(100);
-    ASSERT_TRUE(stage.waitForNumber(last)) << "as far as there are frames";
-    stage.player->step(-100);
-    ASSERT_TRUE(stage.waitForNumber(0));
-}
-
-TEST(Player, stepsByTheSumOfStepsThatFollowOneAnotherQuickly) {
-    const Fixture fixture = makeFixture(silent({.duration = 2}));
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.sink.clear();
-    for (const int count : {3, 5, -2, 10, -1, -1})
-        stage.player->step(count);
-    EXPECT_TRUE(stage.waitForNumber(14));
-    EXPECT_THAT(stage.sink.numbers(), testing::ElementsAre(3, 8, 6, 16, 15, 14));
-}
-
-TEST(Player, stepsFromTheFrameOfASeekThatIsStillOnItsWay) {
-    const Fixture fixture = makeFixture(silent({.duration = 2}));
-    PlayerStage stage;
-    stage.load(fixture.path);
-    seekExactly(*stage.player, Time{600, 600});
-    stage.player->step(-1);
-    EXPECT_TRUE(stage.waitForNumber(29));
-}
-
 TEST(Player, answersSeeksThatWereReplacedInOrderAndShowsTheLast) {
     const Fixture fixture = makeFixture(silent({.duration = 4, .groupOfPictures = 250}));
     PlayerStage stage;
@@ -147,39 +110,6 @@ TEST(Player, stepsOverAKeyFrameThatDoesNotDecode) {
     ASSERT_TRUE(stage.seekAndWait(timeOf(kDamaged)));
     EXPECT_EQ(stage.sink.number(), kDamaged - 1) << "it shows for longer";
     ASSERT_TRUE(stage.stepUntilShown(1, kDamaged + 1));
-}
-
-TEST(Player, clampsSeeksToTheEndOfTheItem) {
-    const Fixture fixture = makeFixture(silent({.duration = 1}));
-    PlayerStage stage;
-    stage.load(fixture.path);
-    const Time duration = stage.player->currentItem()->asset()->duration();
-    for (const Time time : {Time{10'000'000, 600}, Time::positiveInfinity()}) {
-        EXPECT_TRUE(stage.seekAndWait(time));
-        EXPECT_EQ(stage.player->currentTime(), duration);
-        EXPECT_EQ(stage.sink.number(), fixture.frames.back().number);
-    }
-}
-
-TEST(Player, clampsSeeksToTheStartOfTheItem) {
-    const Fixture fixture = makeFixture(silent({.duration = 1}));
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.seekAndWait(Time{300, 600});
-    for (const Time time : {Time{-1, 600}, Time::negativeInfinity()}) {
-        EXPECT_TRUE(stage.seekAndWait(time));
-        EXPECT_EQ(stage.player->currentTime(), Time{});
-        EXPECT_EQ(stage.sink.number(), 0);
-    }
-}
-
-TEST(Player, leavesEverythingAsItIsForAnInvalidTime) {
-    const Fixture fixture = makeFixture(silent({.duration = 1}));
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.seekAndWait(Time{300, 600});
-    EXPECT_FALSE(stage.seekAndWait(Time::invalid()));
-    EXPECT_EQ(stage.player->currentTime(), (Time{300, 600}));
 }
 
 TEST(Player, goesToAnyFrameWithinTheTolerance) {

@@ -82,20 +82,6 @@ TEST(Player, leavesNothingBehindWhenItGoes) {
     }
 }
 
-TEST(Player, endsAtOnceWhenPlayedAtTheEnd) {
-    const Fixture fixture = silentSeconds(1);
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.seekAndWait(endOf(stage));
-    stage.events.clear();
-    stage.player->play();
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.endCount == 1; }));
-    EXPECT_THAT(stage.events, ElementsAre("rate 1", "time", "rate 0", "end"));
-    stage.player->play();
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.endCount == 2; }));
-    EXPECT_EQ(stage.player->rate(), 0.0F);
-}
-
 TEST(Player, reportsTheRateOnlyWhenItChanges) {
     const Fixture fixture = silentSeconds(4);
     PlayerStage stage;
@@ -107,20 +93,6 @@ TEST(Player, reportsTheRateOnlyWhenItChanges) {
     stage.player->pause();
     stage.executor.pump();
     EXPECT_THAT(withoutTimes(stage.events), ElementsAre("rate 1", "rate 0"));
-}
-
-TEST(Player, standsStillWhenPausedOnTheFrameOfItsTime) {
-    const Fixture fixture = silentSeconds(4);
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.player->play();
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.sink.number() > 5; }));
-    stage.player->pause();
-    const Time time = stage.player->currentTime();
-    ASSERT_TRUE(stage.waitForNumber(frameAt(fixture, time)));
-    EXPECT_EQ(stage.player->currentTime(), time);
-    ASSERT_TRUE(stage.stepUntilShown(1, frameAt(fixture, time) + 1));
-    ASSERT_TRUE(stage.stepUntilShown(-1, frameAt(fixture, time)));
 }
 
 TEST(Player, stopsPlayingWhenItSteps) {
@@ -152,40 +124,6 @@ TEST(Player, reportsTheTimeAsItPlays) {
     EXPECT_LE(stage.times.size(), 32U) << "30 boundaries, the end, and none twice";
 }
 
-TEST(Player, keepsPlayingFromWhereItIsSentTo) {
-    const Fixture fixture = silentSeconds(4);
-    PlayerStage stage;
-    stage.load(fixture.path);
-    stage.seekAndWait(Time{1800, 600});
-    stage.player->play();
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.sink.number() > 92; }));
-    stage.sink.clear();
-    stage.times.clear();
-    ASSERT_TRUE(stage.seekAndWait(Time{600, 600}));
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.sink.number() == 33; }));
-    EXPECT_EQ(stage.player->rate(), 1.0F);
-    EXPECT_LT(stage.times.front(), 2) << "no time of before";
-    const std::vector<int> numbers = stage.sink.numbers();
-    EXPECT_TRUE(std::is_sorted(std::find(numbers.begin(), numbers.end(), 30), numbers.end()));
-    EXPECT_THAT(numbers, testing::Contains(30));
-}
-
-TEST(Player, goesRoundAndRoundWhenSentBackAtTheEnd) {
-    const Fixture fixture = soundingSeconds(1);
-    PlayerStage stage;
-    RunningDevice running(stage.device);
-    stage.load(fixture.path);
-    stage.player->setEndHandler([&](const auto&) {
-        ++stage.endCount;
-        seekExactly(*stage.player, Time{});
-        stage.player->play();
-    });
-    stage.player->play();
-    ASSERT_TRUE(stage.pumpUntil([&] { return stage.endCount == 3; }));
-    EXPECT_EQ(stage.player->rate(), 1.0F);
-    EXPECT_EQ(stage.device.openCount(), 1) << "the device stays open";
-}
-
 TEST(Player, keepsTheDeviceOpenWhenItLoopsWhilePlaying) {
     const Fixture fixture = soundingSeconds(4);
     PlayerStage stage;
@@ -197,25 +135,6 @@ TEST(Player, keepsTheDeviceOpenWhenItLoopsWhilePlaying) {
         seekExactly(*stage.player, Time{60, 600});
     }
     EXPECT_EQ(stage.device.openCount(), 1);
-}
-
-TEST(Player, playsANewItemFromItsStartWhilePlaying) {
-    const Fixture first = silentSeconds(4);
-    const Fixture second = makeFixture({.frameRate = {25, 1}, .duration = 1, .audioTracks = 0});
-    PlayerStage stage;
-    stage.load(first.path);
-    stage.player->play();
-    ASSERT_TRUE(stage.waitForNumber(5));
-    const auto item = PlayerStage::open(second.path);
-    std::shared_ptr<const media::PlayerItem> ended;
-    stage.player->setEndHandler([&](const auto& which) { ended = which; });
-    stage.player->replaceCurrentItem(item);
-    EXPECT_EQ(stage.player->currentItem(), item);
-    EXPECT_EQ(stage.player->currentTime(), Time{});
-    ASSERT_TRUE(stage.pumpUntil([&] { return ended != nullptr; }));
-    EXPECT_EQ(ended, item);
-    EXPECT_EQ(stage.sink.number(), 24);
-    EXPECT_THAT(withoutTimes(stage.events), ElementsAre("rate 1", "rate 0"));
 }
 
 TEST(Player, showsNothingOnceItsItemIsTakenAway) {
