@@ -289,6 +289,7 @@ TEST(VideoReader, leapsOnlyToKeyFramesThatLieFarEnoughAhead) {
         VideoReader reader(asset, asset->tracks(MediaType::video).at(0));
         ASSERT_TRUE(reader.next());
         ASSERT_TRUE(reader.next());
+        ASSERT_TRUE(reader.peek());
         const Ticks target(40 * 20);
         reader.approach(
             {.target = target, .completeFrom = Ticks(0), .beginAt = target, .shortestLeap = leap});
