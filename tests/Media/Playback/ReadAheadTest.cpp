@@ -67,4 +67,56 @@ TEST(ReadAhead, leavesACacheAloneThatHoldsAFewFramesOnly) {
               std::nullopt);
 }
 
+// Frame by frame.
+
+class ReadAheadFrames : public testing::Test {
+protected:
+    ReadAheadFrames() { cache.begin(&kSource); }
+
+    FrameCache cache;
+    ReadAhead readAhead{cache};
+    Surroundings surroundings{.focus = 3000_ticks, .last = 90'000_ticks, .size = kFrameSize};
+};
+
+TEST_F(ReadAheadFrames, passOverThoseThatAreThere) {
+    readAhead.update(1, surroundings);
+    EXPECT_EQ(readAhead.next(), 3000_ticks);
+    fill(cache, 3000_ticks, 3400_ticks);
+    readAhead.arrive(3020_ticks);
+    EXPECT_EQ(readAhead.next(), 3400_ticks);
+}
+
+TEST_F(ReadAheadFrames, comeToAnEndEvenWhereNothingStaysInTheCache) {
+    readAhead.update(1, surroundings);
+    int count = 0;
+    while (const auto ticks = readAhead.next()) {
+        readAhead.arrive(*ticks + 20_ticks);
+        ASSERT_LE(++count, 1000);
+    }
+    EXPECT_EQ(count, 1000) << "however much the cache can hold";
+    EXPECT_TRUE(readAhead.isDone());
+    readAhead.update(1, surroundings);
+    EXPECT_TRUE(readAhead.isDone()) << "nothing has changed";
+}
+
+TEST_F(ReadAheadFrames, beginAnewInAnotherSize) {
+    readAhead.update(1, surroundings);
+    readAhead.giveUp();
+    ASSERT_TRUE(readAhead.isDone());
+    surroundings.size = kOtherFrameSize;
+    readAhead.update(1, surroundings);
+    EXPECT_EQ(readAhead.next(), 3000_ticks);
+}
+
+TEST_F(ReadAheadFrames, goOnWithWhatTheyWereAtUnlessThePlayheadIsFarAway) {
+    readAhead.update(1, surroundings);
+    ASSERT_EQ(readAhead.next(), 3000_ticks);
+    surroundings.focus = 3200_ticks;
+    readAhead.update(1, surroundings);
+    EXPECT_EQ(readAhead.next(), 3000_ticks);
+    surroundings.focus = 30'000_ticks;
+    readAhead.update(1, surroundings);
+    EXPECT_EQ(readAhead.next(), 30'000_ticks);
+}
+
 } // namespace
