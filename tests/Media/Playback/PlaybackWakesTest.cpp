@@ -202,6 +202,19 @@ TEST_F(SleepingThreads, giveTheSoundTheRunThatAPauseOrASeekBegins) {
     }
 }
 
+TEST_F(SleepingThreads, tellTheSoundWhenThePictureIsThere) {
+    load(1000);
+    rig.state.setPlaying(true, rig.now);
+    pass(100ms);
+    rig.seek(400);
+    rig.letSoundWork();
+    ASSERT_FALSE(rig.state.isClockRunning()) << "it sleeps until the picture is there";
+    rig.decodeAll();
+    rig.state.takeAftermath();
+    rig.present();
+    EXPECT_TRUE(rig.state.takeAftermath().wakes.sound);
+}
+
 TEST_F(SleepingThreads, tellAnObserverThatComesWhilePlaying) {
     load(1000);
     rig.state.setPlaying(true, rig.now);
