@@ -52,7 +52,7 @@ struct DecodeWork {
         /// One frame nearer to the frame at `target`, which is to follow while playing.
         decodeAhead,
         /// One frame nearer to `target`, where the frames at hand end while playing.
-        catchUp,
+        positionDecoder,
         /// Put one of the waiting frames into the cache.
         keepWaitingFrame,
         /// One frame nearer to the frame at `target`, which nobody has asked for yet.

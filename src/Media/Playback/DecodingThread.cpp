@@ -66,7 +66,7 @@ void DecodingThread::perform(const DecodeWork& work) {
         case Kind::decodeAhead:
             return decodeAhead(work);
         case Kind::redraw:
-        case Kind::catchUp:
+        case Kind::positionDecoder:
         case Kind::readAhead:
             return advance(work);
         case Kind::keepWaitingFrame:
@@ -155,7 +155,7 @@ void DecodingThread::decodeAhead(const DecodeWork& work) {
 
 /// Where decoding is behind, a frame that it passes is better than none.
 void DecodingThread::showLateFrame(const DecodeWork& work) {
-    if (!m_shared.lock()->wantsLateFrame(work, now()))
+    if (!m_shared.lock()->wantsLateFrame(work, m_source->passingTicks(), now()))
         return;
     const auto frame = m_source->passing(work.previewSize);
     RenderedFrame rendered = render(*frame);
@@ -169,18 +169,16 @@ void DecodingThread::queue(const DecodeWork& work, const CachedFrame& frame) {
 
 void DecodingThread::advance(const DecodeWork& work) {
     // What lies before it is at hand already, and need not be rendered again.
-    const bool isCatchingUp = work.kind == DecodeWork::Kind::catchUp;
-    const Ticks ticks = isCatchingUp ? work.target.earliest - Ticks(1) : work.target.earliest;
+    const bool isPositioning = work.kind == DecodeWork::Kind::positionDecoder;
+    const Ticks ticks = isPositioning ? work.target.earliest - Ticks(1) : work.target.earliest;
     FrameSource::Goal goal{.ticks = ticks, .completeFrom = ticks};
-    if (isCatchingUp)
+    if (isPositioning)
         goal.lateUntil = work.target.earliest;
     switch (m_source->advance(goal, work.previewSize, work.stop)) {
     case Outcome::onTheWay:
         return;
     case Outcome::nothing:
-        if (!isCatchingUp)
-            fail(work);
-        return;
+        return fail(work);
     case Outcome::arrived:
     case Outcome::late:
         m_shared.lock()->frameArrived(work, m_source->arrivedEnd());

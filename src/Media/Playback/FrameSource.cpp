@@ -71,7 +71,8 @@ void FrameSource::releaseDecoder() {
 
 FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
                                           const std::stop_token& stop) {
-    if (arriveAtKept(goal.ticks, size))
+    // What is too late to be rendered is decoded all the same, for what follows it.
+    if (goal.ticks >= goal.lateUntil && arriveAtKept(goal.ticks, size))
         return Outcome::arrived;
     if (m_goal != goal.ticks) {
         m_goal.reset();

@@ -76,6 +76,9 @@ public:
     /// not known.
     [[nodiscard]] Ticks position() const { return m_position; }
 
+    /// After `onTheWay`: where the frame decoded last begins.
+    [[nodiscard]] Ticks passingTicks() const { return m_passing->frame->ticks; }
+
     /// The frame decoded last, whatever lies between it and the next; null without one.
     [[nodiscard]] std::shared_ptr<const CachedFrame> passing(PreviewSize size);
 

@@ -20,7 +20,7 @@ std::optional<CachedFrame> PendingSteps::advance(FrameCache& cache, ImageSize si
                                                  const RenderedFrame& shown) {
     while (!m_counts.empty()) {
         if (!m_walk)
-            m_walk = Walk{m_counts.front(), shown.range, std::nullopt};
+            m_walk = Walk{m_counts.front(), shown.range, shown.time, std::nullopt};
         Walk& walk = *m_walk;
         while (walk.framesLeft != 0 && shown.image) {
             const std::optional<Ticks> ticks = next(walk);
@@ -30,10 +30,10 @@ std::optional<CachedFrame> PendingSteps::advance(FrameCache& cache, ImageSize si
             auto frame = cache.find(*ticks, size);
             if (!frame)
                 return std::nullopt;
-            walk.range.end = frame->range.end;
-            // A frame whose end was known from the packets shows longer where the one after it
-            // does not decode.
-            if (std::exchange(walk.range.begin, frame->range.begin) == frame->range.begin)
+            walk.range = frame->range;
+            // The same frame may be known for more ticks by now: where the one after it does not
+            // decode, or where those before it had been left out.
+            if (std::exchange(walk.time, frame->time) == frame->time)
                 continue;
             walk.frame = std::move(frame);
             walk.framesLeft += walk.framesLeft > 0 ? -1 : 1;

@@ -42,6 +42,7 @@ private:
         int framesLeft = 0;
         /// Of the frame that it has come to.
         TickRange range;
+        Time time;
         /// That frame; none before the first.
         std::optional<CachedFrame> frame;
     };

@@ -60,28 +60,28 @@ void PlaybackState::holdClock(Time at, SteadyTime now) {
     m_clock.hold(at);
     ++m_run;
     m_readySince = now;
-    m_aftermath.wakes.sound = true;
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.sound = true;
+    m_deferred.wakes.presenting = true;
 }
 
 void PlaybackState::pictureIsReady(SteadyTime now) {
     m_isPictureReady = true;
     m_readySince = now;
-    m_aftermath.wakes.sound = true;
+    m_deferred.wakes.sound = true;
 }
 
 void PlaybackState::stopSound() {
-    m_aftermath.staleWork.push_back(std::exchange(m_sound, std::stop_source()));
+    m_deferred.staleWork.push_back(std::exchange(m_sound, std::stop_source()));
 }
 
 void PlaybackState::stopWork() {
-    m_aftermath.staleWork.push_back(m_decoding);
-    m_aftermath.staleWork.push_back(m_sound);
+    m_deferred.staleWork.push_back(m_decoding);
+    m_deferred.staleWork.push_back(m_sound);
 }
 
 void PlaybackState::replaceItem(std::shared_ptr<const PlayerItem> item, SteadyTime now) {
-    m_aftermath.oldItem = std::exchange(m_item, std::move(item));
-    m_aftermath.oldImage = std::exchange(m_shown, {}).image;
+    m_deferred.oldItem = std::exchange(m_item, std::move(item));
+    m_deferred.oldImage = std::exchange(m_shown, {}).image;
     m_duration = m_item ? m_item->asset()->duration() : Time{};
     if (!m_duration.isNumeric())
         m_duration = kUnknownDuration;
@@ -97,7 +97,7 @@ void PlaybackState::replaceItem(std::shared_ptr<const PlayerItem> item, SteadyTi
     m_cache.begin(m_item.get());
     beginGeneration(m_item ? Time{} : Time::invalid(), {}, now);
     m_direction = 0;
-    m_aftermath.staleWork.push_back(std::exchange(m_decoding, std::stop_source()));
+    m_deferred.staleWork.push_back(std::exchange(m_decoding, std::stop_source()));
 }
 
 std::optional<std::uint64_t> PlaybackState::beginSeek(Time time, Time toleranceBefore,
@@ -123,18 +123,21 @@ void PlaybackState::noteDirection(SeekTarget target, SteadyTime now) {
 /// seek overtakes one that is on its way: what it was allowed to show meanwhile is due no later.
 void PlaybackState::beginGeneration(Time at, SeekTarget target, SteadyTime now) {
     ++m_generation;
-    ++m_interest;
+    ++m_readAheadVersion;
     m_seek.emplace(target, m_seek ? m_seek->substituteAt() : now + kPatience);
     m_steps.clear();
     m_queue.dropFrames();
     m_immediate.reset();
     m_isPictureReady = false;
+    m_unreachable.reset();
+    m_lateness.reset();
+    m_isFallingBehind = true;
     m_hasEnded = false;
-    m_observers.forgetNews();
+    m_observers.forgetPending();
     m_cache.setFocus(target.earliest);
     holdClock(at, now);
     stopSound();
-    m_aftermath.wakes.decoding = true;
+    m_deferred.wakes.decoding = true;
 }
 
 void PlaybackState::beginStep(int count) {
@@ -143,8 +146,8 @@ void PlaybackState::beginStep(int count) {
     m_hasEnded = false;
     m_steps.push(count);
     m_direction = count < 0 ? -1 : 1;
-    m_aftermath.wakes.presenting = true;
-    m_aftermath.wakes.decoding = true;
+    m_deferred.wakes.presenting = true;
+    m_deferred.wakes.decoding = true;
 }
 
 void PlaybackState::setPlaying(bool isPlaying, SteadyTime now) {
@@ -157,19 +160,20 @@ void PlaybackState::setPlaying(bool isPlaying, SteadyTime now) {
         m_lastEnd = {};
     holdClock(at, now);
     stopSound();
-    m_aftermath.wakes.decoding = true;
+    m_deferred.wakes.decoding = true;
 }
 
 void PlaybackState::setPreviewSize(PreviewSize size) {
     m_previewSize = size;
-    m_aftermath.wakes.presenting = true;
-    m_aftermath.wakes.decoding = true;
+    m_notRedrawn.reset();
+    m_deferred.wakes.presenting = true;
+    m_deferred.wakes.decoding = true;
 }
 
 void PlaybackState::setSink(VideoSink* sink) {
     m_sink = sink;
     m_isRedeliveryWanted = sink != nullptr;
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 void PlaybackState::setPointsOfInterest(const std::vector<Time>& times) {
@@ -181,19 +185,19 @@ void PlaybackState::setPointsOfInterest(const std::vector<Time>& times) {
     if (ticks == m_cache.pointsOfInterest())
         return;
     m_cache.setPointsOfInterest(std::move(ticks));
-    ++m_interest;
-    m_aftermath.wakes.decoding = true;
+    ++m_readAheadVersion;
+    m_deferred.wakes.decoding = true;
 }
 
 void PlaybackState::addObserver(Player::Token token, Time interval, SteadyTime now) {
     m_observers.add(token, interval, time(now));
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 std::vector<Player::Token> PlaybackState::acceptTick(const PlaybackEvent& event) {
     if (event.generation != m_generation)
         return {};
-    return m_observers.takeNews();
+    return m_observers.takePending();
 }
 
 bool PlaybackState::acceptJump(const PlaybackEvent& event) const {
@@ -225,7 +229,7 @@ bool PlaybackState::soundHeard(std::uint64_t run, bool isDriving, Time heard, St
         return false;
     m_clock.correct(heard, when);
     if (!wasRunning)
-        m_aftermath.wakes.presenting = true;
+        m_deferred.wakes.presenting = true;
     return true;
 }
 
@@ -233,7 +237,7 @@ void PlaybackState::runWithoutSound(std::uint64_t run, SteadyTime now) {
     if (run != m_run || !isRunningWanted() || !m_isPictureReady || m_clock.isRunning())
         return;
     m_clock.run(now);
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 } // namespace media::playback

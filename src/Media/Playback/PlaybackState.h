@@ -33,7 +33,7 @@ struct Wakes {
 
 /// What a transition leaves to be done without the lock: threads to wake, work to stop, and what
 /// may take a while to destroy.
-struct Aftermath {
+struct DeferredWork {
     Wakes wakes;
     std::vector<std::stop_source> staleWork;
     std::shared_ptr<const PlayerItem> oldItem;
@@ -123,9 +123,9 @@ public:
     void nearFrameArrived(const DecodeWork& work, Ticks ticks);
     /// queue, decodeAhead: the frame at the target, with its picture.
     void nextFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now);
-    /// decodeAhead: whether a frame that is passed on the way should be given to
+    /// decodeAhead: whether the frame at this tick, which is passed on the way, should be given to
     /// lateFrameArrived(), so that the picture does not stand still.
-    [[nodiscard]] bool wantsLateFrame(const DecodeWork& work, SteadyTime now) const;
+    [[nodiscard]] bool wantsLateFrame(const DecodeWork& work, Ticks frame, SteadyTime now) const;
     void lateFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now);
     /// There is no frame at the target that decodes.
     void frameFailed(const DecodeWork& work, SteadyTime now);
@@ -159,7 +159,7 @@ public:
     [[nodiscard]] bool isClockRunning() const { return m_clock.isRunning(); }
 
     /// What the calls since the last of these leave to be done.
-    Aftermath takeAftermath() { return std::exchange(m_aftermath, {}); }
+    DeferredWork takeDeferredWork() { return std::exchange(m_deferred, {}); }
 
 private:
     /// A picture that is to be handed on at once.
@@ -187,7 +187,7 @@ private:
     [[nodiscard]] bool isReadAheadDue(const DecoderStatus& decoder, SteadyTime now) const;
     [[nodiscard]] SteadyTime nextDecodeLook(const DecoderStatus& decoder, SteadyTime now) const;
     [[nodiscard]] Ticks completeFrom(Ticks target) const;
-    void leaveOutLateFrames(Ticks clock);
+    void skipLateFrames(Ticks clock);
     void endJumpWithoutPicture(SteadyTime now);
     [[nodiscard]] bool isCurrent(const DecodeWork& work) const;
 
@@ -246,17 +246,22 @@ private:
     bool m_isPictureReady = false;
     /// Those that follow while playing.
     FrameQueue m_queue;
-    /// The generation for which frames were queued last: where playing stops one is owed.
-    std::uint64_t m_queuedGeneration = 0;
-    SteadyTime m_lastQueued;
+    /// The tick to which decoding could not be brought.
+    std::optional<Ticks> m_unreachable;
+    SteadyTime m_lastFrameReady;
+    /// How far the last frame that was made ready while playing was behind the clock; none since
+    /// frames were left out.
+    std::optional<Ticks> m_lateness;
+    /// That was no less than for the one before, as far as is known.
+    bool m_isFallingBehind = true;
     /// The tick of a frame that can't be had in the size wanted now.
     std::optional<Ticks> m_notRedrawn;
     /// Changes with what is worth reading ahead for.
-    std::uint64_t m_interest = 0;
+    std::uint64_t m_readAheadVersion = 0;
     ReadAhead m_readAhead{m_cache};
     Player::Statistics m_statistics;
 
-    Aftermath m_aftermath;
+    DeferredWork m_deferred;
 };
 
 } // namespace media::playback

@@ -12,7 +12,9 @@ using std::chrono::milliseconds;
 /// Where decoding does not keep up, frames are shown late by as much as this; further behind, those
 /// up to the clock are left out. Sound that comes sooner by more than an eighth of a second is
 /// noticed (ITU-R BT.1359).
-constexpr Ticks kLongestLag{Ticks::kPerSecond / 10};
+constexpr Ticks kMaxLateness{Ticks::kPerSecond / 10};
+/// So far behind, they are left out although the frames come less and less late.
+constexpr Ticks kHopelessLateness{Ticks::kPerSecond};
 /// On the way to the clock, frames that are passed are shown no closer together than this: what is
 /// shown comes evenly, and rendering does not hold decoding up.
 constexpr milliseconds kLateFrameInterval{40};
@@ -60,7 +62,7 @@ DecodeWork PlaybackState::nextDecodeWork(const DecoderStatus& decoder, SteadyTim
 bool PlaybackState::chooseSeek(DecodeWork& work, const DecoderStatus& decoder) {
     if (decoder.canDecode && m_seek->find(m_cache, work.imageSize)) {
         // It may have come there by the way.
-        m_aftermath.wakes.presenting = true;
+        m_deferred.wakes.presenting = true;
         return false;
     }
     m_seek->setNeedsDecoding();
@@ -76,7 +78,7 @@ bool PlaybackState::chooseStep(DecodeWork& work) {
     if (!ticks)
         return false;
     if (m_cache.find(*ticks, work.imageSize)) {
-        m_aftermath.wakes.presenting = true;
+        m_deferred.wakes.presenting = true;
         return false;
     }
     work.kind = DecodeWork::Kind::step;
@@ -100,7 +102,7 @@ bool PlaybackState::chooseRedraw(DecodeWork& work) {
     if (m_immediate || isShownInSize() || isReplacedSoon || m_notRedrawn == ticks)
         return false;
     if (m_cache.find(ticks, work.imageSize)) {
-        m_aftermath.wakes.presenting = true;
+        m_deferred.wakes.presenting = true;
         return false;
     }
     work.kind = DecodeWork::Kind::redraw;
@@ -113,20 +115,22 @@ bool PlaybackState::choosePlaying(DecodeWork& work, const DecoderStatus& decoder
         return false;
     const Ticks clock = time(now).ticks();
     if (!isRunningWanted()) {
-        // Where playing has stopped, the frame at that time is owed even if decoding was behind.
-        const bool isOwed = m_queuedGeneration == m_generation && m_queue.isEmpty() &&
-                            m_steps.isEmpty() && m_shown.range.end <= clock;
-        if (!isOwed)
+        // Where playing has stopped, the frame at that time is to be shown even if decoding was
+        // behind.
+        const bool isClockFrameMissing =
+            m_queue.isEmpty() && m_steps.isEmpty() && m_shown.range.end <= clock;
+        if (!isClockFrameMissing)
             return false;
         m_queue.skipTo(clock);
     } else if (!m_queue.hasRoom()) {
         // Meanwhile decoding comes to where the frames at hand end.
         const Ticks missing = m_cache.coveredUntil(m_queue.next(), work.imageSize);
-        work.kind = DecodeWork::Kind::catchUp;
+        work.kind = DecodeWork::Kind::positionDecoder;
         work.target = SeekTarget::exactly(missing);
-        return missing != Ticks::forever() && decoder.position != missing;
+        return missing != Ticks::forever() && decoder.position != missing &&
+               m_unreachable != missing;
     }
-    leaveOutLateFrames(clock);
+    skipLateFrames(clock);
     work.frame = m_cache.find(m_queue.next(), work.imageSize);
     work.target = SeekTarget::exactly(m_queue.next());
     work.kind = work.frame ? DecodeWork::Kind::queue : DecodeWork::Kind::decodeAhead;
@@ -136,16 +140,21 @@ bool PlaybackState::choosePlaying(DecodeWork& work, const DecoderStatus& decoder
 /// Leaves out frames that are to follow while playing, but whose time is over. Those in the cache
 /// cost nothing. Decoding goes on to the frame at the clock where it is far behind: on the way the
 /// pictures that no other picture needs are not decoded, nor are whole groups once the clock has
-/// come to the key frame of the next.
-void PlaybackState::leaveOutLateFrames(Ticks clock) {
+/// come to the key frame of the next. Where the frames come less late each time nothing is left
+/// out: a decoder that was moved takes a while before it gives out its first.
+void PlaybackState::skipLateFrames(Ticks clock) {
     const Ticks first = m_queue.next();
     while (const auto frame = m_cache.find(m_queue.next(), imageSize())) {
         if (frame->range.end > clock)
             break;
         m_queue.skipTo(frame->range.end);
     }
-    if (m_queue.next() + kLongestLag < clock)
+    const Ticks allowed = m_isFallingBehind ? kMaxLateness : kHopelessLateness;
+    if (m_queue.next() + allowed < clock) {
         m_queue.skipTo(clock);
+        m_isFallingBehind = false;
+        m_lateness.reset();
+    }
     if (m_frameTicks > 0)
         m_statistics.dropped +=
             static_cast<std::uint64_t>(distance(first, m_queue.next()) / m_frameTicks);
@@ -158,11 +167,11 @@ bool PlaybackState::chooseIdle(DecodeWork& work, const DecoderStatus& decoder, S
         work.kind = DecodeWork::Kind::keepWaitingFrame;
         return true;
     }
-    m_readAhead.update(m_interest, {.focus = m_shown.time.ticks(),
-                                    .direction = m_direction,
-                                    .last = m_duration.ticks(),
-                                    .frameTicks = m_frameTicks,
-                                    .size = work.imageSize});
+    m_readAhead.update(m_readAheadVersion, {.focus = m_shown.time.ticks(),
+                                            .direction = m_direction,
+                                            .last = m_duration.ticks(),
+                                            .frameTicks = m_frameTicks,
+                                            .size = work.imageSize});
     if (isReadAheadDue(decoder, now)) {
         if (const std::optional<Ticks> ticks = m_readAhead.next()) {
             work.kind = DecodeWork::Kind::readAhead;
@@ -200,19 +209,19 @@ void PlaybackState::frameArrived(const DecodeWork& work, Ticks end) {
         if (m_item == work.item)
             m_readAhead.arrive(end);
         return;
-    case DecodeWork::Kind::catchUp:
+    case DecodeWork::Kind::positionDecoder:
         return;
     default:
         break;
     }
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 void PlaybackState::nearFrameArrived(const DecodeWork& work, Ticks ticks) {
     if (!isCurrent(work) || !m_seek)
         return;
     m_seek->settleOn(ticks);
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 void PlaybackState::nextFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now) {
@@ -220,24 +229,28 @@ void PlaybackState::nextFrameArrived(const DecodeWork& work, RenderedFrame frame
         !m_steps.isEmpty())
         return;
     frame.isFromCache = work.kind == DecodeWork::Kind::queue;
-    m_lastQueued = now;
-    m_queuedGeneration = m_generation;
+    const Ticks clock = time(now).ticks();
+    const Ticks lateness = clock - frame.range.begin;
+    m_isFallingBehind = m_lateness && lateness >= *m_lateness;
+    m_lateness = lateness;
+    m_lastFrameReady = now;
     m_queue.push(std::move(frame));
-    m_cache.setFocus(time(now).ticks());
-    m_aftermath.wakes.presenting = true;
+    m_cache.setFocus(clock);
+    m_deferred.wakes.presenting = true;
 }
 
-bool PlaybackState::wantsLateFrame(const DecodeWork& work, SteadyTime now) const {
-    return isCurrent(work) && m_queue.isEmpty() && now - m_lastQueued >= kLateFrameInterval;
+bool PlaybackState::wantsLateFrame(const DecodeWork& work, Ticks frame, SteadyTime now) const {
+    return isCurrent(work) && isRunningWanted() && m_queue.isEmpty() &&
+           frame >= m_shown.range.end && now - m_lastFrameReady >= kLateFrameInterval;
 }
 
 void PlaybackState::lateFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now) {
     if (!isCurrent(work) || m_immediate || !m_queue.isEmpty() || !m_steps.isEmpty() ||
         frame.range.end <= m_shown.range.end)
         return;
-    m_lastQueued = now;
+    m_lastFrameReady = now;
     m_queue.pushLate(std::move(frame));
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 void PlaybackState::frameFailed(const DecodeWork& work, SteadyTime now) {
@@ -250,7 +263,7 @@ void PlaybackState::frameFailed(const DecodeWork& work, SteadyTime now) {
     case DecodeWork::Kind::step:
         if (isCurrent(work))
             m_steps.giveUpRest();
-        m_aftermath.wakes.presenting = true;
+        m_deferred.wakes.presenting = true;
         break;
     case DecodeWork::Kind::redraw:
         if (m_item == work.item)
@@ -258,9 +271,11 @@ void PlaybackState::frameFailed(const DecodeWork& work, SteadyTime now) {
         break;
     case DecodeWork::Kind::queue:
     case DecodeWork::Kind::decodeAhead:
-    case DecodeWork::Kind::catchUp:
         if (isCurrent(work))
             m_queue.end();
+        break;
+    case DecodeWork::Kind::positionDecoder:
+        m_unreachable = work.target.earliest;
         break;
     case DecodeWork::Kind::readAhead:
         if (m_item == work.item)
@@ -281,7 +296,7 @@ void PlaybackState::endJumpWithoutPicture(SteadyTime now) {
     m_lastJump = now;
     pictureIsReady(now);
     m_immediate = ImmediateFrame{m_shown, true};
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 bool PlaybackState::wantsSubstitute(SteadyTime now) const {
@@ -293,7 +308,7 @@ void PlaybackState::substituteArrived(const DecodeWork& work,
     if (!m_seek || m_item != work.item)
         return;
     m_seek->setPassedFrame(std::move(frame), now);
-    m_aftermath.wakes.presenting = true;
+    m_deferred.wakes.presenting = true;
 }
 
 } // namespace media::playback

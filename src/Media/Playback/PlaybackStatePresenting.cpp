@@ -50,7 +50,7 @@ std::optional<FrameToShow> PlaybackState::frameToShow(SteadyTime now) {
     if (!m_steps.isEmpty()) {
         auto frame = m_steps.advance(m_cache, size, m_shown);
         // It may wait for a frame that has to be decoded.
-        m_aftermath.wakes.decoding = m_aftermath.wakes.decoding || !frame;
+        m_deferred.wakes.decoding = m_deferred.wakes.decoding || !frame;
         return found(Purpose::step, std::move(frame));
     }
     if (!isShownInSize())
@@ -92,7 +92,7 @@ void PlaybackState::arrive(const FrameToShow& work, SteadyTime now) {
 
 Presentation PlaybackState::delivered(SteadyTime now) {
     m_isDelivering = false;
-    m_aftermath.wakes.sinkIsFree = true;
+    m_deferred.wakes.sinkIsFree = true;
     return nextPresentation(now);
 }
 
@@ -145,7 +145,7 @@ void PlaybackState::takeDueFrame(SteadyTime now, Delivery& delivery) {
 
 void PlaybackState::show(RenderedFrame frame) {
     m_shown = std::move(frame);
-    m_aftermath.wakes.decoding = true;
+    m_deferred.wakes.decoding = true;
     if (!m_shown.image)
         return;
     ++m_statistics.shown;

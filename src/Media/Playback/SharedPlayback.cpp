@@ -8,10 +8,10 @@ SharedPlayback::Access::Access(SharedPlayback& shared, std::unique_lock<std::mut
     : m_shared(shared), m_lock(std::move(lock)) {}
 
 SharedPlayback::Access::~Access() {
-    Aftermath aftermath = m_shared.m_state.takeAftermath();
-    m_shared.wakeWhom(aftermath.wakes);
+    DeferredWork deferred = m_shared.m_state.takeDeferredWork();
+    m_shared.wakeWhom(deferred.wakes);
     m_lock.unlock();
-    for (std::stop_source& work : aftermath.staleWork)
+    for (std::stop_source& work : deferred.staleWork)
         work.request_stop();
 }
 
@@ -23,29 +23,29 @@ SharedPlayback::Access SharedPlayback::lockBetweenDeliveries() {
 
 void SharedPlayback::wait(Waiter waiter, const std::stop_token& stop, SteadyTime deadline) {
     std::unique_lock lock(m_mutex);
-    Bell& its = bell(waiter);
-    its.condition.wait_until(lock, stop, deadline, [&its] { return its.isRung; });
-    its.isRung = false;
+    WakeEvent& its = wakeEvent(waiter);
+    its.condition.wait_until(lock, stop, deadline, [&its] { return its.isSet; });
+    its.isSet = false;
 }
 
 void SharedPlayback::wake(Waiter waiter) {
     const std::lock_guard lock(m_mutex);
-    bell(waiter).ring();
+    wakeEvent(waiter).set();
 }
 
 void SharedPlayback::wakeWhom(const Wakes& wakes) {
     if (wakes.decoding)
-        bell(Waiter::decoding).ring();
+        wakeEvent(Waiter::decoding).set();
     if (wakes.presenting)
-        bell(Waiter::presenting).ring();
+        wakeEvent(Waiter::presenting).set();
     if (wakes.sound)
-        bell(Waiter::sound).ring();
+        wakeEvent(Waiter::sound).set();
     if (wakes.sinkIsFree)
         m_sinkIsFree.notify_all();
 }
 
-void SharedPlayback::Bell::ring() {
-    isRung = true;
+void SharedPlayback::WakeEvent::set() {
+    isSet = true;
     condition.notify_all();
 }
 

@@ -56,22 +56,24 @@ public:
     [[nodiscard]] FrameCache& cache() { return m_cache; }
 
 private:
-    struct Bell {
+    struct WakeEvent {
         std::condition_variable_any condition;
         /// Remembered until the thread waits next, so that no wake is lost.
-        bool isRung = false;
+        bool isSet = false;
 
-        void ring();
+        void set();
     };
 
-    [[nodiscard]] Bell& bell(Waiter waiter) { return m_bells[static_cast<std::size_t>(waiter)]; }
+    [[nodiscard]] WakeEvent& wakeEvent(Waiter waiter) {
+        return m_wakeEvents[static_cast<std::size_t>(waiter)];
+    }
 
     void wakeWhom(const Wakes& wakes);
 
     FrameCache m_cache;
     std::mutex m_mutex;
     PlaybackState m_state{m_cache};
-    std::array<Bell, 3> m_bells;
+    std::array<WakeEvent, 3> m_wakeEvents;
     std::condition_variable m_sinkIsFree;
 };
 

@@ -28,8 +28,8 @@ bool TimeObservers::advanceTo(Time time) {
     bool isNews = false;
     for (Observer& observer : m_observers) {
         const std::int64_t interval = toNanoseconds(time) / observer.interval;
-        if (interval != observer.lastInterval && !observer.hasNews)
-            isNews = observer.hasNews = true;
+        if (interval != observer.lastInterval && !observer.isPending)
+            isNews = observer.isPending = true;
         observer.lastInterval = interval;
     }
     return isNews;
@@ -40,15 +40,15 @@ void TimeObservers::jumpTo(Time time) {
         observer.lastInterval = toNanoseconds(time) / observer.interval;
 }
 
-void TimeObservers::forgetNews() {
+void TimeObservers::forgetPending() {
     for (Observer& observer : m_observers)
-        observer.hasNews = false;
+        observer.isPending = false;
 }
 
-std::vector<Player::Token> TimeObservers::takeNews() {
+std::vector<Player::Token> TimeObservers::takePending() {
     std::vector<Player::Token> tokens;
     for (Observer& observer : m_observers) {
-        if (std::exchange(observer.hasNews, false))
+        if (std::exchange(observer.isPending, false))
             tokens.push_back(observer.token);
     }
     return tokens;

@@ -23,10 +23,10 @@ public:
     /// The clock was moved to `time`, which all will be told of: boundaries after it are news.
     void jumpTo(Time time);
     /// What they have not been told of is void.
-    void forgetNews();
+    void forgetPending();
 
     /// The observers that have news; they have none from now on.
-    std::vector<Player::Token> takeNews();
+    std::vector<Player::Token> takePending();
 
     /// When a running clock comes to the next boundary of any; none without observers.
     [[nodiscard]] std::optional<SteadyTime> nextBoundary(const PlaybackClock& clock,
@@ -38,7 +38,7 @@ private:
         nanoseconds interval{0};
         /// The number of the interval that the clock was last seen in.
         std::int64_t lastInterval = 0;
-        bool hasNews = false;
+        bool isPending = false;
     };
 
     std::vector<Observer> m_observers;

@@ -96,7 +96,7 @@ private:
         if (frame.range.holds(work.target.earliest)) {
             m_rig.cache.insert(work.item.get(), frame);
             m_rig.state.nextFrameArrived(work, renderedFrame(frame), m_rig.now);
-        } else if (m_rig.state.wantsLateFrame(work, m_rig.now)) {
+        } else if (m_rig.state.wantsLateFrame(work, frame.range.begin, m_rig.now)) {
             m_rig.state.lateFrameArrived(work, renderedFrame(frame), m_rig.now);
         }
     }
@@ -128,7 +128,52 @@ TEST(PlaybackOverload, leavesOutPicturesThatNoOtherNeedsWhereThatIsEnough) {
 TEST(PlaybackOverload, leavesOutWholeGroupsWhereItIsNot) {
     const Outcome outcome = SlowPlayback(110ms, 30).play(20s, 900);
     EXPECT_LE(outcome.longestStill, 500ms);
-    EXPECT_LE(outcome.longestLag, 1.1) << "it comes back to the clock with each group";
+    EXPECT_LE(outcome.longestLag, 1.5) << "it comes back to the clock with each group";
+}
+
+/// Frames that all stand alone, for a decoder that takes long for the first one after a jump and
+/// keeps up from then on, as one with many threads does.
+int shownByPipeline(milliseconds latency, milliseconds perFrame) {
+    PlaybackRig rig;
+    rig.load(900);
+    rig.cache.begin(rig.item.get());
+    rig.state.setPlaying(true, rig.now);
+    int shown = 0;
+    rig.onDelivery = [&](const auto& delivery) { shown += delivery.picture ? 1 : 0; };
+    SteadyTime busyUntil = rig.now;
+    std::optional<DecodeWork> work;
+    rig.decoder.position = kFrameLength;
+    bool isWarm = false;
+    for (auto passed = 0ms; passed < 10s; passed += 1ms) {
+        rig.now += 1ms;
+        if (rig.now >= busyUntil) {
+            if (work) {
+                const CachedFrame frame = rig.frameOf(
+                    static_cast<int>(work->target.earliest.count() / kFrameLength.count()));
+                rig.decoder.position = frame.range.end;
+                rig.cache.insert(work->item.get(), frame);
+                rig.state.nextFrameArrived(*work, renderedFrame(frame), rig.now);
+            }
+            work = rig.nextWork();
+            if (work->kind == DecodeWork::Kind::queue)
+                rig.state.nextFrameArrived(*work, renderedFrame(*work->frame), rig.now);
+            if (work->kind == DecodeWork::Kind::decodeAhead) {
+                const bool goesOn = work->target.earliest == rig.decoder.position;
+                busyUntil = rig.now + (goesOn && isWarm ? perFrame : latency);
+                isWarm = goesOn;
+            } else {
+                work.reset();
+            }
+        }
+        rig.present();
+        rig.letSoundWork();
+    }
+    return shown;
+}
+
+TEST(PlaybackOverload, waitsForADecoderThatOnlyBeginsSlowly) {
+    for (const milliseconds latency : {60ms, 150ms, 300ms, 500ms})
+        EXPECT_GE(shownByPipeline(latency, 15ms), 250) << latency.count() << " ms";
 }
 
 TEST(PlaybackOverload, neverShowsAnEarlierFrameAfterALaterOne) {

@@ -39,7 +39,7 @@ protected:
     }
 
     void stopStaleWork() {
-        for (std::stop_source& work : rig.state.takeAftermath().staleWork)
+        for (std::stop_source& work : rig.state.takeDeferredWork().staleWork)
             work.request_stop();
     }
 
@@ -376,7 +376,7 @@ TEST_F(PlaybackRules, showFramesOnTheWayToTheClockNoCloserTogetherThanEvenly) {
     const DecodeWork work = rig.nextWork();
     rig.takeShown();
     for (int frame = 1; frame <= 12; ++frame) {
-        if (rig.state.wantsLateFrame(work, rig.now))
+        if (rig.state.wantsLateFrame(work, ticksOf(frame), rig.now))
             rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(frame)), rig.now);
         rig.present();
         rig.now += 10ms;
@@ -392,8 +392,8 @@ TEST_F(PlaybackRules, showNoFrameOnTheWayRightAfterOneThatWasSought) {
     rig.present();
     ASSERT_EQ(rig.shownFrame(), 15);
     const DecodeWork work = rig.nextWork();
-    EXPECT_FALSE(rig.state.wantsLateFrame(work, rig.now + 39ms));
-    EXPECT_TRUE(rig.state.wantsLateFrame(work, rig.now + 40ms));
+    EXPECT_FALSE(rig.state.wantsLateFrame(work, ticksOf(16), rig.now + 39ms));
+    EXPECT_TRUE(rig.state.wantsLateFrame(work, ticksOf(16), rig.now + 40ms));
 }
 
 TEST_F(PlaybackRules, wantNoFrameOnTheWayWhileOthersAreReady) {
@@ -401,10 +401,10 @@ TEST_F(PlaybackRules, wantNoFrameOnTheWayWhileOthersAreReady) {
     playWithEmptyCache();
     rig.now += 500ms;
     const DecodeWork work = rig.nextWork();
-    ASSERT_TRUE(rig.state.wantsLateFrame(work, rig.now));
+    ASSERT_TRUE(rig.state.wantsLateFrame(work, ticksOf(3), rig.now));
     rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(3)), rig.now);
     rig.now += 60ms;
-    EXPECT_FALSE(rig.state.wantsLateFrame(work, rig.now));
+    EXPECT_FALSE(rig.state.wantsLateFrame(work, ticksOf(4), rig.now));
     rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(2)), rig.now);
     rig.takeShown();
     rig.present();
@@ -444,7 +444,7 @@ TEST_F(PlaybackRules, showNoFrameOnAWayThatASeekOrStepHasEnded) {
     rig.letSoundWork();
     rig.now += 600ms;
     rig.takeShown();
-    EXPECT_FALSE(rig.state.wantsLateFrame(work, rig.now));
+    EXPECT_FALSE(rig.state.wantsLateFrame(work, ticksOf(9), rig.now));
     rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(9)), rig.now);
     rig.state.nextFrameArrived(work, renderedFrame(rig.frameOf(15)), rig.now);
     rig.present();
@@ -493,7 +493,7 @@ TEST_F(PlaybackRules, putWaitingFramesAwayUnlessPlaying) {
     rig.decoder.hasWaitingFrames = true;
     EXPECT_EQ(rig.nextWork().kind, Kind::keepWaitingFrame);
     rig.state.setPlaying(true, rig.now);
-    while (rig.nextWork().kind == Kind::queue || rig.nextWork().kind == Kind::catchUp)
+    while (rig.nextWork().kind == Kind::queue || rig.nextWork().kind == Kind::positionDecoder)
         rig.decode();
     EXPECT_EQ(rig.nextWork().kind, Kind::wait);
 }
@@ -592,6 +592,82 @@ TEST_F(PlaybackRules, takeAJumpForNoBoundaryOfItsOwn) {
     EXPECT_THAT(rig.events, ElementsAre("jump"));
     rig.pass(300ms);
     EXPECT_THAT(rig.events, ElementsAre("jump", "tick"));
+}
+
+TEST_F(PlaybackRules, standOnTheFrameOfTheClockWhenPausedAfterFramesOnTheWayOnly) {
+    rig.load(900);
+    playWithEmptyCache();
+    rig.now += 500ms;
+    const DecodeWork work = rig.nextWork();
+    ASSERT_EQ(work.target.earliest, ticksOf(15));
+    rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(5)), rig.now);
+    rig.present();
+    rig.state.setPlaying(false, rig.now);
+    rig.pass(1s);
+    EXPECT_EQ(rig.shownFrame(), 15);
+}
+
+TEST_F(PlaybackRules, showTheLastFrameAtTheEndThoughDecodingWasBehind) {
+    rig.load(30);
+    playWithEmptyCache();
+    rig.now += 500ms;
+    const DecodeWork work = rig.nextWork();
+    rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(5)), rig.now);
+    rig.present();
+    rig.now += 600ms;
+    rig.present();
+    rig.pass(1s);
+    EXPECT_EQ(rig.endCount, 1);
+    EXPECT_EQ(rig.shownFrame(), 29);
+}
+
+TEST_F(PlaybackRules, renderNoFrameOnTheWayThatLiesBeforeTheOneOnShow) {
+    rig.load(900);
+    rig.seek(450);
+    rig.settle();
+    playWithEmptyCache();
+    rig.now += 100ms;
+    const DecodeWork work = rig.nextWork();
+    ASSERT_EQ(work.kind, Kind::decodeAhead);
+    EXPECT_FALSE(rig.state.wantsLateFrame(work, ticksOf(449), rig.now));
+    EXPECT_TRUE(rig.state.wantsLateFrame(work, ticksOf(451), rig.now));
+    rig.state.setPlaying(false, rig.now);
+    EXPECT_FALSE(rig.state.wantsLateFrame(work, ticksOf(451), rig.now)) << "it stands";
+}
+
+TEST_F(PlaybackRules, stepBackFromAFrameThatIsKnownFromItsMiddleOn) {
+    rig.load(900);
+    playWithEmptyCache();
+    rig.now += 510ms;
+    const DecodeWork work = rig.nextWork();
+    // Where frames were left out on the way, the one found is known from the target on.
+    auto frame = rig.frameOf(15);
+    frame.range.begin = work.target.earliest;
+    ASSERT_GT(frame.range.begin, ticksOf(15));
+    rig.cache.insert(rig.item.get(), frame);
+    rig.state.nextFrameArrived(work, renderedFrame(frame), rig.now);
+    rig.present();
+    rig.state.setPlaying(false, rig.now);
+    rig.settle();
+    rig.state.beginStep(-1);
+    rig.pass(10ms);
+    EXPECT_EQ(rig.shownFrame(), 14);
+}
+
+TEST_F(PlaybackRules, tryOnceToBringTheDecoderToWhereNothingDecodes) {
+    rig.load(300);
+    const Ticks missing = rig.cache.coveredUntil(Ticks(0), kFrameSize);
+    rig.decoder.position = Ticks(0);
+    rig.state.setPlaying(true, rig.now);
+    while (rig.nextWork().kind == Kind::queue)
+        rig.decode();
+    const DecodeWork work = rig.nextWork();
+    ASSERT_EQ(work.kind, Kind::positionDecoder);
+    ASSERT_EQ(work.target.earliest, missing);
+    rig.state.frameFailed(work, rig.now);
+    EXPECT_EQ(rig.nextWork().kind, Kind::wait);
+    rig.pass(200ms);
+    EXPECT_GT(rig.shownFrame(), 3) << "the frames at hand are shown";
 }
 
 } // namespace

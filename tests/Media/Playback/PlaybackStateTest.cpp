@@ -238,7 +238,7 @@ TEST_F(PlaybackStateTest, followsTheSoundOnceItIsHeard) {
     EXPECT_EQ(rig.state.soundStart(run->number), SoundStart::notYet) << "that run is over";
     EXPECT_FALSE(rig.state.soundHeard(run->number, true, Time{120, 600}, rig.now));
     EXPECT_TRUE(run->stop.stop_requested() || [&] {
-        for (std::stop_source& work : rig.state.takeAftermath().staleWork)
+        for (std::stop_source& work : rig.state.takeDeferredWork().staleWork)
             work.request_stop();
         return run->stop.stop_requested();
     }());
@@ -330,7 +330,7 @@ TEST_F(PlaybackStateTest, decodesOnFromWhereTheFramesAtHandEndWhilePlaying) {
     while (rig.nextWork().kind == Kind::queue)
         rig.decode();
     const DecodeWork work = rig.nextWork();
-    EXPECT_EQ(work.kind, Kind::catchUp);
+    EXPECT_EQ(work.kind, Kind::positionDecoder);
     EXPECT_EQ(work.target.earliest, missing);
 }
 
@@ -376,15 +376,15 @@ TEST_F(PlaybackStateTest, showsNothingOnceItsItemIsTakenAway) {
 
 TEST_F(PlaybackStateTest, stopsTheDecodingOfAnItemThatIsGoneButNotOfASeekThatIsOvertaken) {
     rig.load(300);
-    rig.state.takeAftermath();
+    rig.state.takeDeferredWork();
     rig.seek(100);
     const DecodeWork work = rig.nextWork();
     rig.seek(200);
-    for (std::stop_source& stale : rig.state.takeAftermath().staleWork)
+    for (std::stop_source& stale : rig.state.takeDeferredWork().staleWork)
         stale.request_stop();
     EXPECT_FALSE(work.stop.stop_requested()) << "it may be on the way to the next";
     rig.state.replaceItem(makeItem(3), rig.now);
-    for (std::stop_source& stale : rig.state.takeAftermath().staleWork)
+    for (std::stop_source& stale : rig.state.takeDeferredWork().staleWork)
         stale.request_stop();
     EXPECT_TRUE(work.stop.stop_requested());
 }

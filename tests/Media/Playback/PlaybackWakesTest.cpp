@@ -12,8 +12,8 @@ namespace {
 using namespace std::chrono_literals;
 using media::Ticks;
 using media::Time;
-using media::playback::Aftermath;
 using media::playback::DecodeWork;
+using media::playback::DeferredWork;
 using media::playback::FrameToShow;
 using media::playback::Presentation;
 using media::playback::SteadyTime;
@@ -39,7 +39,7 @@ protected:
     /// What is awake works until everything sleeps again.
     void settle() {
         for (int round = 0; round < 10'000; ++round) {
-            hear(rig.state.takeAftermath().wakes);
+            hear(rig.state.takeDeferredWork().wakes);
             if (!(decode() | present() | sound()))
                 return;
         }
@@ -196,9 +196,9 @@ TEST_F(SleepingThreads, giveTheSoundTheRunThatAPauseOrASeekBegins) {
     pass(100ms);
     for (const auto& change : std::vector<std::function<void()>>{
              [&] { rig.seek(400); }, [&] { rig.state.setPlaying(false, rig.now); }}) {
-        rig.state.takeAftermath();
+        rig.state.takeDeferredWork();
         change();
-        EXPECT_TRUE(rig.state.takeAftermath().wakes.sound);
+        EXPECT_TRUE(rig.state.takeDeferredWork().wakes.sound);
     }
 }
 
@@ -210,9 +210,9 @@ TEST_F(SleepingThreads, tellTheSoundWhenThePictureIsThere) {
     rig.letSoundWork();
     ASSERT_FALSE(rig.state.isClockRunning()) << "it sleeps until the picture is there";
     rig.decodeAll();
-    rig.state.takeAftermath();
+    rig.state.takeDeferredWork();
     rig.present();
-    EXPECT_TRUE(rig.state.takeAftermath().wakes.sound);
+    EXPECT_TRUE(rig.state.takeDeferredWork().wakes.sound);
 }
 
 TEST_F(SleepingThreads, tellAnObserverThatComesWhilePlaying) {
@@ -258,12 +258,12 @@ TEST_F(SleepingThreads, tellWhoWaitsForTheSink) {
     bool wasDelivering = false;
     rig.onDelivery = [&](const auto& /*delivery*/) {
         wasDelivering = rig.state.isDelivering();
-        rig.state.takeAftermath();
+        rig.state.takeDeferredWork();
     };
     rig.present();
     EXPECT_TRUE(wasDelivering);
     EXPECT_FALSE(rig.state.isDelivering());
-    EXPECT_TRUE(rig.state.takeAftermath().wakes.sinkIsFree);
+    EXPECT_TRUE(rig.state.takeDeferredWork().wakes.sinkIsFree);
 }
 
 TEST_F(SleepingThreads, readAheadAfterASeekByItself) {
@@ -295,18 +295,18 @@ TEST_F(SleepingThreads, showWhatASlowSeekPasses) {
     load(2000);
     rig.cache.begin(rig.item.get());
     rig.seek(1000);
-    rig.state.takeAftermath();
+    rig.state.takeDeferredWork();
     rig.present();
     rig.now += 60ms;
     const DecodeWork work = rig.nextWork();
     rig.present();
     ASSERT_THAT(rig.takeShown(), IsEmpty()) << "there is nothing nearer yet";
-    rig.state.takeAftermath();
+    rig.state.takeDeferredWork();
     rig.now += 41ms;
     ASSERT_TRUE(rig.state.wantsSubstitute(rig.now));
     rig.state.substituteArrived(
         work, std::make_shared<media::playback::CachedFrame>(rig.frameOf(900)), rig.now);
-    EXPECT_TRUE(rig.state.takeAftermath().wakes.presenting);
+    EXPECT_TRUE(rig.state.takeDeferredWork().wakes.presenting);
     rig.present();
     EXPECT_THAT(rig.takeShown(), ElementsAre(900));
 }
@@ -319,10 +319,10 @@ TEST_F(SleepingThreads, showAFrameThatIsPassedOnTheWayToTheClock) {
     rig.letSoundWork();
     rig.now += 500ms;
     const DecodeWork work = rig.nextWork();
-    ASSERT_TRUE(rig.state.wantsLateFrame(work, rig.now));
-    rig.state.takeAftermath();
+    ASSERT_TRUE(rig.state.wantsLateFrame(work, 180_ticks, rig.now));
+    rig.state.takeDeferredWork();
     rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(9)), rig.now);
-    EXPECT_TRUE(rig.state.takeAftermath().wakes.presenting);
+    EXPECT_TRUE(rig.state.takeDeferredWork().wakes.presenting);
     rig.present();
     EXPECT_THAT(rig.takeShown(), Contains(9));
 }

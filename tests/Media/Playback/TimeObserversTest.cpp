@@ -24,8 +24,8 @@ TEST(TimeObservers, haveNewsOfBoundariesAfterTheTimeAtWhichTheyCame) {
     observers.add(1, kSecond, seconds(10.2));
     EXPECT_FALSE(observers.advanceTo(seconds(10.9)));
     EXPECT_TRUE(observers.advanceTo(seconds(11)));
-    EXPECT_THAT(observers.takeNews(), ElementsAre(1));
-    EXPECT_THAT(observers.takeNews(), IsEmpty());
+    EXPECT_THAT(observers.takePending(), ElementsAre(1));
+    EXPECT_THAT(observers.takePending(), IsEmpty());
 }
 
 TEST(TimeObservers, haveNewsOnceUntilTheyAreTold) {
@@ -33,7 +33,7 @@ TEST(TimeObservers, haveNewsOnceUntilTheyAreTold) {
     observers.add(1, kSecond, seconds(0));
     EXPECT_TRUE(observers.advanceTo(seconds(1)));
     EXPECT_FALSE(observers.advanceTo(seconds(2))) << "the owner is to call it already";
-    EXPECT_THAT(observers.takeNews(), ElementsAre(1));
+    EXPECT_THAT(observers.takePending(), ElementsAre(1));
     EXPECT_TRUE(observers.advanceTo(seconds(3)));
 }
 
