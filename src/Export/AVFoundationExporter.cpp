@@ -15,10 +15,10 @@ namespace brisklet {
 
 namespace {
 
-const char* sentence(AVFoundationExporter::ExportError::Kind kind) {
+media::ErrorKind mediaKind(AVFoundationExporter::ExportError::Kind kind) {
     using Kind = AVFoundationExporter::ExportError::Kind;
-    return kind == Kind::noVideoTrack ? "The source file contains no video track."
-                                      : "Couldn't create an export session for this video.";
+    return kind == Kind::noVideoTrack ? media::ErrorKind::noVideoTrackInSource
+                                      : media::ErrorKind::noExportSession;
 }
 
 /// The request's range, limited to the source: some videos are shorter than the shortest range that
@@ -33,7 +33,7 @@ media::TimeRange rangeOf(const ExportRequest& request, media::Time duration) {
     if (last < range.end)
         range.end = last;
     if (!range.start.isNumeric() || !range.end.isNumeric() || !(range.start < range.end))
-        throw media::Error("The range to export is empty.");
+        throw media::Error(media::ErrorKind::emptyRange);
     return range;
 }
 
@@ -52,7 +52,7 @@ std::unique_ptr<media::ExportSession> makeSession(media::Composition composition
 } // namespace
 
 AVFoundationExporter::ExportError::ExportError(Kind kind)
-    : std::runtime_error(sentence(kind)), m_kind(kind) {}
+    : media::Error(mediaKind(kind)), m_kind(kind) {}
 
 QCoro::Task<> AVFoundationExporter::exportVideo(ExportRequest request,
                                                 ExportProgressHandler onProgress,
@@ -88,9 +88,9 @@ std::shared_ptr<const media::Asset> AVFoundationExporter::source(const ExportReq
         return media::Asset::open(pathOf(request.sourceURL), stop);
     } catch (const media::Error& error) {
         // The message names the source, since other failures of an export are about the new file.
-        std::throw_with_nested(media::Error("Couldn't open “" +
-                                            displayName(request.sourceURL).toStdString() +
-                                            "”: " + error.what()));
+        std::throw_with_nested(
+            media::Error(becauseOf(media::ErrorKind::sourceNotOpened, error.failure(),
+                                   {displayName(request.sourceURL).toStdString()})));
     }
 }
 

@@ -3,8 +3,7 @@
 #include "Export/ExportBackend.h"
 #include "Media/Asset.h"
 #include "Media/Composition.h"
-
-#include <stdexcept>
+#include "Media/Error.h"
 
 namespace brisklet {
 
@@ -13,8 +12,8 @@ namespace brisklet {
 class AVFoundationExporter final : public ExportBackend {
 public:
     /// A failure to set up the export. Failures of the source file and of the export itself are
-    /// media::Error. Not final, because std::throw_with_nested derives from it.
-    class ExportError : public std::runtime_error {
+    /// plain media::Error. Not final, because std::throw_with_nested derives from it.
+    class ExportError : public media::Error {
     public:
         enum class Kind { noVideoTrack, sessionCreationFailed };
 

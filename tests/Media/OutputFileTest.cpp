@@ -30,7 +30,7 @@ int append(OutputFile& file, const std::string& text) {
 void writeCompletely(const std::filesystem::path& path, const std::string& text) {
     OutputFile file(path);
     if (const int error = append(file, text); error != 0)
-        throw Error(std::strerror(error));
+        throw Error(reasonOf(error));
     file.commit();
 }
 

@@ -90,7 +90,7 @@ std::string useAsSource(const std::filesystem::path& path) {
         const auto asset = Asset::open(path);
         const auto tracks = asset->tracks(MediaType::video);
         if (tracks.empty())
-            throw Error("The file contains no video track.");
+            throw Error(ErrorKind::noVideoTrack);
         VideoReader reader(asset, tracks[0]);
         while (reader.next()) {
         }

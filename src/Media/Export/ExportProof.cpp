@@ -19,7 +19,7 @@ namespace {
 constexpr double kRounding = 0.002;
 
 [[noreturn]] void fail() {
-    throw Error("The new file was damaged while it was written.");
+    throw Error(ErrorKind::newFileDamaged);
 }
 
 void require(bool condition) {

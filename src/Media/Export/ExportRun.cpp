@@ -9,7 +9,7 @@ namespace media {
 
 void expectOtherFile(const ffmpeg::SourceFile& source, const std::filesystem::path& output) {
     if (source.isSameFileAs(output))
-        throw Error("The video can’t be exported over itself.");
+        throw Error(ErrorKind::exportOverItself);
 }
 
 ExportRun::ExportRun(const Composition& composition,

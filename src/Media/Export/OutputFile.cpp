@@ -36,7 +36,7 @@ std::filesystem::path checked(std::filesystem::path destination) {
     } else if (S_ISDIR(status.st_mode)) {
         throwWriteError(EISDIR, destination);
     } else if (!S_ISREG(status.st_mode)) {
-        throw Error("Something that is not a regular file has the name of the new file.");
+        throw Error(ErrorKind::nameIsNoRegularFiles);
     }
     return destination;
 }

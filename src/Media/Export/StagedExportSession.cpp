@@ -17,7 +17,7 @@ StagedExportSession::StagedExportSession(Composition composition, std::filesyste
       m_fileType(fileType),
       m_settings(std::move(settings)) {
     if (!m_composition.asset || !m_composition.videoTrack)
-        throw Error("There is no video to export.");
+        throw Error(ErrorKind::nothingToExport);
     expectOtherFile(*OpenedAsset::of(m_composition.asset)->file(), m_outputPath);
 }
 
@@ -39,7 +39,7 @@ void StagedExportSession::run(std::stop_token stop) {
         throw;
     } catch (const std::bad_alloc&) {
         m_state = State::failed;
-        throw Error("There is not enough memory.");
+        throw Error(ErrorKind::notEnoughMemory);
     } catch (...) {
         m_state = State::failed;
         throw;

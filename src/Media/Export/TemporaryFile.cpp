@@ -112,7 +112,7 @@ bool TemporaryFile::createLocked(const std::filesystem::path& shownName) {
         const LockResult result = lock(m_descriptor);
         if (result == LockResult::taken) {
             close();
-            throw Error(ffmpeg::quoted(shownName) + " is being written by another export.");
+            throw Error(ErrorKind::beingExported, {ffmpeg::shownName(shownName)});
         }
         if (result == LockResult::impossible) {
             if (isNew)

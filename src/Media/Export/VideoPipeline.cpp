@@ -127,7 +127,7 @@ void VideoPipeline::decodeStage() {
         m_decoded.push(std::move(*frame));
     }
     if (m_scheduledFrames == 0)
-        throw Error("Not one picture of this range can be decoded.");
+        throw Error(ErrorKind::noPictureOfRangeDecodable);
     m_decoded.finish();
 }
 

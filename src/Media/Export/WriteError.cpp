@@ -12,10 +12,10 @@ namespace media {
 
 namespace {
 
-std::string quotedFolderOf(const std::filesystem::path& file) {
+std::string folderNameOf(const std::filesystem::path& file) {
     std::error_code ignored;
     const auto folder = std::filesystem::absolute(folderOf(file), ignored).lexically_normal();
-    return ffmpeg::quoted(folder);
+    return ffmpeg::shownName(folder);
 }
 
 } // namespace
@@ -27,32 +27,29 @@ std::filesystem::path folderOf(const std::filesystem::path& file) {
 void throwWriteError(int code, const std::filesystem::path& destination) {
     std::error_code ignored;
     if (code == ENOENT && std::filesystem::is_directory(folderOf(destination), ignored))
-        throw Error("The unfinished new file was removed by another program.");
+        throw Error(ErrorKind::newFileRemoved);
     switch (code) {
     case ENOENT:
     case ENOTDIR:
-        throw Error("The folder " + quotedFolderOf(destination) +
-                    " for the new file doesn’t exist.");
+        throw Error(ErrorKind::folderMissing, {folderNameOf(destination)});
     case EACCES:
     case EPERM:
-        throw Error("You don’t have permission to write to the folder " +
-                    quotedFolderOf(destination) + ".");
+        throw Error(ErrorKind::noPermissionToWrite, {folderNameOf(destination)});
     case EROFS:
-        throw Error("The disk with the folder " + quotedFolderOf(destination) +
-                    " is write-protected.");
+        throw Error(ErrorKind::writeProtected, {folderNameOf(destination)});
     case EISDIR:
-        throw Error("A folder has the name of the new file.");
+        throw Error(ErrorKind::nameIsAFolders);
     case ENAMETOOLONG:
-        throw Error("The name of the new file is too long.");
+        throw Error(ErrorKind::newNameTooLong);
     case EIO:
-        throw Error("The disk reported an error while the new file was being written.");
+        throw Error(ErrorKind::diskErrorWhileWriting);
     case ENOSPC:
     case EDQUOT:
     case EFBIG:
     case ENOMEM:
-        throw Error(ffmpeg::sentenceFor(-code));
+        throw Error(ffmpeg::failureOf(-code));
     default:
-        throw Error("The new file can’t be written: " + ffmpeg::sentenceFor(-code));
+        throw Error(becauseOf(ErrorKind::newFileNotWritten, ffmpeg::failureOf(-code)));
     }
 }
 

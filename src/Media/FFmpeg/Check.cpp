@@ -9,6 +9,25 @@
 
 namespace media::ffmpeg {
 
+namespace {
+
+/// A reason that is no sentence of its own: libav's, or the system's that libav passes on.
+Failure libraryReasonOf(int code) {
+    if (code == AVERROR_EXTERNAL)
+        return {ErrorKind::libraryFailed};
+    if (code == AVERROR_PATCHWELCOME)
+        return {ErrorKind::notImplemented};
+    Failure reason = reasonOf(AVUNERROR(code));
+    if (reason.kind == ErrorKind::otherReason) {
+        std::array<char, AV_ERROR_MAX_STRING_SIZE> text = {};
+        av_strerror(code, text.data(), text.size());
+        reason.arguments = {text.data()};
+    }
+    return reason;
+}
+
+} // namespace
+
 void silenceLog() {
     static std::once_flag once;
     std::call_once(once, [] {
@@ -18,32 +37,29 @@ void silenceLog() {
     });
 }
 
-std::string sentenceFor(int code) {
+Failure failureOf(int code) {
     switch (code) {
     case AVERROR_INVALIDDATA:
-        return "It is not a video file, or it is damaged.";
+        return {ErrorKind::notAVideo};
     case AVERROR_DEMUXER_NOT_FOUND:
-        return "Its format isn’t supported.";
+        return {ErrorKind::unsupportedFormat};
     case AVERROR_DECODER_NOT_FOUND:
-        return "Its video codec isn’t supported.";
+        return {ErrorKind::unsupportedCodec};
     case AVERROR_ENCODER_NOT_FOUND:
-        return "An encoder that the export needs isn’t installed.";
+        return {ErrorKind::encoderMissing};
     case AVERROR_EOF:
-        return "The file ends too early.";
+        return {ErrorKind::fileEndsTooEarly};
     case AVERROR(ENOMEM):
-        return "There is not enough memory.";
+        return {ErrorKind::notEnoughMemory};
     case AVERROR(ENOSPC):
     case AVERROR(EDQUOT):
-        return "There is not enough space on the disk.";
+        return {ErrorKind::diskFull};
     case AVERROR(EFBIG):
-        return "The file would be too large for this disk.";
+        return {ErrorKind::fileTooLarge};
     case AVERROR(EIO):
-        return "The disk reported an error.";
-    default: {
-        std::array<char, AV_ERROR_MAX_STRING_SIZE> text = {};
-        av_strerror(code, text.data(), text.size());
-        return std::string(text.data()) + ".";
-    }
+        return {ErrorKind::diskError};
+    default:
+        return becauseOf(ErrorKind::reasonAlone, libraryReasonOf(code));
     }
 }
 
@@ -51,7 +67,7 @@ int check(int code) {
     if (code == AVERROR_EXIT)
         throw Cancelled();
     if (code < 0)
-        throw Error(sentenceFor(code));
+        throw Error(failureOf(code));
     return code;
 }
 

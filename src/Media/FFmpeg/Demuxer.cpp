@@ -223,11 +223,11 @@ void Demuxer::checkSource() const {
     // libav takes every failed read for the end of the file.
     const int error = m_ioContext->error;
     if (error == AVERROR(EIO))
-        throw Error("The disk reported an error while the video was being read.");
+        throw Error(ErrorKind::diskErrorWhileReading);
     if (error < 0 && error != AVERROR_EOF && error != AVERROR_EXIT)
-        throw Error("The video can’t be read: " + sentenceFor(error));
+        throw Error(becauseOf(ErrorKind::unreadableVideo, failureOf(error)));
     if (m_io->file->size() < m_io->file->openedSize())
-        throw Error("The video was cut short while it was being read.");
+        throw Error(ErrorKind::videoCutShort);
 }
 
 bool Demuxer::seek(int streamIndex, Timestamp timestamp, const std::stop_token& stop) {

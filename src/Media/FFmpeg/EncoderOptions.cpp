@@ -43,8 +43,7 @@ struct ValueText {
 
 [[noreturn]] void throwRefused(const AVCodecContext& context, const std::string& name,
                                const std::string& value) {
-    throw Error(std::string("The encoder ") + context.codec->name + " doesn’t take the setting “" +
-                name + "=" + value + "”.");
+    throw Error(ErrorKind::settingRefused, {context.codec->name, name + "=" + value});
 }
 
 } // namespace

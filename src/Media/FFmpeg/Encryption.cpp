@@ -15,7 +15,7 @@ namespace media::ffmpeg {
 namespace {
 
 [[noreturn]] void throwEncrypted() {
-    throw Error("It is encrypted or copy-protected.");
+    throw Error(ErrorKind::encrypted);
 }
 
 /// The sample entries of encrypted tracks: those of Common Encryption and of older shops.

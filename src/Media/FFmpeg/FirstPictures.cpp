@@ -52,7 +52,7 @@ FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
             break;
     }
     if (!m_hasPicture)
-        throw Error("Not one picture in this file can be decoded.");
+        throw Error(ErrorKind::noPictureDecodable);
     return judged();
 }
 

@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace media::ffmpeg {
@@ -18,19 +17,19 @@ namespace {
     switch (code) {
     case ENOENT:
     case ENOTDIR:
-        throw Error("The file doesn’t exist.");
+        throw Error(ErrorKind::fileMissing);
     case EACCES:
     case EPERM:
-        throw Error("You don’t have permission to read this file.");
+        throw Error(ErrorKind::noPermissionToRead);
     case ENAMETOOLONG:
-        throw Error("The file name is too long.");
+        throw Error(ErrorKind::fileNameTooLong);
     case ELOOP:
-        throw Error("The link to the file leads nowhere.");
+        throw Error(ErrorKind::brokenLink);
     case ENXIO:
     case ENODEV:
-        throw Error("It is not a regular file.");
+        throw Error(ErrorKind::notARegularFile);
     default:
-        throw Error("The file can’t be read: " + std::generic_category().message(code) + ".");
+        throw Error(becauseOf(ErrorKind::unreadableFile, reasonOf(code)));
     }
 }
 
@@ -42,20 +41,20 @@ std::shared_ptr<const SourceFile> SourceFile::open(const std::filesystem::path& 
     if (::stat(path.c_str(), &status) != 0)
         throwOpenError(errno);
     if (S_ISDIR(status.st_mode))
-        throw Error("It is a folder, not a video file.");
+        throw Error(ErrorKind::isAFolder);
     if (!S_ISREG(status.st_mode))
-        throw Error("It is not a regular file.");
+        throw Error(ErrorKind::notARegularFile);
     // Without O_NONBLOCK a pipe put in the file's place meanwhile would block for ever.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor < 0)
         throwOpenError(errno);
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         ::close(descriptor);
-        throw Error("It is not a regular file.");
+        throw Error(ErrorKind::notARegularFile);
     }
     if (status.st_size == 0) {
         ::close(descriptor);
-        throw Error("The file is empty.");
+        throw Error(ErrorKind::fileEmpty);
     }
     return std::make_shared<const SourceFile>(descriptor, path, status);
 }
@@ -104,7 +103,7 @@ void SourceFile::expectUnchanged() const {
     const std::string now = wasHole ? m_openedMiddle : middle();
     // What cannot be read is told by whoever needs it.
     if (now.size() == m_openedMiddle.size() && now != m_openedMiddle)
-        throw Error(quoted(m_path) + " was changed after it was opened.");
+        throw Error(ErrorKind::fileChanged, {shownName(m_path)});
 }
 
 bool SourceFile::isSameFileAs(const std::filesystem::path& other) const {

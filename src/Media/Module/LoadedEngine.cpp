@@ -17,7 +17,7 @@ std::filesystem::path modulePath() {
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
     if (error)
-        throw Error("The media engine can’t be found: " + error.message() + ".");
+        throw Error(becauseOf(ErrorKind::engineNotFound, reasonOf(error.value())));
     return program.parent_path() / BRISKLET_ENGINE_MODULE;
 }
 
@@ -27,14 +27,14 @@ const Engine& loadEngine() {
     if (module == nullptr) {
         // Which file of whose is missing helps whoever packaged it, not the person at the screen.
         std::fprintf(stderr, "%s\n", ::dlerror());
-        throw Error("Brisklet is not completely installed. Install it again.");
+        throw Error(ErrorKind::incompleteInstallation);
     }
     const auto* const interface = static_cast<const char*>(::dlsym(module, kEngineInterfaceName));
     const auto entry = reinterpret_cast<EngineEntry>(::dlsym(module, kEngineEntryName));
     // An update replaces it below a program that runs.
     if (interface == nullptr || entry == nullptr ||
         std::string_view(interface) != BRISKLET_ENGINE_INTERFACE)
-        throw Error("Brisklet has been updated. Start it again.");
+        throw Error(ErrorKind::updatedMeanwhile);
     return *entry();
 }
 

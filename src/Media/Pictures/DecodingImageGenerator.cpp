@@ -11,7 +11,7 @@ namespace {
 AssetTrack firstVideoTrack(const Asset& asset) {
     std::vector<AssetTrack> tracks = asset.tracks(MediaType::video);
     if (tracks.empty())
-        throw Error("The file contains no video track.");
+        throw Error(ErrorKind::noVideoTrack);
     return std::move(tracks.front());
 }
 
@@ -32,7 +32,7 @@ void DecodingImageGenerator::setTolerance(Time before, Time after) {
 
 TimedImage DecodingImageGenerator::image(Time time, std::stop_token stop) {
     if (!time.isNumeric())
-        throw Error("There is no picture at this time.");
+        throw Error(ErrorKind::noPictureAtThisTime);
     const Ticks ticks = time.ticks();
     const Ticks earliest = ticks - m_before.ticks();
     const Ticks latest = ticks + m_after.ticks();
@@ -46,7 +46,7 @@ TimedImage DecodingImageGenerator::image(Time time, std::stop_token stop) {
         isThere = reader.seekNear(earliest, latest, stop);
     const DecodedFrame* frame = isThere ? reader.peek(stop) : nullptr;
     if (!frame)
-        throw Error("There is no picture at this time.");
+        throw Error(ErrorKind::noPictureAtThisTime);
     return {m_renderer.render(*frame->frame, m_maximumWidth, m_maximumHeight), frame->time};
 }
 

@@ -12,8 +12,7 @@ namespace {
 
 [[noreturn]] void failUnreadable(AVPixelFormat format) {
     const char* name = av_get_pix_fmt_name(format);
-    throw Error(std::string("Pictures in the pixel format “") + (name ? name : "unknown") +
-                "” cannot be converted.");
+    throw Error(ErrorKind::unconvertiblePixelFormat, {name ? name : "unknown"});
 }
 
 bool isDeprecatedFullRange(AVPixelFormat format) {

@@ -61,7 +61,7 @@ void RgbToYuv::buildGraph(const PlanarFormat& format) {
     m_graph.reset(zimg_filter_graph_build(&from, &to, &parameters));
     std::size_t memory = 0;
     if (!m_graph || zimg_filter_graph_get_tmp_size(m_graph.get(), &memory) != ZIMG_ERROR_SUCCESS)
-        throw Error("The colors of the pictures cannot be converted.");
+        throw Error(ErrorKind::unconvertibleColors);
     m_graphMemory.ensure(memory);
     m_format = format;
 }

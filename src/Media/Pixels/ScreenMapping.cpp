@@ -92,7 +92,7 @@ Graph build(const zimg_image_format& from, const zimg_image_format& to) {
     parameters.cpu_type = ZIMG_CPU_AUTO;
     Graph graph(zimg_filter_graph_build(&from, &to, &parameters));
     if (!graph)
-        throw Error("The colours of the picture cannot be converted.");
+        throw Error(ErrorKind::unconvertibleScreenColors);
     return graph;
 }
 
@@ -179,7 +179,7 @@ void ScreenMapping::process(const Graph& graph, const zimg_image_buffer_const& i
     zimg_filter_graph_get_tmp_size(graph.get(), &bytes);
     if (zimg_filter_graph_process(graph.get(), &in, &out, m_memory.ensure(bytes), nullptr, nullptr,
                                   nullptr, nullptr) != ZIMG_ERROR_SUCCESS)
-        throw Error("The colours of the picture cannot be converted.");
+        throw Error(ErrorKind::unconvertibleScreenColors);
 }
 
 /// Maps the brightest component through the curve and scales the others by the same factor, which
