@@ -1,5 +1,6 @@
 #include "TestSupport/Process.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -72,11 +73,16 @@ std::vector<char*> pointersTo(std::vector<std::string>& strings) {
 
 std::vector<std::string> environmentWith(const std::vector<std::string>& additions) {
     std::vector<std::string> environment = additions;
+    // What programs tell is compared with English, whatever the language of the person is.
+    const auto isLanguage = [](const std::string& entry) { return entry.starts_with("LANGUAGE="); };
+    if (std::ranges::none_of(environment, isLanguage))
+        environment.emplace_back("LANGUAGE=en");
     for (char** entry = environ; *entry != nullptr; ++entry) {
         const std::string name = std::string(*entry).substr(0, std::string(*entry).find('=') + 1);
         bool isReplaced = false;
         for (const std::string& addition : additions)
             isReplaced = isReplaced || addition.starts_with(name);
+        isReplaced = isReplaced || name == "LANGUAGE=";
         if (!isReplaced)
             environment.emplace_back(*entry);
     }

@@ -1,0 +1,33 @@
+#include "Support/LocalizedMessage.h"
+
+#include <QCoreApplication>
+
+#include <string>
+#include <vector>
+
+namespace brisklet {
+
+namespace {
+
+std::string sentence(const media::Failure& failure) {
+    std::vector<std::string> arguments = failure.arguments;
+    if (failure.cause)
+        arguments.push_back(sentence(*failure.cause));
+    const QString text =
+        QCoreApplication::translate("media::Error", media::englishText(failure.kind));
+    return media::filled(text.toStdString(), arguments);
+}
+
+} // namespace
+
+QString localizedMessage(const std::exception& error) {
+    const auto* const known = dynamic_cast<const media::Error*>(&error);
+    return known != nullptr ? QString::fromStdString(sentence(known->failure()))
+                            : QString::fromUtf8(error.what());
+}
+
+QString localizedReason(const std::error_code& error) {
+    return QString::fromStdString(sentence(media::reasonOf(error.value())));
+}
+
+} // namespace brisklet
