@@ -4,6 +4,7 @@
 #include "Models/EditState.h"
 #include "Platform/QuickActionInstallation.h"
 #include "Platform/Updater/Updater.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/QuickAction/QuickAction.h"
 
@@ -65,6 +66,7 @@ void AppCommands::makeFileActions() {
         if (const auto state = m_focusedValues.editState())
             state->presentOpenPanel();
     });
+    //: Opens the save panel.
     m_export = add(tr("Export…"), QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(m_export, &QAction::triggered, this, [this] {
         if (const auto state = m_focusedValues.editState())
@@ -77,6 +79,7 @@ void AppCommands::makeFileActions() {
 }
 
 void AppCommands::makeClipActions() {
+    //: “Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.
     m_trimStart = add(tr("Set Trim Start at Playhead"), QKeySequence(Qt::Key_BracketLeft));
     connect(m_trimStart, &QAction::triggered, this, [this] {
         if (const auto state = m_focusedValues.editState())
@@ -96,6 +99,7 @@ void AppCommands::makeClipActions() {
     m_nextFrame->setAutoRepeat(true);
 
     PlaybackSettings& settings = PlaybackSettings::shared();
+    //: Plays what is kept again and again; can be checked.
     m_loop = add(tr("Loop Playback"), QKeySequence(Qt::Key_L));
     m_loop->setCheckable(true);
     m_loop->setChecked(settings.isLoopEnabled());
@@ -106,6 +110,7 @@ void AppCommands::makeClipActions() {
 
 void AppCommands::fill(QMenuBar& menuBar) {
     m_menuBar = &menuBar;
+    //: The name of the program; only the place of the accelerator is yours.
     QMenu* application = menuBar.addMenu(tr("&Brisklet"));
     application->addActions({m_about, m_checkForUpdates});
     application->addSeparator();
@@ -114,6 +119,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
     application->addAction(m_quit);
     QMenu* file = menuBar.addMenu(tr("&File"));
     file->addActions({m_newWindow, m_open, m_export, m_close});
+    //: The menu of what is done to the part of the video that is kept.
     QMenu* clip = menuBar.addMenu(tr("&Clip"));
     clip->addActions({m_trimStart, m_trimEnd});
     clip->addSeparator();
@@ -146,6 +152,8 @@ void AppCommands::enable() {
 }
 
 void AppCommands::showQuickAction() {
+    //: The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name
+    //: none if your language has a word for all: “Add to File Managers”.
     m_quickAction->setText(QuickAction::shared().isInstalled() ? tr("Remove Finder Quick Action")
                                                                : tr("Install Finder Quick Action"));
 }
@@ -164,7 +172,7 @@ void AppCommands::toggleQuickAction() {
     } catch (const std::exception& error) {
         if (const auto state = m_focusedValues.editState())
             state->setErrorMessage(
-                tr("Couldn't update the Quick Action: %1").arg(QString::fromUtf8(error.what())));
+                tr("Couldn't update the Quick Action: %1").arg(localizedMessage(error)));
     }
 }
 
@@ -174,6 +182,7 @@ void AppCommands::showAbout() {
     box->setWindowModality(Qt::NonModal);
     box->setWindowTitle(tr("About Brisklet"));
     box->setIconPixmap(QApplication::windowIcon().pixmap(64));
+    //: %1: the version.
     box->setText(tr("Brisklet %1").arg(QApplication::applicationVersion()));
     box->setInformativeText(tr("Trims, crops and turns videos, exact to the frame.\n\n"
                                "Free software under the GNU General Public License, "

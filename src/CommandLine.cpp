@@ -2,6 +2,8 @@
 
 #include "Support/FileUrl.h"
 
+#include <QCoreApplication>
+
 #include <string_view>
 
 namespace brisklet {
@@ -33,12 +35,16 @@ CommandLine CommandLine::parse(std::span<const char* const> arguments) {
 }
 
 std::string usage() {
-    return "Usage: brisklet [VIDEO...]\n"
-           "Trims videos. Each VIDEO opens in a window of its own.\n"
-           "\n"
-           "  --install-quick-action  add \"Trim Video\" to the menus of file managers and exit\n"
-           "  --help                  print this and exit\n"
-           "  --version               print the version and exit\n";
+    //: What --help prints. The options stay as they are; lines have at most 79 letters.
+    return QCoreApplication::translate("brisklet::CommandLine",
+                                       "Usage: brisklet [VIDEO...]\n"
+                                       "Trims videos. Each VIDEO opens in a window of its own.\n"
+                                       "\n"
+                                       "  --install-quick-action  add \"Trim Video\" to the menus "
+                                       "of file managers and exit\n"
+                                       "  --help                  print this and exit\n"
+                                       "  --version               print the version and exit\n")
+        .toStdString();
 }
 
 } // namespace brisklet

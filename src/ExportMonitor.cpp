@@ -56,6 +56,7 @@ void ExportMonitor::update() {
         m_progress.show(std::nullopt);
         return;
     }
+    //: Why the computer is not to sleep; some desktops show it.
     m_inhibitor.inhibit(tr("A video is being exported."));
     m_progress.show(sum / count);
 }

@@ -5,6 +5,9 @@
 #include "Platform/DesktopApplication.h"
 #include "Platform/QuickActionInstallation.h"
 #include "Support/LeakCheck.h"
+#include "Support/LocalizedMessage.h"
+#include "Support/TerminalLanguage.h"
+#include "Support/Translations.h"
 #include "Support/Workers.h"
 
 #include <QDBusConnection>
@@ -15,6 +18,7 @@
 #include <cstdio>
 #include <exception>
 #include <span>
+#include <string>
 
 namespace {
 
@@ -34,14 +38,20 @@ QList<QUrl> filesOf(const CommandLine& commandLine) {
     return {commandLine.files.begin(), commandLine.files.end()};
 }
 
+void print(const QString& line) {
+    std::puts(qUtf8Printable(line));
+}
+
 int installQuickAction() {
     try {
         brisklet::QuickActionInstallation::install();
     } catch (const std::exception& error) {
-        std::printf("Quick Action install failed: %s\n", error.what());
+        //: %1: the reasons. “Quick Action”: the entries in the menus of file managers.
+        print(QCoreApplication::translate("brisklet::main", "Quick Action install failed: %1")
+                  .arg(brisklet::localizedMessage(error)));
         return 1;
     }
-    std::puts("Installed Trim Video Quick Action");
+    print(QCoreApplication::translate("brisklet::main", "Installed Trim Video Quick Action"));
     return 0;
 }
 
@@ -98,10 +108,13 @@ int run(int& argc, char** argv, const CommandLine& everything) {
 
     const brisklet::Application application(argc, argv);
     setUpApplication();
+    brisklet::installTranslations(brisklet::userCatalogue());
     const CommandLine commandLine = CommandLine::parse(argumentsOf(argc, argv));
     if (commandLine.unknownOption) {
-        std::fprintf(stderr, "brisklet: unknown option \"%s\"\n%s",
-                     commandLine.unknownOption->c_str(), brisklet::usage().c_str());
+        const std::string message = media::filled(
+            QCoreApplication::translate("brisklet::main", "unknown option \"%1\"").toStdString(),
+            {*commandLine.unknownOption});
+        std::fprintf(stderr, "brisklet: %s\n%s", message.c_str(), brisklet::usage().c_str());
         return kWrongUsage;
     }
     if (!isPlain && handOver(session, commandLine, launchData))
@@ -118,9 +131,12 @@ int run(int& argc, char** argv, const CommandLine& everything) {
 int main(int argc, char** argv) {
     // These need no display. Options of Qt's own are still among the arguments here.
     const CommandLine everything = CommandLine::parse(argumentsOf(argc, argv));
-    if (everything.installsQuickAction)
+    if (everything.installsQuickAction) {
+        const brisklet::TerminalLanguage language(argc, argv);
         return installQuickAction();
+    }
     if (everything.wantsHelp) {
+        const brisklet::TerminalLanguage language(argc, argv);
         std::fputs(brisklet::usage().c_str(), stdout);
         return 0;
     }
@@ -132,7 +148,12 @@ int main(int argc, char** argv) {
     try {
         status = run(argc, argv, everything);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "brisklet: %s\n", error.what());
+        const brisklet::TerminalLanguage language(argc, argv);
+        const QString message = brisklet::localizedMessage(error);
+        // Of one that was thrown before there was a language this is the English text.
+        const QString translated =
+            QCoreApplication::translate("brisklet::DesktopApplication", message.toUtf8());
+        std::fprintf(stderr, "brisklet: %s\n", qUtf8Printable(translated));
     }
     brisklet::checkForLeaks();
     return status;

@@ -1,4 +1,1113 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>Packaging</name>
+    <message>
+        <source>Video Trimmer</source>
+        <extracomment>The kind of program, in the menus of desktops.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trim, crop and turn videos, exact to the frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
+        <extracomment>What people search for in the menus of desktops, in any number; a semicolon after each.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trim, crop and turn videos</source>
+        <extracomment>These and the following stand in software centres.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crops and turns in the same step, with one careful resampling.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never touches the original, and never leaves a half-written file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Videos (%1)</source>
+        <extracomment>A type of files in the open panel; %1: patterns of names.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <extracomment>The title of the save panel, a noun.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <extracomment>The title of the open panel.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>“%1” is the video that is being edited. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::AppCommands</name>
+    <message>
+        <source>About Brisklet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Video…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <extracomment>Opens the save panel.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Trim Start at Playhead</source>
+        <extracomment>“Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Trim End at Playhead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous Frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next Frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loop Playback</source>
+        <extracomment>Plays what is kept again and again; can be checked.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Brisklet</source>
+        <extracomment>The name of the program; only the place of the accelerator is yours.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clip</source>
+        <extracomment>The menu of what is done to the part of the video that is kept.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Finder Quick Action</source>
+        <extracomment>The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name none if your language has a word for all: “Add to File Managers”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install Finder Quick Action</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t update the Quick Action: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trims, crops and turns videos, exact to the frame.
+
+Free software under the GNU General Public License, version 3 or later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::CommandLine</name>
+    <message>
+        <source>Usage: brisklet [VIDEO...]
+Trims videos. Each VIDEO opens in a window of its own.
+
+  --install-quick-action  add &quot;Trim Video&quot; to the menus of file managers and exit
+  --help                  print this and exit
+  --version               print the version and exit
+</source>
+        <extracomment>What --help prints. The options stay as they are; lines have at most 79 letters.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ContentView</name>
+    <message>
+        <source>Drop zone</source>
+        <extracomment>For screen readers: the empty window, on which videos are dropped.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <extracomment>For screen readers: the window with a video.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ControlsView</name>
+    <message>
+        <source>Export %1…</source>
+        <extracomment>A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export options</source>
+        <extracomment>For screen readers: the menu of formats and resolutions.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset to Defaults</source>
+        <extracomment>Format and resolution.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <extracomment>The title of a group of entries: MP4, MOV.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <extracomment>The title of a group of entries: Original, 1080p, 720p …</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <extracomment>What the button does when it is pressed; so are the following.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unmute (audio will be removed on export)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove crop</source>
+        <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::CropOverlayView</name>
+    <message>
+        <source>Crop</source>
+        <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1×%2 at %3, %4</source>
+        <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::DesktopApplication</name>
+    <message>
+        <source>Brisklet is running already, but it doesn’t answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::DesktopNotifications</name>
+    <message>
+        <source>Show</source>
+        <extracomment>A button of the notification of an export that has ended: shows the window.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::Download</name>
+    <message>
+        <source>The server took too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not a secure address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server leads to “%1”, which is not a secure address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server sends more than it should.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download can’t be stored: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to “%1” isn’t secure: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::DropZoneView</name>
+    <message>
+        <source>Drop a video here</source>
+        <extracomment>Under a picture of a film, in a frame that fills the window.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Video…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::EditState</name>
+    <message>
+        <source>Trimmed</source>
+        <extracomment>Follows the name of the original in the proposed name of the new file: “Holiday Trimmed.mp4”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” contains no video track.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open “%1”: %2</source>
+        <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ErrorAlert</name>
+    <message>
+        <source>Something Went Wrong</source>
+        <extracomment>The title of each alert; what went wrong stands below.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ExportFormat</name>
+    <message>
+        <source>MPEG-4 movie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QuickTime movie</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ExportJob</name>
+    <message>
+        <source>Export failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ExportMonitor</name>
+    <message>
+        <source>Export finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A video is being exported.</source>
+        <extracomment>Why the computer is not to sleep; some desktops show it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ExportProgressView</name>
+    <message>
+        <source>Exporting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <extracomment>A title, a noun: the act of exporting.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ExportResolution</name>
+    <message>
+        <source>Original</source>
+        <extracomment>The resolution of the export: that of the source.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::FileManagerEntries</name>
+    <message>
+        <source>Trim Video</source>
+        <extracomment>An entry in the menus of file managers, for the selected videos. A file is named so: no slash.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the selected videos in Brisklet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be written: %2</source>
+        <extracomment>%1: a file’s name; %2: the reason. So it is in the next one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be removed: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::FileUrl</name>
+    <message>
+        <source>“%1” is not on this computer, and no folder here leads to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::QuickAction</name>
+    <message>
+        <source>“%1” couldn’t be made: %2</source>
+        <extracomment>%1: a file’s or folder’s name; %2: the reason. So it is in the next three.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be copied: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” couldn’t be removed: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It doesn’t exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::QuickActionInstallation</name>
+    <message>
+        <source>The place of the program couldn’t be found out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::TimelineMarker</name>
+    <message>
+        <source>Trim start</source>
+        <extracomment>For screen readers: the handles on the time line. Trim start is the beginning of what is kept.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playhead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trim end</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::TimelineView</name>
+    <message>
+        <source>Timeline</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::UpdateDialogs</name>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates automatically?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You’re up to date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet %1 is the newest version available.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new version of Brisklet is available.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
+        <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloading Brisklet %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update didn’t work.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::Updater</name>
+    <message>
+        <source>The update feed is damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t check for updates: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update can’t be stored: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update couldn’t be downloaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update is incomplete. It hasn’t been installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no program to install the update with. It is here: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::WindowRootView</name>
+    <message>
+        <source>Stop the export and close?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <extracomment>The button that answers “Stop the export and close?” with yes.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::cli::ToolText</name>
+    <message>
+        <source>unknown option %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a value</source>
+        <extracomment>%1: an option, such as “--start”. So it is in what follows.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a number, not &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number, not &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something is missing: expected %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unexpected argument &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a name is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--count needs a number from 1 to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SECONDS needs a number from 0, not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--crop needs X,Y,W,H, not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--format knows %1, not &quot;%2&quot;</source>
+        <extracomment>%1: the formats, such as “mp4, mov”; %2: what was given.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the output does not say which format: add --format %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> or </source>
+        <extracomment>Between the names of formats, of which there are two or more.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 knows no &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--start must not be negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--end must come after --start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--max-short-edge needs a number of pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--progress knows json only, not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no command is given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: brisklet-cli probe SOURCE
+       brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
+       brisklet-cli frame SOURCE SECONDS OUTPUT.png
+       brisklet-cli export SOURCE OUTPUT [--start S] [--end S] [--crop X,Y,W,H]
+                    [--rotate DEGREES] [--mute] [--max-short-edge N]
+                    [--format %1] [--progress json]
+</source>
+        <extracomment>Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>probe      prints what the file is, as one JSON object.
+filmstrip  writes N (12) small stills from the middles of N equal slices to the
+           directory as 00.png, 01.png, ..., and prints their times as JSON.
+frame      writes the upright picture that a player shows at that time.
+export     writes a copy of the file:
+  --start, --end        the part to keep, in seconds (all of it)
+  --crop                in fractions of the picture as displayed after --rotate,
+                        from its top left corner
+  --rotate              clockwise quarter turns, in degrees
+  --mute                leaves the sound out
+  --max-short-edge      scales down to this many pixels on the shorter side
+  --format              %1 (what the output’s name ends in)
+  --progress json       prints one JSON line per report instead of a bar
+  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
+                        other encoder settings than the program’s, for measurements
+
+  --help, --version     print this, or the version, and exit
+
+Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
+</source>
+        <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t write “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open “%1”: %2</source>
+        <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t write the answer: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” contains no video track.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t write the picture as PNG.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t make the folder “%1”: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has no length.</source>
+        <extracomment>A reason: it is about the video.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t make a filmstrip of “%1”: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t make the picture: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::main</name>
+    <message>
+        <source>Quick Action install failed: %1</source>
+        <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Installed Trim Video Quick Action</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown option &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>media::Error</name>
+    <message>
+        <source>It is not a video file, or it is damaged.</source>
+        <extracomment>About a file that the sentence before has named.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its format isn’t supported.</source>
+        <extracomment>About a file that the sentence before has named.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its video codec isn’t supported.</source>
+        <extracomment>About a file that the sentence before has named.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is encrypted or copy-protected.</source>
+        <extracomment>About a file that the sentence before has named.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file doesn’t exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You don’t have permission to read this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file name is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The link to the file leads nowhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is not a regular file.</source>
+        <extracomment>About a file that the sentence before has named. “Regular” is the system’s word for a file that is neither a folder nor a device nor a pipe.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is a folder, not a video file.</source>
+        <extracomment>About a file that the sentence before has named.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file can’t be read: %1.</source>
+        <extracomment>%1: the reason, without a full stop.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video can’t be read: %1</source>
+        <extracomment>%1: the reason, a whole sentence.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” was changed after it was opened.</source>
+        <extracomment>%1: the file’s name.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file ends too early.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video was cut short while it was being read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk reported an error while the video was being read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file contains no video track.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not one picture in this file can be decoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no picture at this time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures in the pixel format “%1” cannot be converted.</source>
+        <extracomment>%1: FFmpeg’s name of the format, such as “yuv420p”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The colors of the pictures cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The colours of the picture cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open “%1”: %2</source>
+        <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The range to export is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The source file contains no video track.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t create an export session for this video.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no video to export.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video can’t be exported over itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not one picture of this range can be decoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The new file was damaged while it was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An encoder that the export needs isn’t installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder %1 doesn’t take the setting “%2”.</source>
+        <extracomment>%1: the encoder’s name, such as “libx264”; %2: the setting, such as “crf=18”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is being written by another export.</source>
+        <extracomment>%1: the new file’s name.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unfinished new file was removed by another program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder “%1” for the new file doesn’t exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You don’t have permission to write to the folder “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk with the folder “%1” is write-protected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder has the name of the new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something that is not a regular file has the name of the new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the new file is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk reported an error while the new file was being written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The new file can’t be written: %1</source>
+        <extracomment>%1: the reason, a whole sentence.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file would be too large for this disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk reported an error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The media engine can’t be found: %1.</source>
+        <extracomment>%1: the reason, without a full stop.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet is not completely installed. Install it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brisklet has been updated. Start it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <extracomment>%1: a reason, which stands alone or after a colon. Only the full stop is yours.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <extracomment>The file was on a network disk, where it is not any more.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <extracomment>The program that reads what is written has ended.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generic error in an external library</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not yet implemented in FFmpeg, patches welcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

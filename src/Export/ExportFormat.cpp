@@ -2,6 +2,10 @@
 
 namespace brisklet {
 
+QString typeName(const ExportFormatTraits& format) {
+    return QCoreApplication::translate("brisklet::ExportFormat", format.typeName.data());
+}
+
 QString rawValue(ExportFormat format) {
     return traits(format).rawValue;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -21,7 +22,7 @@ struct ExportFormatTraits {
     ExportFormat format;
     /// What the preferences store, and the label in a picker.
     QLatin1StringView rawValue;
-    /// The name of the file type, for people.
+    /// The name of the file type in English; typeName() is for people.
     QLatin1StringView typeName;
     /// Of the exported file, without the full stop.
     QLatin1StringView extension;
@@ -33,15 +34,17 @@ struct ExportFormatTraits {
 /// One row for each format, in the order in which a picker offers them. Everything that depends on
 /// the format is looked up here: a further format is one more enumerator and one more row.
 inline constexpr std::array kExportFormatTable{
-    ExportFormatTraits{.format = ExportFormat::mp4,
-                       .rawValue = QLatin1StringView("MP4"),
-                       .typeName = QLatin1StringView("MPEG-4 movie"),
-                       .extension = QLatin1StringView("mp4"),
-                       .alternativeExtension = QLatin1StringView("m4v"),
-                       .fileType = media::FileType::mpeg4},
+    ExportFormatTraits{
+        .format = ExportFormat::mp4,
+        .rawValue = QLatin1StringView("MP4"),
+        .typeName = QLatin1StringView(QT_TRANSLATE_NOOP("brisklet::ExportFormat", "MPEG-4 movie")),
+        .extension = QLatin1StringView("mp4"),
+        .alternativeExtension = QLatin1StringView("m4v"),
+        .fileType = media::FileType::mpeg4},
     ExportFormatTraits{.format = ExportFormat::mov,
                        .rawValue = QLatin1StringView("MOV"),
-                       .typeName = QLatin1StringView("QuickTime movie"),
+                       .typeName = QLatin1StringView(
+                           QT_TRANSLATE_NOOP("brisklet::ExportFormat", "QuickTime movie")),
                        .extension = QLatin1StringView("mov"),
                        .alternativeExtension = QLatin1StringView("qt"),
                        .fileType = media::FileType::quickTimeMovie},
@@ -62,6 +65,8 @@ static_assert(std::ranges::all_of(kAllExportFormats,
                                   [](ExportFormat each) { return traits(each).format == each; }),
               "The rows stand in the order of the enumerators.");
 
+/// The name of the file type in the user's language.
+QString typeName(const ExportFormatTraits& format);
 /// "MP4" or "MOV": what is stored, and the label in a picker.
 QString rawValue(ExportFormat format);
 /// Exact and case-sensitive; none for any other text.

@@ -2,6 +2,8 @@
 
 #include "Support/Preferences.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace brisklet {
@@ -28,7 +30,8 @@ std::optional<ExportResolution> exportResolutionOf(int rawValue) {
 
 QString label(ExportResolution resolution) {
     if (resolution == ExportResolution::original)
-        return QStringLiteral("Original");
+        //: The resolution of the export: that of the source.
+        return QCoreApplication::translate("brisklet::ExportResolution", "Original");
     return QString::number(rawValue(resolution)) + QLatin1Char('p');
 }
 

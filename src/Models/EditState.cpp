@@ -4,6 +4,7 @@
 #include "Models/ExportJob.h"
 #include "Support/FileNames.h"
 #include "Support/FileUrl.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/Thumbnailer.h"
@@ -22,17 +23,16 @@ constexpr int kThumbnailCount = 12;
 constexpr double kRestartMargin = 0.05;
 constexpr media::Time kExactly{0, media::kComparisonTimescale};
 
-QString quoted(const QString& name) {
-    return u'\u201C' + name + u'\u201D';
-}
-
 SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestName) {
     const ExportFormatTraits& type = traits(format);
     const QString extension = type.extension;
-    return {.fileName = truncatedName(displayBaseName(source),
-                                      QStringLiteral(" Trimmed.") + extension, longestName),
+    //: Follows the name of the original in the proposed name of the new file: “Holiday
+    //: Trimmed.mp4”.
+    return {.fileName =
+                truncatedName(displayBaseName(source),
+                              u' ' + EditState::tr("Trimmed") + u'.' + extension, longestName),
             .folder = urlOf(pathOf(source).parent_path()),
-            .typeName = type.typeName,
+            .typeName = typeName(type),
             .extension = extension,
             .otherExtensions = extensionsOfOtherFormats(format),
             .source = source};
@@ -93,12 +93,12 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
         auto opening = openVideo(url, stop);
         video = co_await opening;
         if (!video.displaySize)
-            failure = quoted(displayName(url)) + QStringLiteral(" contains no video track.");
+            failure = tr("“%1” contains no video track.").arg(displayName(url));
     } catch (const media::Cancelled&) {
         co_return;
     } catch (const std::exception& error) {
-        failure = QStringLiteral("Couldn't open ") + quoted(displayName(url)) +
-                  QStringLiteral(": ") + QString::fromUtf8(error.what());
+        //: %1: the file’s name; %2: the reason, a whole sentence.
+        failure = tr("Couldn't open “%1”: %2").arg(displayName(url), localizedMessage(error));
     }
     {
         const auto self = weak.lock();

@@ -2,7 +2,10 @@
 
 #include "Export/AVFoundationExporter.h"
 #include "Media/Error.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
+
+#include <QCoreApplication>
 
 #include <exception>
 #include <utility>
@@ -24,7 +27,10 @@ QCoro::Task<ExportOutcome> runExport(ExportRequest request,
         outcome.kind = ExportOutcome::Kind::cancelled;
     } catch (const std::exception& error) {
         outcome = {.kind = ExportOutcome::Kind::failed,
-                   .message = QStringLiteral("Export failed: ") + QString::fromUtf8(error.what())};
+                   .message = QCoreApplication::translate(
+                                  //: %1: the reason, a whole sentence.
+                                  "brisklet::ExportJob", "Export failed: %1")
+                                  .arg(localizedMessage(error))};
     }
     co_return outcome;
 }

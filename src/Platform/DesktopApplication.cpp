@@ -27,7 +27,9 @@ constexpr int kMostAttempts = 20;
 constexpr int kAnswerTimeoutMs = 20000;
 
 [[noreturn]] void throwUnanswered() {
-    throw std::runtime_error("Brisklet is running already, but it doesn’t answer.");
+    // Translated by who catches it: there is no application object yet.
+    throw std::runtime_error(QT_TRANSLATE_NOOP(
+        "brisklet::DesktopApplication", "Brisklet is running already, but it doesn’t answer."));
 }
 
 } // namespace

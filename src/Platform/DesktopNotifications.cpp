@@ -45,6 +45,7 @@ void DesktopNotifications::show(const QString& title, const QString& text,
     call << QStringLiteral("Brisklet") << uint{0} << QStringLiteral("com.quorvan.brisklet")
          << title
          // Services interpret markup in the body.
+         //: A button of the notification of an export that has ended: shows the window.
          << text.toHtmlEscaped() << QStringList{defaultAction(), tr("Show")}
          << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("com.quorvan.brisklet")}}
          << kUsualDuration;

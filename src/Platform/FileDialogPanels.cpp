@@ -37,6 +37,7 @@ QString movieFilter() {
         const QString pattern = QStringLiteral("*.") + QString::fromLatin1(extension);
         patterns << pattern << QStringLiteral("*.") + QString::fromLatin1(extension).toUpper();
     }
+    //: A type of files in the open panel; %1: patterns of names.
     return QFileDialog::tr("Videos (%1)").arg(patterns.join(u' '));
 }
 
@@ -87,6 +88,7 @@ QFuture<Answer> ask(QFileDialog* dialog) {
 }
 
 QFileDialog* makeSavePanel(QWidget* window, const SaveProposal& proposal) {
+    //: The title of the save panel, a noun.
     auto* dialog = new QFileDialog(window, QFileDialog::tr("Export"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
@@ -118,6 +120,7 @@ FileDialogPanels::FileDialogPanels(QWidget* window, std::shared_ptr<RemoteFiles>
 
 QCoro::Task<std::optional<QUrl>> FileDialogPanels::openMovie() {
     verifyMainThread();
+    //: The title of the open panel.
     auto* dialog = new QFileDialog(m_window, QFileDialog::tr("Open"));
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFile);

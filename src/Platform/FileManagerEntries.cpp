@@ -2,8 +2,11 @@
 
 #include "Platform/Failures.h"
 #include "Platform/MimeTypes.h"
+#include "Support/LocalizedMessage.h"
+#include "Support/Translations.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFile>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -12,6 +15,7 @@
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <vector>
 
 namespace brisklet::FileManagerEntries {
 
@@ -54,6 +58,25 @@ QByteArray mimeTypeList() {
     return movieMimeTypes().join(u';').toLatin1() + ';';
 }
 
+constexpr const char* kContext = "brisklet::FileManagerEntries";
+//: An entry in the menus of file managers, for the selected videos. A file is named so: no slash.
+constexpr const char* kTitle = QT_TRANSLATE_NOOP("brisklet::FileManagerEntries", "Trim Video");
+
+/// A line of a desktop entry for each language, of which the file manager takes its own.
+QByteArray inAllLanguages(const QByteArray& key, const char* text) {
+    QByteArray lines = key + '=' + text + '\n';
+    for (const QString& language : translatedLanguages()) {
+        const QByteArray translated = translatedInto(language, kContext, text).toUtf8();
+        if (translated != text)
+            lines += key + '[' + language.toLatin1() + "]=" + translated + '\n';
+    }
+    return lines;
+}
+
+QByteArray title() {
+    return inAllLanguages("Name", kTitle);
+}
+
 QByteArray dolphinServiceMenu(const fs::path& program) {
     return QByteArray(kMark) +
            "\n[Desktop Entry]\n"
@@ -63,8 +86,8 @@ QByteArray dolphinServiceMenu(const fs::path& program) {
            mimeTypeList() +
            "\nActions=trimVideo;\n"
            "X-KDE-Priority=TopLevel\n"
-           "\n[Desktop Action trimVideo]\n"
-           "Name=Trim Video\n"
+           "\n[Desktop Action trimVideo]\n" +
+           title() +
            "Icon=com.quorvan.brisklet\n"
            "Exec=" +
            quotedForDesktopEntry(program) + " %U\n";
@@ -73,8 +96,8 @@ QByteArray dolphinServiceMenu(const fs::path& program) {
 QByteArray thunarSendTo(const fs::path& program) {
     return QByteArray(kMark) +
            "\n[Desktop Entry]\n"
-           "Type=Application\n"
-           "Name=Trim Video\n"
+           "Type=Application\n" +
+           title() +
            "Icon=com.quorvan.brisklet\n"
            "Exec=" +
            quotedForDesktopEntry(program) + " %U\nMimeType=" + mimeTypeList() + "\n";
@@ -84,9 +107,10 @@ QByteArray nemoAction(const fs::path& program) {
     // The file names are URLs in quotation marks, which need no further quoting.
     return QByteArray(kMark) +
            "\n[Nemo Action]\n"
-           "Active=true\n"
-           "Name=Trim Video\n"
-           "Comment=Open the selected videos in Brisklet\n"
+           "Active=true\n" +
+           title() +
+           inAllLanguages("Comment", QT_TRANSLATE_NOOP("brisklet::FileManagerEntries",
+                                                       "Open the selected videos in Brisklet")) +
            "Icon-Name=com.quorvan.brisklet\n"
            "Exec=" +
            quotedForShell(program) +
@@ -119,17 +143,32 @@ QByteArray nautilusScript(const fs::path& program) {
 }
 
 struct Entry {
-    const char* place;
+    fs::path place;
     QByteArray (*content)(const fs::path& program);
     bool isExecutable;
 };
 
+/// Nautilus shows the name of the script.
+fs::path scriptNamed(const QString& title) {
+    return fs::path("nautilus/scripts") / title.toStdString();
+}
+
+/// The script as it is or has been called, in whichever language that was.
+std::vector<fs::path> scriptsOfAllLanguages() {
+    std::vector<fs::path> scripts{scriptNamed(QString::fromUtf8(kTitle))};
+    for (const QString& language : translatedLanguages())
+        scripts.push_back(scriptNamed(translatedInto(language, kContext, kTitle)));
+    return scripts;
+}
+
 /// Dolphin ignores service menus in the user's folder unless they are executable.
-constexpr std::array kEntries = {
-    Entry{"kio/servicemenus/com.quorvan.brisklet.trim-video.desktop", dolphinServiceMenu, true},
-    Entry{"nautilus/scripts/Trim Video", nautilusScript, true},
-    Entry{"nemo/actions/com.quorvan.brisklet.trim-video.nemo_action", nemoAction, false},
-    Entry{"Thunar/sendto/com.quorvan.brisklet.trim-video.desktop", thunarSendTo, false}};
+std::array<Entry, 4> entries() {
+    return {
+        Entry{"kio/servicemenus/com.quorvan.brisklet.trim-video.desktop", dolphinServiceMenu, true},
+        Entry{scriptNamed(QCoreApplication::translate(kContext, kTitle)), nautilusScript, true},
+        Entry{"nemo/actions/com.quorvan.brisklet.trim-video.nemo_action", nemoAction, false},
+        Entry{"Thunar/sendto/com.quorvan.brisklet.trim-video.desktop", thunarSendTo, false}};
+}
 
 QString textOf(const fs::path& path) {
     return QFile::decodeName(path.string().c_str());
@@ -146,15 +185,26 @@ bool isFree(const fs::path& path) {
            file.read(kLongestEntry).contains(kMark);
 }
 
-[[noreturn]] void fail(const char* what, const fs::path& path, const std::string& reason) {
-    throw std::runtime_error("“" + path.string() + "” couldn’t be " + what + ": " + reason);
+[[noreturn]] void failToWrite(const fs::path& path, const QString& reason) {
+    //: %1: a file’s name; %2: the reason. So it is in the next one.
+    const QString text =
+        QCoreApplication::translate("brisklet::FileManagerEntries", "“%1” couldn’t be written: %2");
+    throw std::runtime_error(
+        media::filled(text.toStdString(), {path.string(), reason.toStdString()}));
+}
+
+[[noreturn]] void failToRemove(const fs::path& path, const QString& reason) {
+    const QString text =
+        QCoreApplication::translate("brisklet::FileManagerEntries", "“%1” couldn’t be removed: %2");
+    throw std::runtime_error(
+        media::filled(text.toStdString(), {path.string(), reason.toStdString()}));
 }
 
 void write(const fs::path& path, const QByteArray& content, bool isExecutable) {
     std::error_code error;
     fs::create_directories(path.parent_path(), error);
     if (error)
-        fail("written", path, error.message());
+        failToWrite(path, localizedReason(error));
     auto permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup |
                        QFileDevice::ReadOther;
     if (isExecutable)
@@ -164,7 +214,7 @@ void write(const fs::path& path, const QByteArray& content, bool isExecutable) {
                            file.write(content) == content.size() &&
                            file.setPermissions(permissions) && file.commit();
     if (!isWritten)
-        fail("written", path, file.errorString().toStdString());
+        failToWrite(path, file.errorString());
 }
 
 /// Removes a file, and its parent folders as far as they are empty then.
@@ -172,7 +222,7 @@ void remove(const fs::path& dataFolder, const fs::path& place) {
     std::error_code error;
     const bool isRemoved = fs::remove(dataFolder / place, error);
     if (error && error != std::errc::not_a_directory)
-        fail("removed", dataFolder / place, error.message());
+        failToRemove(dataFolder / place, localizedReason(error));
     // This removes empty folders only.
     fs::path folder = place.parent_path();
     for (; isRemoved && !folder.empty(); folder = folder.parent_path())
@@ -188,7 +238,11 @@ fs::path dataFolder() {
 
 void install(const fs::path& dataFolder, const fs::path& program) {
     Failures failures;
-    for (const Entry& entry : kEntries) {
+    for (const fs::path& script : scriptsOfAllLanguages()) {
+        if (isFree(dataFolder / script))
+            failures.in([&] { remove(dataFolder, script); });
+    }
+    for (const Entry& entry : entries()) {
         const fs::path path = dataFolder / entry.place;
         failures.in([&] {
             if (isFree(path))
@@ -200,9 +254,12 @@ void install(const fs::path& dataFolder, const fs::path& program) {
 
 void uninstall(const fs::path& dataFolder) {
     Failures failures;
-    for (const Entry& entry : kEntries) {
-        if (isFree(dataFolder / entry.place))
-            failures.in([&] { remove(dataFolder, entry.place); });
+    std::vector<fs::path> places = scriptsOfAllLanguages();
+    for (const Entry& entry : entries())
+        places.push_back(entry.place);
+    for (const fs::path& place : places) {
+        if (isFree(dataFolder / place))
+            failures.in([&] { remove(dataFolder, place); });
     }
     failures.throwAny();
 }

@@ -5,6 +5,7 @@
 #include "Support/MainThread.h"
 #include "Support/QuickAction/QuickAction.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -24,7 +25,10 @@ std::filesystem::path ownProgram() {
         program = QFile::encodeName(QStandardPaths::findExecutable(QStringLiteral("brisklet")))
                       .toStdString();
     if (program.empty())
-        throw std::runtime_error("The place of the program couldn’t be found out.");
+        throw std::runtime_error(
+            QCoreApplication::translate("brisklet::QuickActionInstallation",
+                                        "The place of the program couldn’t be found out.")
+                .toStdString());
     return program;
 }
 

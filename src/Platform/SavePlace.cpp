@@ -1,6 +1,7 @@
 #include "Platform/SavePlace.h"
 
 #include "Support/FileUrl.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 #include "Support/Workers.h"
 
@@ -67,7 +68,7 @@ QCoro::Task<SavePlace> findSavePlace(std::shared_ptr<RemoteFiles> remoteFiles, Q
                 QObject::tr("“%1” is the video that is being edited. Choose another name.")
                     .arg(displayName(place.file));
     } catch (const std::exception& error) {
-        place.objection = QString::fromUtf8(error.what());
+        place.objection = localizedMessage(error);
     }
     co_return place;
 }

@@ -1,6 +1,7 @@
 #include "Support/FileUrl.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QStringDecoder>
 #include <QSysInfo>
 
@@ -86,8 +87,9 @@ std::filesystem::path pathOf(const QUrl& url) {
 
 QString notOnThisComputerMessage(const QUrl& url) {
     // Without a password that may stand in it.
-    return u'\u201C' + url.toDisplayString() +
-           QStringLiteral("\u201D is not on this computer, and no folder here leads to it.");
+    return QCoreApplication::translate(
+               "brisklet::FileUrl", "“%1” is not on this computer, and no folder here leads to it.")
+        .arg(url.toDisplayString());
 }
 
 QString displayName(const QUrl& url) {

@@ -30,7 +30,7 @@ void installTranslations(const QString& catalogue);
 QLocale uiLocale();
 
 /// A text in another language than the program's, for files that others show to the user. The text
-/// itself where there is no translation.
+/// itself where there is no translation. Main thread.
 QString translatedInto(const QString& catalogue, const char* context, const char* text);
 
 } // namespace brisklet

@@ -47,7 +47,9 @@ ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
       m_editor(new EditorView(m_state)) {
     setAcceptDrops(true);
     // One of them has the focus while no control has.
+    //: For screen readers: the empty window, on which videos are dropped.
     m_dropZone->setAccessibleName(tr("Drop zone"));
+    //: For screen readers: the window with a video.
     m_editor->setAccessibleName(tr("Editor"));
     for (QWidget* face : std::initializer_list<QWidget*>{m_dropZone, m_editor}) {
         face->setFocusPolicy(Qt::ClickFocus);

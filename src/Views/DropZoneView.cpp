@@ -39,6 +39,7 @@ QPen borderPen(const QColor& color) {
 DropZoneView::DropZoneView(std::shared_ptr<EditState> state, QWidget* parent)
     : QWidget(parent),
       m_symbol(new SymbolView(Symbol::film, kSymbolSide)),
+      //: Under a picture of a film, in a frame that fills the window.
       m_invitation(new QLabel(tr("Drop a video here"))) {
     auto* button = new QPushButton(tr("Open Video…"));
     button->setMinimumSize(kButtonSize);

@@ -55,6 +55,7 @@ ErrorAlert::ErrorAlert(QWidget* window)
       m_text(plainLabel()) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
+    //: The title of each alert; what went wrong stands below.
     setWindowTitle(tr("Something Went Wrong"));
     m_title->setText(windowTitle());
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);

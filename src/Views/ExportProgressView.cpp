@@ -28,6 +28,7 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
       m_title(new QLabel(tr("Exporting…"))),
       m_bar(new QProgressBar) {
     setWindowModality(Qt::WindowModal);
+    //: A title, a noun: the act of exporting.
     setWindowTitle(tr("Export"));
     m_title->setFont(theme::headlineFont(font()));
     m_bar->setAccessibleName(tr("Export progress"));

@@ -2,6 +2,7 @@
 
 #include "Platform/Updater/VersionOrder.h"
 
+#include <QCoreApplication>
 #include <QTextDocumentFragment>
 #include <QXmlStreamReader>
 
@@ -48,7 +49,9 @@ std::vector<AppcastItem> FeedReader::read() {
         }
     }
     if (m_xml.hasError() || !isFeed)
-        throw std::runtime_error("The update feed is damaged.");
+        throw std::runtime_error(
+            QCoreApplication::translate("brisklet::Updater", "The update feed is damaged.")
+                .toStdString());
     return m_items;
 }
 

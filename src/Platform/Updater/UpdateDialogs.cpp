@@ -26,10 +26,6 @@ constexpr int kMargin = 20;
 /// The bar counts in thousandths, since its range is too small for bytes.
 constexpr int kBarSteps = 1000;
 
-QString tr(const char* text) {
-    return QApplication::translate("UpdateDialogs", text);
-}
-
 QLabel* plainLabel(const QString& text) {
     auto* label = new QLabel(text);
     // Text from the feed must not be interpreted as markup.
@@ -111,6 +107,7 @@ void UpdateDialogs::showUpdate(const AppcastItem& item, const QString& currentVe
 
     QVBoxLayout* layout = layoutOf(*dialog);
     layout->addWidget(headline(tr("A new version of Brisklet is available.")));
+    //: %1: the new version; %2: the one that is installed.
     layout->addWidget(plainLabel(tr("Brisklet %1 is here; you have %2. Do you want to install it?")
                                      .arg(item.shortVersion, currentVersion)));
     if (!item.releaseNotes.isEmpty())

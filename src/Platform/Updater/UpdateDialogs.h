@@ -2,6 +2,7 @@
 
 #include "Platform/Updater/UpdateDriver.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QPointer>
 
@@ -11,6 +12,8 @@ namespace brisklet {
 
 /// The updater's small dialogs. They block no window. Main thread.
 class UpdateDialogs final : public UpdateDriver {
+    Q_DECLARE_TR_FUNCTIONS(brisklet::UpdateDialogs)
+
 public:
     UpdateDialogs() = default;
     ~UpdateDialogs() override;

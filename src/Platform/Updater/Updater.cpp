@@ -2,6 +2,7 @@
 
 #include "Platform/Updater/Download.h"
 #include "Platform/Updater/PackageSignature.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 
 #include <QDir>
@@ -166,7 +167,7 @@ void Updater::feedArrived(const QString& failure) {
         update = newestUpdate(parseAppcast(m_feed.data()), m_configuration.currentVersion,
                               m_configuration.systemVersion);
     } catch (const std::exception& error) {
-        fail(tr("Couldn’t check for updates: %1").arg(QString::fromUtf8(error.what())));
+        fail(tr("Couldn’t check for updates: %1").arg(localizedMessage(error)));
         return;
     }
     const bool isByItself = m_mode == Mode::byItself;

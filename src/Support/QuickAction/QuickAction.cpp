@@ -1,5 +1,6 @@
 #include "Support/QuickAction/QuickAction.h"
 
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 #include "Support/QuickAction/WorkflowDocument.h"
 
@@ -18,23 +19,25 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void fail(const char* what, const fs::path& item, const std::string& reason) {
-    throw std::runtime_error("“" + item.filename().string() + "” couldn’t be " + what + ": " +
-                             reason);
+/// `sentence` has places for the item and for the reason.
+[[noreturn]] void fail(const QString& sentence, const fs::path& item, const QString& reason) {
+    throw std::runtime_error(
+        media::filled(sentence.toStdString(), {item.filename().string(), reason.toStdString()}));
 }
 
 void makeFolder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error)
-        fail("made", folder, error.message());
+        //: %1: a file’s or folder’s name; %2: the reason. So it is in the next three.
+        fail(QuickAction::tr("“%1” couldn’t be made: %2"), folder, localizedReason(error));
 }
 
 void writeText(const fs::path& path, const QString& text) {
     QSaveFile file{QFile::decodeName(path.string().c_str())};
     const QByteArray bytes = text.toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        fail("written", path, file.errorString().toStdString());
+        fail(QuickAction::tr("“%1” couldn’t be written: %2"), path, file.errorString());
 }
 
 /// The program's own icon in the bundle's format; empty if it is not installed.
@@ -75,7 +78,7 @@ void QuickAction::writeWorkflow(const fs::path& to) {
         std::error_code error;
         fs::copy_file(icon, copy, error);
         if (error)
-            fail("copied", icon, error.message());
+            fail(tr("“%1” couldn’t be copied: %2"), icon, localizedReason(error));
         iconName = QStringLiteral("workflowCustomImage");
     }
     writeText(contents / "Info.plist", serviceDeclaration(iconName));
@@ -94,10 +97,10 @@ void QuickAction::uninstall() {
     std::error_code error;
     const bool isThere = fs::exists(fs::symlink_status(workflowPath(), error));
     if (!isThere)
-        fail("removed", workflowPath(), "It doesn’t exist.");
+        fail(tr("“%1” couldn’t be removed: %2"), workflowPath(), tr("It doesn’t exist."));
     fs::remove_all(workflowPath(), error);
     if (error)
-        fail("removed", workflowPath(), error.message());
+        fail(tr("“%1” couldn’t be removed: %2"), workflowPath(), localizedReason(error));
     refreshServicesRegistry();
     m_isInstalled = false;
 }

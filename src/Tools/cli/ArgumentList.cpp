@@ -1,6 +1,7 @@
 #include "Tools/cli/ArgumentList.h"
 
 #include "Tools/cli/Arguments.h"
+#include "Tools/cli/ToolText.h"
 
 #include <charconv>
 #include <cmath>
@@ -50,20 +51,21 @@ void ArgumentList::addOption(const std::string& argument, const char* next, cons
     const std::string name = argument.substr(0, equals);
     const bool isFlag = options.flags.contains(name);
     if (!isFlag && !options.withValue.contains(name))
-        throw UsageError("unknown option " + name);
+        throw UsageError(message(ToolText::tr("unknown option %1"), {name}));
     if (isFlag && equals != std::string::npos)
-        throw UsageError(name + " takes no value");
+        throw UsageError(message(ToolText::tr("%1 takes no value"), {name}));
     std::string value;
     if (!isFlag && equals != std::string::npos) {
         value = argument.substr(equals + 1);
     } else if (!isFlag) {
         if (!next)
-            throw UsageError(name + " needs a value");
+            //: %1: an option, such as “--start”. So it is in what follows.
+            throw UsageError(message(ToolText::tr("%1 needs a value"), {name}));
         value = next;
         takesNext = true;
     }
     if (!m_values.emplace(name, value).second)
-        throw UsageError(name + " is given twice");
+        throw UsageError(message(ToolText::tr("%1 is given twice"), {name}));
 }
 
 std::optional<std::string> ArgumentList::value(std::string_view option) const {
@@ -77,7 +79,8 @@ std::optional<double> ArgumentList::number(std::string_view option) const {
         return std::nullopt;
     const auto result = parseNumber(*text);
     if (!result)
-        throw UsageError(std::string(option) + " needs a number, not \"" + *text + "\"");
+        throw UsageError(
+            message(ToolText::tr("%1 needs a number, not \"%2\""), {std::string(option), *text}));
     return result;
 }
 
@@ -87,7 +90,8 @@ std::optional<int> ArgumentList::integer(std::string_view option) const {
         return std::nullopt;
     const auto result = parsed<int>(*text);
     if (!result)
-        throw UsageError(std::string(option) + " needs a whole number, not \"" + *text + "\"");
+        throw UsageError(message(ToolText::tr("%1 needs a whole number, not \"%2\""),
+                                 {std::string(option), *text}));
     return result;
 }
 

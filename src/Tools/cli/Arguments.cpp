@@ -3,6 +3,7 @@
 #include "Export/ExportRequest.h"
 #include "Support/FileUrl.h"
 #include "Tools/cli/ArgumentList.h"
+#include "Tools/cli/ToolText.h"
 
 #include <algorithm>
 #include <array>
@@ -24,11 +25,12 @@ const ArgumentList::Options kExportOptions{
 
 void expectOperands(const ArgumentList& list, std::size_t count, const char* names) {
     if (list.operands().size() < count)
-        throw UsageError(std::string("something is missing: expected ") + names);
+        throw UsageError(message(ToolText::tr("something is missing: expected %1"), {names}));
     if (list.operands().size() > count)
-        throw UsageError("unexpected argument \"" + list.operands()[count] + "\"");
+        throw UsageError(
+            message(ToolText::tr("unexpected argument \"%1\""), {list.operands()[count]}));
     if (std::ranges::any_of(list.operands(), [](const auto& operand) { return operand.empty(); }))
-        throw UsageError("a name is empty");
+        throw UsageError(message(ToolText::tr("a name is empty")));
 }
 
 /// The path that an operand names: a path as it is, or a file URL. Throws if that is not on this
@@ -50,7 +52,8 @@ FilmstripCommand parseFilmstrip(std::span<char* const> arguments) {
                              .directory = fileOf(list.operands()[1])};
     command.count = list.integer("--count").value_or(command.count);
     if (command.count < 1 || command.count > kMostStills)
-        throw UsageError("--count needs a number from 1 to " + std::to_string(kMostStills));
+        throw UsageError(message(ToolText::tr("--count needs a number from 1 to %1"),
+                                 {std::to_string(kMostStills)}));
     return command;
 }
 
@@ -59,7 +62,8 @@ FrameCommand parseFrame(std::span<char* const> arguments) {
     expectOperands(list, 3, "SOURCE SECONDS OUTPUT.png");
     const auto seconds = parseNumber(list.operands()[1]);
     if (!seconds || *seconds < 0)
-        throw UsageError("SECONDS needs a number from 0, not \"" + list.operands()[1] + "\"");
+        throw UsageError(message(ToolText::tr("SECONDS needs a number from 0, not \"%1\""),
+                                 {list.operands()[1]}));
     return {fileOf(list.operands()[0]), *seconds, fileOf(list.operands()[2])};
 }
 
@@ -71,7 +75,7 @@ std::optional<media::Rect> parseCrop(const std::string& text) {
         const auto side =
             comma == std::string_view::npos ? std::nullopt : parseNumber(rest.substr(0, comma));
         if (!side)
-            throw UsageError("--crop needs X,Y,W,H, not \"" + text + "\"");
+            throw UsageError(message(ToolText::tr("--crop needs X,Y,W,H, not \"%1\""), {text}));
         sides[i] = *side;
         rest.remove_prefix(std::min(comma + 1, rest.size()));
     }
@@ -79,7 +83,8 @@ std::optional<media::Rect> parseCrop(const std::string& text) {
     const media::Rect whole{0, 0, 1, 1};
     if (crop.width <= 0 || crop.height <= 0 ||
         !whole.insetBy(-kWholePictureMargin, -kWholePictureMargin).contains(crop))
-        throw UsageError("--crop needs fractions of the picture, from 0 to 1, with an area");
+        throw UsageError(message(
+            ToolText::tr("--crop needs fractions of the picture, from 0 to 1, with an area")));
     if (coversPicture(crop))
         return std::nullopt;
     return crop.intersected(whole);
@@ -100,7 +105,9 @@ ExportFormat parseFormat(const ArgumentList& list, const std::filesystem::path& 
     if (const auto name = list.value("--format")) {
         if (const auto format = exportFormatOfExtension(QString::fromStdString(*name)))
             return *format;
-        throw UsageError("--format knows " + formatNames(" and ") + ", not \"" + *name + "\"");
+        //: %1: the formats, such as “mp4, mov”; %2: what was given.
+        throw UsageError(message(ToolText::tr("--format knows %1, not \"%2\""),
+                                 {formatNames(ToolText::tr(" and ").toStdString()), *name}));
     }
     const std::string extension = output.extension().string();
     if (!extension.empty()) {
@@ -108,8 +115,9 @@ ExportFormat parseFormat(const ArgumentList& list, const std::filesystem::path& 
                 exportFormatOfExtension(QString::fromStdString(extension.substr(1))))
             return *format;
     }
-    throw UsageError("the name of the output does not say which format: add --format " +
-                     formatNames(" or "));
+    throw UsageError(
+        message(ToolText::tr("the name of the output does not say which format: add --format %1"),
+                {formatNames(ToolText::tr(" or ").toStdString())}));
 }
 
 std::optional<media::EncoderPreset> parsePreset(const ArgumentList& list, const char* option) {
@@ -120,7 +128,7 @@ std::optional<media::EncoderPreset> parsePreset(const ArgumentList& list, const 
         if (*name == known)
             return preset;
     }
-    throw UsageError(std::string(option) + " knows no \"" + *name + "\"");
+    throw UsageError(message(ToolText::tr("%1 knows no \"%2\""), {option, *name}));
 }
 
 media::EncoderSettings parseEncoders(const ArgumentList& list) {
@@ -137,9 +145,9 @@ void parseRange(ExportCommand& command, const ArgumentList& list) {
     command.start = list.number("--start").value_or(command.start);
     command.end = list.number("--end").value_or(command.end);
     if (command.start < 0)
-        throw UsageError("--start must not be negative");
+        throw UsageError(message(ToolText::tr("--start must not be negative")));
     if (command.end <= command.start)
-        throw UsageError("--end must come after --start");
+        throw UsageError(message(ToolText::tr("--end must come after --start")));
 }
 
 ExportCommand parseExport(std::span<char* const> arguments) {
@@ -155,11 +163,12 @@ ExportCommand parseExport(std::span<char* const> arguments) {
     command.muted = list.has("--mute");
     command.maxShortEdge = list.integer("--max-short-edge");
     if (command.maxShortEdge.value_or(1) < 1)
-        throw UsageError("--max-short-edge needs a number of pixels");
+        throw UsageError(message(ToolText::tr("--max-short-edge needs a number of pixels")));
     command.format = parseFormat(list, command.output);
     if (const auto progress = list.value("--progress")) {
         if (*progress != "json")
-            throw UsageError("--progress knows json only, not \"" + *progress + "\"");
+            throw UsageError(
+                message(ToolText::tr("--progress knows json only, not \"%1\""), {*progress}));
         command.progress = ExportCommand::Progress::json;
     }
     command.encoders = parseEncoders(list);
@@ -179,7 +188,7 @@ Command parseArguments(std::span<char* const> arguments) {
             return VersionCommand();
     }
     if (arguments.empty())
-        throw UsageError("no command is given");
+        throw UsageError(message(ToolText::tr("no command is given")));
     const std::string_view name = arguments.front();
     const auto rest = arguments.subspan(1);
     if (name == "probe")
@@ -190,43 +199,50 @@ Command parseArguments(std::span<char* const> arguments) {
         return parseFrame(rest);
     if (name == "export")
         return parseExport(rest);
-    throw UsageError("\"" + std::string(name) + "\" is no command");
+    throw UsageError(message(ToolText::tr("\"%1\" is no command"), {std::string(name)}));
 }
 
 std::string shortUsage() {
-    return "Usage: brisklet-cli probe SOURCE\n"
-           "       brisklet-cli filmstrip SOURCE DIRECTORY [--count N]\n"
-           "       brisklet-cli frame SOURCE SECONDS OUTPUT.png\n"
-           "       brisklet-cli export SOURCE OUTPUT [--start S] [--end S] [--crop X,Y,W,H]\n"
-           "                    [--rotate DEGREES] [--mute] [--max-short-edge N]\n"
-           "                    [--format " +
-           formatNames("|") + "] [--progress json]\n";
+    //: Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.
+    return message(
+        QCoreApplication::translate(
+            "brisklet::cli::ToolText",
+            "Usage: brisklet-cli probe SOURCE\n"
+            "       brisklet-cli filmstrip SOURCE DIRECTORY [--count N]\n"
+            "       brisklet-cli frame SOURCE SECONDS OUTPUT.png\n"
+            "       brisklet-cli export SOURCE OUTPUT [--start S] [--end S] [--crop X,Y,W,H]\n"
+            "                    [--rotate DEGREES] [--mute] [--max-short-edge N]\n"
+            "                    [--format %1] [--progress json]\n"),
+        {formatNames("|")});
 }
 
 std::string fullUsage() {
-    return shortUsage() +
-           "\n"
-           "probe      prints what the file is, as one JSON object.\n"
-           "filmstrip  writes N (12) small stills from the middles of N equal slices to the\n"
-           "           directory as 00.png, 01.png, ..., and prints their times as JSON.\n"
-           "frame      writes the upright picture that a player shows at that time.\n"
-           "export     writes a copy of the file:\n"
-           "  --start, --end        the part to keep, in seconds (all of it)\n"
-           "  --crop                in fractions of the picture as displayed after --rotate,\n"
-           "                        from its top left corner\n"
-           "  --rotate              clockwise quarter turns, in degrees\n"
-           "  --mute                leaves the sound out\n"
-           "  --max-short-edge      scales down to this many pixels on the shorter side\n"
-           "  --format              " +
-           formatNames(" or ") +
-           " (what the output’s name ends in)\n"
-           "  --progress json       prints one JSON line per report instead of a bar\n"
-           "  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf\n"
-           "                        other encoder settings than the program’s, for measurements\n"
-           "\n"
-           "  --help, --version     print this, or the version, and exit\n"
-           "\n"
-           "Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.\n";
+    //: Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.
+    const QString explanations = QCoreApplication::translate(
+        "brisklet::cli::ToolText",
+        "probe      prints what the file is, as one JSON object.\n"
+        "filmstrip  writes N (12) small stills from the middles of N equal slices to the\n"
+        "           directory as 00.png, 01.png, ..., and prints their times as JSON.\n"
+        "frame      writes the upright picture that a player shows at that time.\n"
+        "export     writes a copy of the file:\n"
+        "  --start, --end        the part to keep, in seconds (all of it)\n"
+        "  --crop                in fractions of the picture as displayed after --rotate,\n"
+        "                        from its top left corner\n"
+        "  --rotate              clockwise quarter turns, in degrees\n"
+        "  --mute                leaves the sound out\n"
+        "  --max-short-edge      scales down to this many pixels on the shorter side\n"
+        "  --format              %1 (what the output’s name ends in)\n"
+        "  --progress json       prints one JSON line per report instead of a bar\n"
+        "  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf\n"
+        "                        other encoder settings than the program’s, for measurements\n"
+        "\n"
+        "  --help, --version     print this, or the version, and exit\n"
+        "\n"
+        "Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.\n");
+    //: Between the names of formats, of which there are two or more.
+    const std::string formats =
+        formatNames(QCoreApplication::translate("brisklet::cli::ToolText", " or ").toStdString());
+    return shortUsage() + "\n" + message(explanations, {formats});
 }
 
 } // namespace brisklet::cli

@@ -1,8 +1,10 @@
 #include "Export/AVFoundationExporter.h"
 #include "Media/Error.h"
 #include "Support/FileUrl.h"
+#include "Support/LocalizedMessage.h"
 #include "Tools/cli/Commands.h"
 #include "Tools/cli/ProgressReport.h"
+#include "Tools/cli/ToolText.h"
 
 namespace brisklet::cli {
 
@@ -31,7 +33,8 @@ void run(const ExportCommand& command, const std::stop_token& stop) {
     } catch (const media::Cancelled&) {
         throw;
     } catch (const std::exception& error) {
-        throw CommandError(std::string("Export failed: ") + error.what());
+        throw CommandError(
+            message(ToolText::tr("Export failed: %1"), {localizedMessage(error).toStdString()}));
     }
     report.show(1);
 }

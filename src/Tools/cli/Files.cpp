@@ -2,7 +2,9 @@
 
 #include "Media/Error.h"
 #include "Support/FileUrl.h"
+#include "Support/LocalizedMessage.h"
 #include "Tools/cli/Commands.h"
+#include "Tools/cli/ToolText.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -18,16 +20,19 @@ struct Close {
     void operator()(std::FILE* file) const noexcept { std::fclose(file); }
 };
 
+std::string reasonText(int code) {
+    return localizedReason({code, std::generic_category()}).toStdString();
+}
+
 [[noreturn]] void throwWriteError(const std::filesystem::path& path, int code) {
-    throw CommandError("Couldn’t write " + quotedName(path) + ": " +
-                       std::generic_category().message(code) + ".");
+    throw CommandError(
+        message(ToolText::tr("Couldn’t write “%1”: %2."), {shownName(path), reasonText(code)}));
 }
 
 } // namespace
 
-std::string quotedName(const std::filesystem::path& path) {
-    const QString name = displayName(urlOf(path));
-    return (u'\u201C' + name + u'\u201D').toStdString();
+std::string shownName(const std::filesystem::path& path) {
+    return displayName(urlOf(path)).toStdString();
 }
 
 std::shared_ptr<const media::Asset> openSource(const std::filesystem::path& path,
@@ -35,7 +40,9 @@ std::shared_ptr<const media::Asset> openSource(const std::filesystem::path& path
     try {
         return media::Asset::open(path, stop);
     } catch (const media::Error& error) {
-        throw CommandError("Couldn't open " + quotedName(path) + ": " + error.what());
+        //: %1: the file’s name; %2: the reason, a whole sentence.
+        throw CommandError(message(ToolText::tr("Couldn't open “%1”: %2"),
+                                   {shownName(path), localizedMessage(error).toStdString()}));
     }
 }
 
@@ -55,8 +62,8 @@ void writeFile(const std::filesystem::path& path, const QByteArray& content) {
 void writeToStandardOutput(const QByteArray& content) {
     const auto size = static_cast<std::size_t>(content.size());
     if (std::fwrite(content.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
-        throw CommandError("Couldn’t write the answer: " + std::generic_category().message(errno) +
-                           ".");
+        throw CommandError(
+            message(ToolText::tr("Couldn’t write the answer: %1."), {reasonText(errno)}));
 }
 
 } // namespace brisklet::cli

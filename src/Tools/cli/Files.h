@@ -12,8 +12,8 @@
 
 namespace brisklet::cli {
 
-/// The file's name for people, in quotes.
-std::string quotedName(const std::filesystem::path& path);
+/// The file's name for people.
+std::string shownName(const std::filesystem::path& path);
 
 /// Opens a source. Throws CommandError; media::Cancelled.
 std::shared_ptr<const media::Asset> openSource(const std::filesystem::path& path,

@@ -1,8 +1,10 @@
 #include "Media/Error.h"
 #include "Media/ImageGenerator.h"
 #include "Support/ImageConversion.h"
+#include "Support/LocalizedMessage.h"
 #include "Tools/cli/Commands.h"
 #include "Tools/cli/Files.h"
+#include "Tools/cli/ToolText.h"
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -31,7 +33,8 @@ std::unique_ptr<media::ImageGenerator>
 makeGenerator(const std::filesystem::path& source,
               const std::shared_ptr<const media::Asset>& asset) {
     if (asset->tracks(media::MediaType::video).empty())
-        throw CommandError(quotedName(source) + " contains no video track.");
+        throw CommandError(
+            message(ToolText::tr("“%1” contains no video track."), {shownName(source)}));
     return media::ImageGenerator::make(asset);
 }
 
@@ -39,7 +42,7 @@ QByteArray pngOf(media::ImagePtr image) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!toQImage(std::move(image)).save(&buffer, "PNG"))
-        throw CommandError("Couldn’t write the picture as PNG.");
+        throw CommandError(message(ToolText::tr("Couldn’t write the picture as PNG.")));
     return bytes;
 }
 
@@ -53,8 +56,8 @@ void createDirectory(const std::filesystem::path& directory) {
     std::error_code error;
     std::filesystem::create_directories(directory, error);
     if (error)
-        throw CommandError("Couldn’t make the folder " + quotedName(directory) + ": " +
-                           error.message() + ".");
+        throw CommandError(message(ToolText::tr("Couldn’t make the folder “%1”: %2."),
+                                   {shownName(directory), localizedReason(error).toStdString()}));
 }
 
 } // namespace
@@ -68,7 +71,8 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
 
     const double duration = asset->duration().seconds();
     QJsonArray times;
-    std::string lastFailure = "It has no length.";
+    //: A reason: it is about the video.
+    std::string lastFailure = message(ToolText::tr("It has no length."));
     for (int i = 0; i < command.count && duration > 0; ++i) {
         const media::Time requested = timeOf((i + 0.5) * duration / command.count);
         std::optional<media::TimedImage> still;
@@ -76,7 +80,7 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
             still = generator->image(requested, stop);
         } catch (const media::Error& error) {
             // As in the window, a damaged place costs only its own picture.
-            lastFailure = error.what();
+            lastFailure = localizedMessage(error).toStdString();
             continue;
         }
         const auto number = static_cast<int>(times.size());
@@ -85,8 +89,8 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
                                  {QStringLiteral("actual"), still->time.seconds()}});
     }
     if (times.isEmpty())
-        throw CommandError("Couldn’t make a filmstrip of " + quotedName(command.source) + ": " +
-                           lastFailure);
+        throw CommandError(message(ToolText::tr("Couldn’t make a filmstrip of “%1”: %2"),
+                                   {shownName(command.source), lastFailure}));
     writeToStandardOutput(QJsonDocument(times).toJson());
 }
 
@@ -96,7 +100,8 @@ void run(const FrameCommand& command, const std::stop_token& stop) {
     try {
         writeFile(command.output, pngOf(generator->image(timeOf(command.seconds), stop).image));
     } catch (const media::Error& error) {
-        throw CommandError("Couldn’t make the picture: " + std::string(error.what()));
+        throw CommandError(message(ToolText::tr("Couldn’t make the picture: %1"),
+                                   {localizedMessage(error).toStdString()}));
     }
 }
 

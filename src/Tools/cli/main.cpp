@@ -1,4 +1,6 @@
 #include "Media/Error.h"
+#include "Support/LocalizedMessage.h"
+#include "Support/TerminalLanguage.h"
 #include "Support/Workers.h"
 #include "Tools/cli/Arguments.h"
 #include "Tools/cli/Commands.h"
@@ -50,7 +52,7 @@ int perform(const Work& command) {
         // After an interruption, failures that it caused are not reported.
         if (interruption.token().stop_requested())
             return kInterrupted;
-        tell(error.what());
+        tell(brisklet::localizedMessage(error).toStdString());
         return kFailed;
     }
 }
@@ -58,6 +60,7 @@ int perform(const Work& command) {
 } // namespace
 
 int main(int argc, char** argv) {
+    const brisklet::TerminalLanguage language(argc, argv);
     const std::span<char* const> all(argv, argc > 0 ? static_cast<std::size_t>(argc) : 0);
     try {
         const Command command = parseArguments(all.subspan(std::min<std::size_t>(1, all.size())));
@@ -67,7 +70,7 @@ int main(int argc, char** argv) {
         std::fputs(shortUsage().c_str(), stderr);
         return kWrongUsage;
     } catch (const std::exception& error) {
-        tell(std::string("brisklet-cli: ") + error.what());
+        tell(std::string("brisklet-cli: ") + brisklet::localizedMessage(error).toStdString());
         return kFailed;
     }
 }

@@ -29,6 +29,7 @@ QString exportLabel(ExportFormat format, ExportResolution resolution) {
     QString choice = rawValue(format);
     if (resolution != ExportResolution::original)
         choice += QStringLiteral(" · %1").arg(label(resolution));
+    //: A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.
     return QCoreApplication::translate("brisklet::ControlsView", "Export %1…").arg(choice);
 }
 

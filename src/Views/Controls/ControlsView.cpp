@@ -114,10 +114,12 @@ void ControlsView::buildLayout() {
 
 void ControlsView::buildMenu() {
     auto* menu = new QMenu(m_exportButton);
+    //: For screen readers: the menu of formats and resolutions.
     menu->setAccessibleName(tr("Export options"));
     addFormats(*menu);
     addResolutions(*menu);
     menu->addSeparator();
+    //: Format and resolution.
     const QAction* reset = menu->addAction(tr("Reset to Defaults"));
     connect(reset, &QAction::triggered, this, [] {
         ExportSettings::shared().setFormat(ExportFormat::mp4);
@@ -128,6 +130,7 @@ void ControlsView::buildMenu() {
 }
 
 void ControlsView::addFormats(QMenu& menu) {
+    //: The title of a group of entries: MP4, MOV.
     m_menuTitles << addTitle(menu, tr("Format"));
     auto* group = new QActionGroup(&menu);
     for (const ExportFormat format : kAllExportFormats) {
@@ -146,6 +149,7 @@ void ControlsView::addFormats(QMenu& menu) {
 
 void ControlsView::addResolutions(QMenu& menu) {
     menu.addSeparator();
+    //: The title of a group of entries: Original, 1080p, 720p …
     m_menuTitles << addTitle(menu, tr("Resolution"));
     auto* group = new QActionGroup(&menu);
     for (const ExportResolution resolution : kAllExportResolutions) {
@@ -207,6 +211,7 @@ void ControlsView::toggleCrop() {
 
 void ControlsView::showPlayState() {
     m_playButton->setSymbol(m_state->isPlaying() ? Symbol::pause : Symbol::play);
+    //: What the button does when it is pressed; so are the following.
     describe(*m_playButton, m_state->isPlaying() ? tr("Pause") : tr("Play"));
 }
 
@@ -230,6 +235,7 @@ void ControlsView::showCrop() {
     m_cropButton->setSymbol(Symbol::crop);
     m_cropButton->setChecked(crop.has_value());
     m_cropButton->setTint(crop ? FlatButton::Tint::accent : FlatButton::Tint::primary);
+    //: Commands: makes a crop frame, or removes it.
     describe(*m_cropButton, crop ? tr("Remove crop") : tr("Crop"));
     m_cropSize->setText(cropLabel(m_state->rotatedDisplaySize(), crop));
     m_cropSize->setVisible(crop.has_value());

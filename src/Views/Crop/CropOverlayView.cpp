@@ -48,6 +48,7 @@ Qt::CursorShape cursorOf(CropHandle handle) {
 CropOverlayView::CropOverlayView(std::shared_ptr<EditState> state, int handleSize, QWidget* parent)
     : QWidget(parent), m_state(std::move(state)), m_geometry{.handleSize = 1.0 * handleSize} {
     installCropOverlayAccessibility();
+    //: For screen readers, a noun: the frame around what is kept of the picture.
     setAccessibleName(tr("Crop"));
     setMouseTracking(true);
     // By Tab only: a click must not take the arrow keys away from the frame steps.
@@ -80,6 +81,7 @@ QString CropOverlayView::cropText() const {
     const auto pixels = [](double fraction, double whole) {
         return QString::number(std::lround(fraction * whole));
     };
+    //: For screen readers: width, height and the distances from left and top, in pixels.
     return tr("%1×%2 at %3, %4")
         .arg(pixels(crop->width, size.width), pixels(crop->height, size.height),
              pixels(crop->x, size.width), pixels(crop->y, size.height));

@@ -19,6 +19,8 @@ namespace {
 constexpr int kShiftFactor = 10;
 
 QString nameOf(EditMarker marker) {
+    //: For screen readers: the handles on the time line. Trim start is the beginning of what is
+    //: kept.
     switch (marker) {
     case EditMarker::trimStart:
         return TimelineMarker::tr("Trim start");
