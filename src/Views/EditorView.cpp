@@ -7,6 +7,8 @@
 #include "Views/Timeline/TimelineView.h"
 #include "Views/VideoArea.h"
 
+#include <QStyle>
+
 #include <algorithm>
 
 namespace brisklet {
@@ -49,7 +51,8 @@ void EditorView::resizeEvent(QResizeEvent* event) {
     m_timeline->setGeometry(kPadding, timelineTop, rowWidth, timelineHeight);
     // The frames of the buttons align with the rows above, not their highlights.
     const int inset = ControlsView::leftInset();
-    m_controls->setGeometry(kPadding - inset, controlsTop, rowWidth + inset, controlsHeight);
+    const QRect row(kPadding - inset, controlsTop, rowWidth + inset, controlsHeight);
+    m_controls->setGeometry(QStyle::visualRect(layoutDirection(), rect(), row));
 }
 
 } // namespace brisklet

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -40,13 +41,19 @@ QSize ExportButton::sizeHint() const {
 }
 
 QRect ExportButton::menuRect() const {
-    return {width() - kMenuWidth, 0, kMenuWidth, height()};
+    return QStyle::visualRect(layoutDirection(), rect(),
+                              {width() - kMenuWidth, 0, kMenuWidth, height()});
+}
+
+QRect ExportButton::labelRect() const {
+    return QStyle::visualRect(layoutDirection(), rect(), {0, 0, width() - kMenuWidth, height()});
 }
 
 void ExportButton::popUpMenu() {
     // Above the button, which is at the bottom of its window; Qt moves it if it does not fit there.
     const QSize size = menu()->sizeHint();
-    const QPoint corner = mapToGlobal(QPoint(width() - size.width(), 0));
+    const int left = isRightToLeft() ? 0 : width() - size.width();
+    const QPoint corner = mapToGlobal(QPoint(left, 0));
     menu()->popup(corner - QPoint(0, size.height() + kMenuGap));
     update();
 }
@@ -110,7 +117,7 @@ void ExportButton::paintFill(QPainter& painter) const {
         painter.fillPath(shape, color);
         painter.restore();
     };
-    shade(rect().adjusted(0, 0, -kMenuWidth, 0), underMouse() && !isOnMenu, isDown());
+    shade(labelRect(), underMouse() && !isOnMenu, isDown());
     shade(menuRect(), underMouse() && isOnMenu, isMenuOpen());
 }
 
@@ -122,11 +129,11 @@ void ExportButton::paintEvent(QPaintEvent* /*event*/) {
     const QColor ink =
         isEnabled() ? theme::onAccentFill(palette()) : theme::secondary(enabledPalette());
     painter.setPen(ink);
-    painter.drawText(rect().adjusted(kPadding, 0, -kMenuWidth - kPadding, 0), Qt::AlignCenter,
-                     text());
+    painter.drawText(labelRect().adjusted(kPadding, 0, -kPadding, 0), Qt::AlignCenter, text());
     QColor seam = ink;
     seam.setAlphaF(kSeamOpacity);
-    painter.fillRect(QRectF(menuRect().left(), kSeamInset, 1, height() - 2 * kSeamInset), seam);
+    const int seamLeft = isRightToLeft() ? labelRect().left() - 1 : menuRect().left();
+    painter.fillRect(QRectF(seamLeft, kSeamInset, 1, height() - 2 * kSeamInset), seam);
     const QPointF center = QRectF(menuRect()).center();
     paintSymbol(painter, Symbol::chevronDown,
                 QRectF(center.x() - kChevronSide / 2, center.y() - kChevronSide / 2, kChevronSide,

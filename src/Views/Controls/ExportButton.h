@@ -4,7 +4,7 @@
 
 namespace brisklet {
 
-/// A button of two parts: the label, which triggers the action, and a chevron at the right end,
+/// A button of two parts: the label, which triggers the action, and a chevron at its end,
 /// which opens the menu. The Down key opens the menu too. Main thread.
 class ExportButton final : public QToolButton {
     Q_OBJECT
@@ -30,6 +30,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    [[nodiscard]] QRect labelRect() const;
     /// The palette of the enabled button.
     [[nodiscard]] QPalette enabledPalette() const;
     void paintFill(QPainter& painter) const;

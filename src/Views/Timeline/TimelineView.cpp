@@ -37,6 +37,8 @@ TimelineView::TimelineView(std::shared_ptr<EditState> state, int stripHeight, in
       m_start(new TabularLabel(this)),
       m_position(new TabularLabel(this)),
       m_end(new TabularLabel(this)) {
+    // Time runs from left to right in all languages.
+    setLayoutDirection(Qt::LeftToRight);
     setAccessibleName(tr("Timeline"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
