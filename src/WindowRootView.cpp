@@ -1,6 +1,7 @@
 #include "WindowRootView.h"
 
 #include "AppCommands.h"
+#include "KeysByPlace.h"
 #include "Models/EditState.h"
 #include "Platform/FileDialogPanels.h"
 #include "Support/FileUrl.h"
@@ -8,6 +9,7 @@
 #include "Views/ContentView.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QVBoxLayout>
@@ -159,6 +161,12 @@ void WindowRootView::closeEvent(QCloseEvent* event) {
     showCloseQuestion();
 }
 
+void WindowRootView::keyPressEvent(QKeyEvent* event) {
+    const auto key = keyByPlace(*event);
+    if (!key || !triggerShortcut(*this, *key, event->isAutoRepeat()))
+        QWidget::keyPressEvent(event);
+}
+
 bool WindowRootView::mustAskToClose() const {
     return m_state->exportProgress() && !m_hasAgreedToStop && !m_closesAfterExport;
 }
@@ -177,6 +185,7 @@ void WindowRootView::showCloseQuestion() {
     m_closeQuestion = new QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"),
                                       tr("Stop the export and close?"), QMessageBox::Cancel,
                                       sheet != nullptr ? sheet : this);
+    //: The button that answers “Stop the export and close?” with yes.
     m_closeQuestion->addButton(tr("Stop and Close"), QMessageBox::AcceptRole);
     m_closeQuestion->setDefaultButton(QMessageBox::Cancel);
     m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);

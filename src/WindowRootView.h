@@ -72,6 +72,8 @@ protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    /// Of keys that are no shortcut by what is written on them.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void buildLayout();
