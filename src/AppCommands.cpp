@@ -16,13 +16,39 @@
 #include <QMessageBox>
 
 #include <exception>
+#include <optional>
 
 namespace brisklet {
+
+namespace {
+
+QString nameOf(EditStep step) {
+    switch (step) {
+    case EditStep::trimStart:
+        return AppCommands::tr("Trim Start");
+    case EditStep::trimEnd:
+        return AppCommands::tr("Trim End");
+    case EditStep::crop:
+        return AppCommands::tr("Crop");
+    case EditStep::removeCrop:
+        return AppCommands::tr("Remove Crop");
+    case EditStep::rotate:
+        return AppCommands::tr("Rotate");
+    case EditStep::mute:
+        return AppCommands::tr("Mute");
+    case EditStep::unmute:
+        return AppCommands::tr("Unmute");
+    }
+    return {};
+}
+
+} // namespace
 
 AppCommands::AppCommands(Updater& updater, FocusedValues& focusedValues, QObject* parent)
     : QObject(parent), m_updater(updater), m_focusedValues(focusedValues) {
     makeApplicationActions();
     makeFileActions();
+    makeEditActions();
     makeClipActions();
     connect(&m_focusedValues, &FocusedValues::editStateChanged, this, &AppCommands::observe);
     connect(&m_updater, &Updater::canCheckForUpdatesChanged, this, &AppCommands::enable);
@@ -78,6 +104,24 @@ void AppCommands::makeFileActions() {
     connect(m_close, &QAction::triggered, this, &AppCommands::closeWindow);
 }
 
+void AppCommands::makeEditActions() {
+    m_undo = add(tr("Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z));
+    connect(m_undo, &QAction::triggered, this, [this] {
+        if (const auto state = m_focusedValues.editState())
+            state->history().undo();
+    });
+    m_redo = add(tr("Redo"));
+    m_redo->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    connect(m_redo, &QAction::triggered, this, [this] {
+        if (const auto state = m_focusedValues.editState())
+            state->history().redo();
+    });
+    // Holding the key down goes through the steps.
+    m_undo->setAutoRepeat(true);
+    m_redo->setAutoRepeat(true);
+}
+
 void AppCommands::makeClipActions() {
     //: “Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.
     m_trimStart = add(tr("Set Trim Start at Playhead"), QKeySequence(Qt::Key_BracketLeft));
@@ -119,6 +163,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
     application->addAction(m_quit);
     QMenu* file = menuBar.addMenu(tr("&File"));
     file->addActions({m_newWindow, m_open, m_export, m_close});
+    menuBar.addMenu(tr("&Edit"))->addActions({m_undo, m_redo});
     //: The menu of what is done to the part of the video that is kept.
     QMenu* clip = menuBar.addMenu(tr("&Clip"));
     clip->addActions({m_trimStart, m_trimEnd});
@@ -129,15 +174,19 @@ void AppCommands::fill(QMenuBar& menuBar) {
 }
 
 void AppCommands::observe() {
-    if (const auto before = m_observed.lock())
+    if (const auto before = m_observed.lock()) {
         before->disconnect(this);
+        before->history().disconnect(this);
+    }
     const auto state = m_focusedValues.editState();
     m_observed = state;
     if (state) {
         connect(state.get(), &EditState::videoURLChanged, this, &AppCommands::enable);
         connect(state.get(), &EditState::exportProgressChanged, this, &AppCommands::enable);
+        connect(&state->history(), &EditHistory::changed, this, &AppCommands::showSteps);
     }
     enable();
+    showSteps();
 }
 
 void AppCommands::enable() {
@@ -149,6 +198,17 @@ void AppCommands::enable() {
     m_close->setEnabled(!isExporting);
     for (QAction* action : {m_export, m_trimStart, m_trimEnd, m_previousFrame, m_nextFrame})
         action->setEnabled(hasVideo);
+}
+
+void AppCommands::showSteps() {
+    const auto show = [](QAction* action, std::optional<EditStep> step, const QString& plain,
+                         const QString& named) {
+        action->setText(step ? named.arg(nameOf(*step)) : plain);
+        action->setEnabled(step.has_value());
+    };
+    const auto state = m_focusedValues.editState();
+    show(m_undo, state ? state->history().undoStep() : std::nullopt, tr("Undo"), tr("Undo %1"));
+    show(m_redo, state ? state->history().redoStep() : std::nullopt, tr("Redo"), tr("Redo %1"));
 }
 
 void AppCommands::showQuickAction() {

@@ -39,11 +39,13 @@ Q_SIGNALS:
 private:
     void makeApplicationActions();
     void makeFileActions();
+    void makeEditActions();
     void makeClipActions();
     QAction* add(const QString& title, const QKeySequence& key = {});
 
     void observe();
     void enable();
+    void showSteps();
     void showQuickAction();
 
     void stepFrames(int count);
@@ -65,6 +67,8 @@ private:
     QAction* m_open = nullptr;
     QAction* m_export = nullptr;
     QAction* m_close = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
     QAction* m_trimStart = nullptr;
     QAction* m_trimEnd = nullptr;
     QAction* m_previousFrame = nullptr;

@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Models/ExportJob.h"
+#include "Models/KeptVideo.h"
 #include "Support/FileNames.h"
 #include "Support/FileUrl.h"
 #include "Support/LocalizedMessage.h"
@@ -9,6 +10,9 @@
 #include "Support/PlaybackSettings.h"
 #include "Support/Thumbnailer.h"
 
+#include <QRandomGenerator>
+
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <utility>
@@ -22,6 +26,21 @@ constexpr int kThumbnailCount = 12;
 /// again at once. Seconds.
 constexpr double kRestartMargin = 0.05;
 constexpr media::Time kExactly{0, media::kComparisonTimescale};
+
+/// The runs of EditHistory: keys on one end of the range, on one handle of the crop, on the crop.
+constexpr int runOf(EditMarker marker) {
+    return 1 + static_cast<int>(marker);
+}
+
+constexpr int kCropRun = 1 + static_cast<int>(kEditMarkers.size());
+
+constexpr int runOf(CropHandle handle) {
+    return kCropRun + 1 + static_cast<int>(handle);
+}
+
+std::uint64_t newEditId() {
+    return QRandomGenerator::system()->generate64() | 1;
+}
 
 SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestName) {
     const ExportFormatTraits& type = traits(format);
@@ -71,34 +90,111 @@ media::Size EditState::rotatedDisplaySize() const {
     return m_rotation % 180 == 0 ? size : media::Size{size.height, size.width};
 }
 
+Edit EditState::edit() const {
+    return {.trimStart = m_trimStart,
+            .trimEnd = m_trimEnd,
+            .cropRect = cropRect(),
+            .rotation = m_rotation,
+            .isMuted = m_isMuted};
+}
+
+std::optional<KeptEdit> EditState::unfinishedEdit() const {
+    const Edit now = edit();
+    if (!videoURL() || now == Edit{.trimEnd = m_duration} || now == m_exportedEdit)
+        return std::nullopt;
+    return KeptEdit{.id = m_editId,
+                    .file = m_video.asset->path(),
+                    .identity = m_video.identity,
+                    .duration = m_duration,
+                    .edit = now,
+                    .playhead = m_currentTime};
+}
+
+void EditState::record(EditStep step, int run) {
+    if (!videoURL())
+        return;
+    m_history.record(step, edit(), run);
+    Q_EMIT editChanged();
+}
+
+void EditState::restore(const Edit& edit) {
+    m_trimStart = edit.trimStart;
+    m_trimEnd = edit.trimEnd;
+    m_rotation = edit.rotation;
+    m_cropRect = edit.cropRect;
+    applyMuted(edit.isMuted);
+    Q_EMIT editChanged();
+}
+
+Edit EditState::fitted(const Edit& edit) const {
+    Edit result = edit;
+    result.trimEnd = std::clamp(edit.trimEnd, 0.0, duration());
+    if (!(result.trimStart < result.trimEnd))
+        result.trimStart = TrimRange{m_duration, 0, result.trimEnd}.clampedStart(edit.trimStart);
+    return result;
+}
+
+void EditState::setTrimStart(double seconds) {
+    m_trimStart = seconds;
+    record(EditStep::trimStart);
+}
+
+void EditState::setTrimEnd(double seconds) {
+    m_trimEnd = seconds;
+    record(EditStep::trimEnd);
+}
+
+void EditState::setCropRect(const std::optional<media::Rect>& cropRect) {
+    m_cropRect = cropRect;
+    record(cropRect ? EditStep::crop : EditStep::removeCrop);
+}
+
 void EditState::setMuted(bool muted) {
+    applyMuted(muted);
+    record(muted ? EditStep::mute : EditStep::unmute);
+}
+
+void EditState::applyMuted(bool muted) {
     m_isMuted = muted;
     m_playerController.player()->setMuted(muted);
 }
 
 void EditState::load(const QUrl& url) {
     ++m_pendingLoads;
-    loadAsset(url);
+    loadAsset(url, std::nullopt);
 }
 
-QCoro::Task<> EditState::loadAsset(QUrl url) {
+void EditState::reopen(const KeptEdit& kept) {
+    ++m_pendingLoads;
+    loadAsset(urlOf(kept.file), kept);
+}
+
+QCoro::Task<> EditState::loadAsset(QUrl url, std::optional<KeptEdit> kept) {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const std::stop_token stop = m_loads.get_token();
     std::stop_token stripStop;
     LoadedVideo video;
     QString failure;
     try {
-        auto finding = findLocalFile(m_remoteFiles, url);
-        url = co_await finding;
-        auto opening = openVideo(url, stop);
-        video = co_await opening;
+        if (kept) {
+            auto opening = openKeptVideo(*kept, stop);
+            KeptVideo found = co_await opening;
+            url = found.url;
+            video = std::move(found.video);
+        } else {
+            auto finding = findLocalFile(m_remoteFiles, url);
+            url = co_await finding;
+            auto opening = openVideo(url, stop);
+            video = co_await opening;
+        }
         if (!video.displaySize)
             failure = tr("“%1” contains no video track.").arg(displayName(url));
     } catch (const media::Cancelled&) {
         co_return;
     } catch (const std::exception& error) {
         //: %1: the file’s name; %2: the reason, a whole sentence.
-        failure = tr("Couldn't open “%1”: %2").arg(displayName(url), localizedMessage(error));
+        failure = (kept ? tr("Couldn’t reopen “%1”: %2") : tr("Couldn't open “%1”: %2"))
+                      .arg(displayName(url), localizedMessage(error));
     }
     {
         const auto self = weak.lock();
@@ -106,10 +202,10 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
             co_return;
         --self->m_pendingLoads;
         if (!failure.isEmpty()) {
-            self->m_errorMessage = failure;
+            self->failToLoad(failure, kept);
             co_return;
         }
-        self->publish(url, video);
+        self->publish(url, video, kept);
         self->m_strip.request_stop();
         self->m_strip = {};
         stripStop = self->m_strip.get_token();
@@ -121,15 +217,26 @@ QCoro::Task<> EditState::loadAsset(QUrl url) {
         self->m_thumbnails = images;
 }
 
-void EditState::publish(const QUrl& url, const LoadedVideo& video) {
+void EditState::failToLoad(const QString& message, const std::optional<KeptEdit>& kept) {
+    m_errorMessage = message;
+    if (kept)
+        Q_EMIT reopenFailed(kept->id);
+}
+
+void EditState::publish(const QUrl& url, const LoadedVideo& video,
+                        const std::optional<KeptEdit>& kept) {
+    if (videoURL())
+        Q_EMIT editEnded();
     m_video = video;
+    m_editId = kept ? kept->id : newEditId();
+    m_exportedEdit.reset();
     m_videoURL = url;
     m_duration = video.duration;
     m_displaySize = *video.displaySize;
     m_trimStart = 0;
     m_trimEnd = video.duration;
     m_currentTime = 0;
-    setMuted(false);
+    applyMuted(false);
     m_cropRect = std::nullopt;
     m_rotation = 0;
     m_thumbnails = QList<QImage>();
@@ -138,6 +245,12 @@ void EditState::publish(const QUrl& url, const LoadedVideo& video) {
     player.replaceCurrentItem(std::make_shared<media::PlayerItem>(video.asset));
     player.setMuted(m_isMuted);
     announceTrim();
+    if (kept) {
+        restore(fitted(kept->edit));
+        seek(kept->playhead);
+    }
+    m_history.begin(edit());
+    Q_EMIT editBegan();
 }
 
 /// The player prepares frames around the trim ends: dragging them and looping seek there.
@@ -183,6 +296,7 @@ void EditState::playedToEnd() {
 }
 
 void EditState::togglePlayback() {
+    m_history.endRun();
     media::Player& player = *m_playerController.player();
     if (m_isPlaying) {
         player.pause();
@@ -208,16 +322,19 @@ void EditState::seekPlayer(double to) {
 }
 
 void EditState::stepFrames(int count) {
+    m_history.endRun();
     if (videoURL())
         m_playerController.step(count);
 }
 
 void EditState::setTrimStartToPlayhead() {
     m_trimStart = trimRange().clampedStart(m_currentTime);
+    record(EditStep::trimStart);
 }
 
 void EditState::setTrimEndToPlayhead() {
     m_trimEnd = trimRange().clampedEnd(m_currentTime);
+    record(EditStep::trimEnd);
 }
 
 double EditState::time(EditMarker marker) const {
@@ -246,12 +363,15 @@ void EditState::moveMarker(EditMarker marker, double to) {
     switch (marker) {
     case EditMarker::trimStart:
         m_trimStart = trimRange().clampedStart(to);
+        record(EditStep::trimStart, runOf(marker));
         break;
     case EditMarker::playhead:
+        m_history.endRun();
         seek(to);
         return;
     case EditMarker::trimEnd:
         m_trimEnd = trimRange().clampedEnd(to);
+        record(EditStep::trimEnd, runOf(marker));
         break;
     }
     m_playerController.player()->pause();
@@ -281,6 +401,7 @@ void EditState::takeBackDrag(const DragOrigin& origin) {
     if (origin.marker != EditMarker::playhead) {
         m_trimStart = origin.trimStart;
         m_trimEnd = origin.trimEnd;
+        record(origin.marker == EditMarker::trimStart ? EditStep::trimStart : EditStep::trimEnd);
     }
     seek(origin.currentTime);
     if (origin.isPlaying)
@@ -288,21 +409,24 @@ void EditState::takeBackDrag(const DragOrigin& origin) {
 }
 
 void EditState::toggleCrop() {
-    m_cropRect = cropRect() ? std::nullopt : std::optional(crop::kInitial);
+    setCropRect(cropRect() ? std::nullopt : std::optional(crop::kInitial));
 }
 
 void EditState::moveCrop(const media::Rect& start, media::Point by) {
     m_cropRect = crop::moved(start, by);
+    record(EditStep::crop, kCropRun);
 }
 
 void EditState::resizeCrop(const media::Rect& start, CropHandle handle, media::Point by) {
     m_cropRect = crop::resized(start, handle, by);
+    record(EditStep::crop, runOf(handle));
 }
 
 void EditState::rotateLeft() {
     m_rotation = (m_rotation + 270) % 360;
     if (const auto& before = cropRect())
         m_cropRect = crop::turnedLeft(*before);
+    record(EditStep::rotate);
 }
 
 void EditState::presentExportPanel() {
@@ -358,6 +482,8 @@ ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportChoice choic
 QCoro::Task<> EditState::awaitExport(std::shared_ptr<EditState> state, ExportRequest request,
                                      std::stop_token stop) {
     const QUrl outputURL = request.outputURL;
+    const Edit exported = state->edit();
+    const std::uint64_t editId = state->m_editId;
     auto task = runExport(
         std::move(request),
         [weak = std::weak_ptr(state), stop](double fraction) {
@@ -373,10 +499,19 @@ QCoro::Task<> EditState::awaitExport(std::shared_ptr<EditState> state, ExportReq
     // An observer of exportProgress() may have started the next export already.
     if (!state->m_exportProgress.value())
         state->m_exportTask.reset();
-    if (outcome.kind == ExportOutcome::Kind::finished)
+    if (outcome.kind == ExportOutcome::Kind::finished) {
+        state->noteExported(editId, exported);
         Q_EMIT state->exportFinished(outputURL);
+    }
     if (hasFailed)
         Q_EMIT state->exportFailed(outcome.message);
+}
+
+void EditState::noteExported(std::uint64_t editId, const Edit& exported) {
+    if (editId != m_editId)
+        return;
+    m_exportedEdit = exported;
+    Q_EMIT editChanged();
 }
 
 void EditState::exportProgressed(double fraction, const std::stop_token& stop) {

@@ -4,7 +4,9 @@
 #include "Export/ExportSettings.h"
 #include "Media/Geometry.h"
 #include "Models/CropRules.h"
+#include "Models/EditHistory.h"
 #include "Models/EditMarker.h"
+#include "Models/KeptEdit.h"
 #include "Models/LoadedVideo.h"
 #include "Models/TrimRange.h"
 #include "Player/PlayerController.h"
@@ -19,6 +21,7 @@
 #include <QProperty>
 #include <QUrl>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -87,12 +90,22 @@ public:
     /// through the operations below.
     [[nodiscard]] PlayerController& playerController() { return m_playerController; }
 
+    /// The steps to undo and redo. Each operation that changes the edit records one.
+    [[nodiscard]] EditHistory& history() { return m_history; }
+
+    [[nodiscard]] Edit edit() const;
+
+    /// The edit and its video, if it is worth keeping: something was edited, and not exported since
+    /// as it is now.
+    [[nodiscard]] std::optional<KeptEdit> unfinishedEdit() const;
+
+    /// KeptEdit::id of the edit; 0 while the window is empty.
+    [[nodiscard]] std::uint64_t editId() const { return m_editId; }
+
     /// These three store any value; the operations below keep to the rules.
-    void setTrimStart(double seconds) { m_trimStart = seconds; }
-
-    void setTrimEnd(double seconds) { m_trimEnd = seconds; }
-
-    void setCropRect(const std::optional<media::Rect>& cropRect) { m_cropRect = cropRect; }
+    void setTrimStart(double seconds);
+    void setTrimEnd(double seconds);
+    void setCropRect(const std::optional<media::Rect>& cropRect);
 
     /// Mutes the player at once, and leaves the sound out of exports.
     void setMuted(bool muted);
@@ -114,6 +127,10 @@ public:
     /// Starts loading and returns; a load cannot be cancelled. The old video stays until the new
     /// one is ready; a failure changes nothing but errorMessage().
     void load(const QUrl& url) override;
+
+    /// Loads the video of a kept edit, wherever it is now, and goes on with the edit: as load(),
+    /// but that the edit is the kept one, as far as the file allows it.
+    void reopen(const KeptEdit& kept);
 
     /// Whether there is no video and none is being loaded.
     [[nodiscard]] bool isEmpty() const override { return !videoURL() && m_pendingLoads == 0; }
@@ -193,13 +210,28 @@ Q_SIGNALS:
     void rotationChanged();
     void exportProgressChanged();
     void errorMessageChanged();
+    /// Another video is about to take the place of this one; all properties are still its own.
+    void editEnded();
+    /// A video has been loaded, with all that is published of it but the filmstrip.
+    void editBegan();
+    /// edit() or what unfinishedEdit() gives may have changed, other than the playhead.
+    void editChanged();
+    /// The video of a kept edit was not found or can't be opened; errorMessage() says so.
+    void reopenFailed(std::uint64_t editId);
     /// An export that was not cancelled has ended, with the file or with the error message.
     void exportFinished(const QUrl& outputURL);
     void exportFailed(const QString& message);
 
 private:
-    QCoro::Task<> loadAsset(QUrl url);
-    void publish(const QUrl& url, const LoadedVideo& video);
+    /// Of `kept`, if given; else of `url`.
+    QCoro::Task<> loadAsset(QUrl url, std::optional<KeptEdit> kept);
+    void failToLoad(const QString& message, const std::optional<KeptEdit>& kept);
+    void publish(const QUrl& url, const LoadedVideo& video, const std::optional<KeptEdit>& kept);
+    void record(EditStep step, int run = EditHistory::kNoRun);
+    void restore(const Edit& edit);
+    void applyMuted(bool muted);
+    /// The nearest to it that this video allows.
+    [[nodiscard]] Edit fitted(const Edit& edit) const;
     void tick(double time);
     void playedToEnd();
     void seekPlayer(double to);
@@ -213,6 +245,7 @@ private:
     [[nodiscard]] ExportRequest exportRequest(const QUrl& outputURL, ExportChoice choice) const;
     static QCoro::Task<> awaitExport(std::shared_ptr<EditState> state, ExportRequest request,
                                      std::stop_token stop);
+    void noteExported(std::uint64_t editId, const Edit& exported);
     void exportProgressed(double fraction, const std::stop_token& stop);
 
     // In the order in which a load publishes them where that matters. A comma in a type would split
@@ -237,6 +270,10 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QString>, m_errorMessage,
                                &EditState::errorMessageChanged)
 
+    EditHistory m_history{[this](const Edit& edit) { restore(edit); }};
+    std::uint64_t m_editId = 0;
+    /// The edit that was exported last.
+    std::optional<Edit> m_exportedEdit;
     /// What videoURL() was opened as.
     LoadedVideo m_video;
     PlayerController m_playerController;

@@ -8,21 +8,27 @@
 
 namespace brisklet {
 
+LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& stop) {
+    LoadedVideo video;
+    const auto before = identityOf(path);
+    video.asset = media::Asset::open(path, stop);
+    const auto after = identityOf(path);
+    if (before && after && before->isSameFileAs(*after))
+        video.identity = *after;
+    video.duration = video.asset->duration().seconds();
+    const auto tracks = video.asset->tracks(media::MediaType::video);
+    if (!tracks.empty()) {
+        video.displaySize = media::orientedSize(tracks.front());
+        const auto rate = static_cast<double>(tracks.front().nominalFrameRate);
+        if (rate > 0 && std::isfinite(rate))
+            video.frameDuration = 1 / rate;
+    }
+    video.maxNameBytes = maxNameBytesIn(path.parent_path());
+    return video;
+}
+
 QCoro::Task<LoadedVideo> openVideo(const QUrl& url, const std::stop_token& stop) {
-    return runOnWorker([path = pathOf(url), stop] {
-        LoadedVideo video;
-        video.asset = media::Asset::open(path, stop);
-        video.duration = video.asset->duration().seconds();
-        const auto tracks = video.asset->tracks(media::MediaType::video);
-        if (!tracks.empty()) {
-            video.displaySize = media::orientedSize(tracks.front());
-            const auto rate = static_cast<double>(tracks.front().nominalFrameRate);
-            if (rate > 0 && std::isfinite(rate))
-                video.frameDuration = 1 / rate;
-        }
-        video.maxNameBytes = maxNameBytesIn(path.parent_path());
-        return video;
-    });
+    return runOnWorker([path = pathOf(url), stop] { return loadVideo(path, stop); });
 }
 
 } // namespace brisklet

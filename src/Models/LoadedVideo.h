@@ -2,10 +2,12 @@
 
 #include "Media/Asset.h"
 #include "Media/Geometry.h"
+#include "Models/FileIdentity.h"
 
 #include <QCoroTask>
 #include <QUrl>
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -24,10 +26,16 @@ struct LoadedVideo {
     double frameDuration = 1.0 / 30;
     /// The longest name, in bytes, that a file beside this one may have.
     int maxNameBytes = 0;
+    /// All zero where another file took the name while this one was being opened.
+    FileIdentity identity;
 };
 
-/// Opens a file on a worker thread and resumes the caller on its own. Throws std::runtime_error
-/// with a sentence for the user; media::Cancelled after a stop request.
+/// Opens a file. Blocks. Throws media::Error with a sentence for the user; media::Cancelled after a
+/// stop request.
+LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& stop);
+
+/// The same on a worker thread; resumes the caller on its own. Also throws
+/// std::runtime_error if the URL names no file of this computer.
 QCoro::Task<LoadedVideo> openVideo(const QUrl& url, const std::stop_token& stop);
 
 } // namespace brisklet

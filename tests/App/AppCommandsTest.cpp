@@ -9,6 +9,7 @@
 #include "TestSupport/TemporaryFolder.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -20,6 +21,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -98,12 +100,13 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     std::vector<std::string> titles;
     for (const QAction* action : m_menuBar->actions())
         titles.push_back(action->text().remove(u'&').toStdString());
-    EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Clip"));
+    EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip"));
     EXPECT_THAT(entries(*menu(0)), ElementsAre("About Brisklet", "Check for Updates…", "-",
                                                "Install Finder Quick Action", "-", "Quit|Ctrl+Q"));
     EXPECT_THAT(entries(*menu(1)), ElementsAre("New Window|Ctrl+N", "Open Video…|Ctrl+O",
                                                "Export…|Ctrl+E", "Close Video|Esc"));
-    EXPECT_THAT(entries(*menu(2)),
+    EXPECT_THAT(entries(*menu(2)), ElementsAre("Undo|Ctrl+Z", "Redo|Ctrl+Shift+Z"));
+    EXPECT_THAT(entries(*menu(3)),
                 ElementsAre("Set Trim Start at Playhead|[", "Set Trim End at Playhead|]", "-",
                             "Previous Frame|Left", "Next Frame|Right", "-", "Loop Playback|L"));
 }
@@ -180,6 +183,54 @@ TEST_F(AppCommandsTest, setsTheEndsOfTheRangeByBareKeys) {
     EXPECT_DOUBLE_EQ(m_state->trimEnd(), 8);
 }
 
+TEST_F(AppCommandsTest, undoesAndRedoesByKeysAndNamesTheStep) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    m_focusedValues.setEditState(m_state);
+    EXPECT_FALSE(action("Undo")->isEnabled());
+    EXPECT_FALSE(action("Redo")->isEnabled());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    m_state->toggleCrop();
+    m_state->rotateLeft();
+    EXPECT_TRUE(action("Undo Rotate")->isEnabled());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(m_state->rotation(), 0);
+    EXPECT_TRUE(m_state->cropRect());
+    EXPECT_NE(action("Undo Crop"), nullptr);
+    EXPECT_TRUE(action("Redo Rotate")->isEnabled());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(m_state->cropRect());
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(m_state->cropRect());
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(m_state->rotation(), 270);
+    EXPECT_FALSE(action("Redo")->isEnabled());
+}
+
+TEST_F(AppCommandsTest, undoesInTheModelThatIsFocused) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    m_focusedValues.setEditState(m_state);
+    m_state->toggleCrop();
+    m_focusedValues.setEditState(std::make_shared<EditState>());
+    EXPECT_FALSE(action("Undo")->isEnabled());
+    m_state->rotateLeft();
+    EXPECT_FALSE(action("Undo")->isEnabled());
+    m_focusedValues.setEditState(m_state);
+    EXPECT_TRUE(action("Undo Rotate")->isEnabled());
+}
+
+TEST_F(AppCommandsTest, leavesTheUndoOfATextToItsField) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    m_focusedValues.setEditState(m_state);
+    m_state->toggleCrop();
+    auto* field = new QLineEdit;
+    m_window.layout()->addWidget(field);
+    field->setFocus();
+    QTest::keyClicks(field, QStringLiteral("abc"));
+    QTest::keyClick(m_window.windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field->text(), QString());
+    EXPECT_TRUE(m_state->cropRect());
+}
+
 TEST_F(AppCommandsTest, pausesBeforeItSteps) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     m_focusedValues.setEditState(m_state);
@@ -238,10 +289,10 @@ TEST_F(AppCommandsTest, showsInANewWindowThatTheLoopIsOn) {
 }
 
 TEST_F(AppCommandsTest, repeatOnlyTheStepsWhileAKeyIsHeld) {
-    for (const QAction* each : m_commands.findChildren<QAction*>()) {
-        const bool isStep = each == action("Previous Frame") || each == action("Next Frame");
-        EXPECT_EQ(each->autoRepeat(), isStep) << each->text().toStdString();
-    }
+    const std::set<QAction*> steps{action("Previous Frame"), action("Next Frame"), action("Undo"),
+                                   action("Redo")};
+    for (QAction* each : m_commands.findChildren<QAction*>())
+        EXPECT_EQ(each->autoRepeat(), steps.contains(each)) << each->text().toStdString();
 }
 
 TEST_F(AppCommandsTest, tellsTheVersionOfTheProgram) {

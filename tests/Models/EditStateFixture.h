@@ -37,8 +37,11 @@ protected:
 
     /// Whether the video has been loaded, filmstrip included.
     bool loadAndWait(const std::filesystem::path& path) {
+        bool isLoaded = false;
+        const QObject context;
+        QObject::connect(m_state.get(), &EditState::editBegan, &context, [&] { isLoaded = true; });
         m_state->load(urlOf(path));
-        return testsupport::pumpUntil([this] { return !m_state->thumbnails().isEmpty(); });
+        return testsupport::pumpUntil([&] { return isLoaded && !m_state->thumbnails().isEmpty(); });
     }
 
     /// Loads a video whose frames are numbered.

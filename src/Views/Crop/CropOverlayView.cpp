@@ -130,7 +130,9 @@ void CropOverlayView::mousePressEvent(QMouseEvent* event) {
         event->ignore();
         return;
     }
-    m_drag = Drag{.grip = *grip, .pressedAt = event->position()};
+    m_drag = Drag{.grip = *grip,
+                  .pressedAt = event->position(),
+                  .gesture = std::make_unique<EditGesture>(m_state)};
     m_escape.begin([this] { takeDragBack(); });
     showCursor(event->position());
 }
@@ -177,9 +179,9 @@ void CropOverlayView::endDrag() {
 }
 
 void CropOverlayView::takeDragBack() {
-    const auto start = std::exchange(m_drag, std::nullopt)->start;
-    if (start)
-        m_state->setCropRect(*start);
+    const auto drag = std::exchange(m_drag, std::nullopt);
+    if (drag->start)
+        m_state->setCropRect(*drag->start);
     showCursor(mapFromGlobal(QCursor::pos()));
 }
 
@@ -231,8 +233,10 @@ void CropOverlayView::focusInEvent(QFocusEvent* event) {
 }
 
 void CropOverlayView::focusOutEvent(QFocusEvent* event) {
-    if (!isPassingFocus(event->reason()))
+    if (!isPassingFocus(event->reason())) {
         m_isFocusShown = false;
+        m_state->history().endRun();
+    }
     update();
     QWidget::focusOutEvent(event);
 }

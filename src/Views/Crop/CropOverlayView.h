@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Models/EditGesture.h"
 #include "Views/Crop/CropGeometry.h"
 #include "Views/DragEscape.h"
 
@@ -63,6 +64,8 @@ private:
         QPointF pressedAt;
         /// The crop when the press became a drag; none before that.
         std::optional<media::Rect> start;
+        /// Makes the drag one step to undo.
+        std::unique_ptr<EditGesture> gesture;
     };
 
     void followCrop();

@@ -157,8 +157,10 @@ void TimelineMarker::focusInEvent(QFocusEvent* event) {
 }
 
 void TimelineMarker::focusOutEvent(QFocusEvent* event) {
-    if (!isPassingFocus(event->reason()))
+    if (!isPassingFocus(event->reason())) {
         m_isFocusShown = false;
+        m_state->history().endRun();
+    }
     Q_EMIT focusShownChanged();
     QWidget::focusOutEvent(event);
 }

@@ -182,15 +182,18 @@ void TimelineStrip::mouseReleaseEvent(QMouseEvent* event) {
 
 void TimelineStrip::beginDrag(EditMarker marker) {
     m_dragged = marker;
+    m_gesture = std::make_unique<EditGesture>(m_state);
     m_escape.begin([this, origin = m_state->dragOrigin(marker)] {
         m_dragged.reset();
         m_state->takeBackDrag(origin);
+        m_gesture.reset();
         showCursor(mapFromGlobal(QCursor::pos()));
     });
 }
 
 void TimelineStrip::endDrag() {
     m_dragged.reset();
+    m_gesture.reset();
     m_escape.end();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Models/EditGesture.h"
 #include "Views/DragEscape.h"
 #include "Views/Timeline/TimelineFilmstrip.h"
 #include "Views/Timeline/TimelineGeometry.h"
@@ -69,6 +70,8 @@ private:
     TimelineGeometry m_shown;
     /// What the mouse drags; none while it drags nothing.
     std::optional<EditMarker> m_dragged;
+    /// Makes the drag one step to undo.
+    std::unique_ptr<EditGesture> m_gesture;
     DragEscape m_escape{*this};
 };
 
