@@ -92,6 +92,9 @@ void AppCommands::makeFileActions() {
         if (const auto state = m_focusedValues.editState())
             state->presentOpenPanel();
     });
+    m_reopen = add(tr("Reopen Last Edit"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
+    m_reopen->setEnabled(false);
+    connect(m_reopen, &QAction::triggered, this, &AppCommands::reopenRequested);
     //: Opens the save panel.
     m_export = add(tr("Export…"), QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(m_export, &QAction::triggered, this, [this] {
@@ -162,7 +165,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
     application->addSeparator();
     application->addAction(m_quit);
     QMenu* file = menuBar.addMenu(tr("&File"));
-    file->addActions({m_newWindow, m_open, m_export, m_close});
+    file->addActions({m_newWindow, m_open, m_reopen, m_export, m_close});
     menuBar.addMenu(tr("&Edit"))->addActions({m_undo, m_redo});
     //: The menu of what is done to the part of the video that is kept.
     QMenu* clip = menuBar.addMenu(tr("&Clip"));
@@ -171,6 +174,10 @@ void AppCommands::fill(QMenuBar& menuBar) {
     clip->addActions({m_previousFrame, m_nextFrame});
     clip->addSeparator();
     clip->addAction(m_loop);
+}
+
+void AppCommands::setReopenEnabled(bool enabled) {
+    m_reopen->setEnabled(enabled);
 }
 
 void AppCommands::observe() {

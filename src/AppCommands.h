@@ -32,8 +32,12 @@ public:
     /// Adds the menus to a menu bar, which must not outlive this.
     void fill(QMenuBar& menuBar);
 
+    /// Whether there is an edit to reopen; at first there is none.
+    void setReopenEnabled(bool enabled);
+
 Q_SIGNALS:
     void newWindowRequested();
+    void reopenRequested();
     void quitRequested();
 
 private:
@@ -65,6 +69,7 @@ private:
     QAction* m_quit = nullptr;
     QAction* m_newWindow = nullptr;
     QAction* m_open = nullptr;
+    QAction* m_reopen = nullptr;
     QAction* m_export = nullptr;
     QAction* m_close = nullptr;
     QAction* m_undo = nullptr;

@@ -1,6 +1,7 @@
 #include "BriskletApp.h"
 
 #include "ExportMonitor.h"
+#include "Models/EditKeeper.h"
 #include "Models/EditState.h"
 #include "Platform/Appearance.h"
 #include "Platform/DesktopMounts.h"
@@ -19,6 +20,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace brisklet {
@@ -34,6 +36,9 @@ QString releasedApplicationId() {
 
 /// The bus delivers the call that it started the program for at once.
 constexpr auto kLongestWaitForBusCall = 5s;
+
+/// From the start until kept edits are looked for: the first window does not wait for the disk.
+constexpr auto kKeptEditsDelay = 150ms;
 
 /// Wayland gives the keyboard to a window only against the token of the start that asks for it. Qt
 /// takes it from here when a window is activated next. On X11 the launcher is told that its start
@@ -78,6 +83,53 @@ QString BriskletApp::builtInApplicationId() {
 
 QString BriskletApp::sessionName() {
     return releasedApplicationId();
+}
+
+void BriskletApp::keepEdits(const std::filesystem::path& folder) {
+    m_keeper = std::make_unique<EditKeeper>(folder);
+    connect(m_keeper.get(), &EditKeeper::canReopenChanged, this, [this] {
+        for (const auto& window : m_windows) {
+            if (window)
+                window->setReopenEnabled(m_keeper->canReopen());
+        }
+    });
+    QTimer::singleShot(kKeptEditsDelay, m_keeper.get(), [this] {
+        m_keeper->refresh();
+        // Another process may have closed an edit, or reopened one, while it had the keyboard.
+        connect(qApp, &QApplication::applicationStateChanged, m_keeper.get(),
+                [this](Qt::ApplicationState state) {
+                    if (state == Qt::ApplicationActive)
+                        m_keeper->refresh();
+                });
+    });
+}
+
+void BriskletApp::keepEditsOf(WindowRootView* window) {
+    if (!m_keeper)
+        return;
+    m_keeper->watch(window->state());
+    window->setReopenEnabled(m_keeper->canReopen());
+    connect(window, &WindowRootView::closed, this,
+            [this, window] { m_keeper->release(window->state()); });
+    connect(window, &WindowRootView::reopenRequested, this,
+            [this, window] { reopenLastEdit(window); });
+}
+
+QCoro::Task<> BriskletApp::reopenLastEdit(QPointer<WindowRootView> asking) {
+    const QPointer<BriskletApp> self = this;
+    auto taking = m_keeper->takeLast();
+    const std::optional<KeptEdit> kept = co_await taking;
+    if (!self || !kept)
+        co_return;
+    if (windows().isEmpty()) {
+        m_keeper->giveBack(*kept);
+        co_return;
+    }
+    const bool isFree = asking && asking->isVisible() && asking->state()->isEmpty();
+    WindowRootView* window = isFree ? asking.data() : openWindow();
+    if (!isFree)
+        window->setOpenedForFile();
+    m_keeper->reopen(window->state(), *kept);
 }
 
 void BriskletApp::launch(const QList<QUrl>& files, DesktopApplication* session,
@@ -128,6 +180,7 @@ WindowRootView* BriskletApp::openWindow() {
         if (windows().size() > 1 && window->state()->isEmpty())
             window->close();
     });
+    keepEditsOf(window);
     if (m_exportMonitor != nullptr) {
         m_exportMonitor->watch(window);
         window->setRemoteFiles(std::make_shared<DesktopMounts>(m_session->bus()));

@@ -5,6 +5,7 @@
 #include "Platform/DesktopApplication.h"
 #include "Platform/TerminationSignals.h"
 
+#include <QCoroTask>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -12,10 +13,12 @@
 #include <QUrl>
 #include <QVariantMap>
 
+#include <filesystem>
 #include <memory>
 
 namespace brisklet {
 
+class EditKeeper;
 class ExportMonitor;
 class UpdateDriver;
 class Updater;
@@ -42,6 +45,10 @@ public:
 
     /// The name under which a session knows the program, whichever build it is.
     static QString sessionName();
+
+    /// Keeps unfinished edits in a folder, and offers to reopen them. To be called before the first
+    /// window opens; without it nothing is kept.
+    void keepEdits(const std::filesystem::path& folder);
 
     /// How a start without files begins.
     enum class EmptyStart {
@@ -72,6 +79,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void keepEditsOf(WindowRootView* window);
+    QCoro::Task<> reopenLastEdit(QPointer<WindowRootView> asking);
     void stay();
     void closeAll();
     void terminate();
@@ -88,6 +97,8 @@ private:
     TerminationSignals m_termination;
     std::unique_ptr<UpdateDriver> m_updateDriver;
     std::unique_ptr<Updater> m_updater;
+    /// None where nothing is kept.
+    std::unique_ptr<EditKeeper> m_keeper;
     DesktopApplication* m_session = nullptr;
     ExportMonitor* m_exportMonitor = nullptr;
     /// Runs while a start by the bus waits for the call that says what for.

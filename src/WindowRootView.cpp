@@ -63,6 +63,7 @@ void WindowRootView::buildLayout() {
     connect(m_commands, &AppCommands::newWindowRequested, this,
             &WindowRootView::newWindowRequested);
     connect(m_commands, &AppCommands::quitRequested, this, &WindowRootView::quitRequested);
+    connect(m_commands, &AppCommands::reopenRequested, this, &WindowRootView::reopenRequested);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
@@ -73,6 +74,10 @@ void WindowRootView::buildLayout() {
 void WindowRootView::setRemoteFiles(const std::shared_ptr<RemoteFiles>& remoteFiles) {
     m_state->setRemoteFiles(remoteFiles);
     m_state->setFilePanels(std::make_shared<FileDialogPanels>(this, remoteFiles));
+}
+
+void WindowRootView::setReopenEnabled(bool enabled) {
+    m_commands->setReopenEnabled(enabled);
 }
 
 void WindowRootView::bringToFront() {
@@ -149,6 +154,7 @@ void WindowRootView::closeEvent(QCloseEvent* event) {
         // The window lives until the event loop deletes it; a file must not be loaded into it
         // meanwhile.
         OpenBridge::unregisterState(*m_state);
+        Q_EMIT closed();
         return;
     }
     event->ignore();

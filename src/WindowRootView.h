@@ -44,6 +44,12 @@ public:
     /// What finds files that are not on this computer. To be set before the window is shown.
     void setRemoteFiles(const std::shared_ptr<RemoteFiles>& remoteFiles);
 
+    /// Whether its menu offers to reopen an edit; at first it does not.
+    void setReopenEnabled(bool enabled);
+
+    /// To be called when it was opened for a file that is not in the open bridge.
+    void setOpenedForFile() { m_isForFile = true; }
+
     /// Raises the window and activates it, as far as the desktop allows.
     void bringToFront();
 
@@ -64,6 +70,9 @@ public:
 Q_SIGNALS:
     void newWindowRequested();
     void quitRequested();
+    void reopenRequested();
+    /// It is closed now, and will be deleted.
+    void closed();
     /// The file that this window was opened for could not be opened, the user has dismissed the
     /// alert, and the window is still empty.
     void becameNeedless();

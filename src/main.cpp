@@ -2,6 +2,7 @@
 #include "BriskletApp.h"
 #include "CommandLine.h"
 #include "Media/Engine.h"
+#include "Models/EditStore.h"
 #include "Platform/DesktopApplication.h"
 #include "Platform/QuickActionInstallation.h"
 #include "Support/LeakCheck.h"
@@ -120,6 +121,7 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     if (!isPlain && handOver(session, commandLine, launchData))
         return 0;
     BriskletApp app;
+    app.keepEdits(brisklet::EditStore::userFolder());
     app.launch(filesOf(commandLine), &session,
                isStartedByBus ? BriskletApp::EmptyStart::wait : BriskletApp::EmptyStart::window);
     QTimer::singleShot(kIconDelay, &application, showIcon);

@@ -103,8 +103,9 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip"));
     EXPECT_THAT(entries(*menu(0)), ElementsAre("About Brisklet", "Check for Updates…", "-",
                                                "Install Finder Quick Action", "-", "Quit|Ctrl+Q"));
-    EXPECT_THAT(entries(*menu(1)), ElementsAre("New Window|Ctrl+N", "Open Video…|Ctrl+O",
-                                               "Export…|Ctrl+E", "Close Video|Esc"));
+    EXPECT_THAT(entries(*menu(1)),
+                ElementsAre("New Window|Ctrl+N", "Open Video…|Ctrl+O",
+                            "Reopen Last Edit|Ctrl+Shift+T", "Export…|Ctrl+E", "Close Video|Esc"));
     EXPECT_THAT(entries(*menu(2)), ElementsAre("Undo|Ctrl+Z", "Redo|Ctrl+Shift+Z"));
     EXPECT_THAT(entries(*menu(3)),
                 ElementsAre("Set Trim Start at Playhead|[", "Set Trim End at Playhead|]", "-",
