@@ -153,6 +153,9 @@ TEST(KilledExport, leavesNothingUnderItsFinalName) {
     }
     EXPECT_FALSE(std::filesystem::exists(folder / "new.mp4"));
     EXPECT_EQ(contentsOf(folder / "old.mp4"), "old");
+    // Where it had to have another name meanwhile, the next export into the folder removes it.
+    exportRange(makeFixture({}).path, 0, 1, folder / "next.mp4");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre("next.mp4", "old.mp4"));
 }
 
 TEST(ExportOntoItsSource, isRefusedBeforeAnythingIsTouched) {

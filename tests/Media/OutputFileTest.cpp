@@ -2,15 +2,22 @@
 
 #include "Media/ChildProcess.h"
 #include "Media/Error.h"
+#include "Media/Export/HiddenName.h"
 #include "Media/ExportFixture.h"
+#include "TestSupport/SlowDisk.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <barrier>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <optional>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace media {
@@ -37,14 +44,224 @@ std::string openError(const std::filesystem::path& path) {
     return errorOf([&] { const OutputFile file(path); });
 }
 
-TEST(OutputFile, hasItsNameOnlyOnceItIsComplete) {
+void appendAndBeKilled(const std::filesystem::path& path) {
+    const std::string said = inChildProcess([&]() -> std::string {
+        OutputFile file(path);
+        append(file, std::string(100'000, 'x'));
+        ::kill(::getpid(), SIGKILL);
+        return "";
+    });
+    EXPECT_EQ(said, "signal 9");
+}
+
+bool canHoldFilesWithoutName(const std::filesystem::path& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDWR | O_TMPFILE | O_CLOEXEC, 0600);
+    if (descriptor >= 0)
+        ::close(descriptor);
+    return descriptor >= 0;
+}
+
+TEST(UnnamedOutputFile, hasNoNameUntilItIsComplete) {
     const TemporaryFolder folder;
+    if (!canHoldFilesWithoutName(folder.path()))
+        GTEST_SKIP() << "the file system of the temporary folder has no files without a name";
     OutputFile file(folder / "a.mp4");
     EXPECT_EQ(append(file, "content"), 0);
-    EXPECT_THAT(namesIn(folder.path()), ElementsAre(testing::StartsWith(".")));
+    EXPECT_THAT(namesIn(folder.path()), IsEmpty());
     file.commit();
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4"));
     EXPECT_EQ(contentsOf(folder / "a.mp4"), "content");
+}
+
+TEST(UnnamedOutputFile, leavesNothingWhenItsProcessIsKilled) {
+    const TemporaryFolder folder;
+    if (!canHoldFilesWithoutName(folder.path()))
+        GTEST_SKIP() << "the file system of the temporary folder has no files without a name";
+    appendAndBeKilled(folder / "a.mp4");
+    EXPECT_THAT(namesIn(folder.path()), IsEmpty());
+}
+
+TEST(UnnamedOutputFile, waitsForOneThatHasAHiddenName) {
+    const TemporaryFolder folder;
+    const auto hidden = folder / hiddenName(numberOf(folder / "a.mp4"));
+    const int other = ::open(hidden.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    ASSERT_EQ(::flock(other, LOCK_EX), 0);
+    EXPECT_EQ(openError(folder / "a.mp4"), "“a.mp4” is being written by another export.");
+    writeCompletely(folder / "b.mp4", "content");
+    EXPECT_TRUE(std::filesystem::exists(hidden));
+    ::close(other);
+    writeCompletely(folder / "a.mp4", "content");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4", "b.mp4"));
+}
+
+/// What killed exports have left in a folder.
+TEST(DeadFiles, areRemovedByTheNextExportIntoTheirFolder) {
+    const TemporaryFolder folder;
+    writeFile(folder / hiddenName(1), "left behind");
+    writeFile(folder / randomHiddenName(), "left behind");
+    writeCompletely(folder / "a.mp4", "content");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4"));
+}
+
+TEST(DeadFiles, areOnlyThoseUnderANameOfOurs) {
+    const TemporaryFolder folder;
+    const std::vector<std::string> names = {".brisklet-.part",
+                                            ".brisklet-0123456789abcdeF.part",
+                                            ".brisklet-0123456789abcdef",
+                                            ".brisklet-holiday.part",
+                                            ".brisklet-0123456789abcdef.part2",
+                                            "brisklet-0123456789abcdef.part"};
+    for (const std::string& name : names)
+        writeFile(folder / name, "precious");
+    writeCompletely(folder / "a.mp4", "content");
+    for (const std::string& name : names)
+        EXPECT_EQ(contentsOf(folder / name), "precious") << name;
+}
+
+TEST(DeadFiles, areOnlyRegularFilesOfThisUser) {
+    const TemporaryFolder folder;
+    writeFile(folder / "precious", "precious");
+    std::filesystem::create_symlink("precious", folder / hiddenName(1));
+    std::filesystem::create_directory(folder / hiddenName(2));
+    ASSERT_EQ(::mkfifo((folder / hiddenName(3)).c_str(), 0666), 0);
+    std::vector<std::string> names = {hiddenName(1), hiddenName(2), hiddenName(3)};
+    writeFile(folder / hiddenName(4), "of another user");
+    constexpr uid_t kNobody = 65534;
+    if (::chown((folder / hiddenName(4)).c_str(), kNobody, kNobody) == 0)
+        names.push_back(hiddenName(4));
+    names.emplace_back("a.mp4");
+    names.emplace_back("precious");
+    writeCompletely(folder / "a.mp4", "content");
+    EXPECT_EQ(namesIn(folder.path()), names);
+    EXPECT_EQ(contentsOf(folder / "precious"), "precious");
+}
+
+TEST(DeadFiles, areNotThoseOfExportsThatRun) {
+    const TemporaryFolder folder;
+    // As an earlier version of the program locks it.
+    const int other = ::open((folder / hiddenName(1)).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    ASSERT_EQ(::flock(other, LOCK_EX), 0);
+    writeCompletely(folder / "a.mp4", "content");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre(hiddenName(1), "a.mp4"));
+    ::close(other);
+    writeCompletely(folder / "b.mp4", "content");
+    EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4", "b.mp4"));
+}
+
+/// On a disk whose files all have a name.
+class HiddenOutputFile : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!m_disk.isThere())
+            GTEST_SKIP() << "no file system of our own can be mounted here";
+        ASSERT_FALSE(canHoldFilesWithoutName(m_disk.path()));
+    }
+
+    [[nodiscard]] std::filesystem::path at(const std::string& name) const {
+        return m_disk.path() / name;
+    }
+
+    [[nodiscard]] std::string hiddenNameFor(const std::string& name) const {
+        return hiddenName(numberOf(at(name)));
+    }
+
+    testsupport::SlowDisk m_disk{100'000'000};
+};
+
+TEST_F(HiddenOutputFile, hasItsNameOnlyOnceItIsComplete) {
+    OutputFile file(at("a.mp4"));
+    EXPECT_EQ(append(file, "content"), 0);
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre(hiddenNameFor("a.mp4")));
+    file.commit();
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre("a.mp4"));
+    EXPECT_EQ(contentsOf(at("a.mp4")), "content");
+}
+
+TEST_F(HiddenOutputFile, keepsTheOlderFileUntilTheNewOneIsComplete) {
+    writeFile(at("a.mp4"), "old");
+    {
+        OutputFile file(at("a.mp4"));
+        EXPECT_EQ(append(file, "given up"), 0);
+    }
+    EXPECT_EQ(contentsOf(at("a.mp4")), "old");
+    writeCompletely(at("a.mp4"), "new");
+    EXPECT_EQ(contentsOf(at("a.mp4")), "new");
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre("a.mp4"));
+}
+
+TEST_F(HiddenOutputFile, isAloneAtItsDestination) {
+    OutputFile first(at("a.mp4"));
+    EXPECT_EQ(openError(at("a.mp4")), "“a.mp4” is being written by another export.");
+    writeCompletely(at("b.mp4"), "content");
+    EXPECT_EQ(append(first, "first"), 0);
+    first.commit();
+    EXPECT_EQ(contentsOf(at("a.mp4")), "first");
+}
+
+TEST_F(HiddenOutputFile, isRemovedByTheNextExportIntoItsFolderWhenItsProcessIsKilled) {
+    appendAndBeKilled(at("a.mp4"));
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre(hiddenNameFor("a.mp4")));
+    writeCompletely(at("b.mp4"), "content");
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre("b.mp4"));
+    appendAndBeKilled(at("a.mp4"));
+    writeCompletely(at("a.mp4"), "content");
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre("a.mp4", "b.mp4"));
+}
+
+/// Each export into a folder looks for dead files there; none may take another's for one.
+TEST_F(HiddenOutputFile, isNeverTakenForADeadOneByOthers) {
+    constexpr int kThreads = 4;
+    constexpr int kExports = 25;
+    std::vector<std::jthread> threads;
+    std::vector<std::string> errors(kThreads);
+    for (int number = 0; number < kThreads; ++number) {
+        threads.emplace_back([&, number] {
+            const std::string name = std::to_string(number) + ".mp4";
+            for (int i = 0; i < kExports; ++i)
+                errors[static_cast<std::size_t>(number)] +=
+                    errorOf([&] { writeCompletely(at(name), "content"); });
+        });
+    }
+    threads.clear();
+    EXPECT_THAT(errors, testing::Each(""));
+    EXPECT_THAT(namesIn(m_disk.path()), ElementsAre("0.mp4", "1.mp4", "2.mp4", "3.mp4"));
+}
+
+TEST_F(HiddenOutputFile, hasARandomNameWhereItsOwnIsBlocked) {
+    for (int i = 0; i < 2; ++i) {
+        const auto blocked = at(hiddenNameFor("a.mp4"));
+        std::filesystem::create_directory(m_disk.behind() / blocked.filename());
+        OutputFile file(at("a.mp4"));
+        EXPECT_EQ(append(file, "content"), 0);
+        // Which does not make it look like a dead one.
+        writeCompletely(at("b.mp4"), "content");
+        file.commit();
+        EXPECT_EQ(contentsOf(at("a.mp4")), "content");
+        std::filesystem::remove(m_disk.behind() / blocked.filename());
+    }
+}
+
+/// All of one name at the same moment: one is the first, the others are told.
+TEST(OutputFile, isAloneAmongMany) {
+    const TemporaryFolder folder;
+    constexpr int kThreads = 8;
+    std::barrier start(kThreads);
+    std::barrier end(kThreads);
+    std::vector<std::string> errors(kThreads);
+    std::vector<std::jthread> threads;
+    for (std::string& error : errors) {
+        threads.emplace_back([&] {
+            start.arrive_and_wait();
+            std::optional<OutputFile> file;
+            error = errorOf([&] { file.emplace(folder / "a.mp4"); });
+            end.arrive_and_wait();
+        });
+    }
+    threads.clear();
+    EXPECT_EQ(std::ranges::count(errors, ""), 1);
+    EXPECT_EQ(std::ranges::count(errors, "“a.mp4” is being written by another export."),
+              kThreads - 1);
+    EXPECT_THAT(namesIn(folder.path()), IsEmpty());
 }
 
 TEST(OutputFile, leavesNothingBehindWhenItIsGivenUp) {
@@ -139,38 +356,19 @@ TEST(OutputFile, freesItsDestinationWhenItIsDiscarded) {
     EXPECT_EQ(contentsOf(folder / "a.mp4"), "second");
 }
 
-TEST(OutputFile, takesTheLeftoverOfAKilledOneAway) {
-    const TemporaryFolder folder;
-    const std::string said = inChildProcess([&]() -> std::string {
-        OutputFile file(folder / "a.mp4");
-        append(file, std::string(100'000, 'x'));
-        ::kill(::getpid(), SIGKILL);
-        return "";
-    });
-    EXPECT_EQ(said, "signal 9");
-    ASSERT_EQ(namesIn(folder.path()).size(), 1U);
-    writeCompletely(folder / "a.mp4", "new");
-    EXPECT_THAT(namesIn(folder.path()), ElementsAre("a.mp4"));
-    EXPECT_EQ(contentsOf(folder / "a.mp4"), "new");
-}
-
 TEST(OutputFile, neverWritesThroughWhatOthersPutInItsPlace) {
     const TemporaryFolder folder;
-    std::string temporary;
-    {
-        const OutputFile file(folder / "a.mp4");
-        temporary = namesIn(folder.path()).at(0);
-    }
+    const auto hidden = folder / hiddenName(numberOf(folder / "a.mp4"));
     writeFile(folder / "precious", "precious");
-    std::filesystem::create_symlink("precious", folder / temporary);
+    std::filesystem::create_symlink("precious", hidden);
     writeCompletely(folder / "a.mp4", "content");
     EXPECT_EQ(contentsOf(folder / "precious"), "precious");
-    std::filesystem::remove(folder / temporary);
-    std::filesystem::create_directory(folder / temporary);
+    std::filesystem::remove(hidden);
+    std::filesystem::create_directory(hidden);
     writeCompletely(folder / "a.mp4", "again");
     EXPECT_EQ(contentsOf(folder / "a.mp4"), "again");
-    std::filesystem::remove(folder / temporary);
-    ASSERT_EQ(::mkfifo((folder / temporary).c_str(), 0666), 0);
+    std::filesystem::remove(hidden);
+    ASSERT_EQ(::mkfifo(hidden.c_str(), 0666), 0);
     writeCompletely(folder / "a.mp4", "once more");
     EXPECT_EQ(contentsOf(folder / "a.mp4"), "once more");
 }

@@ -7,8 +7,9 @@
 
 namespace testsupport {
 
-/// A file system that hands files out as slowly as it is told, or not at all for a while. Gone
-/// with this object, whatever still waits for it.
+/// A file system that hands files out as slowly as it is told, or not at all for a while. It takes
+/// new files too, but has neither links nor files without a name. Gone with this object, whatever
+/// still waits for it.
 class SlowDisk final {
 public:
     /// Mounts it. See isThere() for whether that went well.
@@ -19,6 +20,12 @@ public:
 
     /// False where the helper program was not built or no file system can be mounted.
     bool isThere() const { return m_process > 0; }
+
+    /// Where it is mounted.
+    const std::filesystem::path& path() const { return m_mountPoint.path(); }
+
+    /// The folder whose files it shows.
+    const std::filesystem::path& behind() const { return m_content.path(); }
 
     /// Puts a copy of the file onto it; its path there.
     std::filesystem::path holding(const std::filesystem::path& file) const;

@@ -70,6 +70,9 @@ int OutputFile::write(const std::uint8_t* data, std::int64_t count) {
                 continue;
             return errno;
         }
+        // It would be tried for ever.
+        if (written == 0)
+            return EIO;
         data += written;
         count -= written;
         m_position += written;
@@ -96,7 +99,7 @@ std::shared_ptr<const ffmpeg::SourceFile> OutputFile::reader() const {
         ::close(descriptor);
         throwError(code);
     }
-    return std::make_shared<const ffmpeg::SourceFile>(descriptor, m_file.path(), status);
+    return std::make_shared<const ffmpeg::SourceFile>(descriptor, m_destination, status);
 }
 
 void OutputFile::commit() {

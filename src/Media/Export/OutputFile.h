@@ -14,9 +14,9 @@ class SourceFile;
 
 /// A file that appears under its final name only when it is complete.
 ///
-/// Written under a hidden temporary name in the destination's folder; commit() flushes it to disk
-/// and renames it onto the destination, replacing an older file there. Destroyed without commit(),
-/// it leaves nothing behind. Use from one thread at a time.
+/// Written to a TemporaryFile in the destination's folder; commit() flushes it to disk and gives it
+/// the destination's name, replacing an older file there. Destroyed without commit(), it leaves
+/// nothing behind. Use from one thread at a time.
 class OutputFile {
 public:
     /// Creates the temporary file. Throws Error (a sentence for the user) if the folder is missing

@@ -1,23 +1,16 @@
 #include "Media/Export/TemporaryFile.h"
 
 #include "Media/Error.h"
+#include "Media/Export/DeadFiles.h"
+#include "Media/Export/HiddenName.h"
 #include "Media/Export/WriteError.h"
 #include "Media/FFmpeg/FileName.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdint>
 #include <fcntl.h>
-#include <linux/magic.h>
-#include <random>
 #include <string>
-#include <string_view>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 #include <unistd.h>
-#include <utility>
 
 namespace media {
 
@@ -27,162 +20,180 @@ namespace {
 /// of them costs one attempt at most.
 constexpr int kAttempts = 100;
 
-/// Whether "A.mp4" and "a.mp4" are one file in that folder, as far as the type of the file system
-/// tells.
-bool ignoresCase(const std::filesystem::path& folder) {
-    // FAT, exFAT, CIFS, SMB 2 and HFS+. Not all of them have a name in <linux/magic.h>.
-    constexpr std::array<std::uint32_t, 5> kTypes = {MSDOS_SUPER_MAGIC, 0x2011BAB0, 0xFF534D42,
-                                                     0xFE534D42, 0x482B};
-    struct statfs status = {};
-    return ::statfs(folder.c_str(), &status) == 0 &&
-           std::ranges::find(kTypes, static_cast<std::uint32_t>(status.f_type)) != kTypes.end();
+/// As for every new file: the umask takes away from it.
+constexpr mode_t kPermissions = 0666;
+
+[[noreturn]] void throwTaken(const std::filesystem::path& shownName) {
+    throw Error(ErrorKind::beingExported, {ffmpeg::shownName(shownName)});
 }
 
-std::string temporaryName(std::uint64_t number) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string digits;
-    for (int shift = 60; shift >= 0; shift -= 4)
-        digits += kDigits[(number >> shift) & 0xF];
-    return ".brisklet-" + digits + ".part";
+Descriptor openUnnamed(const std::filesystem::path& folder) {
+    return Descriptor(::open(folder.c_str(), O_RDWR | O_TMPFILE | O_CLOEXEC, kPermissions));
 }
 
-/// The name that belongs to a destination. Always of the same length, however long that name is.
-std::string nameFor(const std::filesystem::path& destination) {
-    std::string name = destination.filename().string();
-    if (ignoresCase(folderOf(destination))) {
-        std::ranges::transform(name, name.begin(), [](char c) {
-            return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-        });
+/// Gives an unnamed file a name; 0, or the errno of the failure.
+int linkTo(const Descriptor& file, const std::filesystem::path& path) {
+    // Without privileges a file is linked by its descriptor in no other way.
+    const std::string opened = "/proc/self/fd/" + std::to_string(file.number());
+    for (;;) {
+        if (::linkat(AT_FDCWD, opened.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0)
+            return 0;
+        const int error = errno;
+        if (isNamed(file, path))
+            return 0;
+        if (error != EINTR)
+            return error;
     }
-    // FNV-1a, 64 bits: the same in every version of the program and on every machine of a network.
-    std::uint64_t hash = 0xcbf29ce484222325;
-    for (const char c : name)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3;
-    return temporaryName(hash);
 }
 
-std::string randomName() {
-    std::random_device random;
-    return temporaryName(std::uniform_int_distribution<std::uint64_t>()(random));
-}
-
-enum class LockResult { locked, taken, impossible };
-
-LockResult lock(int descriptor) {
-    while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EINTR)
-            return errno == EWOULDBLOCK ? LockResult::taken : LockResult::impossible;
-    }
-    return LockResult::locked;
-}
-
-/// Whether the open file is a regular one and still has that name.
-bool isNamed(int descriptor, const std::filesystem::path& path) {
-    struct stat opened = {};
-    struct stat named = {};
-    return ::fstat(descriptor, &opened) == 0 && ::lstat(path.c_str(), &named) == 0 &&
-           S_ISREG(opened.st_mode) && opened.st_dev == named.st_dev &&
-           opened.st_ino == named.st_ino;
+/// Whether a file without a name can get one later. Security modules may refuse that, and it shall
+/// not be at the end of a long export that this is found out.
+bool canBeNamedLater(const std::filesystem::path& folder) {
+    const Descriptor file = openUnnamed(folder);
+    if (!file.isOpen() || lock(file) != LockResult::locked)
+        return false;
+    const std::filesystem::path path = folder / randomHiddenName();
+    return linkTo(file, path) == 0 && ::unlink(path.c_str()) == 0;
 }
 
 } // namespace
 
 TemporaryFile::TemporaryFile(const std::filesystem::path& destination,
                              const std::filesystem::path& shownName)
-    : m_destination(destination) {
-    if (!createLocked(shownName))
-        createUnlocked();
+    : m_destination(destination), m_destinationLock(destination) {
+    if (m_destinationLock.isTaken())
+        throwTaken(shownName);
+    removeDeadFiles(folderOf(m_destination));
+    // Those that do not lock the folder have a hidden file: other versions, other machines.
+    m_path = folderOf(m_destination) / hiddenName(numberOf(m_destination));
+    if (staysTaken([this] { return isLocked(m_path); }))
+        throwTaken(shownName);
+    if (!createUnnamed() && !createLocked(shownName))
+        createUnderRandomName();
 }
 
 TemporaryFile::~TemporaryFile() {
     remove();
-    close();
+}
+
+bool TemporaryFile::createUnnamed() {
+    if (!canBeNamedLater(folderOf(m_destination)))
+        return false;
+    m_file = openUnnamed(folderOf(m_destination));
+    // For the moment in which it has a hidden name.
+    if (!m_file.isOpen() || lock(m_file) != LockResult::locked)
+        return false;
+    m_path.clear();
+    return true;
 }
 
 bool TemporaryFile::createLocked(const std::filesystem::path& shownName) {
-    m_path = folderOf(m_destination) / nameFor(m_destination);
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         const bool isNew = create();
-        if (!isNew && !openLeftover()) {
+        if (!isNew)
+            m_file = openCarefully(m_path);
+        if (!m_file.isOpen()) {
             // The other export has just finished and renamed it.
             if (errno == ENOENT)
                 continue;
             return false;
         }
-        const LockResult result = lock(m_descriptor);
-        if (result == LockResult::taken) {
-            close();
-            throw Error(ErrorKind::beingExported, {ffmpeg::shownName(shownName)});
-        }
+        LockResult result = LockResult::taken;
+        const bool isTaken = staysTaken([&] {
+            result = lock(m_file);
+            return result == LockResult::taken;
+        });
+        if (isTaken)
+            throwTaken(shownName);
         if (result == LockResult::impossible) {
             if (isNew)
                 ::unlink(m_path.c_str());
-            close();
             return false;
         }
         // Before it was locked another export may have renamed or removed it.
-        const bool isOurs = isNamed(m_descriptor, m_path);
+        const bool isOurs = isNamed(m_file, m_path);
         if (isOurs && isNew)
             return true;
-        const bool isStuck = isOurs && ::unlink(m_path.c_str()) != 0;
-        close();
-        if (isStuck)
+        if (isOurs && ::unlink(m_path.c_str()) != 0)
             return false;
     }
     return false;
 }
 
-void TemporaryFile::createUnlocked() {
+void TemporaryFile::createUnderRandomName() {
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        m_path = folderOf(m_destination) / randomName();
-        if (create())
+        m_path = folderOf(m_destination) / randomHiddenName();
+        // Before it is locked, another export may take it for a dead one.
+        if (create() && (lock(m_file) == LockResult::impossible || isNamed(m_file, m_path)))
             return;
     }
     throwWriteError(EEXIST, m_destination);
 }
 
-/// False if something has that name already; throws Error if the file can't be created.
+/// False if something has that name already; throws Error if the file can’t be created.
 bool TemporaryFile::create() {
-    m_descriptor = ::open(m_path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (m_descriptor < 0 && errno != EEXIST)
+    m_file =
+        Descriptor(::open(m_path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, kPermissions));
+    if (!m_file.isOpen() && errno != EEXIST)
         throwWriteError(errno, m_destination);
-    return m_descriptor >= 0;
-}
-
-/// Opens what has the name; false, with errno set, if that fails. It need not be a file of ours.
-bool TemporaryFile::openLeftover() {
-    constexpr int kCarefully = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
-    m_descriptor = ::open(m_path.c_str(), O_RDWR | kCarefully);
-    // Another user's file may be readable only, which is enough to try its lock.
-    if (m_descriptor < 0 && errno == EACCES)
-        m_descriptor = ::open(m_path.c_str(), O_RDONLY | kCarefully);
-    return m_descriptor >= 0;
+    return m_file.isOpen();
 }
 
 void TemporaryFile::remove() {
     if (!m_path.empty())
         ::unlink(m_path.c_str());
     m_path.clear();
+    m_destinationLock.release();
 }
 
 int TemporaryFile::takeName() {
-    if (::fsync(m_descriptor) != 0)
-        return errno;
-    // Some network disks tell of failed writes only when a file is closed, and the lock has to hold
-    // until the file has its name.
-    const int second = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
-    if (second < 0 || ::close(second) != 0)
-        return errno;
-    if (::rename(m_path.c_str(), m_destination.c_str()) != 0)
-        return errno;
-    m_path.clear();
-    close();
-    return 0;
+    int error = flush();
+    if (error == 0 && m_path.empty())
+        error = link();
+    if (error == 0 && !m_path.empty())
+        error = rename();
+    if (error == 0) {
+        m_file.close();
+        m_destinationLock.release();
+    }
+    return error;
 }
 
-void TemporaryFile::close() {
-    if (m_descriptor >= 0)
-        ::close(std::exchange(m_descriptor, -1));
+int TemporaryFile::flush() const {
+    while (::fsync(m_file.number()) != 0) {
+        if (errno != EINTR)
+            return errno;
+    }
+    // Some network disks tell of failed writes only when a file is closed, and the lock has to hold
+    // until the file has its name.
+    const int second = ::fcntl(m_file.number(), F_DUPFD_CLOEXEC, 0);
+    return second < 0 || ::close(second) != 0 ? errno : 0;
+}
+
+/// Gives it the destination’s name, or a hidden one if that is not free.
+int TemporaryFile::link() {
+    int error = linkTo(m_file, m_destination);
+    for (int attempt = 0; error == EEXIST && attempt < kAttempts; ++attempt) {
+        const std::filesystem::path path = folderOf(m_destination) / randomHiddenName();
+        error = linkTo(m_file, path);
+        if (error == 0)
+            m_path = path;
+    }
+    return error;
+}
+
+/// From the hidden name to the destination’s.
+int TemporaryFile::rename() {
+    while (::rename(m_path.c_str(), m_destination.c_str()) != 0) {
+        const int error = errno;
+        // What a network disk has done may be reported as a failure of its repetition.
+        if (isNamed(m_file, m_destination))
+            break;
+        if (error != EINTR)
+            return error;
+    }
+    m_path.clear();
+    return 0;
 }
 
 } // namespace media

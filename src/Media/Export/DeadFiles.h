@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+
+namespace media {
+
+/// Removes the hidden files that killed exports have left in the folder: regular files of this
+/// user, under names of ours, which no running export has locked. What cannot be locked, as on file
+/// systems without locks, stays.
+void removeDeadFiles(const std::filesystem::path& folder);
+
+} // namespace media
