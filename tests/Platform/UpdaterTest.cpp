@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <QTimeZone>
+#include <sys/file.h>
 
 namespace brisklet {
 namespace {
@@ -172,6 +173,51 @@ TEST_F(UpdaterTest, leavesNothingBehindWhenTheDownloadIsCancelled) {
     pumpPending();
     EXPECT_EQ(m_driver.failure, QString());
     expectNothingChanged();
+}
+
+/// What a program left there that was killed, and packages that were opened long ago.
+TEST_F(UpdaterTest, removesWhatIsOfNoUseAnyMore) {
+    const QDir folder(m_configuration.downloadFolder);
+    ASSERT_TRUE(folder.mkpath(QStringLiteral(".")));
+    const auto hold = [&folder](QFile& file, const char* name) {
+        file.setFileName(folder.filePath(QLatin1String(name)));
+        return file.open(QIODevice::WriteOnly) && file.write("content") > 0 && file.flush();
+    };
+    QFile abandoned;
+    QFile downloading;
+    QFile fresh;
+    QFile old;
+    ASSERT_TRUE(hold(abandoned, "1.deb.part") && hold(downloading, "2.deb.part") &&
+                hold(fresh, "3.deb") && hold(old, "4.deb"));
+    ASSERT_EQ(::flock(downloading.handle(), LOCK_EX), 0);
+    ASSERT_TRUE(old.setFileTime(QDateTime::currentDateTimeUtc().addDays(-2),
+                                QFileDevice::FileModificationTime));
+    m_configuration.firstLook = std::chrono::milliseconds(0);
+    m_updater = std::make_unique<Updater>(m_configuration, m_driver, true);
+    EXPECT_TRUE(pumpUntil([&] { return !abandoned.exists(); }));
+    EXPECT_EQ(folder.entryList(QDir::Files),
+              (QStringList{QStringLiteral("2.deb.part"), QStringLiteral("3.deb")}));
+}
+
+TEST_F(UpdaterTest, leavesTheDownloadOfAnotherProgramAlone) {
+    const QString name =
+        m_configuration.downloadFolder + QStringLiteral("/brisklet_1.3_amd64.deb.part");
+    ASSERT_TRUE(QDir().mkpath(m_configuration.downloadFolder));
+    QFile other(name);
+    ASSERT_TRUE(other.open(QIODevice::ReadWrite));
+    ASSERT_EQ(::flock(other.handle(), LOCK_EX), 0);
+    ASSERT_EQ(other.write("half"), 4);
+    ASSERT_TRUE(other.flush());
+    install();
+    EXPECT_EQ(m_driver.failure,
+              QStringLiteral("The update can’t be stored: It is being downloaded already."));
+    EXPECT_EQ(other.size(), 4);
+    EXPECT_TRUE(other.exists());
+    other.close();
+    m_driver.forget();
+    install();
+    EXPECT_EQ(m_driver.failure, QString());
+    EXPECT_FALSE(other.exists());
 }
 
 TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {

@@ -35,8 +35,9 @@ int main(int argc, char** argv) {
     const QTemporaryDir home;
     if (!home.isValid())
         return 1;
-    for (const char* name :
-         {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+    // libpulse would make a folder in the temporary one for each new configuration, for good.
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME",
+                             "PULSE_RUNTIME_PATH"})
         qputenv(name, home.path().toLocal8Bit());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

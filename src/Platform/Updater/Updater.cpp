@@ -1,12 +1,12 @@
 #include "Platform/Updater/Updater.h"
 
 #include "Platform/Updater/Download.h"
+#include "Platform/Updater/PackageFile.h"
 #include "Platform/Updater/PackageSignature.h"
 #include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 
 #include <QDir>
-#include <QFile>
 #include <QNetworkAccessManager>
 #include <QSettings>
 
@@ -78,6 +78,7 @@ Updater::~Updater() {
 }
 
 void Updater::begin() {
+    removeOldPackages(m_configuration.downloadFolder, QDateTime::currentDateTimeUtc());
     QSettings& settings = *m_configuration.settings;
     if (settings.contains(automaticKey())) {
         checkIfDue(QDateTime::currentDateTimeUtc());
@@ -208,24 +209,23 @@ void Updater::answered(const AppcastItem& item, UpdateChoice choice) {
 void Updater::downloadPackage(const AppcastItem& item) {
     m_item = item;
     m_mode = Mode::byCommand;
+    removeOldPackages(m_configuration.downloadFolder, QDateTime::currentDateTimeUtc());
     const QDir folder(m_configuration.downloadFolder);
-    m_package = std::make_unique<QFile>(folder.filePath(fileNameOf(item.packageUrl)) +
-                                        QStringLiteral(".part"));
+    m_package = std::make_unique<PackageFile>(folder.filePath(fileNameOf(item.packageUrl)));
     setState(State::downloading);
     if (item.length > kLongestPackage) {
         fail(tr("The update is too large."));
         return;
     }
-    if (!folder.mkpath(QStringLiteral(".")) ||
-        !m_package->open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        fail(tr("The update can’t be stored: %1").arg(m_package->errorString()));
+    if (!m_package->create()) {
+        fail(m_package->failure());
         return;
     }
     m_driver.showDownload(item, [self = QPointer(this)] {
         if (self && self->m_state == State::downloading)
             self->goIdle();
     });
-    startDownload(item.packageUrl, *m_package, item.length, false);
+    startDownload(item.packageUrl, m_package->file(), item.length, false);
 }
 
 void Updater::packageArrived(const QString& failure) {
@@ -233,26 +233,23 @@ void Updater::packageArrived(const QString& failure) {
         fail(tr("The update couldn’t be downloaded: %1").arg(failure));
         return;
     }
-    const bool isStored = m_package->flush() && m_package->error() == QFileDevice::NoError;
-    m_package->close();
-    if (!isStored)
-        fail(tr("The update can’t be stored: %1").arg(m_package->errorString()));
-    else if (m_package->size() != m_item.length)
+    const QFile& file = m_package->file();
+    if (!m_package->flush())
+        fail(m_package->failure());
+    else if (file.size() != m_item.length)
         fail(tr("The update is incomplete. It hasn’t been installed."));
-    else if (!isSigned(m_package->fileName(), m_item.signature, m_configuration.publicKey))
+    else if (!isSigned(file.fileName(), m_item.signature, m_configuration.publicKey))
         fail(tr("The update isn’t genuine: its signature is wrong. It hasn’t been installed."));
     else
         openChecked();
 }
 
 void Updater::openChecked() {
-    QString name = m_package->fileName();
-    name.chop(QStringLiteral(".part").size());
-    QFile::remove(name);
-    if (!m_package->rename(name)) {
-        fail(tr("The update can’t be stored: %1").arg(m_package->errorString()));
+    if (!m_package->keep()) {
+        fail(m_package->failure());
         return;
     }
+    const QString name = m_package->path();
     m_package.reset();
     goIdle();
     if (!m_driver.openPackage(name))
@@ -277,10 +274,7 @@ void Updater::fail(const QString& message) {
 
 void Updater::goIdle() {
     endDownload();
-    if (m_package) {
-        m_package->remove();
-        m_package.reset();
-    }
+    m_package.reset();
     m_driver.dismiss();
     setState(State::idle);
 }

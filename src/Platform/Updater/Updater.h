@@ -12,13 +12,13 @@
 #include <chrono>
 #include <memory>
 
-class QFile;
 class QNetworkAccessManager;
 class QSettings;
 
 namespace brisklet {
 
 class Download;
+class PackageFile;
 
 /// The configuration of an updater. Fixed when the program is built, except in tests.
 struct UpdaterConfiguration {
@@ -95,7 +95,7 @@ private:
     QNetworkAccessManager* m_network = nullptr;
     QBuffer m_feed;
     AppcastItem m_item;
-    std::unique_ptr<QFile> m_package;
+    std::unique_ptr<PackageFile> m_package;
     Download* m_download = nullptr;
     QTimer m_daily;
 };

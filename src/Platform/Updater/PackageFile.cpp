@@ -1,0 +1,95 @@
+#include "Platform/Updater/PackageFile.h"
+
+#include "Support/MainThread.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace brisklet {
+
+namespace {
+
+constexpr qint64 kSecondsADay = qint64{24} * 60 * 60;
+
+QString suffix() {
+    return QStringLiteral(".part");
+}
+
+/// False if another program has the lock. File systems without locks keep nobody away.
+bool lock(const QFile& file) {
+    while (::flock(file.handle(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EINTR)
+            return errno != EWOULDBLOCK;
+    }
+    return true;
+}
+
+bool isBeingDownloaded(const QFileInfo& entry) {
+    QFile file(entry.filePath());
+    return file.open(QIODevice::ReadOnly) && !lock(file);
+}
+
+} // namespace
+
+PackageFile::PackageFile(const QString& path) : m_path(path), m_file(path + suffix()) {}
+
+PackageFile::~PackageFile() {
+    if (m_file.isOpen())
+        m_file.remove();
+}
+
+bool PackageFile::create() {
+    verifyMainThread();
+    if (!QDir().mkpath(QFileInfo(m_path).path()) || !m_file.open(QIODevice::ReadWrite))
+        return false;
+    if (!lock(m_file)) {
+        m_reason = tr("It is being downloaded already.");
+        m_file.close();
+        return false;
+    }
+    return m_file.resize(0);
+}
+
+bool PackageFile::flush() {
+    if (!m_file.flush() || m_file.error() != QFileDevice::NoError)
+        return false;
+    while (::fsync(m_file.handle()) != 0) {
+        if (errno == EINTR)
+            continue;
+        m_reason = qt_error_string(errno);
+        return false;
+    }
+    return true;
+}
+
+bool PackageFile::keep() {
+    // The file’s own lock ends with its descriptor, and its name must not be free before.
+    const int second = ::dup(m_file.handle());
+    QFile::remove(m_path);
+    const bool isKept = m_file.rename(m_path);
+    ::close(second);
+    if (!isKept)
+        m_file.remove();
+    return isKept;
+}
+
+QString PackageFile::failure() const {
+    return tr("The update can’t be stored: %1")
+        .arg(m_reason.isEmpty() ? m_file.errorString() : m_reason);
+}
+
+void removeOldPackages(const QString& folder, const QDateTime& now) {
+    for (const QFileInfo& entry : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
+        const bool isOfUse = entry.fileName().endsWith(suffix())
+                                 ? isBeingDownloaded(entry)
+                                 : entry.lastModified().secsTo(now) < kSecondsADay;
+        if (!isOfUse)
+            QFile::remove(entry.filePath());
+    }
+}
+
+} // namespace brisklet
