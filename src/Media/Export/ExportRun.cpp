@@ -45,7 +45,8 @@ void ExportRun::writeMedia(const std::stop_token& stop, std::atomic<double>& pro
     const std::stop_callback stopStages(stop, [this] { m_stop.request_stop(); });
     m_stages.start(
         "decode", [this] { m_video->decodeStage(); }, kFeederNiceness);
-    m_stages.start("transform", [this] { m_video->transformStage(); });
+    for (int thread = 0; thread < m_video->transformThreads(); ++thread)
+        m_stages.start("transform", [this] { m_video->transformStage(); });
     m_stages.start("encode", [this] { m_video->encodeStage(); });
     for (const auto& sound : m_sounds)
         m_stages.start(

@@ -1,10 +1,9 @@
 #include "Media/Export/VideoPipeline.h"
 
 #include "Media/Error.h"
-#include "Media/Export/Deinterlacer.h"
-#include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/SourceInfo.h"
 #include "Media/Reading/OpenedAsset.h"
+#include "Media/Threading/Processors.h"
 #include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
@@ -82,7 +81,8 @@ VideoPipeline::VideoPipeline(const Composition& composition,
     openEncoder(source, settings, videoComposition, track.range.duration());
 }
 
-void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& settings,
+void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track,
+                                const EncoderSettings& encoderSettings,
                                 const std::optional<VideoComposition>& videoComposition,
                                 Time duration) {
     const AssetTrack& facts = track.facts;
@@ -107,16 +107,20 @@ void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track, const EncoderS
         natural = {static_cast<double>(facts.codedWidth), static_cast<double>(facts.codedHeight)};
         encoding.fieldOrder = track.fieldOrder;
     }
-    m_encoder = ffmpeg::Encoder::forVideo(track, encoding, settings);
-    PictureTransform::Output output;
-    output.width = encoding.width;
-    output.height = encoding.height;
-    output.format = m_encoder->context().pix_fmt;
-    m_transform.emplace(toCanvas, natural, output);
-    if (m_encoder->context().flags & AV_CODEC_FLAG_INTERLACED_DCT)
-        m_fieldTransform.emplace(natural, output);
+    m_encoder = ffmpeg::Encoder::forVideo(track, encoding, encoderSettings);
+    const AVCodecContext& encoder = m_encoder->context();
+    const TransformStage::Settings settings{
+        .toCanvas = toCanvas,
+        .naturalSize = natural,
+        .output = {.width = encoding.width, .height = encoding.height, .format = encoder.pix_fmt},
+        .deinterlaces = m_deinterlaces,
+        .keepsFields = (encoder.flags & AV_CODEC_FLAG_INTERLACED_DCT) != 0};
+    m_transform.emplace(settings, m_decoded, m_transformed, m_stop);
+    m_transformThreads = TransformStage::usefulWorkers(
+        settings, static_cast<AVPixelFormat>(track.parameters->format), facts.codedWidth,
+        facts.codedHeight, processorCount());
     m_output.timeBase = encoding.timeBase;
-    const Time tail = Time::fromSeconds(tailSeconds(m_encoder->context()), encoding.timeBase.den);
+    const Time tail = Time::fromSeconds(tailSeconds(encoder), encoding.timeBase.den);
     if (duration.seconds() > 2 * tail.seconds())
         m_tailStart = (duration - tail).rescaled(encoding.timeBase.den).value;
 }
@@ -129,31 +133,6 @@ void VideoPipeline::decodeStage() {
     if (m_scheduledFrames == 0)
         throw Error(ErrorKind::noPictureOfRangeDecodable);
     m_decoded.finish();
-}
-
-void VideoPipeline::transformStage() {
-    ffmpeg::FramePtr last;
-    while (auto scheduled = m_decoded.pop()) {
-        if (!scheduled->isRepeat || !last)
-            last = transformed(*scheduled);
-        scheduled->frame = ffmpeg::referenced(*last);
-        scheduled->previous.reset();
-        scheduled->following.reset();
-        m_transformed.push(std::move(*scheduled));
-    }
-    m_transformed.finish();
-}
-
-ffmpeg::FramePtr VideoPipeline::transformed(const ScheduledFrame& scheduled) {
-    const AVFrame& frame = *scheduled.frame;
-    if (m_deinterlaces) {
-        return m_transform->apply(
-            *Deinterlacer::apply(frame, scheduled.previous.get(), scheduled.following.get()));
-    }
-    if (m_fieldTransform && ffmpeg::isInterlaced(frame) &&
-        frame.format != m_encoder->context().pix_fmt)
-        return m_fieldTransform->apply(frame);
-    return m_transform->apply(frame);
 }
 
 void VideoPipeline::encodeStage() {

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "Media/Export/FieldTransform.h"
 #include "Media/Export/FrameSchedule.h"
 #include "Media/Export/PacketStream.h"
+#include "Media/Export/TransformStage.h"
 #include "Media/ExportSession.h"
 #include "Media/FFmpeg/Encoder.h"
-#include "Media/Pictures/PictureTransform.h"
 
 #include <map>
 #include <memory>
@@ -20,7 +19,8 @@ namespace media {
 constexpr int kFeederNiceness = 7;
 
 /// Takes the video track through an export: decode → transform → encode. The owner runs each stage
-/// on a thread of its own; a stage returns when its work is done and throws what went wrong.
+/// on a thread of its own, and that of the transform on several; a stage returns when its work is
+/// done and throws what went wrong.
 class VideoPipeline {
 public:
     /// Opens decoder and encoder. Throws Error. `stop` ends the stages early, with Cancelled.
@@ -29,8 +29,13 @@ public:
                   const EncoderSettings& settings, const std::stop_token& stop);
 
     void decodeStage();
-    void transformStage();
+
+    /// To be run on transformThreads() threads at the same time; one would do.
+    void transformStage() { m_transform->run(); }
+
     void encodeStage();
+
+    [[nodiscard]] int transformThreads() const { return m_transformThreads; }
 
     [[nodiscard]] const AVCodecContext& encoderContext() { return m_encoder->context(); }
 
@@ -42,10 +47,8 @@ public:
     [[nodiscard]] PacketStream& output() { return m_output; }
 
 private:
-    void openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& settings,
+    void openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& encoderSettings,
                      const std::optional<VideoComposition>& videoComposition, Time duration);
-    /// The source picture as the encoder gets it.
-    ffmpeg::FramePtr transformed(const ScheduledFrame& scheduled);
     /// True once, for the first picture of the tail: the one that becomes the last key frame.
     bool beginsTail(const ScheduledFrame& frame);
     void drainEncoder();
@@ -54,10 +57,9 @@ private:
     std::stop_token m_stop;
     VideoReader m_reader;
     std::unique_ptr<FrameSchedule> m_schedule;
-    std::optional<PictureTransform> m_transform;
-    /// Set when interlaced pictures stay interlaced.
-    std::optional<FieldTransform> m_fieldTransform;
     bool m_deinterlaces = false;
+    std::optional<TransformStage> m_transform;
+    int m_transformThreads = 1;
     std::optional<ffmpeg::Encoder> m_encoder;
 
     /// Decode thread.

@@ -2,18 +2,18 @@
 
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
+#include "Media/Threading/Processors.h"
 #include "Media/Threading/ThreadName.h"
 
 #include <algorithm>
-#include <thread>
 
 namespace media::ffmpeg {
 
 /// libav's own choice would be one more than processors, which holds more pictures and gains
 /// nothing. The limit is the same as libav's.
 int Decoder::usualThreads() {
-    constexpr unsigned kMost = 16;
-    return static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, kMost));
+    constexpr int kMost = 16;
+    return std::min(processorCount(), kMost);
 }
 
 Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads) {
