@@ -72,7 +72,7 @@ private:
     };
 
     [[nodiscard]] std::unique_ptr<CanvasPainter> painterFor(const Key& key) const;
-    void paint(const PlanarPicture& picture, const Key& key, const std::array<Plane, 3>& canvas);
+    CanvasPainter& painter(const Key& key);
     PreviewPicturePtr mapped(const AVFrame& frame, const PlanarPicture& picture, ImageSize size,
                              int chromaShift, const ScreenColours& colours);
 
@@ -80,6 +80,8 @@ private:
     AffineTransform m_upright;
     PlanarReader m_reader;
     RecentlyUsed<Key, CanvasPainter> m_painters{4};
+    /// Set with the first picture whose colours are mapped.
+    std::shared_ptr<Helpers> m_helpers;
     RecentlyUsed<MappingKey, ScreenMapping> m_mappings{2};
     /// The picture in the source's colours, before they are mapped to the screen's.
     std::array<PlaneBuffer, 3> m_unmapped;
@@ -106,9 +108,8 @@ std::unique_ptr<CanvasPainter> PictureRenderer::Private::painterFor(const Key& k
     return std::make_unique<CanvasPainter>(key.picture, mapping, canvas);
 }
 
-void PictureRenderer::Private::paint(const PlanarPicture& picture, const Key& key,
-                                     const std::array<Plane, 3>& canvas) {
-    m_painters.get(key, [&] { return painterFor(key); }).paint(picture, canvas);
+CanvasPainter& PictureRenderer::Private::painter(const Key& key) {
+    return m_painters.get(key, [&] { return painterFor(key); });
 }
 
 PreviewPicturePtr PictureRenderer::Private::render(const AVFrame& frame, int maxWidth,
@@ -131,7 +132,7 @@ PreviewPicturePtr PictureRenderer::Private::render(const AVFrame& frame, int max
                                                                 .chromaShift = shift,
                                                                 .matrix = matrixOf(frame),
                                                                 .isFullRange = format.isFullRange});
-    paint(picture, {format, size, 8, shift}, preview->planes());
+    painter({format, size, 8, shift}).paint(picture, preview->planes());
     return preview;
 }
 
@@ -142,7 +143,12 @@ PreviewPicturePtr PictureRenderer::Private::mapped(const AVFrame& frame,
     std::array<Plane, 3> canvas;
     for (unsigned index = 0; index < 3; ++index)
         canvas[index] = m_unmapped[index].reserve(size.width, size.height, format.depth);
-    paint(picture, {format, size, format.depth, 0}, canvas);
+    if (!m_helpers)
+        m_helpers = Helpers::shared();
+    CanvasPainter& unmapped = painter({format, size, format.depth, 0});
+    m_helpers->run(3, [&](int plane, int) {
+        unmapped.paintPlane(static_cast<unsigned>(plane), picture, canvas);
+    });
 
     format.width = size.width;
     format.height = size.height;
@@ -157,7 +163,11 @@ PreviewPicturePtr PictureRenderer::Private::mapped(const AVFrame& frame,
     const MappingKey key{format, colours, preview->format().chromaShift};
     m_peak = statedPeak(frame).value_or(m_peak);
     m_mappings
-        .get(key, [&] { return std::make_unique<ScreenMapping>(format, colours, key.chromaShift); })
+        .get(key,
+             [&] {
+                 return std::make_unique<ScreenMapping>(format, colours, key.chromaShift,
+                                                        m_helpers);
+             })
         .run({canvas[0], canvas[1], canvas[2]}, preview->planes(), m_peak);
     return preview;
 }

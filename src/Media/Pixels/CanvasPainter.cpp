@@ -123,13 +123,17 @@ void CanvasPainter::prepareSamples(Step& step, const Resampling& resampling) {
 }
 
 void CanvasPainter::paint(const PlanarPicture& picture, const std::array<Plane, 3>& canvas) {
-    for (unsigned index = 0; index < 3; ++index) {
-        if (canvas[index].data)
-            paintPlane(m_steps[index], picture.planes[index], canvas[index]);
-    }
+    for (unsigned index = 0; index < 3; ++index)
+        paintPlane(index, picture, canvas);
 }
 
-void CanvasPainter::paintPlane(Step& step, ConstPlane in, Plane out) const {
+void CanvasPainter::paintPlane(unsigned index, const PlanarPicture& picture,
+                               const std::array<Plane, 3>& canvas) {
+    if (canvas[index].data)
+        paintStep(m_steps[index], picture.planes[index], canvas[index]);
+}
+
+void CanvasPainter::paintStep(Step& step, ConstPlane in, Plane out) const {
     const int depth = m_canvas.depth;
     fillAround(out, step.columns, step.rows, depth, step.background);
     if (step.columns.count() == 0 || step.rows.count() == 0)

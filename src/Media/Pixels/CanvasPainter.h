@@ -35,6 +35,10 @@ public:
     /// Fills the planes of the canvas that have data. On a canvas of three planes a grey picture
     /// gets neutral chroma.
     void paint(const PlanarPicture& picture, const std::array<Plane, 3>& canvas);
+    /// The same for one plane of the canvas, 0 to 2. Several may be painted at the same time, each
+    /// by a thread of its own.
+    void paintPlane(unsigned index, const PlanarPicture& picture,
+                    const std::array<Plane, 3>& canvas);
 
     /// The part of the picture's plane that shows on the canvas, if the canvas' plane would be
     /// nothing but a copy of it.
@@ -61,7 +65,7 @@ private:
 
     void prepare(Step& step, unsigned plane, const CanvasMapping& mapping) const;
     static void prepareSamples(Step& step, const Resampling& resampling);
-    void paintPlane(Step& step, ConstPlane in, Plane out) const;
+    void paintStep(Step& step, ConstPlane in, Plane out) const;
     void softenChromaEdges(const Step& step, Plane out) const;
 
     PlanarFormat m_picture;

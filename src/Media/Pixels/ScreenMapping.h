@@ -2,12 +2,12 @@
 
 #include "Media/Pixels/PlanarReader.h"
 #include "Media/Pixels/Plane.h"
-
-#include <zimg.h>
+#include "Media/Threading/Helpers.h"
 
 #include <array>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace media::pixels {
 
@@ -35,38 +35,35 @@ std::optional<float> statedPeak(const AVFrame& frame);
 
 /// Maps pictures of one size and format to the screen: to linear light where 1 is 100 cd/m² (for
 /// PQ and HLG), to BT.709 primaries, through Hable's filmic curve by the brightest component (PQ
-/// and HLG only), to the transfer of BT.709 (or the source's own, of standard range). Use from one
-/// thread at a time.
+/// and HLG only), to the transfer of BT.709 (or the source's own, of standard range). A large
+/// picture is mapped in strips by several threads; it is the same whatever their number. Use from
+/// one thread at a time.
 class ScreenMapping {
 public:
     /// `format` has full chroma (or is RGB). The result is Y′CbCr of 8 bits, full range, BT.709,
-    /// with chroma on every 2^chromaShift-th pixel and line. Throws Error if zimg cannot do it.
-    ScreenMapping(const PlanarFormat& format, const ScreenColours& colours, int chromaShift);
+    /// with chroma on every 2^chromaShift-th pixel and line, which divides the picture's sides.
+    /// `helpers`: who helps with large pictures. Throws Error if zimg cannot do it.
+    ScreenMapping(const PlanarFormat& format, const ScreenColours& colours, int chromaShift,
+                  std::shared_ptr<Helpers> helpers);
+    ScreenMapping(const ScreenMapping&) = delete;
+    ScreenMapping& operator=(const ScreenMapping&) = delete;
+    ~ScreenMapping();
 
     /// `peak` as statedPeak() gives it.
     void run(const std::array<ConstPlane, 3>& in, const std::array<Plane, 3>& out, float peak);
 
 private:
-    struct GraphDeleter {
-        void operator()(zimg_filter_graph* graph) const noexcept { zimg_filter_graph_free(graph); }
-    };
+    class Strip;
 
-    using Graph = std::unique_ptr<zimg_filter_graph, GraphDeleter>;
+    [[nodiscard]] std::unique_ptr<Strip> makeStrip() const;
 
-    void process(const Graph& graph, const zimg_image_buffer_const& in,
-                 const zimg_image_buffer& out);
-    void compress(float peak);
-
-    int m_width;
-    int m_height;
-    bool m_isCompressed;
-    Graph m_toLinear;
-    Graph m_toScreen;
-    AlignedBuffer m_memory;
-    /// Red, green and blue in linear light, 32-bit floats.
-    std::array<AlignedBuffer, 3> m_linear;
-    std::array<float*, 3> m_linearPlanes{};
-    std::ptrdiff_t m_linearStride;
+    PlanarFormat m_format;
+    ScreenColours m_colours;
+    int m_chromaShift;
+    std::shared_ptr<Helpers> m_helpers;
+    int m_stripCount;
+    /// What each worker works with, made when it first has a strip to map.
+    std::vector<std::unique_ptr<Strip>> m_strips;
 };
 
 } // namespace media::pixels
