@@ -72,7 +72,8 @@ private:
     };
 
     [[nodiscard]] std::unique_ptr<CanvasPainter> painterFor(const Key& key) const;
-    CanvasPainter& painter(const Key& key);
+    void paint(const Key& key, const PlanarPicture& picture, const std::array<Plane, 3>& canvas);
+    const std::shared_ptr<Helpers>& helpers();
     PreviewPicturePtr mapped(const AVFrame& frame, const PlanarPicture& picture, ImageSize size,
                              int chromaShift, const ScreenColours& colours);
 
@@ -80,7 +81,7 @@ private:
     AffineTransform m_upright;
     PlanarReader m_reader;
     RecentlyUsed<Key, CanvasPainter> m_painters{4};
-    /// Set with the first picture whose colours are mapped.
+    /// Kept from the first picture on that is large or whose colours are mapped.
     std::shared_ptr<Helpers> m_helpers;
     RecentlyUsed<MappingKey, ScreenMapping> m_mappings{2};
     /// The picture in the source's colours, before they are mapped to the screen's.
@@ -108,8 +109,22 @@ std::unique_ptr<CanvasPainter> PictureRenderer::Private::painterFor(const Key& k
     return std::make_unique<CanvasPainter>(key.picture, mapping, canvas);
 }
 
-CanvasPainter& PictureRenderer::Private::painter(const Key& key) {
-    return m_painters.get(key, [&] { return painterFor(key); });
+void PictureRenderer::Private::paint(const Key& key, const PlanarPicture& picture,
+                                     const std::array<Plane, 3>& canvas) {
+    CanvasPainter& painter = m_painters.get(key, [&] { return painterFor(key); });
+    if (!PreviewPicture::isLarge(key.image.width, key.image.height)) {
+        painter.paint(picture, canvas);
+        return;
+    }
+    helpers()->run(3, [&](int plane, int) {
+        painter.paintPlane(static_cast<unsigned>(plane), picture, canvas);
+    });
+}
+
+const std::shared_ptr<Helpers>& PictureRenderer::Private::helpers() {
+    if (!m_helpers)
+        m_helpers = Helpers::shared();
+    return m_helpers;
 }
 
 PreviewPicturePtr PictureRenderer::Private::render(const AVFrame& frame, int maxWidth,
@@ -132,7 +147,7 @@ PreviewPicturePtr PictureRenderer::Private::render(const AVFrame& frame, int max
                                                                 .chromaShift = shift,
                                                                 .matrix = matrixOf(frame),
                                                                 .isFullRange = format.isFullRange});
-    painter({format, size, 8, shift}).paint(picture, preview->planes());
+    paint({format, size, 8, shift}, picture, preview->planes());
     return preview;
 }
 
@@ -143,12 +158,7 @@ PreviewPicturePtr PictureRenderer::Private::mapped(const AVFrame& frame,
     std::array<Plane, 3> canvas;
     for (unsigned index = 0; index < 3; ++index)
         canvas[index] = m_unmapped[index].reserve(size.width, size.height, format.depth);
-    if (!m_helpers)
-        m_helpers = Helpers::shared();
-    CanvasPainter& unmapped = painter({format, size, format.depth, 0});
-    m_helpers->run(3, [&](int plane, int) {
-        unmapped.paintPlane(static_cast<unsigned>(plane), picture, canvas);
-    });
+    paint({format, size, format.depth, 0}, picture, canvas);
 
     format.width = size.width;
     format.height = size.height;
@@ -166,7 +176,7 @@ PreviewPicturePtr PictureRenderer::Private::mapped(const AVFrame& frame,
         .get(key,
              [&] {
                  return std::make_unique<ScreenMapping>(format, colours, key.chromaShift,
-                                                        m_helpers);
+                                                        helpers());
              })
         .run({canvas[0], canvas[1], canvas[2]}, preview->planes(), m_peak);
     return preview;

@@ -1,5 +1,7 @@
 #include "Media/Pictures/PreviewPicture.h"
 
+#include "Media/Threading/Helpers.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -10,6 +12,10 @@ using namespace pixels;
 namespace {
 
 constexpr std::uint8_t kNeutral = 128;
+
+constexpr int kLargePixels = 1920 * 1088;
+/// What one thread converts at a time of a large picture.
+constexpr int kStripLines = 64;
 
 int planeCount(PreviewPicture::Kind kind) {
     return kind == PreviewPicture::Kind::grey ? 1 : 3;
@@ -61,6 +67,10 @@ private:
 
 } // namespace
 
+bool PreviewPicture::isLarge(int width, int height) {
+    return width > kLargePixels / height;
+}
+
 PreviewPicture::PreviewPicture(const Format& format) : m_format(format) {
     std::size_t byteCount = 0;
     for (int index = 0; index < planeCount(format.kind); ++index) {
@@ -105,14 +115,26 @@ ImagePtr PreviewPicture::image() const {
     image->stride = 4 * m_format.width;
     image->pixels.resize(static_cast<std::size_t>(image->stride) *
                          static_cast<std::size_t>(m_format.height));
-    if (m_format.kind == Kind::rgb)
-        convertRgb(*image);
-    else
-        convertYuv(*image);
+    if (!isLarge(image->width, image->height)) {
+        convert(*image, 0, image->height);
+        return image;
+    }
+    const int strips = (image->height + kStripLines - 1) / kStripLines;
+    Helpers::shared()->run(strips, [&](int strip, int) {
+        const int first = strip * kStripLines;
+        convert(*image, first, std::min(first + kStripLines, image->height));
+    });
     return image;
 }
 
-void PreviewPicture::convertYuv(Image& image) const {
+void PreviewPicture::convert(Image& image, int first, int end) const {
+    if (m_format.kind == Kind::rgb)
+        convertRgb(image, first, end);
+    else
+        convertYuv(image, first, end);
+}
+
+void PreviewPicture::convertYuv(Image& image, int first, int end) const {
     const std::vector<std::uint8_t> neutral(static_cast<std::size_t>(image.width), kNeutral);
     const ConstPlane grey{neutral.data(), 0, image.width, image.height};
     const bool isGrey = m_format.kind == Kind::grey;
@@ -121,14 +143,14 @@ void PreviewPicture::convertYuv(Image& image) const {
     ChromaLines v(isGrey ? grey : plane(2), shift, image.width);
     const ConstPlane luma = plane(0);
     const YuvToRgb toRgb(m_format.matrix, m_format.isFullRange);
-    for (int y = 0; y < image.height; ++y) {
+    for (int y = first; y < end; ++y) {
         std::uint8_t* out = image.pixels.data() + std::ptrdiff_t{y} * image.stride;
         toRgb.convertLine(luma.line(y), u.line(y), v.line(y), out, image.width);
     }
 }
 
-void PreviewPicture::convertRgb(Image& image) const {
-    for (int y = 0; y < image.height; ++y) {
+void PreviewPicture::convertRgb(Image& image, int first, int end) const {
+    for (int y = first; y < end; ++y) {
         std::uint8_t* out = image.pixels.data() + std::ptrdiff_t{y} * image.stride;
         packLine(plane(0).line(y), plane(1).line(y), plane(2).line(y), out, image.width);
     }

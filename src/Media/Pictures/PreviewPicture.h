@@ -32,6 +32,10 @@ public:
         bool isFullRange = false;
     };
 
+    /// Whether pictures of that size take so long to make and to convert that several threads do
+    /// it: from somewhat more than 1080p on.
+    static bool isLarge(int width, int height);
+
     /// Undefined content.
     explicit PreviewPicture(const Format& format);
 
@@ -42,13 +46,16 @@ public:
     /// For the maker. Grey has only the first; aligned for zimg.
     [[nodiscard]] std::array<pixels::Plane, 3> planes();
 
-    /// The picture in the screen's pixel format. Any thread.
+    /// The picture in the screen's pixel format. Any thread; Helpers::shared() help with a large
+    /// one.
     [[nodiscard]] ImagePtr image() const;
 
 private:
     [[nodiscard]] pixels::ConstPlane plane(unsigned index) const;
-    void convertYuv(Image& image) const;
-    void convertRgb(Image& image) const;
+    /// The lines from `first` to before `end`.
+    void convert(Image& image, int first, int end) const;
+    void convertYuv(Image& image, int first, int end) const;
+    void convertRgb(Image& image, int first, int end) const;
 
     Format m_format;
     std::array<std::size_t, 3> m_offsets{};
