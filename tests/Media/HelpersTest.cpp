@@ -51,7 +51,7 @@ TEST(Helpers, reportAFailureAndWorkOn) {
     EXPECT_THROW(helpers.run(50,
                              [](int piece, int) {
                                  if (piece == 20)
-                                     throw Error("no");
+                                     throw Error(ErrorKind::notEnoughMemory);
                              }),
                  Error);
     std::atomic<int> done = 0;
