@@ -3,6 +3,7 @@
 #include "Media/Geometry.h"
 #include "Media/Time.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <stop_token>
@@ -45,6 +46,10 @@ struct AssetTrack {
     AffineTransform preferredTransform;
     /// Video: frames per second; 0 if unknown. Single precision, as in the file's own terms.
     float nominalFrameRate = 0;
+    /// Video: the distance from each frame to the next, and how many there are, where the
+    /// container's index proves that all distances are the same; otherwise invalid and 0.
+    Time frameDistance = Time::invalid();
+    std::int64_t frameCount = 0;
     /// Video: name of the pixel format ("yuv420p10le").
     std::string pixelFormat;
     int bitsPerComponent = 8;

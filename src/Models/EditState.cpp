@@ -323,8 +323,10 @@ void EditState::seekPlayer(double to) {
 
 void EditState::stepFrames(int count) {
     m_history.endRun();
-    if (videoURL())
-        m_playerController.step(count);
+    if (!videoURL())
+        return;
+    m_playerController.step(count);
+    Q_EMIT markerMoved(EditMarker::playhead);
 }
 
 void EditState::setTrimStartToPlayhead() {
@@ -367,15 +369,16 @@ void EditState::moveMarker(EditMarker marker, double to) {
         break;
     case EditMarker::playhead:
         m_history.endRun();
-        seek(to);
-        return;
+        break;
     case EditMarker::trimEnd:
         m_trimEnd = trimRange().clampedEnd(to);
         record(EditStep::trimEnd, runOf(marker));
         break;
     }
-    m_playerController.player()->pause();
-    seek(time(marker));
+    if (marker != EditMarker::playhead)
+        m_playerController.player()->pause();
+    seek(marker == EditMarker::playhead ? to : time(marker));
+    Q_EMIT markerMoved(marker);
 }
 
 void EditState::stepMarker(EditMarker marker, int frames) {
@@ -383,6 +386,15 @@ void EditState::stepMarker(EditMarker marker, int frames) {
         stepFrames(frames);
     else
         moveMarker(marker, time(marker) + frames * m_video.frameDuration);
+}
+
+void EditState::goToRangeEnd(EditMarker end) {
+    const auto ticks = [](double seconds) {
+        return media::Time::fromSeconds(seconds, media::kComparisonTimescale).ticks();
+    };
+    const bool isThere = ticks(m_currentTime) == ticks(time(end));
+    const double endOfFile = end == EditMarker::trimStart ? 0.0 : m_duration.value();
+    moveMarker(EditMarker::playhead, isThere ? endOfFile : time(end));
 }
 
 EditState::DragOrigin EditState::dragOrigin(EditMarker marker) {

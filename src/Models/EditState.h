@@ -162,6 +162,11 @@ public:
     /// The same by frames (negative: backward). The playhead steps exactly; an end of the range
     /// moves by the nominal duration of a frame.
     void stepMarker(EditMarker marker, int frames);
+    /// Moves the playhead to that end of the range or, where it is there already, of the file.
+    void goToRangeEnd(EditMarker end);
+
+    /// The numbers of the open video's frames.
+    [[nodiscard]] const FrameNumbers& frameNumbers() const { return m_video.frameNumbers; }
 
     /// What the drag of a marker can change, as it was before the drag.
     struct DragOrigin {
@@ -218,6 +223,8 @@ Q_SIGNALS:
     void editChanged();
     /// The video of a kept edit was not found or can't be opened; errorMessage() says so.
     void reopenFailed(std::uint64_t editId);
+    /// moveMarker() or a step has moved a marker, or tried to.
+    void markerMoved(brisklet::EditMarker marker);
     /// An export that was not cancelled has ended, with the file or with the error message.
     void exportFinished(const QUrl& outputURL);
     void exportFailed(const QString& message);

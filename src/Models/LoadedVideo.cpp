@@ -22,6 +22,7 @@ LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& 
         const auto rate = static_cast<double>(tracks.front().nominalFrameRate);
         if (rate > 0 && std::isfinite(rate))
             video.frameDuration = 1 / rate;
+        video.frameNumbers = FrameNumbers(tracks.front());
     }
     video.maxNameBytes = maxNameBytesIn(path.parent_path());
     return video;

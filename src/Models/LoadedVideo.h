@@ -3,6 +3,7 @@
 #include "Media/Asset.h"
 #include "Media/Geometry.h"
 #include "Models/FileIdentity.h"
+#include "Models/FrameNumbers.h"
 
 #include <QCoroTask>
 #include <QUrl>
@@ -24,6 +25,7 @@ struct LoadedVideo {
     std::optional<media::Size> displaySize;
     /// Seconds, by the nominal frame rate; 1/30 if the file states none.
     double frameDuration = 1.0 / 30;
+    FrameNumbers frameNumbers;
     /// The longest name, in bytes, that a file beside this one may have.
     int maxNameBytes = 0;
     /// All zero where another file took the name while this one was being opened.

@@ -11,4 +11,8 @@ namespace brisklet {
 /// Times of 2^63 seconds or more, infinity included, end the program.
 QString formatTime(double seconds);
 
+/// A time in seconds, as exact as a frame needs it: "0:01:23.456". Rounded to the millisecond, with
+/// a carry, so that what is typed back is in the same 1/600 s. Otherwise as formatTime().
+QString formatExactTime(double seconds);
+
 } // namespace brisklet

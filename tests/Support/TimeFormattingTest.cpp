@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 
+using brisklet::formatExactTime;
 using brisklet::formatTime;
 
 namespace {
@@ -51,9 +52,20 @@ TEST(TimeFormatting, writesAFullStopInEveryLocale) {
     QLocale::setDefault(QLocale(QLocale::German));
     const char* const german = std::setlocale(LC_ALL, "de_DE.UTF-8");
     EXPECT_EQ(formatTime(5.3), QStringLiteral("00:05.3"));
+    EXPECT_EQ(formatExactTime(5.3), QStringLiteral("0:00:05.300"));
     if (german != nullptr)
         std::setlocale(LC_ALL, "C.UTF-8");
     QLocale::setDefault(before);
+}
+
+TEST(TimeFormatting, showsExactTimesToTheMillisecondWithACarry) {
+    EXPECT_EQ(formatExactTime(0), QStringLiteral("0:00:00.000"));
+    EXPECT_EQ(formatExactTime(83.456), QStringLiteral("0:01:23.456"));
+    EXPECT_EQ(formatExactTime(59.9996), QStringLiteral("0:01:00.000"));
+    EXPECT_EQ(formatExactTime(3599.9996), QStringLiteral("1:00:00.000"));
+    EXPECT_EQ(formatExactTime(36000 + 1.0 / 600), QStringLiteral("10:00:00.002"));
+    EXPECT_EQ(formatExactTime(-1), QStringLiteral("0:00:00.000"));
+    EXPECT_EQ(formatExactTime(std::nan("")), QStringLiteral("0:00:00.000"));
 }
 
 TEST(TimeFormattingDeathTest, endsTheProgramOnTimesThatNoWholeNumberHolds) {

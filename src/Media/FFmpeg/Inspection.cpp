@@ -115,20 +115,16 @@ std::optional<Time> claimedEnd(const AVFormatContext& context, const AVStream& s
 }
 
 /// Whether by the container's index all samples up to the stated end lie inside the file.
-bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file,
-                     const std::vector<SourceTrack>& tracks) {
+bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file, AVStream& stream) {
     if (!containerTraits(*context.iformat).indexesEverySample)
         return false;
-    return std::ranges::all_of(tracks, [&](const SourceTrack& track) {
-        AVStream* stream = context.streams[track.facts.streamIndex];
-        const int count = avformat_index_get_entries_count(stream);
-        const auto end = claimedEnd(context, *stream);
-        if (count == 0 || !end)
-            return false;
-        const AVIndexEntry* last = avformat_index_get_entry(stream, count - 1);
-        const Time lastTime = timeOf(Timestamp(last->timestamp), stream->time_base);
-        return last->pos + last->size <= file.size() && (*end - lastTime).seconds() < kTailSeconds;
-    });
+    const int count = avformat_index_get_entries_count(&stream);
+    const auto end = claimedEnd(context, stream);
+    if (count == 0 || !end)
+        return false;
+    const AVIndexEntry* last = avformat_index_get_entry(&stream, count - 1);
+    const Time lastTime = timeOf(Timestamp(last->timestamp), stream.time_base);
+    return last->pos + last->size <= file.size() && (*end - lastTime).seconds() < kTailSeconds;
 }
 
 /// Reads packets to the end of the file and notes where each stream ends.
@@ -179,7 +175,10 @@ Time findDuration(Demuxer& demuxer, const SourceFile& file, const SourceInfo& in
                   const std::stop_token& stop) {
     if (info.pictures)
         return timeOf(info.pictures->end(), info.tracks.front().timeBase) - info.origin;
-    const bool isIndexed = indexReachesEnd(demuxer.context(), file, info.tracks);
+    const bool isIndexed = std::ranges::all_of(info.tracks, [&](const SourceTrack& track) {
+        AVFormatContext& context = demuxer.context();
+        return indexReachesEnd(context, file, *context.streams[track.facts.streamIndex]);
+    });
     const Ends ends = isIndexed ? Ends{} : measureEnds(demuxer, info.tracks, stop);
     Time latest = info.origin;
     for (const SourceTrack& track : info.tracks) {
@@ -238,6 +237,25 @@ void findFrameRate(SourceTrack& track, const SourceInfo& info, Demuxer& demuxer,
         track.facts.nominalFrameRate = static_cast<float>(*rate);
 }
 
+/// An index of one sample per picture that reaches the end of the file proves a constant rate. An
+/// interlaced stream whose pictures lean on others may have a sample per field. Of a fragmented
+/// file the index may lack samples.
+void findFrameDistance(SourceTrack& track, Demuxer& demuxer, const SourceFile& file) {
+    AVFormatContext& context = demuxer.context();
+    AVStream& stream = *context.streams[track.facts.streamIndex];
+    const AVCodecDescriptor* codec = avcodec_descriptor_get(track.parameters->codec_id);
+    const bool isIntraOnly = codec != nullptr && (codec->props & AV_CODEC_PROP_INTRA_ONLY) != 0;
+    if ((track.isInterlaced() && !isIntraOnly) || !indexReachesEnd(context, file, stream))
+        return;
+    std::vector<Timestamp> times = indexedTimes(context, stream);
+    const auto count = static_cast<std::int64_t>(times.size());
+    const auto distance = constantDistance(std::move(times));
+    if (!distance || count > stream.nb_frames)
+        return;
+    track.facts.frameDistance = timeOf(Timestamp(*distance), track.timeBase);
+    track.facts.frameCount = count;
+}
+
 /// The timecode may be in the metadata of the video stream, of a timecode track or of the file.
 std::string findTimecode(const AVFormatContext& context, int pictureStream) {
     const auto of = [](const AVDictionary* metadata) -> std::string {
@@ -285,6 +303,7 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
             describeDynamicRange(*context.streams[video->facts.streamIndex], reader->picture());
         video->fieldOrder = fieldOrderOf(*video->parameters, reader->picture());
         findFrameRate(*video, info, demuxer, *reader, stop);
+        findFrameDistance(*video, demuxer, file);
         video->lacksPresentationTimes = first.lacksPresentationTimes;
         video->needsGeneratedTimes = first.needsGeneratedTimes;
         pictureStream = video->facts.streamIndex;

@@ -54,6 +54,17 @@ std::optional<double> rateBetweenGaps(std::vector<Timestamp> times, AVRational t
     return rate <= kHighestRate ? std::optional(rate) : std::nullopt;
 }
 
+std::optional<std::int64_t> constantDistance(std::vector<Timestamp> times) {
+    std::ranges::sort(times);
+    const auto differs = [&](Timestamp a, Timestamp b) {
+        return b.value() - a.value() != times[1].value() - times[0].value();
+    };
+    if (times.size() < 2 || times[0] == times[1] ||
+        std::ranges::adjacent_find(times, differs) != times.end())
+        return std::nullopt;
+    return times[1].value() - times[0].value();
+}
+
 std::vector<Timestamp> indexedTimes(const AVFormatContext& context, AVStream& stream) {
     std::vector<Timestamp> times;
     if (!containerTraits(*context.iformat).indexesEverySample)

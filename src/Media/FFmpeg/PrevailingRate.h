@@ -2,6 +2,7 @@
 
 #include "Media/FFmpeg/Timestamp.h"
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -12,6 +13,10 @@ namespace media::ffmpeg {
 /// distances are of all kinds, too few to tell or too short for a rate (over 240 a second). `times`
 /// in any order, in `timeBase`.
 std::optional<double> rateBetweenGaps(std::vector<Timestamp> times, AVRational timeBase);
+
+/// The distance between all pictures that follow one another, in their time base. None where the
+/// distances differ, even by rounding, or there are fewer than two pictures.
+std::optional<std::int64_t> constantDistance(std::vector<Timestamp> times);
 
 /// When the samples are decoded that a container's index lists, as far as they are shown. Empty for
 /// containers whose index does not list all.
