@@ -2,6 +2,7 @@
 
 #include <QPoint>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -13,11 +14,32 @@ class Pointer final {
 public:
     explicit Pointer(QWidget& view) : m_view(view) {}
 
-    void press(const QPoint& point, Qt::MouseButton button = Qt::LeftButton) const {
-        QTest::mousePress(window(), button, Qt::NoModifier, inWindow(point));
+    void press(const QPoint& point, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+        QTest::mousePress(window(), button, modifiers, inWindow(point));
     }
 
-    void moveTo(const QPoint& point) const { QTest::mouseMove(window(), inWindow(point)); }
+    void moveTo(const QPoint& point, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+        QTest::mouseEvent(QTest::MouseMove, window(), Qt::NoButton, modifiers, inWindow(point));
+    }
+
+    struct Turn {
+        QPoint angle;
+        QPoint pixels;
+        Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+        Qt::ScrollPhase phase = Qt::NoScrollPhase;
+        bool isInverted = false;
+        /// Milliseconds.
+        quint64 timestamp = 0;
+    };
+
+    void turnWheel(const QPoint& point, const Turn& turn) const {
+        const QPoint place = inWindow(point);
+        QWheelEvent event(place, window()->mapToGlobal(place), turn.pixels, turn.angle,
+                          Qt::NoButton, turn.modifiers, turn.phase, turn.isInverted);
+        event.setTimestamp(turn.timestamp);
+        QCoreApplication::sendEvent(window(), &event);
+    }
 
     void release(const QPoint& point, Qt::MouseButton button = Qt::LeftButton) const {
         QTest::mouseRelease(window(), button, Qt::NoModifier, inWindow(point));

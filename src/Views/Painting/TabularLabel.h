@@ -5,7 +5,7 @@
 namespace brisklet {
 
 /// One line of text whose digits do not move when a number changes. Main thread.
-class TabularLabel final : public QLabel {
+class TabularLabel : public QLabel {
     Q_OBJECT
 
 public:

@@ -64,13 +64,19 @@ QRectF TimelineGeometry::marker(EditMarker marker) const {
     return {};
 }
 
-EditMarker TimelineGeometry::draggedAt(const QPointF& point) const {
-    // The trailing handle is painted over the leading one.
+std::optional<EditMarker> TimelineGeometry::markerAt(const QPointF& point) const {
+    // The trailing handle is painted over the leading one, and both over the playhead.
     for (const EditMarker end : {EditMarker::trimEnd, EditMarker::trimStart}) {
         if (marker(end).contains(point))
             return end;
     }
-    return EditMarker::playhead;
+    const double reach = handleWidth / 2;
+    const QRectF around = marker(EditMarker::playhead).adjusted(-reach, 0, reach, 0);
+    return around.contains(point) ? std::optional(EditMarker::playhead) : std::nullopt;
+}
+
+EditMarker TimelineGeometry::draggedAt(const QPointF& point) const {
+    return markerAt(point).value_or(EditMarker::playhead);
 }
 
 } // namespace brisklet

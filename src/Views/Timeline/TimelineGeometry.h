@@ -5,6 +5,8 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <optional>
+
 namespace brisklet {
 
 /// Where everything on the strip of a timeline is. Positions are points from the strip's left edge,
@@ -41,6 +43,9 @@ struct TimelineGeometry {
     [[nodiscard]] QRectF rangeFrame() const;
     /// The bar of the playhead, or the handle of an end of the range.
     [[nodiscard]] QRectF marker(EditMarker marker) const;
+
+    /// The marker at a point: an end of the range, or the playhead within the width of a handle.
+    [[nodiscard]] std::optional<EditMarker> markerAt(const QPointF& point) const;
 
     /// What a press on that point of the strip drags: the end of the range whose handle is there,
     /// anywhere else the playhead.

@@ -17,4 +17,8 @@ QString timelineLabel(double seconds) {
     return formatTime(std::min(seconds, kLongestShown));
 }
 
+QString exactTimelineLabel(double seconds) {
+    return formatExactTime(std::min(seconds, kLongestShown));
+}
+
 } // namespace brisklet

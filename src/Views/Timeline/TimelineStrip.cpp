@@ -6,6 +6,7 @@
 #include "Views/Painting/Theme.h"
 #include "Views/Timeline/TimelineMarker.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
@@ -112,6 +113,8 @@ void TimelineStrip::refresh() {
         if (marker->marker() != EditMarker::playhead || !m_state->isPlaying())
             marker->announceValue();
     }
+    showHover();
+    m_readout.refresh();
 }
 
 void TimelineStrip::repaintDifference(const TimelineGeometry& before, const TimelineGeometry& now) {
@@ -157,49 +160,111 @@ void TimelineStrip::mousePressEvent(QMouseEvent* event) {
         event->ignore();
         return;
     }
-    const EditMarker dragged = geometryNow().draggedAt(event->position());
-    beginDrag(dragged);
-    moveFocusFromOthers(dragged);
-    dragTo(event->position().x());
+    beginDrag(event->position(), event->modifiers());
 }
 
 void TimelineStrip::mouseMoveEvent(QMouseEvent* event) {
     // If a dialog took the pointer meanwhile, the release of the button went to it.
     if (!(event->buttons() & Qt::LeftButton))
         endDrag();
-    if (m_dragged)
-        dragTo(event->position().x());
+    if (m_drag)
+        dragTo(event->position(), event->modifiers());
     else
-        showCursor(event->position());
+        pointAt(event->position());
 }
 
 void TimelineStrip::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
     endDrag();
-    showCursor(event->position());
+    pointAt(event->position());
 }
 
-void TimelineStrip::beginDrag(EditMarker marker) {
-    m_dragged = marker;
+void TimelineStrip::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    m_pointer.reset();
+    showHover();
+}
+
+void TimelineStrip::wheelEvent(QWheelEvent* event) {
+    if (!m_state->videoURL()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (m_drag)
+        return;
+    const WheelSteps::Step step = m_wheel.take(*event, geometryNow().draggedAt(event->position()));
+    if (step.frames != 0)
+        m_state->stepMarker(step.marker, step.frames);
+}
+
+void TimelineStrip::beginDrag(const QPointF& pointer, Qt::KeyboardModifiers modifiers) {
+    const TimelineGeometry geometry = geometryNow();
+    const EditMarker dragged = geometry.draggedAt(pointer);
     m_gesture = std::make_unique<EditGesture>(m_state);
-    m_escape.begin([this, origin = m_state->dragOrigin(marker)] {
-        m_dragged.reset();
+    m_escape.begin([this, origin = m_state->dragOrigin(dragged)] {
+        m_drag.reset();
+        m_readout.setDragged(std::nullopt);
         m_state->takeBackDrag(origin);
         m_gesture.reset();
-        showCursor(mapFromGlobal(QCursor::pos()));
+        pointAt(mapFromGlobal(QCursor::pos()));
     });
+    qApp->installEventFilter(this);
+    m_drag = Drag{.marker = dragged, .path = FineDrag(pointer.x()), .pointer = pointer};
+    moveFocusFromOthers(dragged);
+    const DragSpeed speed = FineDrag::speedAt(pointer, m_stripHeight, modifiers);
+    if (speed == DragSpeed::full || geometry.markerAt(pointer) != dragged) {
+        dragTo(pointer, modifiers);
+        return;
+    }
+    // Grabbed for a fine drag, a marker does not jump to the pointer.
+    m_drag->path = FineDrag(pointer.x(), geometry.x(m_state->time(dragged)));
+    showSpeed(speed);
+    m_state->moveMarker(dragged, m_state->time(dragged));
 }
 
 void TimelineStrip::endDrag() {
-    m_dragged.reset();
+    m_drag.reset();
     m_gesture.reset();
     m_escape.end();
+    qApp->removeEventFilter(this);
+    m_readout.setDragged(std::nullopt);
 }
 
-void TimelineStrip::dragTo(double position) {
-    if (m_dragged)
-        m_state->moveMarker(*m_dragged, geometryNow().time(position));
+void TimelineStrip::dragTo(const QPointF& pointer, Qt::KeyboardModifiers modifiers) {
+    const TimelineGeometry geometry = geometryNow();
+    const EditMarker marker = m_drag->marker;
+    const DragSpeed speed = FineDrag::speedAt(pointer, m_stripHeight, modifiers);
+    const double position =
+        m_drag->path.moveTo(pointer.x(), speed, geometry.x(m_state->earliest(marker)),
+                            geometry.x(m_state->latest(marker)));
+    m_drag->pointer = pointer;
+    showSpeed(speed);
+    m_state->moveMarker(marker, geometry.time(position));
+}
+
+void TimelineStrip::showSpeed(DragSpeed speed) {
+    m_readout.setDragged(m_drag->marker, speed);
+    if (std::exchange(m_drag->speed, speed) == speed)
+        return;
+    if (speed != DragSpeed::full)
+        setCursor(speed == DragSpeed::tenth ? Qt::SplitHCursor : Qt::CrossCursor);
+    else if (m_drag->marker == EditMarker::playhead)
+        unsetCursor();
+    else
+        setCursor(Qt::SizeHorCursor);
+}
+
+/// During a drag: shows the speed as soon as Shift is pressed or released, before the mouse moves.
+bool TimelineStrip::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (m_drag && (type == QEvent::KeyPress || type == QEvent::KeyRelease) &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Shift) {
+        const auto modifiers = type == QEvent::KeyPress ? Qt::ShiftModifier : Qt::NoModifier;
+        showSpeed(FineDrag::speedAt(m_drag->pointer, m_stripHeight, modifiers));
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void TimelineStrip::moveFocusFromOthers(EditMarker dragged) {
@@ -212,11 +277,21 @@ void TimelineStrip::moveFocusFromOthers(EditMarker dragged) {
     }
 }
 
-void TimelineStrip::showCursor(const QPointF& position) {
+void TimelineStrip::pointAt(const QPointF& position) {
     if (geometryNow().draggedAt(position) == EditMarker::playhead)
         unsetCursor();
     else
         setCursor(Qt::SizeHorCursor);
+    m_pointer = rect().contains(position.toPoint()) ? std::optional(position) : std::nullopt;
+    showHover();
+}
+
+void TimelineStrip::showHover() {
+    auto hovered = m_pointer ? geometryNow().markerAt(*m_pointer) : std::nullopt;
+    // The playhead of a playing video passes under the pointer.
+    if (hovered == EditMarker::playhead && m_state->isPlaying())
+        hovered.reset();
+    m_readout.setHovered(hovered);
 }
 
 void TimelineStrip::paintEvent(QPaintEvent* /*event*/) {

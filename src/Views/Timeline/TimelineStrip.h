@@ -2,8 +2,11 @@
 
 #include "Models/EditGesture.h"
 #include "Views/DragEscape.h"
+#include "Views/Timeline/FineDrag.h"
+#include "Views/Timeline/MarkerReadout.h"
 #include "Views/Timeline/TimelineFilmstrip.h"
 #include "Views/Timeline/TimelineGeometry.h"
+#include "Views/Timeline/WheelSteps.h"
 
 #include <QWidget>
 
@@ -19,7 +22,8 @@ class TimelineMarker;
 
 /// The filmstrip with the kept range, its two handles and the playhead. A drag on a handle moves
 /// that end of the range, one anywhere else moves the playhead; both follow the absolute position
-/// of the pointer. Escape takes a drag back. Main thread.
+/// of the pointer, or with Shift a part of its movement (FineDrag). Escape takes a drag back. The
+/// wheel moves the playhead, or the handle under the pointer, by frames (WheelSteps). Main thread.
 class TimelineStrip final : public QWidget {
     Q_OBJECT
 
@@ -37,23 +41,38 @@ public:
 
     [[nodiscard]] TimelineMarker& marker(EditMarker marker) const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
+    /// What the mouse drags.
+    struct Drag {
+        EditMarker marker = EditMarker::playhead;
+        FineDrag path;
+        DragSpeed speed = DragSpeed::full;
+        /// Where the pointer was last.
+        QPointF pointer;
+    };
+
     void observe();
     void refresh();
     void repaintDifference(const TimelineGeometry& before, const TimelineGeometry& now);
     void placeMarkers(const TimelineGeometry& geometry);
-    void beginDrag(EditMarker marker);
+    void beginDrag(const QPointF& pointer, Qt::KeyboardModifiers modifiers);
     void endDrag();
-    void dragTo(double position);
+    void dragTo(const QPointF& pointer, Qt::KeyboardModifiers modifiers);
+    void showSpeed(DragSpeed speed);
     void moveFocusFromOthers(EditMarker dragged);
-    void showCursor(const QPointF& position);
+    void pointAt(const QPointF& position);
+    void showHover();
 
     void paintShades(QPainter& painter, const DeviceGrid& grid) const;
     void paintRangeFrame(QPainter& painter, const DeviceGrid& grid) const;
@@ -68,11 +87,15 @@ private:
     TimelineFilmstrip m_filmstrip;
     /// The geometry for which a repaint was requested last.
     TimelineGeometry m_shown;
-    /// What the mouse drags; none while it drags nothing.
-    std::optional<EditMarker> m_dragged;
+    /// None while the mouse drags nothing.
+    std::optional<Drag> m_drag;
     /// Makes the drag one step to undo.
     std::unique_ptr<EditGesture> m_gesture;
     DragEscape m_escape{*this};
+    WheelSteps m_wheel;
+    /// Where the pointer is while it drags nothing; none outside the strip.
+    std::optional<QPointF> m_pointer;
+    MarkerReadout m_readout{m_state, *this};
 };
 
 } // namespace brisklet

@@ -36,14 +36,15 @@ TimelineView::TimelineView(std::shared_ptr<EditState> state, int stripHeight, in
       m_strip(new TimelineStrip(m_state, stripHeight, handleWidth, this)),
       m_start(new TabularLabel(this)),
       m_position(new TabularLabel(this)),
-      m_end(new TabularLabel(this)) {
+      m_end(new TabularLabel(this)),
+      m_length(new TabularLabel(this)) {
     // Time runs from left to right in all languages.
     setLayoutDirection(Qt::LeftToRight);
     setAccessibleName(tr("Timeline"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setFocusProxy(&m_strip->marker(EditMarker::playhead));
-    for (TabularLabel* label : {m_start, m_position, m_end}) {
+    for (TabularLabel* label : {m_start, m_position, m_end, m_length}) {
         label->setTextFormat(Qt::PlainText);
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
@@ -63,23 +64,24 @@ void TimelineView::observe() {
 
 void TimelineView::showLook() {
     const QFont caption = theme::captionFont(font());
-    for (TabularLabel* label : {m_start, m_position, m_end})
+    for (TabularLabel* label : {m_start, m_position, m_end, m_length})
         label->setFont(caption);
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, theme::secondary(palette()));
     m_position->setPalette(quiet);
+    m_length->setPalette(quiet);
     showDuration();
 }
 
 void TimelineView::showDuration() {
     showPosition();
-    placeLabels();
+    showLength();
     updateGeometry();
 }
 
 void TimelineView::showStart() {
     m_start->setText(timelineLabel(m_state->trimStart()));
-    placeLabels();
+    showLength();
 }
 
 void TimelineView::showPosition() {
@@ -90,6 +92,14 @@ void TimelineView::showPosition() {
 
 void TimelineView::showEnd() {
     m_end->setText(timelineLabel(m_state->trimEnd()));
+    showLength();
+}
+
+void TimelineView::showLength() {
+    const double start = m_state->trimStart();
+    const double end = m_state->trimEnd();
+    const bool isPart = end > start && (start > 0 || end < m_state->duration());
+    m_length->setText(isPart ? tr("Range %1").arg(exactTimelineLabel(end - start)) : QString());
     placeLabels();
 }
 
@@ -118,6 +128,17 @@ void TimelineView::placeLabels() {
     m_start->setGeometry(0, top, widthOf(m_start->text(), m_start->font()), labelHeight());
     placeRight(*m_position, (width() + widths.position) / 2);
     placeRight(*m_end, width());
+    placeLength(widths);
+}
+
+void TimelineView::placeLength(const LabelWidths& widths) {
+    // Between the position and the end.
+    const int left = m_position->geometry().right() + 1 + kLabelDistance;
+    const int room = width() - widths.edge - kLabelDistance - left;
+    const int lengthWidth = widthOf(m_length->text(), m_length->font());
+    m_length->setVisible(!m_length->text().isEmpty() && lengthWidth <= room);
+    m_length->setGeometry(left + (room - lengthWidth) / 2, m_position->y(), lengthWidth,
+                          labelHeight());
 }
 
 QSize TimelineView::sizeHint() const {

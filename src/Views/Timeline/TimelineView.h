@@ -11,8 +11,9 @@ class TabularLabel;
 class TimelineStrip;
 
 /// The trim editor under the picture: the strip with the kept range and the playhead, and under it
-/// the times of the start, of the position in the whole, and of the end. Shows the model and
-/// writes to it. The time axis goes from left to right in every language.
+/// the times of the start, of the position in the whole, and of the end, and the length of a range
+/// that is not the whole. Shows the model and writes to it. The time axis goes from left to right
+/// in every language.
 ///
 /// Giving it the focus gives it to the playhead. Main thread.
 class TimelineView final : public QWidget {
@@ -30,6 +31,9 @@ public:
     [[nodiscard]] TabularLabel& positionLabel() const { return *m_position; }
 
     [[nodiscard]] TabularLabel& endLabel() const { return *m_end; }
+
+    /// Hidden while the range is the whole, and where there is no room for it.
+    [[nodiscard]] TabularLabel& lengthLabel() const { return *m_length; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -53,13 +57,16 @@ private:
     void showStart();
     void showPosition();
     void showEnd();
+    void showLength();
     void placeLabels();
+    void placeLength(const LabelWidths& widths);
 
     std::shared_ptr<EditState> m_state;
     TimelineStrip* m_strip;
     TabularLabel* m_start;
     TabularLabel* m_position;
     TabularLabel* m_end;
+    TabularLabel* m_length;
 };
 
 } // namespace brisklet
