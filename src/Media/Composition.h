@@ -40,4 +40,9 @@ struct VideoComposition {
     Time frameDuration{1, 30};
 };
 
+/// A side of a picture as it is encoded: even, rounded down, and at least 2; pixels.
+constexpr int evenAtLeastTwo(int side) {
+    return side < 2 ? 2 : side - side % 2;
+}
+
 } // namespace media

@@ -23,4 +23,11 @@ std::unique_ptr<ExportSession> ExportSession::make(Composition composition,
                                       std::move(settings));
 }
 
+std::optional<ExportForecast>
+forecastExport(const Composition& composition,
+               const std::optional<VideoComposition>& videoComposition,
+               const EncoderSettings& settings, const std::stop_token& stop) {
+    return engine().forecastExport(composition, videoComposition, settings, stop);
+}
+
 } // namespace media

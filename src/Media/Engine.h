@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Media/ExportForecast.h"
 #include "Media/ExportSession.h"
 #include "Media/ImageGenerator.h"
 #include "Media/Player.h"
@@ -16,7 +17,7 @@ namespace media {
 /// known to the program as pure interfaces. Immutable; any thread.
 ///
 /// Other layers come here through Asset::open() and the make() functions of Player, ImageGenerator
-/// and ExportSession, whose comments say what these throw.
+/// and ExportSession and through forecastExport(), whose comments say what these throw.
 class Engine {
 public:
     Engine() = default;
@@ -32,6 +33,10 @@ public:
     [[nodiscard]] virtual std::unique_ptr<ExportSession>
     makeExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
                       EncoderSettings settings) const = 0;
+    [[nodiscard]] virtual std::optional<ExportForecast>
+    forecastExport(const Composition& composition,
+                   const std::optional<VideoComposition>& videoComposition,
+                   const EncoderSettings& settings, const std::stop_token& stop) const = 0;
 };
 
 /// The engine. The first call loads it, which takes some tens of milliseconds; calls meanwhile wait

@@ -100,7 +100,7 @@ struct Made {
 };
 
 /// Sends the pictures through a stage with so many workers.
-Made transformed(const TransformStage::Settings& settings, const Pictures& pictures, int workers) {
+Made transformed(const PictureMaking& settings, const Pictures& pictures, int workers) {
     const std::stop_source stop;
     BoundedQueue<ScheduledFrame> in(0, stop.get_token());
     BoundedQueue<ScheduledFrame> out(2, stop.get_token());
@@ -128,7 +128,7 @@ Made transformed(const TransformStage::Settings& settings, const Pictures& pictu
 struct Case {
     std::string name;
     Pictures (*pictures)();
-    TransformStage::Settings settings;
+    PictureMaking settings;
 
     friend std::ostream& operator<<(std::ostream& out, const Case& value) {
         return out << value.name;
@@ -221,7 +221,7 @@ TEST(TransformStage, keepsTheOrderOfPicturesThatTakeUnequallyLong) {
     std::vector<ffmpeg::FramePtr> frames;
     for (int i = 0; i < 60; ++i)
         frames.push_back(ffmpeg::referenced(i % 4 == 0 ? *large.front() : *small.front()));
-    const TransformStage::Settings settings{
+    const PictureMaking settings{
         .toCanvas = kHalf, .naturalSize = {320, 240}, .output = outputOf(160, 120)};
     const Made made = transformed(settings, numbered(std::move(frames)), 7);
     ASSERT_THAT(made.order, SizeIs(60));
@@ -233,7 +233,7 @@ TEST(TransformStage, repeatsThePictureBefore) {
     Pictures pictures = numbered(noise(AV_PIX_FMT_YUV420P, 320, 240, 40));
     for (std::size_t i = 0; i < pictures.size(); ++i)
         pictures[i].isRepeat = i % 4 != 0;
-    const TransformStage::Settings settings{
+    const PictureMaking settings{
         .toCanvas = kHalf, .naturalSize = {320, 240}, .output = outputOf(160, 120)};
     const Made made = transformed(settings, pictures, 7);
     ASSERT_THAT(made.samples, SizeIs(40));
@@ -247,7 +247,7 @@ TEST(TransformStage, reportsAPictureThatCannotBeConverted) {
     Pictures pictures = numbered(noise(AV_PIX_FMT_YUV420P, 320, 240, 40));
     // In groups of four pixels, which is not read.
     pictures[9].frame->format = AV_PIX_FMT_UYYVYY411;
-    const TransformStage::Settings settings{
+    const PictureMaking settings{
         .toCanvas = kHalf, .naturalSize = {320, 240}, .output = outputOf(160, 120)};
     try {
         transformed(settings, pictures, 7);
@@ -344,7 +344,7 @@ TEST(TransformStage, hasOnePicturePerWorkerOnItsWay) {
 }
 
 TEST(TransformStage, hasWorkersForTheProcessorsAndTheMemory) {
-    const TransformStage::Settings half{
+    const PictureMaking half{
         .toCanvas = kHalf, .naturalSize = {3840, 2160}, .output = outputOf(1920, 1080)};
     const auto workers = [&half](AVPixelFormat format, int width, int height, int processors) {
         return TransformStage::usefulWorkers(half, format, width, height, processors);
@@ -358,7 +358,7 @@ TEST(TransformStage, hasWorkersForTheProcessorsAndTheMemory) {
 }
 
 TEST(TransformStage, hasOneWorkerForPicturesThatAreHandedOn) {
-    const TransformStage::Settings settings{
+    const PictureMaking settings{
         .toCanvas = {}, .naturalSize = {320, 240}, .output = outputOf(320, 240)};
     EXPECT_EQ(TransformStage::usefulWorkers(settings, AV_PIX_FMT_YUV420P, 320, 240, 16), 1);
     EXPECT_EQ(TransformStage::usefulWorkers(settings, AV_PIX_FMT_YUV444P, 320, 240, 16), 15);

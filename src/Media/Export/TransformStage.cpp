@@ -1,9 +1,5 @@
 #include "Media/Export/TransformStage.h"
 
-#include "Media/Export/Deinterlacer.h"
-#include "Media/Export/FieldTransform.h"
-#include "Media/FFmpeg/LibavReleases.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -37,70 +33,41 @@ bool isPlanarYuv(const AVPixFmtDescriptor& format) {
 
 /// What one worker holds at most: the source's picture, deinterlaced too, the one in the making and
 /// one of those that wait for the encoder.
-std::int64_t bytesPerWorker(const TransformStage::Settings& settings, AVPixelFormat format,
+std::int64_t bytesPerWorker(const PictureMaking& making, AVPixelFormat format,
                             int width, int height) {
     const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
     const bool isUnpacked = !descriptor || !isPlanarYuv(*descriptor);
-    const PictureTransform::Output& output = settings.output;
-    return (settings.deinterlaces ? 2 : 1) * byteCount(format, width, height) +
+    const PictureTransform::Output& output = making.output;
+    return (making.deinterlaces ? 2 : 1) * byteCount(format, width, height) +
            2 * byteCount(output.format, output.width, output.height) +
            (isUnpacked ? kIntermediateBytesPerPixel * width * height : 0);
 }
 
-/// What a worker works with.
-class Worker {
-public:
-    explicit Worker(const TransformStage::Settings& settings)
-        : m_deinterlaces(settings.deinterlaces),
-          m_format(settings.output.format),
-          m_transform(settings.toCanvas, settings.naturalSize, settings.output) {
-        if (settings.keepsFields)
-            m_fieldTransform.emplace(settings.naturalSize, settings.output);
-    }
-
-    ffmpeg::FramePtr made(const ScheduledFrame& source) {
-        const AVFrame& frame = *source.frame;
-        if (m_deinterlaces) {
-            return m_transform.apply(
-                *Deinterlacer::apply(frame, source.previous.get(), source.following.get()));
-        }
-        if (m_fieldTransform && ffmpeg::isInterlaced(frame) && frame.format != m_format)
-            return m_fieldTransform->apply(frame);
-        return m_transform.apply(frame);
-    }
-
-private:
-    bool m_deinterlaces;
-    AVPixelFormat m_format;
-    PictureTransform m_transform;
-    std::optional<FieldTransform> m_fieldTransform;
-};
-
 } // namespace
 
-int TransformStage::usefulWorkers(const Settings& settings, AVPixelFormat format, int width,
+int TransformStage::usefulWorkers(const PictureMaking& making, AVPixelFormat format, int width,
                                   int height, int processors) {
-    const PictureTransform::Output& output = settings.output;
+    const PictureTransform::Output& output = making.output;
     const bool isHandedOn = format == output.format && width == output.width &&
-                            height == output.height && settings.toCanvas == AffineTransform{};
+                            height == output.height && making.toCanvas == AffineTransform{};
     if (isHandedOn)
         return 1;
-    const std::int64_t bytes = bytesPerWorker(settings, format, width, height);
+    const std::int64_t bytes = bytesPerWorker(making, format, width, height);
     const std::int64_t fitting = std::max<std::int64_t>(kMostBytes / bytes, kWorkersAtAnySize);
     // Decoding and encoding keep at least one processor busy.
     const int busy = std::clamp(processors - 1, 1, kMostWorkers);
     return static_cast<int>(std::min<std::int64_t>(fitting, busy));
 }
 
-TransformStage::TransformStage(const Settings& settings, BoundedQueue<ScheduledFrame>& in,
+TransformStage::TransformStage(const PictureMaking& making, BoundedQueue<ScheduledFrame>& in,
                                BoundedQueue<ScheduledFrame>& out, const std::stop_token& stop)
-    : m_settings(settings), m_stop(stop), m_in(in), m_out(out) {}
+    : m_making(making), m_stop(stop), m_in(in), m_out(out) {}
 
 void TransformStage::run() {
-    Worker worker(m_settings);
+    PictureMaker maker(m_making);
     while (auto taken = take()) {
         ScheduledFrame& picture = taken->picture;
-        ffmpeg::FramePtr made = picture.isRepeat ? nullptr : worker.made(picture);
+        ffmpeg::FramePtr made = picture.isRepeat ? nullptr : maker.made(picture);
         picture.frame.reset();
         picture.previous.reset();
         picture.following.reset();

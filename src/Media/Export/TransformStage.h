@@ -2,7 +2,7 @@
 
 #include "Media/Export/BoundedQueue.h"
 #include "Media/Export/FrameSchedule.h"
-#include "Media/Pictures/PictureTransform.h"
+#include "Media/Export/PictureMaker.h"
 
 #include <condition_variable>
 #include <cstdint>
@@ -17,25 +17,14 @@ namespace media {
 /// pictures leave in the order in which they came, and are the same whatever the number of workers.
 class TransformStage {
 public:
-    struct Settings {
-        /// As for PictureTransform.
-        AffineTransform toCanvas;
-        Size naturalSize;
-        PictureTransform::Output output;
-        /// Interlaced pictures become progressive first.
-        bool deinterlaces = false;
-        /// The fields of interlaced pictures are converted separately.
-        bool keepsFields = false;
-    };
-
     /// As many workers as the processors can keep busy and as the memory for their pictures allows;
     /// one where pictures of the given format and size are handed on as they are. `processors`: at
     /// least 1.
-    static int usefulWorkers(const Settings& settings, AVPixelFormat format, int width, int height,
+    static int usefulWorkers(const PictureMaking& making, AVPixelFormat format, int width, int height,
                              int processors);
 
     /// The queues outlive the stage.
-    TransformStage(const Settings& settings, BoundedQueue<ScheduledFrame>& in,
+    TransformStage(const PictureMaking& making, BoundedQueue<ScheduledFrame>& in,
                    BoundedQueue<ScheduledFrame>& out, const std::stop_token& stop);
 
     /// The work of one worker, on the calling thread, until there are no more pictures. After the
@@ -55,7 +44,7 @@ private:
     void handOn(Numbered taken, ffmpeg::FramePtr made);
     void finishAfterLast();
 
-    Settings m_settings;
+    PictureMaking m_making;
     std::stop_token m_stop;
     BoundedQueue<ScheduledFrame>& m_in;
     BoundedQueue<ScheduledFrame>& m_out;

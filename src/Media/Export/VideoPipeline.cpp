@@ -1,13 +1,9 @@
 #include "Media/Export/VideoPipeline.h"
 
 #include "Media/Error.h"
-#include "Media/FFmpeg/SourceInfo.h"
-#include "Media/Reading/OpenedAsset.h"
-#include "Media/Threading/Processors.h"
 #include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace media {
 
@@ -38,91 +34,21 @@ VideoReader::Options readerOptions(const AssetTrack& source,
     return options;
 }
 
-/// Below this ratio of areas, output to source, pictures count as scaled down. Above it lies what
-/// comes of making a side even.
-constexpr double kReducedArea = 0.9;
-
-/// How much the check of the finished file may have to decode from the last key frame on; pixels of
-/// all these pictures together.
-constexpr double kTailPixels = 4 * 1920.0 * 1080;
-
-/// The same in seconds, for one stream.
-double tailSeconds(const AVCodecContext& encoder) {
-    const double pixels = static_cast<double>(encoder.width) * encoder.height;
-    return std::max(kTailPixels / pixels, 2.0) / std::max(av_q2d(encoder.framerate), 1.0);
-}
-
-int evenAtLeastTwo(int side) {
-    return std::max(2, side - side % 2);
-}
-
 } // namespace
 
 VideoPipeline::VideoPipeline(const Composition& composition,
                              const std::optional<VideoComposition>& videoComposition,
                              const EncoderSettings& settings, const std::stop_token& stop)
     : m_stop(stop),
-      m_reader(composition.asset, composition.videoTrack->source,
-               readerOptions(composition.videoTrack->source, videoComposition)),
+      m_path(composition, videoComposition, settings,
+             {.reader = readerOptions(composition.videoTrack->source, videoComposition)}),
+      m_schedule(m_path.schedule(composition.videoTrack->range)),
       m_decoded(kDecodedWaiting, stop),
       m_transformed(kTransformedWaiting, stop),
+      m_transform(m_path.making(), m_decoded, m_transformed, stop),
       m_output(kPacketsWaiting, stop) {
-    const CompositionTrack& track = *composition.videoTrack;
-    const auto asset = OpenedAsset::of(composition.asset);
-    const ffmpeg::SourceTrack& source = asset->info().track(track.source.streamIndex);
-    if (videoComposition) {
-        m_deinterlaces = source.isInterlaced();
-        m_schedule = FrameSchedule::constantRate(
-            m_reader, track.range, videoComposition->frameDuration,
-            m_deinterlaces ? FrameSchedule::Neighbours::decoded : FrameSchedule::Neighbours::none);
-    } else {
-        m_schedule = FrameSchedule::sourceTiming(m_reader, track, source.timeBase.den);
-    }
-    openEncoder(source, settings, videoComposition, track.range.duration());
-}
-
-void VideoPipeline::openEncoder(const ffmpeg::SourceTrack& track,
-                                const EncoderSettings& encoderSettings,
-                                const std::optional<VideoComposition>& videoComposition,
-                                Time duration) {
-    const AssetTrack& facts = track.facts;
-    ffmpeg::VideoEncoding encoding;
-    encoding.timeBase = m_schedule->timeBase();
-    AffineTransform toCanvas;
-    Size natural = facts.naturalSize;
-    if (videoComposition) {
-        encoding.width = videoComposition->renderWidth;
-        encoding.height = videoComposition->renderHeight;
-        const Time frame = videoComposition->frameDuration;
-        encoding.frameRate = {frame.timescale, static_cast<int>(frame.value)};
-        toCanvas = videoComposition->transform;
-        encoding.isReduced = std::abs(toCanvas.determinant()) < kReducedArea;
-    } else {
-        encoding.width = evenAtLeastTwo(facts.codedWidth);
-        encoding.height = evenAtLeastTwo(facts.codedHeight);
-        encoding.sampleAspectRatio = track.sampleAspectRatio;
-        if (track.averageFrameRate.num > 0 && track.averageFrameRate.den > 0)
-            encoding.frameRate = track.averageFrameRate;
-        // Without a video composition the pixel aspect ratio stays what it is.
-        natural = {static_cast<double>(facts.codedWidth), static_cast<double>(facts.codedHeight)};
-        encoding.fieldOrder = track.fieldOrder;
-    }
-    m_encoder = ffmpeg::Encoder::forVideo(track, encoding, encoderSettings);
-    const AVCodecContext& encoder = m_encoder->context();
-    const TransformStage::Settings settings{
-        .toCanvas = toCanvas,
-        .naturalSize = natural,
-        .output = {.width = encoding.width, .height = encoding.height, .format = encoder.pix_fmt},
-        .deinterlaces = m_deinterlaces,
-        .keepsFields = (encoder.flags & AV_CODEC_FLAG_INTERLACED_DCT) != 0};
-    m_transform.emplace(settings, m_decoded, m_transformed, m_stop);
-    m_transformThreads = TransformStage::usefulWorkers(
-        settings, static_cast<AVPixelFormat>(track.parameters->format), facts.codedWidth,
-        facts.codedHeight, processorCount());
-    m_output.timeBase = encoding.timeBase;
-    const Time tail = Time::fromSeconds(tailSeconds(encoder), encoding.timeBase.den);
-    if (duration.seconds() > 2 * tail.seconds())
-        m_tailStart = (duration - tail).rescaled(encoding.timeBase.den).value;
+    m_output.timeBase = m_path.timeBase();
+    m_tailStart = m_path.tailStart();
 }
 
 void VideoPipeline::decodeStage() {
@@ -143,10 +69,10 @@ void VideoPipeline::encodeStage() {
         frame.pict_type = beginsTail(*scheduled) ? AV_PICTURE_TYPE_I : AV_PICTURE_TYPE_NONE;
         m_durations[scheduled->pts] = scheduled->duration;
         m_latestPts = scheduled->pts;
-        m_encoder->send(&frame);
+        m_path.encoder().send(&frame);
         drainEncoder();
     }
-    m_encoder->send(nullptr);
+    m_path.encoder().send(nullptr);
     drainEncoder();
     pushLast();
     m_output.packets.finish();
@@ -162,7 +88,7 @@ bool VideoPipeline::beginsTail(const ScheduledFrame& frame) {
 void VideoPipeline::drainEncoder() {
     for (;;) {
         ffmpeg::PacketPtr packet = ffmpeg::makePacket();
-        if (!m_encoder->receive(*packet))
+        if (!m_path.encoder().receive(*packet))
             return;
         if (const auto entry = m_durations.find(packet->pts); entry != m_durations.end()) {
             packet->duration = entry->second;

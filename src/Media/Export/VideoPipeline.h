@@ -1,10 +1,9 @@
 #pragma once
 
-#include "Media/Export/FrameSchedule.h"
 #include "Media/Export/PacketStream.h"
+#include "Media/Export/PicturePath.h"
 #include "Media/Export/TransformStage.h"
 #include "Media/ExportSession.h"
-#include "Media/FFmpeg/Encoder.h"
 
 #include <map>
 #include <memory>
@@ -31,13 +30,13 @@ public:
     void decodeStage();
 
     /// To be run on transformThreads() threads at the same time; one would do.
-    void transformStage() { m_transform->run(); }
+    void transformStage() { m_transform.run(); }
 
     void encodeStage();
 
-    [[nodiscard]] int transformThreads() const { return m_transformThreads; }
+    [[nodiscard]] int transformThreads() const { return m_path.usefulMakers(); }
 
-    [[nodiscard]] const AVCodecContext& encoderContext() { return m_encoder->context(); }
+    [[nodiscard]] const AVCodecContext& encoderContext() { return m_path.encoder().context(); }
 
     [[nodiscard]] std::int64_t expectedPackets() const { return m_schedule->expectedFrames(); }
 
@@ -47,25 +46,20 @@ public:
     [[nodiscard]] PacketStream& output() { return m_output; }
 
 private:
-    void openEncoder(const ffmpeg::SourceTrack& track, const EncoderSettings& encoderSettings,
-                     const std::optional<VideoComposition>& videoComposition, Time duration);
     /// True once, for the first picture of the tail: the one that becomes the last key frame.
     bool beginsTail(const ScheduledFrame& frame);
     void drainEncoder();
     void pushLast();
 
     std::stop_token m_stop;
-    VideoReader m_reader;
+    PicturePath m_path;
     std::unique_ptr<FrameSchedule> m_schedule;
-    bool m_deinterlaces = false;
-    std::optional<TransformStage> m_transform;
-    int m_transformThreads = 1;
-    std::optional<ffmpeg::Encoder> m_encoder;
 
     /// Decode thread.
     std::int64_t m_scheduledFrames = 0;
     BoundedQueue<ScheduledFrame> m_decoded;
     BoundedQueue<ScheduledFrame> m_transformed;
+    TransformStage m_transform;
     PacketStream m_output;
     /// Encode thread: how long each picture inside the encoder is shown, by its pts.
     std::map<std::int64_t, std::int64_t> m_durations;

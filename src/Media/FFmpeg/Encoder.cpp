@@ -121,6 +121,8 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
     context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     copyColor(*context, *track.parameters);
     context->field_order = encoding.fieldOrder;
+    if (encoding.threads > 0)
+        context->thread_count = encoding.threads;
     EncoderOptions options(*context);
     if (isHevc) {
         context->codec_tag = MKTAG('h', 'v', 'c', '1');
@@ -130,6 +132,8 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         options.add({"log-level", "none"});
         options.addAll(settings.hevcParameters);
         options.add({"ctu", *unit});
+        if (encoding.threads > 0)
+            options.add({"pools", encoding.threads});
         options.addAll(x265Parameters(track.dynamicRange));
         options.open("x265-params");
     } else {

@@ -23,6 +23,8 @@ struct VideoEncoding {
     AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
     /// Whether the pictures are scaled down, which asks for a lower rate factor.
     bool isReduced = false;
+    /// Of the encoder; 0 for as many as it finds useful.
+    int threads = 0;
 };
 
 /// Whether a track's pictures need more than 8 bits or HDR signalling, that is HEVC Main 10.

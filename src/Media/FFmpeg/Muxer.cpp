@@ -28,6 +28,8 @@ namespace {
 constexpr int kWriteBufferBytes = 1024 * 1024;
 /// The most that one packet takes in the sample tables (stts, ctts, stss, stsz, stsc, co64); bytes.
 constexpr std::int64_t kIndexBytesPerPacket = 44;
+/// What a track takes besides those; bytes.
+constexpr std::int64_t kIndexBytesPerStream = 4096;
 /// Everything else in the index: headers, decoder configurations, metadata; bytes.
 constexpr std::int64_t kIndexBytes = std::int64_t{32} * 1024;
 /// What a metadata entry takes besides its name and its value; bytes.
@@ -143,6 +145,10 @@ void setDisplayMatrix(AVStream& stream, const AffineTransform& transform) {
 
 } // namespace
 
+std::int64_t indexBytes(std::int64_t packets, std::int64_t streams) {
+    return kIndexBytes + packets * kIndexBytesPerPacket + streams * kIndexBytesPerStream;
+}
+
 struct Muxer::Io {
     OutputFile& file;
     /// errno of the first write that failed.
@@ -243,9 +249,8 @@ void Muxer::addTimecode(AVStream& stream, const SourceTrack& source) const {
 
 void Muxer::writeHeader(std::int64_t expectedPackets) {
     m_expectedPackets = expectedPackets;
-    m_roomBytes = kIndexBytes + expectedPackets * kIndexBytesPerPacket +
+    m_roomBytes = indexBytes(expectedPackets, m_context->nb_streams) +
                   metadataBytes(m_context->metadata) +
-                  static_cast<std::int64_t>(m_context->nb_streams) * 4096 +
                   static_cast<std::int64_t>(m_context->nb_chapters) * 1024;
     for (unsigned i = 0; i < m_context->nb_streams; ++i)
         m_roomBytes += metadataBytes(m_context->streams[i]->metadata);

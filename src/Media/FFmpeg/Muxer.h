@@ -10,6 +10,9 @@ class OutputFile;
 
 namespace media::ffmpeg {
 
+/// What an index takes for so many packets and streams, without metadata; bytes.
+std::int64_t indexBytes(std::int64_t packets, std::int64_t streams);
+
 /// Writes encoded streams into an MP4 or MOV file with the index (moov) in front of the media, in
 /// one pass: space for it is reserved when the header is written. Use from one thread at a time.
 class Muxer {

@@ -1,5 +1,6 @@
 #include "Media/Module/BuiltInEngine.h"
 
+#include "Media/Export/ExportTrial.h"
 #include "Media/Export/StagedExportSession.h"
 #include "Media/Pictures/DecodingImageGenerator.h"
 #include "Media/Playback/CubebOutput.h"
@@ -42,6 +43,13 @@ public:
                       EncoderSettings settings) const override {
         return std::make_unique<StagedExportSession>(std::move(composition), std::move(outputPath),
                                                      fileType, std::move(settings));
+    }
+
+    [[nodiscard]] std::optional<ExportForecast>
+    forecastExport(const Composition& composition,
+                   const std::optional<VideoComposition>& videoComposition,
+                   const EncoderSettings& settings, const std::stop_token& stop) const override {
+        return runTrial(composition, videoComposition, settings, stop);
     }
 };
 
