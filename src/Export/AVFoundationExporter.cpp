@@ -1,5 +1,6 @@
 #include "Export/AVFoundationExporter.h"
 
+#include "Export/FreeSpace.h"
 #include "Export/ProgressWatcher.h"
 #include "Media/Error.h"
 #include "Media/ExportSession.h"
@@ -65,6 +66,8 @@ void AVFoundationExporter::run(const ExportRequest& request,
                                const std::stop_token& stop) {
     media::Composition toExport = composition(source(request, stop), request);
     const auto rendering = videoComposition(toExport.videoTrack->source, request);
+    if (request.expectedBytes)
+        expectSpaceFor(*request.expectedBytes, pathOf(request.outputURL));
     std::shared_ptr<media::ExportSession> session = makeSession(std::move(toExport), request);
     session->setVideoComposition(rendering);
 
@@ -78,6 +81,23 @@ void AVFoundationExporter::run(const ExportRequest& request,
         startWorker([session = std::move(session)] {});
         throw;
     }
+}
+
+std::optional<media::ExportForecast> AVFoundationExporter::forecast(const ExportRequest& request,
+                                                                    const std::stop_token& stop) {
+    const media::Composition toExport = composition(source(request, stop), request);
+    return media::forecastExport(toExport, videoComposition(toExport.videoTrack->source, request),
+                                 request.encoders, stop);
+}
+
+media::Size AVFoundationExporter::outputSize(const ExportRequest& request) {
+    const media::AssetTrack source = request.asset->tracks(media::MediaType::video).at(0);
+    if (const auto rendering = videoComposition(source, request))
+        return {static_cast<double>(rendering->renderWidth),
+                static_cast<double>(rendering->renderHeight)};
+    const media::Rect coded{0, 0, static_cast<double>(media::evenAtLeastTwo(source.codedWidth)),
+                            static_cast<double>(media::evenAtLeastTwo(source.codedHeight))};
+    return source.preferredTransform.apply(coded).size();
 }
 
 std::shared_ptr<const media::Asset> AVFoundationExporter::source(const ExportRequest& request,

@@ -4,6 +4,7 @@
 #include "Media/Asset.h"
 #include "Media/Composition.h"
 #include "Media/Error.h"
+#include "Media/ExportForecast.h"
 
 namespace brisklet {
 
@@ -33,6 +34,15 @@ public:
     /// the output is left untouched unless the export succeeds.
     static void run(const ExportRequest& request, const ExportProgressHandler& onProgress,
                     const std::stop_token& stop);
+
+    /// What the export will come to, by trial encodes; see media::forecastExport(). On the calling
+    /// thread, which it blocks. The request needs no output.
+    static std::optional<media::ExportForecast> forecast(const ExportRequest& request,
+                                                         const std::stop_token& stop);
+
+    /// The size of the exported picture, turned upright; pixels. Of a request with its asset, which
+    /// has a video track.
+    static media::Size outputSize(const ExportRequest& request);
 
     /// The request's asset; if it has none, its source, opened by name on the calling thread.
     /// Throws media::Error, which names the file; media::Cancelled.

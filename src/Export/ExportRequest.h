@@ -6,6 +6,7 @@
 
 #include <QUrl>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -45,8 +46,14 @@ struct ExportRequest {
     /// The source as it was opened for the edit, which may have been renamed or deleted since; null
     /// to open it by its name.
     std::shared_ptr<const media::Asset> asset = nullptr;
+    /// What the file will take, as far as that is known. The export fails at once if there is
+    /// clearly less free space.
+    std::optional<std::int64_t> expectedBytes = std::nullopt;
     /// The program always exports with the defaults; measurements change them.
     media::EncoderSettings encoders = {};
 };
+
+/// Whether two requests make the same file, wherever they write it to.
+bool makeTheSame(const ExportRequest& one, const ExportRequest& other);
 
 } // namespace brisklet

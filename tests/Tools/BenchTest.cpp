@@ -68,6 +68,16 @@ TEST(Bench, dragTellsHowLongTheMainThreadWasBlocked) {
                                             number + R"(,"seeks":3\})" + "\n"));
 }
 
+TEST(Bench, forecastTellsWhatWasSaidAndWhatCame) {
+    const ProcessResult result = bench({"forecast", source()});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors;
+    const std::string number = kNumber;
+    const std::string line =
+        R"(\{"bytes":[1-9][0-9]*,"forecastBytes":[1-9][0-9]*,"forecastSeconds":)" + number +
+        R"(,"seconds":)" + number + R"(,"trialCpuSeconds":)" + number + "\\}\n";
+    EXPECT_THAT(result.output, MatchesRegex(line + line + line + line));
+}
+
 TEST(Bench, openAndStartupTellMilliseconds) {
     for (const auto& arguments : {std::vector<std::string>{"open", source()}, {"startup"}}) {
         const ProcessResult result = bench(arguments);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Media/ExportForecast.h"
+
 #include <QSize>
 
 #include <chrono>
@@ -55,6 +57,15 @@ struct WindowsFigures {
     double peakMiB = 0;
 };
 
+/// One export and what was forecast of it.
+struct ForecastFigures {
+    /// None was made if the forecast has no bytes.
+    media::ExportForecast forecast;
+    media::ExportForecast real;
+    /// What the trial took, of the whole process.
+    double trialCpuSeconds = 0;
+};
+
 /// All of these run the main event loop while they measure, need a QApplication, and throw
 /// BenchmarkError. Main thread.
 
@@ -80,6 +91,9 @@ double open(const std::filesystem::path& source);
 /// Plays the file in a window for that many seconds, or to its end. The seconds that may have been
 /// decoded before playing began are played first and not counted.
 PlayFigures play(const std::filesystem::path& source, double seconds);
+
+/// Forecasts exports of the file as MP4, of all of it and of each third, and makes them.
+std::vector<ForecastFigures> forecast(const std::filesystem::path& source);
 
 /// Milliseconds from `start` until the program's empty window has been painted.
 double startup(Clock::time_point start);

@@ -32,6 +32,7 @@ constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [-
                                "       brisklet-bench windows TIMES.json SOURCE...\n"
                                "       brisklet-bench open SOURCE\n"
                                "       brisklet-bench play SOURCE SECONDS\n"
+                               "       brisklet-bench forecast SOURCE\n"
                                "       brisklet-bench startup\n";
 
 /// Arguments that are none of the above.
@@ -159,6 +160,16 @@ void runPlay(const std::vector<std::string>& operands) {
            {QStringLiteral("height"), figures.pictureSize.height()}});
 }
 
+void runForecast(const std::string& source) {
+    for (const ForecastFigures& each : forecast(source)) {
+        print({{QStringLiteral("bytes"), static_cast<qint64>(each.real.bytes)},
+               {QStringLiteral("forecastBytes"), static_cast<qint64>(each.forecast.bytes)},
+               {QStringLiteral("seconds"), each.real.seconds},
+               {QStringLiteral("forecastSeconds"), each.forecast.seconds},
+               {QStringLiteral("trialCpuSeconds"), each.trialCpuSeconds}});
+    }
+}
+
 void runBenchmark(const std::string& name, const std::vector<std::string>& operands,
                   Clock::time_point start) {
     if (name == "scrub") {
@@ -173,6 +184,8 @@ void runBenchmark(const std::string& name, const std::vector<std::string>& opera
         print(open(operands[0]));
     } else if (name == "play") {
         runPlay(operands);
+    } else if (name == "forecast" && operands.size() == 1) {
+        runForecast(operands[0]);
     } else if (name == "startup" && operands.empty()) {
         print(startup(start));
     } else {
