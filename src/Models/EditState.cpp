@@ -469,10 +469,24 @@ void EditState::startExport(const QUrl& outputURL, ExportChoice choice) {
         return;
     m_playerController.player()->pause();
     ExportRequest request = exportRequest(outputURL, choice);
+    if (exportForecast() && makeTheSame(request, m_forecastRequest))
+        request.expectedBytes = exportForecast()->bytes;
     m_exportTask.emplace();
     const std::stop_token stop = m_exportTask->get_token();
     m_exportProgress = 0.0;
     awaitExport(shared_from_this(), std::move(request), stop);
+}
+
+std::optional<ExportRequest> EditState::plannedExport() const {
+    if (!videoURL())
+        return std::nullopt;
+    return exportRequest({}, ExportSettings::shared().choice());
+}
+
+void EditState::setExportForecast(const ExportRequest& request,
+                                  const media::ExportForecast& forecast) {
+    m_forecastRequest = request;
+    m_exportForecast = forecast;
 }
 
 ExportRequest EditState::exportRequest(const QUrl& outputURL, ExportChoice choice) const {
@@ -507,6 +521,8 @@ QCoro::Task<> EditState::awaitExport(std::shared_ptr<EditState> state, ExportReq
     const bool hasFailed = outcome.kind == ExportOutcome::Kind::failed;
     if (hasFailed)
         state->m_errorMessage = outcome.message;
+    if (outcome.kind == ExportOutcome::Kind::finished)
+        state->m_lastExport = outputURL;
     state->m_exportProgress = std::nullopt;
     // An observer of exportProgress() may have started the next export already.
     if (!state->m_exportProgress.value())

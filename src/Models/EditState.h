@@ -2,6 +2,7 @@
 
 #include "Export/ExportRequest.h"
 #include "Export/ExportSettings.h"
+#include "Media/ExportForecast.h"
 #include "Media/Geometry.h"
 #include "Models/CropRules.h"
 #include "Models/EditHistory.h"
@@ -80,6 +81,23 @@ public:
 
     /// The fraction done, 0 to 1, of the running export; none while none runs.
     [[nodiscard]] std::optional<double> exportProgress() const { return m_exportProgress.value(); }
+
+    /// What an export of the edit as it is now would ask for, but for the output; none without a
+    /// video.
+    [[nodiscard]] std::optional<ExportRequest> plannedExport() const;
+
+    /// What an export of the edit as it is now would come to, if that is known.
+    [[nodiscard]] const std::optional<media::ExportForecast>& exportForecast() const {
+        return m_exportForecast.value();
+    }
+
+    /// `request` is the one that the forecast is for.
+    void setExportForecast(const ExportRequest& request, const media::ExportForecast& forecast);
+
+    void clearExportForecast() { m_exportForecast = std::nullopt; }
+
+    /// The file that the latest successful export of this window has written; none before.
+    [[nodiscard]] const std::optional<QUrl>& lastExport() const { return m_lastExport.value(); }
 
     /// The one message to show to the user. Whoever has shown it clears it.
     [[nodiscard]] const std::optional<QString>& errorMessage() const {
@@ -214,6 +232,8 @@ Q_SIGNALS:
     void cropRectChanged();
     void rotationChanged();
     void exportProgressChanged();
+    void exportForecastChanged();
+    void lastExportChanged();
     void errorMessageChanged();
     /// Another video is about to take the place of this one; all properties are still its own.
     void editEnded();
@@ -274,6 +294,10 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(EditState, int, m_rotation, &EditState::rotationChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<double>, m_exportProgress,
                                &EditState::exportProgressChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<media::ExportForecast>, m_exportForecast,
+                               &EditState::exportForecastChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QUrl>, m_lastExport,
+                               &EditState::lastExportChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QString>, m_errorMessage,
                                &EditState::errorMessageChanged)
 
@@ -281,6 +305,8 @@ private:
     std::uint64_t m_editId = 0;
     /// The edit that was exported last.
     std::optional<Edit> m_exportedEdit;
+    /// What exportForecast() is for.
+    ExportRequest m_forecastRequest;
     /// What videoURL() was opened as.
     LoadedVideo m_video;
     PlayerController m_playerController;

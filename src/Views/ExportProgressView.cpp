@@ -1,14 +1,17 @@
 #include "Views/ExportProgressView.h"
 
 #include "Models/EditState.h"
+#include "Support/ApproximateFormatting.h"
 #include "Views/Painting/Theme.h"
 
 #include <QEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <chrono>
 #include <utility>
 
 namespace brisklet {
@@ -18,7 +21,14 @@ namespace {
 constexpr int kSpacing = 16;
 constexpr int kPadding = 24;
 constexpr int kBarWidth = 260;
+constexpr int kCaptionSpacing = 6;
+/// How often the caption follows the clock while there is no progress.
+constexpr std::chrono::milliseconds kTick(500);
 constexpr int kBarSteps = 1000;
+
+double secondsOn(const QElapsedTimer& clock) {
+    return std::chrono::duration<double>(std::chrono::milliseconds(clock.elapsed())).count();
+}
 
 } // namespace
 
@@ -26,11 +36,13 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     // Without a close button: only the Cancel button ends the export.
     : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
       m_title(new QLabel(tr("Exporting…"))),
-      m_bar(new QProgressBar) {
+      m_bar(new QProgressBar),
+      // Never empty, so that the sheet does not grow when there is something to say.
+      m_caption(new QLabel(QStringLiteral(" "))) {
     setWindowModality(Qt::WindowModal);
     //: A title, a noun: the act of exporting.
     setWindowTitle(tr("Export"));
-    m_title->setFont(theme::headlineFont(font()));
+    showFonts();
     m_bar->setAccessibleName(tr("Export progress"));
     m_bar->setRange(0, kBarSteps);
     m_bar->setFixedWidth(kBarWidth);
@@ -47,19 +59,46 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     stack->setSpacing(kSpacing);
     stack->setSizeConstraint(QLayout::SetFixedSize);
     stack->addWidget(m_title, 0, Qt::AlignHCenter);
-    stack->addWidget(m_bar, 0, Qt::AlignHCenter);
+    auto* progress = new QVBoxLayout;
+    progress->setSpacing(kCaptionSpacing);
+    progress->addWidget(m_bar, 0, Qt::AlignHCenter);
+    progress->addWidget(m_caption, 0, Qt::AlignHCenter);
+    stack->addLayout(progress);
     stack->addWidget(cancel, 0, Qt::AlignHCenter);
     cancel->setFocus();
+    m_sinceStart.start();
+    connect(&m_tick, &QTimer::timeout, this, &ExportProgressView::showRemaining);
+    m_tick.start(kTick);
 }
 
 void ExportProgressView::setProgress(double fraction) {
     m_bar->setValue(qRound(fraction * kBarSteps));
+    m_remaining.report(fraction, secondsOn(m_sinceStart));
+    showRemaining();
+}
+
+void ExportProgressView::showRemaining() {
+    const auto left = m_remaining.at(secondsOn(m_sinceStart));
+    const QString caption = left ? tr("about %1 left").arg(approximateDuration(*left)) : QString();
+    m_caption->setText(left ? caption : QStringLiteral(" "));
+    const QString percent = QLocale().toString(m_bar->value() * 100 / kBarSteps) + u'%';
+    const QString description = left ? percent + QStringLiteral(", ") + caption : percent;
+    if (m_bar->accessibleDescription() != description)
+        m_bar->setAccessibleDescription(description);
+}
+
+void ExportProgressView::showFonts() {
+    m_title->setFont(theme::headlineFont(font()));
+    m_caption->setFont(theme::captionFont(font()));
+    QPalette secondary;
+    secondary.setColor(QPalette::WindowText, theme::secondary(palette()));
+    m_caption->setPalette(secondary);
 }
 
 void ExportProgressView::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        m_title->setFont(theme::headlineFont(font()));
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
+        showFonts();
 }
 
 } // namespace brisklet

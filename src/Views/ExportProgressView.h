@@ -1,6 +1,10 @@
 #pragma once
 
+#include "Models/RemainingTime.h"
+
 #include <QDialog>
+#include <QElapsedTimer>
+#include <QTimer>
 
 #include <memory>
 
@@ -11,7 +15,8 @@ namespace brisklet {
 
 class EditState;
 
-/// The sheet over a window during an export: a progress bar, and a button that cancels. Modal to
+/// The sheet over a window during an export: a progress bar, how much longer it
+/// takes, and a button that cancels. Modal to
 /// its window. The user cannot close it: it closes when the export has ended, also after a
 /// cancellation. Main thread.
 class ExportProgressView final : public QDialog {
@@ -30,8 +35,15 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void showRemaining();
+    void showFonts();
+
     QLabel* m_title;
     QProgressBar* m_bar;
+    QLabel* m_caption;
+    RemainingTime m_remaining;
+    QElapsedTimer m_sinceStart;
+    QTimer m_tick;
 };
 
 } // namespace brisklet

@@ -70,6 +70,44 @@ TEST_F(EditStateExportTest, leavesOutTheSoundWhenMuted) {
     EXPECT_TRUE(probe(m_folder / "out.mp4").streamsOf("audio").empty());
 }
 
+TEST_F(EditStateExportTest, refusesAtOnceWhatClearlyDoesNotFit) {
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    // More than any disk of today.
+    state().setExportForecast(*state().plannedExport(),
+                              {.bytes = 4'000'000'000'000'000'000, .seconds = 1});
+    state().exportTo(urlOf(m_folder / "out.mp4"));
+    ASSERT_TRUE(waitForExport());
+    ASSERT_TRUE(state().errorMessage());
+    const std::string message = state().errorMessage()->toStdString();
+    EXPECT_THAT(message, testing::MatchesRegex("Export failed: There is not enough free space: the "
+                                               "video takes about .* EB, and .*B are free\\."));
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
+    EXPECT_EQ(state().lastExport(), std::nullopt);
+}
+
+TEST_F(EditStateExportTest, doesNotRefuseByTheForecastOfAnotherEdit) {
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    state().setExportForecast(*state().plannedExport(),
+                              {.bytes = 4'000'000'000'000'000'000, .seconds = 1});
+    state().setTrimEnd(0.5);
+    state().exportTo(urlOf(m_folder / "out.mp4"));
+    ASSERT_TRUE(waitForExport());
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+}
+
+TEST_F(EditStateExportTest, knowsItsLatestFile) {
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    EXPECT_EQ(state().lastExport(), std::nullopt);
+    for (const char* name : {"a.mp4", "b.mp4"}) {
+        state().exportTo(urlOf(m_folder / name));
+        ASSERT_TRUE(waitForExport());
+        EXPECT_EQ(state().lastExport(), urlOf(m_folder / name));
+    }
+    state().exportTo(urlOf(m_folder / "missing" / "c.mp4"));
+    ASSERT_TRUE(waitForExport());
+    EXPECT_EQ(state().lastExport(), urlOf(m_folder / "b.mp4"));
+}
+
 TEST_F(EditStateExportTest, freezesTheEditWhenItStarts) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     state().setTrimEnd(2);

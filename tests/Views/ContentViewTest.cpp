@@ -392,6 +392,27 @@ TEST_F(ContentViewTest, fillsTheBarOfAnExportWithItsProgress) {
     }
 }
 
+TEST_F(ContentViewTest, saysHowMuchLongerAnExportTakes) {
+    ExportProgressView sheet(m_state, m_content.get());
+    const auto* bar = sheet.findChild<QProgressBar*>();
+    const QSize size = sheet.sizeHint();
+    sheet.setProgress(0.25);
+    EXPECT_EQ(bar->accessibleDescription(), QStringLiteral("25%"));
+    const auto caption = [&sheet] {
+        for (const QLabel* label : sheet.findChildren<QLabel*>()) {
+            if (label->text().startsWith(QStringLiteral("about ")))
+                return label->text();
+        }
+        return QString();
+    };
+    EXPECT_EQ(caption(), QString());
+    // By the clock, without further progress.
+    ASSERT_TRUE(pumpUntil([&] { return !caption().isEmpty(); }));
+    EXPECT_TRUE(caption().endsWith(QStringLiteral(" s left"))) << caption().toStdString();
+    EXPECT_EQ(bar->accessibleDescription(), QStringLiteral("25%, ") + caption());
+    EXPECT_EQ(sheet.sizeHint(), size);
+}
+
 TEST_F(ContentViewTest, keepsTheExportSheetUntilTheExportHasEnded) {
     ASSERT_TRUE(startLongExport());
     const QPointer<ExportProgressView> sheet = shown<ExportProgressView>();

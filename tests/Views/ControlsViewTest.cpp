@@ -190,8 +190,31 @@ TEST_F(ControlsViewTest, offersFormatsThenResolutionsThenTheReset) {
                              QStringLiteral("720p"),
                              QStringLiteral("480p"),
                              QStringLiteral("-"),
-                             QStringLiteral("Reset to Defaults")};
+                             QStringLiteral("Reset to Defaults"),
+                             QStringLiteral("-"),
+                             m_controls->forecastLine().text()};
     EXPECT_EQ(texts, wanted);
+}
+
+TEST_F(ControlsViewTest, saysAtTheEndOfItsMenuWhatAnExportComesTo) {
+    ASSERT_TRUE(loadAndWait(kTenSeconds));
+    const QAction& line = m_controls->forecastLine();
+    EXPECT_EQ(menu().actions().constLast(), &line);
+    EXPECT_FALSE(line.isEnabled());
+    const auto shows = [&](const QString& text) {
+        return pumpUntil([&] {
+            return line.text() == text &&
+                   m_controls->exportButton().accessibleDescription() == text;
+        });
+    };
+    state().clearExportForecast();
+    EXPECT_TRUE(shows(QStringLiteral("00:10.0 · 320 × 240"))) << line.text().toStdString();
+    state().setExportForecast(*state().plannedExport(), {.bytes = 46'400'000, .seconds = 9.2});
+    EXPECT_TRUE(shows(QStringLiteral("00:10.0 · 320 × 240 · about 46 MB · about 9 s")));
+    state().setTrimEnd(7.5);
+    state().rotateLeft();
+    state().setCropRect(media::Rect{0.1, 0.1, 0.8, 0.8});
+    EXPECT_TRUE(shows(QStringLiteral("00:07.5 · 192 × 256")));
 }
 
 TEST_F(ControlsViewTest, followsAChoiceThatAnotherWindowMade) {

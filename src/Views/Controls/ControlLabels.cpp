@@ -1,6 +1,10 @@
 #include "Views/Controls/ControlLabels.h"
 
+#include "Support/ApproximateFormatting.h"
+#include "Support/TimeFormatting.h"
+
 #include <QCoreApplication>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -31,6 +35,21 @@ QString exportLabel(ExportFormat format, ExportResolution resolution) {
         choice += QStringLiteral(" · %1").arg(label(resolution));
     //: A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.
     return QCoreApplication::translate("brisklet::ControlsView", "Export %1…").arg(choice);
+}
+
+QString forecastLabel(double seconds, media::Size picture,
+                      const std::optional<media::ExportForecast>& forecast) {
+    QStringList parts{
+        formatTime(seconds),
+        QStringLiteral("%1 × %2").arg(wholePixels(picture.width)).arg(wholePixels(picture.height))};
+    if (forecast) {
+        const auto about = [](const QString& what) {
+            return QCoreApplication::translate("brisklet::ControlsView", "about %1").arg(what);
+        };
+        parts << about(approximateSize(forecast->bytes))
+              << about(approximateDuration(forecast->seconds));
+    }
+    return parts.join(QStringLiteral(" · "));
 }
 
 } // namespace brisklet

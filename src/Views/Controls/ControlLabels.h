@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Export/ExportSettings.h"
+#include "Media/ExportForecast.h"
 #include "Media/Geometry.h"
 
 #include <QString>
@@ -16,5 +17,10 @@ QString cropLabel(media::Size picture, const std::optional<media::Rect>& crop);
 
 /// The title of the export button: "Export MP4…", "Export MOV · 720p…".
 QString exportLabel(ExportFormat format, ExportResolution resolution);
+
+/// What an export comes to, as one line: "00:12.3 · 1706 × 960 · about 46 MB · about 9 s". Its size
+/// and time are left out as long as there is no forecast.
+QString forecastLabel(double seconds, media::Size picture,
+                      const std::optional<media::ExportForecast>& forecast);
 
 } // namespace brisklet

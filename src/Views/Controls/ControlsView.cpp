@@ -1,7 +1,9 @@
 #include "Views/Controls/ControlsView.h"
 
+#include "Export/AVFoundationExporter.h"
 #include "Export/ExportSettings.h"
 #include "Models/EditState.h"
+#include "Models/ExportForecaster.h"
 #include "Views/Controls/ControlLabels.h"
 #include "Views/Controls/ExportButton.h"
 #include "Views/Controls/FlatButton.h"
@@ -26,6 +28,7 @@ namespace {
 /// Between the frames of neighbouring items, points.
 constexpr int kSpacing = 12;
 constexpr int kDividerHeight = 20;
+constexpr int kForecastUpdateMs = 250;
 
 class Divider final : public QWidget {
 public:
@@ -65,7 +68,8 @@ ControlsView::ControlsView(std::shared_ptr<EditState> state, QWidget* parent)
       m_rotateButton(new FlatButton),
       m_cropButton(new FlatButton),
       m_cropSize(new TabularLabel),
-      m_exportButton(new ExportButton) {
+      m_exportButton(new ExportButton),
+      m_forecaster(new ExportForecaster(m_state, this)) {
     buildLayout();
     buildMenu();
     addKeys();
@@ -75,6 +79,7 @@ ControlsView::ControlsView(std::shared_ptr<EditState> state, QWidget* parent)
     showRotation();
     showCrop();
     showExport();
+    showForecast();
     showFonts();
 }
 
@@ -125,7 +130,11 @@ void ControlsView::buildMenu() {
         ExportSettings::shared().setFormat(ExportFormat::mp4);
         ExportSettings::shared().setResolution(ExportResolution::original);
     });
+    menu->addSeparator();
+    m_forecastLabel = addTitle(*menu, {});
+    m_forecastLine = menu->actions().constLast();
     m_exportButton->setMenu(menu);
+    connect(menu, &QMenu::aboutToShow, this, &ControlsView::showForecast);
     connect(menu, &QMenu::aboutToHide, m_exportButton, qOverload<>(&QWidget::update));
 }
 
@@ -194,7 +203,16 @@ void ControlsView::observe() {
     connect(state, &EditState::cropRectChanged, this, &ControlsView::showCrop);
     connect(state, &EditState::displaySizeChanged, this, &ControlsView::showCrop);
     connect(state, &EditState::exportProgressChanged, this, &ControlsView::showExport);
+    m_forecastUpdate.setSingleShot(true);
+    m_forecastUpdate.setInterval(kForecastUpdateMs);
+    connect(&m_forecastUpdate, &QTimer::timeout, this, &ControlsView::showForecast);
+    for (const auto changed : {&EditState::videoURLChanged, &EditState::trimStartChanged,
+                               &EditState::trimEndChanged, &EditState::cropRectChanged,
+                               &EditState::rotationChanged, &EditState::exportForecastChanged})
+        connect(state, changed, this, &ControlsView::showForecastSoon);
+
     const ExportSettings& settings = ExportSettings::shared();
+    connect(&settings, &ExportSettings::resolutionChanged, this, &ControlsView::showForecastSoon);
     connect(&settings, &ExportSettings::formatChanged, this, &ControlsView::showExport);
     connect(&settings, &ExportSettings::resolutionChanged, this, &ControlsView::showExport);
 }
@@ -257,10 +275,28 @@ void ControlsView::showExport() {
         m_exportButton->setFocus(Qt::OtherFocusReason);
 }
 
+void ControlsView::showForecastSoon() {
+    if (m_exportButton->menu()->isVisible())
+        showForecast();
+    else if (!m_forecastUpdate.isActive())
+        m_forecastUpdate.start();
+}
+
+void ControlsView::showForecast() {
+    const auto request = m_state->plannedExport();
+    const QString line = request ? forecastLabel(request->endTime - request->startTime,
+                                                 AVFoundationExporter::outputSize(*request),
+                                                 m_state->exportForecast())
+                                 : QString();
+    m_forecastLabel->setText(line);
+    m_forecastLine->setText(line);
+    m_exportButton->setAccessibleDescription(line);
+}
+
 void ControlsView::showFonts() {
     QPalette secondary;
     secondary.setColor(QPalette::WindowText, theme::secondary(palette()));
-    for (QLabel* label : QList<QLabel*>{m_cropSize} + m_menuTitles) {
+    for (QLabel* label : QList<QLabel*>{m_cropSize, m_forecastLabel} + m_menuTitles) {
         label->setFont(theme::captionFont(font()));
         label->setPalette(secondary);
     }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QList>
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
 
+class QAction;
 class QHBoxLayout;
 class QLabel;
 class QMenu;
@@ -13,6 +15,7 @@ namespace brisklet {
 
 class EditState;
 class ExportButton;
+class ExportForecaster;
 class FlatButton;
 class TabularLabel;
 
@@ -43,6 +46,9 @@ public:
 
     [[nodiscard]] ExportButton& exportButton() const { return *m_exportButton; }
 
+    /// The line of its menu that says what an export comes to.
+    [[nodiscard]] const QAction& forecastLine() const { return *m_forecastLine; }
+
 protected:
     void changeEvent(QEvent* event) override;
 
@@ -62,6 +68,8 @@ private:
     void showRotation();
     void showCrop();
     void showExport();
+    void showForecastSoon();
+    void showForecast();
     void showFonts();
 
     std::shared_ptr<EditState> m_state;
@@ -72,6 +80,11 @@ private:
     TabularLabel* m_cropSize;
     ExportButton* m_exportButton;
     QList<QLabel*> m_menuTitles;
+    QAction* m_forecastLine = nullptr;
+    QLabel* m_forecastLabel = nullptr;
+    ExportForecaster* m_forecaster;
+    /// Gathers changes: a drag makes many.
+    QTimer m_forecastUpdate;
     /// The export button had the focus when the running export began.
     bool m_hadFocus = false;
 };
