@@ -2,8 +2,10 @@
 
 #include "FocusedValues.h"
 #include "Models/EditState.h"
+#include "Platform/FileManagerWindow.h"
 #include "Platform/QuickActionInstallation.h"
 #include "Platform/Updater/Updater.h"
+#include "Support/FileUrl.h"
 #include "Support/LocalizedMessage.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/QuickAction/QuickAction.h"
@@ -101,6 +103,8 @@ void AppCommands::makeFileActions() {
         if (const auto state = m_focusedValues.editState())
             state->presentExportPanel();
     });
+    m_showLastExport = add(tr("Show Last Export"));
+    connect(m_showLastExport, &QAction::triggered, this, &AppCommands::showLastExport);
     m_close = add(tr("Close Video"));
     // The menu shows the first; the second is the usual one of the desktop.
     m_close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)});
@@ -165,7 +169,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
     application->addSeparator();
     application->addAction(m_quit);
     QMenu* file = menuBar.addMenu(tr("&File"));
-    file->addActions({m_newWindow, m_open, m_reopen, m_export, m_close});
+    file->addActions({m_newWindow, m_open, m_reopen, m_export, m_showLastExport, m_close});
     menuBar.addMenu(tr("&Edit"))->addActions({m_undo, m_redo});
     //: The menu of what is done to the part of the video that is kept.
     QMenu* clip = menuBar.addMenu(tr("&Clip"));
@@ -191,6 +195,7 @@ void AppCommands::observe() {
         connect(state.get(), &EditState::videoURLChanged, this, &AppCommands::enable);
         connect(state.get(), &EditState::exportProgressChanged, this, &AppCommands::enable);
         connect(&state->history(), &EditHistory::changed, this, &AppCommands::showSteps);
+        connect(state.get(), &EditState::lastExportChanged, this, &AppCommands::enable);
     }
     enable();
     showSteps();
@@ -202,6 +207,7 @@ void AppCommands::enable() {
     const bool isExporting = state && state->exportProgress();
     m_checkForUpdates->setEnabled(m_updater.canCheckForUpdates());
     m_open->setEnabled(state != nullptr);
+    m_showLastExport->setEnabled(state && state->lastExport());
     m_close->setEnabled(!isExporting);
     for (QAction* action : {m_export, m_trimStart, m_trimEnd, m_previousFrame, m_nextFrame})
         action->setEnabled(hasVideo);
@@ -228,6 +234,27 @@ void AppCommands::showQuickAction() {
 void AppCommands::stepFrames(int count) {
     if (const auto state = m_focusedValues.editState())
         state->stepFrames(count);
+}
+
+namespace {
+
+QCoro::Task<> showExport(std::weak_ptr<EditState> state, QDBusConnection bus, QUrl file) {
+    auto showing = showInFileManager(bus, file);
+    const bool isShown = co_await showing;
+    const auto alive = state.lock();
+    if (!isShown && alive) {
+        const auto folder = urlOf(pathOf(file).parent_path());
+        alive->setErrorMessage(
+            AppCommands::tr("The folder “%1” can’t be shown.").arg(displayName(folder)));
+    }
+}
+
+} // namespace
+
+void AppCommands::showLastExport() {
+    const auto state = m_focusedValues.editState();
+    if (state && state->lastExport())
+        showExport(state, m_bus.value_or(QDBusConnection::sessionBus()), *state->lastExport());
 }
 
 void AppCommands::toggleQuickAction() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QKeySequence>
 #include <QObject>
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class QAction;
 class QMenu;
@@ -35,6 +37,9 @@ public:
     /// Whether there is an edit to reopen; at first there is none.
     void setReopenEnabled(bool enabled);
 
+    /// Over which the file manager is asked; the session bus without.
+    void setBus(const QDBusConnection& bus) { m_bus = bus; }
+
 Q_SIGNALS:
     void newWindowRequested();
     void reopenRequested();
@@ -53,6 +58,7 @@ private:
     void showQuickAction();
 
     void stepFrames(int count);
+    void showLastExport();
     void toggleQuickAction();
     [[nodiscard]] QWidget* window() const;
     void showAbout();
@@ -60,6 +66,7 @@ private:
 
     Updater& m_updater;
     FocusedValues& m_focusedValues;
+    std::optional<QDBusConnection> m_bus;
     std::weak_ptr<EditState> m_observed;
     QPointer<QMenuBar> m_menuBar;
 
@@ -71,6 +78,7 @@ private:
     QAction* m_open = nullptr;
     QAction* m_reopen = nullptr;
     QAction* m_export = nullptr;
+    QAction* m_showLastExport = nullptr;
     QAction* m_close = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;

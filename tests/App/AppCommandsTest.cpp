@@ -1,9 +1,11 @@
 #include "AppCommands.h"
 
 #include "Activation.h"
+#include "FakeDesktop.h"
 #include "FocusedValues.h"
 #include "Models/EditStateFixture.h"
 #include "Platform/Updater/Updater.h"
+#include "QtSupport/PrivateBus.h"
 #include "SilentUpdateDriver.h"
 #include "Support/QuickAction/QuickAction.h"
 #include "TestSupport/TemporaryFolder.h"
@@ -105,7 +107,8 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
                                                "Install Finder Quick Action", "-", "Quit|Ctrl+Q"));
     EXPECT_THAT(entries(*menu(1)),
                 ElementsAre("New Window|Ctrl+N", "Open Video…|Ctrl+O",
-                            "Reopen Last Edit|Ctrl+Shift+T", "Export…|Ctrl+E", "Close Video|Esc"));
+                            "Reopen Last Edit|Ctrl+Shift+T", "Export…|Ctrl+E", "Show Last Export",
+                            "Close Video|Esc"));
     EXPECT_THAT(entries(*menu(2)), ElementsAre("Undo|Ctrl+Z", "Redo|Ctrl+Shift+Z"));
     EXPECT_THAT(entries(*menu(3)),
                 ElementsAre("Set Trim Start at Playhead|[", "Set Trim End at Playhead|]", "-",
@@ -162,6 +165,42 @@ TEST_F(AppCommandsTest, doesNotCloseAWindowThatExports) {
     EXPECT_TRUE(action("Close Video")->isEnabled());
     press(Qt::Key_Escape);
     EXPECT_FALSE(m_window.isVisible());
+}
+
+TEST_F(AppCommandsTest, showsTheLastExportInItsFolder) {
+    const testsupport::PrivateBus bus;
+    if (!bus.isRunning())
+        GTEST_SKIP() << "dbus-daemon is not here";
+    const testsupport::FakeFileManager fileManager(bus.connect());
+    m_commands.setBus(bus.connect());
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    m_focusedValues.setEditState(m_state);
+    QAction* show = action("Show Last Export");
+    EXPECT_FALSE(show->isEnabled());
+
+    const testsupport::TemporaryFolder parent;
+    const auto folder = parent / "ex ports";
+    std::filesystem::create_directory(folder);
+    const QUrl file = urlOf(folder / "o#ut.mp4");
+    state().exportTo(file);
+    ASSERT_TRUE(pumpUntil([this] { return !state().exportProgress(); }));
+    EXPECT_TRUE(show->isEnabled());
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+    show->trigger();
+    ASSERT_TRUE(pumpUntil([&] { return !fileManager.items.isEmpty(); }));
+    EXPECT_EQ(fileManager.items, QStringList{QString::fromLatin1(file.toEncoded())});
+
+    // The file has gone meanwhile: its folder is left.
+    std::filesystem::remove(folder / "o#ut.mp4");
+    show->trigger();
+    ASSERT_TRUE(pumpUntil([&] { return !fileManager.folders.isEmpty(); }));
+    EXPECT_EQ(fileManager.folders, QStringList{QString::fromLatin1(urlOf(folder).toEncoded())});
+    EXPECT_EQ(fileManager.items.size(), 1);
+
+    std::filesystem::remove(folder);
+    show->trigger();
+    ASSERT_TRUE(waitForError());
+    EXPECT_EQ(state().errorMessage(), QStringLiteral("The folder “ex ports” can’t be shown."));
 }
 
 TEST_F(AppCommandsTest, asksForFilesThroughTheFocusedModel) {

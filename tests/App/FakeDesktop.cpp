@@ -31,6 +31,12 @@ FakeNotifications::FakeNotifications(QDBusConnection bus) : m_bus(std::move(bus)
     m_bus.registerService(QStringLiteral("org.freedesktop.Notifications"));
 }
 
+FakeFileManager::FakeFileManager(QDBusConnection bus) : m_bus(std::move(bus)) {
+    m_bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), this,
+                         QDBusConnection::ExportAllSlots);
+    m_bus.registerService(QStringLiteral("org.freedesktop.FileManager1"));
+}
+
 FakeLauncher::FakeLauncher(QDBusConnection bus) : m_bus(std::move(bus)) {
     m_bus.connect(QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
                   QStringLiteral("Update"), this, SLOT(update(QString, QVariantMap)));

@@ -116,6 +116,27 @@ private:
     QDBusConnection m_bus;
 };
 
+/// A file manager.
+class FakeFileManager final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+public:
+    explicit FakeFileManager(QDBusConnection bus);
+
+    QStringList items;
+    QStringList folders;
+
+public Q_SLOTS:
+
+    void ShowItems(const QStringList& uris, const QString& /*startupId*/) { items << uris; }
+
+    void ShowFolders(const QStringList& uris, const QString& /*startupId*/) { folders << uris; }
+
+private:
+    QDBusConnection m_bus;
+};
+
 /// The taskbar.
 class FakeLauncher final : public QObject {
     Q_OBJECT
