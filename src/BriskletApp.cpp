@@ -176,6 +176,12 @@ WindowRootView* BriskletApp::openWindow() {
     m_windows.append(window);
     connect(window, &WindowRootView::newWindowRequested, this, [this] { openWindow(); });
     connect(window, &WindowRootView::quitRequested, this, &BriskletApp::quit);
+    connect(window->state().get(), &EditState::exportProgressChanged, this, [this, window] {
+        // The question is about one export less.
+        const bool isAsking = m_askedToQuit && m_askedToQuit->isAskingToClose();
+        if (isAsking && !window->state()->exportProgress())
+            quit();
+    });
     connect(window, &WindowRootView::becameNeedless, this, [this, window] {
         if (windows().size() > 1 && window->state()->isEmpty())
             window->close();
@@ -203,26 +209,50 @@ QList<WindowRootView*> BriskletApp::windows() const {
 }
 
 void BriskletApp::quit() {
-    // From the beginning after each answer: meanwhile exports end and others begin.
+    QList<QPointer<WindowRootView>> exporting;
     for (WindowRootView* window : windows()) {
-        if (!window->mustAskToClose())
-            continue;
-        window->askToClose([self = QPointer(this)](WindowRootView::CloseAnswer answer) {
-            if (!self)
-                return;
-            if (answer == WindowRootView::CloseAnswer::declined)
-                self->stay();
-            else
-                self->quit();
-        });
+        if (window->mustAskToClose())
+            exporting << window;
+    }
+    if (exporting.isEmpty()) {
+        closeAll();
         return;
     }
-    closeAll();
+    m_askedToQuit = windowToAsk(exporting);
+    m_askedToQuit->askToClose(
+        static_cast<int>(exporting.size()),
+        [self = QPointer(this), exporting](WindowRootView::CloseAnswer answer) {
+            if (self)
+                self->quitAnswered(answer, exporting);
+        });
 }
 
-void BriskletApp::stay() {
-    for (WindowRootView* window : windows())
-        window->forgetAgreement();
+/// Where the question is open already, else the window in front, else any.
+WindowRootView* BriskletApp::windowToAsk(const QList<QPointer<WindowRootView>>& exporting) const {
+    for (WindowRootView* window : exporting) {
+        if (window->isAskingToClose())
+            return window;
+    }
+    for (WindowRootView* window : exporting) {
+        if (window->state() == m_focusedValues.editState())
+            return window;
+    }
+    return exporting.first();
+}
+
+void BriskletApp::quitAnswered(WindowRootView::CloseAnswer answer,
+                               const QList<QPointer<WindowRootView>>& askedAbout) {
+    m_askedToQuit.clear();
+    if (answer == WindowRootView::CloseAnswer::declined)
+        return;
+    if (answer == WindowRootView::CloseAnswer::agreed) {
+        for (const auto& window : askedAbout) {
+            if (window)
+                window->agreeToStop();
+        }
+    }
+    // Asks again about exports that have begun meanwhile.
+    quit();
 }
 
 void BriskletApp::closeAll() {

@@ -4,6 +4,7 @@
 #include "FocusedValues.h"
 #include "Platform/DesktopApplication.h"
 #include "Platform/TerminationSignals.h"
+#include "WindowRootView.h"
 
 #include <QCoroTask>
 #include <QList>
@@ -23,7 +24,6 @@ class ExportMonitor;
 class UpdateDriver;
 class Updater;
 struct UpdaterConfiguration;
-class WindowRootView;
 
 /// The program: its windows, what they share, and its place in the desktop's session. Ends the
 /// event loop when the last window has been closed. Needs a QApplication, which it must not
@@ -70,8 +70,7 @@ public:
 
     [[nodiscard]] Updater& updater() { return *m_updater; }
 
-    /// Closes every window. Where exports run asks about each first, and closes nothing as soon as
-    /// one is to go on.
+    /// Closes every window. Where exports run, asks one question about all of them first.
     void quit();
 
 protected:
@@ -82,6 +81,10 @@ private:
     void keepEditsOf(WindowRootView* window);
     QCoro::Task<> reopenLastEdit(QPointer<WindowRootView> asking);
     void stay();
+    [[nodiscard]] WindowRootView*
+    windowToAsk(const QList<QPointer<WindowRootView>>& exporting) const;
+    void quitAnswered(WindowRootView::CloseAnswer answer,
+                      const QList<QPointer<WindowRootView>>& askedAbout);
     void closeAll();
     void terminate();
     void joinSession();
@@ -104,6 +107,8 @@ private:
     /// Runs while a start by the bus waits for the call that says what for.
     QTimer m_busCall;
     QList<QPointer<WindowRootView>> m_windows;
+    /// Where the user has the question of quit() before them.
+    QPointer<WindowRootView> m_askedToQuit;
 };
 
 } // namespace brisklet

@@ -7,11 +7,13 @@
 #include "Support/FileUrl.h"
 #include "Support/OpenBridge.h"
 #include "Views/ContentView.h"
+#include "Views/Sheet.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -27,6 +29,28 @@ constexpr QSize kSmallestSize(720, 480);
 QString asTitle(QString name) {
     return name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
+
+/// Whether exports may be stopped. No button of it is named like the one of the sheet below, which
+/// stops the export.
+class CloseQuestion final : public QMessageBox {
+public:
+    explicit CloseQuestion(QWidget* window)
+        : QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"), {}, QMessageBox::NoButton,
+                      window, Sheet::flags()) {
+        setAttribute(Qt::WA_DeleteOnClose);
+        QPushButton* keep =
+            addButton(WindowRootView::tr("Keep Exporting"), QMessageBox::RejectRole);
+        addButton(WindowRootView::tr("Stop and Close"), QMessageBox::AcceptRole);
+        setDefaultButton(keep);
+        setEscapeButton(keep);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QMessageBox::paintEvent(event);
+        Sheet::paintFrame(*this);
+    }
+};
 
 } // namespace
 
@@ -64,6 +88,8 @@ void WindowRootView::buildLayout() {
             &WindowRootView::newWindowRequested);
     connect(m_commands, &AppCommands::quitRequested, this, &WindowRootView::quitRequested);
     connect(m_commands, &AppCommands::reopenRequested, this, &WindowRootView::reopenRequested);
+    connect(m_content, &ContentView::closeRequested, this, &QWidget::close);
+    connect(m_content, &ContentView::quitRequested, this, &WindowRootView::quitRequested);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
@@ -164,7 +190,7 @@ void WindowRootView::closeEvent(QCloseEvent* event) {
         if (answer == CloseAnswer::agreed)
             closeNow();
     };
-    showCloseQuestion();
+    showCloseQuestion(1);
 }
 
 void WindowRootView::keyPressEvent(QKeyEvent* event) {
@@ -177,31 +203,40 @@ bool WindowRootView::mustAskToClose() const {
     return m_state->exportProgress() && !m_hasAgreedToStop && !m_closesAfterExport;
 }
 
-void WindowRootView::askToClose(std::function<void(CloseAnswer)> answered) {
+bool WindowRootView::isAskingToClose() const {
+    return m_closeQuestion != nullptr;
+}
+
+void WindowRootView::agreeToStop() {
+    m_hasAgreedToStop = m_state->exportProgress().has_value();
+}
+
+void WindowRootView::askToClose(int exportCount, std::function<void(CloseAnswer)> answered) {
     m_closeAnswered = std::move(answered);
     bringToFront();
-    if (!m_closeQuestion)
-        showCloseQuestion();
+    showCloseQuestion(exportCount);
     m_closeQuestion->raise();
     m_closeQuestion->activateWindow();
 }
 
-void WindowRootView::showCloseQuestion() {
-    QWidget* sheet = m_content->attachedSheet();
-    m_closeQuestion = new QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"),
-                                      tr("Stop the export and close?"), QMessageBox::Cancel,
-                                      sheet != nullptr ? sheet : this);
-    //: The button that answers “Stop the export and close?” with yes.
-    m_closeQuestion->addButton(tr("Stop and Close"), QMessageBox::AcceptRole);
-    m_closeQuestion->setDefaultButton(QMessageBox::Cancel);
-    m_closeQuestion->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_closeQuestion, &QMessageBox::accepted, this, [this] {
-        m_hasAgreedToStop = true;
-        answer(CloseAnswer::agreed);
-    });
-    connect(m_closeQuestion, &QMessageBox::rejected, this,
-            [this] { answer(CloseAnswer::declined); });
-    m_closeQuestion->open();
+void WindowRootView::showCloseQuestion(int exportCount) {
+    if (!m_closeQuestion) {
+        QWidget* sheet = m_content->attachedSheet();
+        m_closeQuestion = new CloseQuestion(sheet != nullptr ? sheet : this);
+        // Answered, it is about to be deleted: the next question needs a box of its own.
+        connect(m_closeQuestion, &QMessageBox::accepted, this, [this] {
+            m_closeQuestion.clear();
+            answer(CloseAnswer::agreed);
+        });
+        connect(m_closeQuestion, &QMessageBox::rejected, this, [this] {
+            m_closeQuestion.clear();
+            answer(CloseAnswer::declined);
+        });
+        m_closeQuestion->open();
+    }
+    m_closeQuestion->setText(exportCount > 1
+                                 ? tr("Stop %n exports and close?", nullptr, exportCount)
+                                 : tr("Stop the export and close?"));
 }
 
 void WindowRootView::answer(CloseAnswer answer) {

@@ -56,13 +56,17 @@ public:
     /// Whether an export runs that the user has not agreed to stop.
     [[nodiscard]] bool mustAskToClose() const;
 
-    /// Asks the user whether the running export may be stopped, in front of all windows; does not
-    /// stop it. `answered` is called once, later, unless the window is destroyed before. If the
-    /// question is open already, `answered` replaces the callback of the earlier call.
-    void askToClose(std::function<void(CloseAnswer)> answered);
+    /// Whether the user has the question of askToClose() before them.
+    [[nodiscard]] bool isAskingToClose() const;
 
-    /// Forgets that the user agreed to stop the running export, so that they are asked again.
-    void forgetAgreement() { m_hasAgreedToStop = false; }
+    /// Asks the user whether the running export, and those of other windows, `exportCount` in all,
+    /// may be stopped, in front of all windows; does not stop them. `answered` is called once,
+    /// later, unless the window is destroyed before. If the question is open already, it is about
+    /// `exportCount` from now on, and `answered` replaces the callback of the earlier call.
+    void askToClose(int exportCount, std::function<void(CloseAnswer)> answered);
+
+    /// The user has agreed, here or in another window, to stop the export that runs now.
+    void agreeToStop();
 
     /// Closes without asking. An export is stopped first; the window closes when it has ended.
     void closeNow();
@@ -91,7 +95,7 @@ private:
     void publish();
     void followExport();
     void followMessage();
-    void showCloseQuestion();
+    void showCloseQuestion(int exportCount);
     void answer(CloseAnswer answer);
 
     FocusedValues& m_focusedValues;

@@ -98,7 +98,11 @@ void ContentView::showExport() {
     }
     if (!m_exportSheet) {
         m_exportSheet = new ExportProgressView(m_state, this);
-        m_exportSheet->open();
+        connect(m_exportSheet, &ExportProgressView::closeRequested, this,
+                &ContentView::closeRequested);
+        connect(m_exportSheet, &ExportProgressView::quitRequested, this,
+                &ContentView::quitRequested);
+        m_exportSheet->show();
     }
     m_exportSheet->setProgress(*progress);
 }

@@ -42,6 +42,11 @@ public:
     /// The sheet or alert that blocks the window during an export or an error, otherwise null.
     [[nodiscard]] QWidget* attachedSheet() const;
 
+Q_SIGNALS:
+    /// By the keys that do so in the window, of the sheet that has the keyboard instead.
+    void closeRequested();
+    void quitRequested();
+
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;

@@ -48,8 +48,7 @@ QLabel* plainLabel() {
 } // namespace
 
 ErrorAlert::ErrorAlert(QWidget* window)
-    : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                          Qt::WindowCloseButtonHint),
+    : Sheet(window),
       m_symbol(new SymbolView(Symbol::exclamationTriangle, kSymbolSide)),
       m_title(plainLabel()),
       m_text(plainLabel()) {
@@ -89,7 +88,7 @@ void ErrorAlert::showLook() {
 }
 
 void ErrorAlert::changeEvent(QEvent* event) {
-    QDialog::changeEvent(event);
+    Sheet::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
         showLook();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "Views/Sheet.h"
 
 class QLabel;
 
@@ -10,7 +10,7 @@ class SymbolView;
 
 /// Tells the user what went wrong, over the window that it went wrong in. Modal to that window,
 /// deletes itself when it is dismissed by its button or by Escape. Main thread.
-class ErrorAlert final : public QDialog {
+class ErrorAlert final : public Sheet {
     Q_OBJECT
 
 public:

@@ -3,12 +3,15 @@
 #include "Models/EditState.h"
 #include "Support/ApproximateFormatting.h"
 #include "Views/Painting/Theme.h"
+#include "Views/WindowBlock.h"
+#include "Views/WindowKeys.h"
 
-#include <QEvent>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -33,13 +36,11 @@ double secondsOn(const QElapsedTimer& clock) {
 } // namespace
 
 ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* window)
-    // Without a close button: only the Cancel button ends the export.
-    : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
+    : Sheet(window),
       m_title(new QLabel(tr("Exporting…"))),
       m_bar(new QProgressBar),
       // Never empty, so that the sheet does not grow when there is something to say.
       m_caption(new QLabel(QStringLiteral(" "))) {
-    setWindowModality(Qt::WindowModal);
     //: A title, a noun: the act of exporting.
     setWindowTitle(tr("Export"));
     showFonts();
@@ -69,6 +70,19 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     m_sinceStart.start();
     connect(&m_tick, &QTimer::timeout, this, &ExportProgressView::showRemaining);
     m_tick.start(kTick);
+    new QShortcut(kCloseKey, this, this, &ExportProgressView::closeRequested);
+    new QShortcut(kQuitKey, this, this, &ExportProgressView::quitRequested);
+}
+
+void ExportProgressView::showEvent(QShowEvent* event) {
+    Sheet::showEvent(event);
+    if (m_block == nullptr)
+        m_block = new WindowBlock(*parentWidget()->window(), *this);
+}
+
+void ExportProgressView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Q_EMIT closeRequested();
 }
 
 void ExportProgressView::setProgress(double fraction) {
@@ -96,7 +110,7 @@ void ExportProgressView::showFonts() {
 }
 
 void ExportProgressView::changeEvent(QEvent* event) {
-    QDialog::changeEvent(event);
+    Sheet::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
         showFonts();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Models/RemainingTime.h"
+#include "Views/Sheet.h"
 
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QTimer>
 
@@ -14,12 +14,12 @@ class QProgressBar;
 namespace brisklet {
 
 class EditState;
+class WindowBlock;
 
-/// The sheet over a window during an export: a progress bar, how much longer it
-/// takes, and a button that cancels. Modal to
-/// its window. The user cannot close it: it closes when the export has ended, also after a
-/// cancellation. Main thread.
-class ExportProgressView final : public QDialog {
+/// The sheet over a window during an export: a progress bar, how much longer it takes, and a button
+/// that cancels. Blocks its window, but not the window's close button. The user cannot close the
+/// sheet: it closes when the export has ended, also after a cancellation. Main thread.
+class ExportProgressView final : public Sheet {
     Q_OBJECT
 
 public:
@@ -28,10 +28,17 @@ public:
     /// 0 to 1.
     void setProgress(double fraction);
 
-    /// Escape and the window's own close button change nothing.
+    /// Escape changes nothing.
     void reject() override {}
 
+Q_SIGNALS:
+    /// The keyboard is with the sheet, so it hears the keys that close the window or the program.
+    void closeRequested();
+    void quitRequested();
+
 protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -44,6 +51,8 @@ private:
     RemainingTime m_remaining;
     QElapsedTimer m_sinceStart;
     QTimer m_tick;
+    /// Begins when the sheet is shown.
+    WindowBlock* m_block = nullptr;
 };
 
 } // namespace brisklet

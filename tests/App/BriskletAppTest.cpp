@@ -123,8 +123,8 @@ TEST_F(BriskletAppTest, endsWithItsLastWindow) {
     EXPECT_TRUE(m_app->windows().isEmpty());
 }
 
-// It used to close the windows without an export first, and to ask when they were gone.
-TEST_F(BriskletAppTest, asksAboutEveryExportBeforeItClosesAWindow) {
+/// It used to ask in one window after the other.
+TEST_F(BriskletAppTest, asksOneQuestionAboutAllExportsBeforeItClosesAWindow) {
     WindowRootView* idle = openWindow();
     WindowRootView* first = openWindow();
     ASSERT_TRUE(startLongExport(*first, "first.mp4"));
@@ -132,27 +132,55 @@ TEST_F(BriskletAppTest, asksAboutEveryExportBeforeItClosesAWindow) {
     ASSERT_TRUE(startLongExport(*second, "second.mp4"));
     ASSERT_TRUE(testsupport::showActive(*idle));
     QTest::keyClick(idle, Qt::Key_Q, Qt::ControlModifier);
-    ASSERT_NE(visibleQuestion(*first), nullptr);
+    QMessageBox* question = visibleQuestion(*first);
+    ASSERT_NE(question, nullptr);
     EXPECT_EQ(visibleQuestion(*second), nullptr);
-    clickRole(*visibleQuestion(*first), QMessageBox::AcceptRole);
-    ASSERT_NE(visibleQuestion(*second), nullptr);
-    EXPECT_TRUE(
-        pumpUntil([&] { return QApplication::activeWindow() == visibleQuestion(*second); }));
-    EXPECT_EQ(m_app->windows().size(), 3);
-    clickRole(*visibleQuestion(*second), QMessageBox::RejectRole);
+    EXPECT_EQ(question->text(), QStringLiteral("Stop 2 exports and close?"));
+    EXPECT_TRUE(pumpUntil([&] { return QApplication::activeWindow() == question; }));
+    clickRole(*question, QMessageBox::RejectRole);
     pumpPending();
     EXPECT_EQ(m_app->windows().size(), 3);
     EXPECT_TRUE(first->state()->exportProgress());
     EXPECT_TRUE(second->state()->exportProgress());
 
-    // What was agreed to is forgotten with it.
     m_app->quit();
-    for (WindowRootView* window : {first, second}) {
-        ASSERT_NE(visibleQuestion(*window), nullptr);
-        clickRole(*visibleQuestion(*window), QMessageBox::AcceptRole);
-    }
+    ASSERT_NE(visibleQuestion(*first), nullptr);
+    clickRole(*visibleQuestion(*first), QMessageBox::AcceptRole);
+    EXPECT_EQ(visibleQuestion(*second), nullptr);
     EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
+}
+
+TEST_F(BriskletAppTest, asksAboutThoseExportsThatStillRun) {
+    WindowRootView* first = openWindow();
+    ASSERT_TRUE(startLongExport(*first, "first.mp4"));
+    WindowRootView* second = openWindow();
+    ASSERT_TRUE(startLongExport(*second, "second.mp4"));
+    m_app->quit();
+    QPointer<QMessageBox> question = visibleQuestion(*second);
+    ASSERT_TRUE(question);
+    EXPECT_EQ(question->text(), QStringLiteral("Stop 2 exports and close?"));
+    first->state()->cancelExport();
+    EXPECT_TRUE(pumpUntil([&] {
+        return question && question->text() == QStringLiteral("Stop the export and close?");
+    }));
+    second->state()->cancelExport();
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
+}
+
+TEST_F(BriskletAppTest, asksAboutAnExportThatBeganWhileItAsked) {
+    WindowRootView* first = openWindow();
+    ASSERT_TRUE(startLongExport(*first, "first.mp4"));
+    WindowRootView* second = openWindow();
+    ASSERT_TRUE(loadAndWait(*second, video(30)));
+    m_app->quit();
+    ASSERT_NE(visibleQuestion(*first), nullptr);
+    second->state()->exportTo(urlOf(m_folder / "second.mp4"));
+    clickRole(*visibleQuestion(*first), QMessageBox::AcceptRole);
+    ASSERT_NE(visibleQuestion(*second), nullptr);
+    EXPECT_EQ(m_app->windows().size(), 2);
+    clickRole(*visibleQuestion(*second), QMessageBox::AcceptRole);
+    EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
 }
 
 TEST_F(BriskletAppTest, asksOnceWhereAWindowIsAskedAlready) {

@@ -161,9 +161,15 @@ protected:
                     m_cropCount, m_turnCount);
     }
 
+    /// The dialog or sheet that takes the input now.
+    QWidget* frontDialog() const {
+        QWidget* modal = QApplication::activeModalWidget();
+        return modal == nullptr && m_window ? m_window->content().attachedSheet() : modal;
+    }
+
     /// Mostly what lies in front.
     QWidget* target() {
-        QWidget* front = QApplication::activeModalWidget();
+        QWidget* front = frontDialog();
         return front != nullptr && below(4) != 0 ? front : m_window.data();
     }
 
@@ -345,7 +351,7 @@ protected:
     std::string comeBack() {
         while (QWidget* popup = QApplication::activePopupWidget())
             popup->close();
-        if (QWidget* box = QApplication::activeModalWidget())
+        if (QWidget* box = frontDialog())
             testsupport::clickKey(box->windowHandle(),
                                   below(2) == 0 ? Qt::Key_Return : Qt::Key_Space);
         else

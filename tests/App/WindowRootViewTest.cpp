@@ -1,13 +1,17 @@
 #include "AppFixture.h"
 
 #include "Views/ContentView.h"
+#include "QtSupport/Keys.h"
 #include "Views/Controls/ControlsView.h"
+#include "Views/Controls/FlatButton.h"
 #include "Views/ErrorAlert.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QDialog>
 #include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
 #include <QWindow>
 
 #include <filesystem>
@@ -178,6 +182,87 @@ TEST_F(WindowRootViewTest, asksBeforeItStopsAnExportToClose) {
     clickRole(*question, QMessageBox::AcceptRole);
     ASSERT_TRUE(pumpUntil([this] { return m_window.isNull(); }));
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
+}
+
+/// Both the sheet and the question over it had a "Cancel", one to stop the export, the other to
+/// keep it.
+TEST_F(WindowRootViewTest, namesTheAnswersAfterWhatBecomesOfTheExport) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    m_window->close();
+    QMessageBox* question = visibleQuestion(*m_window);
+    ASSERT_NE(question, nullptr);
+    QStringList names;
+    for (const QAbstractButton* button : question->buttons())
+        names << button->text().remove(u'&');
+    names.sort();
+    EXPECT_EQ(names,
+              QStringList({QStringLiteral("Keep Exporting"), QStringLiteral("Stop and Close")}));
+    EXPECT_EQ(question->defaultButton()->text(), QStringLiteral("Keep Exporting"));
+    QTest::keyClick(question, Qt::Key_Escape);
+    pumpPending();
+    EXPECT_EQ(visibleQuestion(*m_window), nullptr);
+    EXPECT_TRUE(m_window->state()->exportProgress());
+}
+
+/// The keyboard is with the sheet, which took the keys and did nothing.
+TEST_F(WindowRootViewTest, asksByTheKeysOfTheWindowWhileTheSheetHasTheKeyboard) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    for (const Qt::Key key : {Qt::Key_W, Qt::Key_Q}) {
+        QWidget* sheet = m_window->content().attachedSheet();
+        ASSERT_NE(sheet, nullptr);
+        ASSERT_TRUE(testsupport::showActive(*sheet));
+        QTest::keyClick(sheet, key, Qt::ControlModifier);
+        QMessageBox* question = visibleQuestion(*m_window);
+        ASSERT_NE(question, nullptr) << key;
+        clickRole(*question, QMessageBox::RejectRole);
+        pumpPending();
+    }
+    EXPECT_TRUE(m_window->state()->exportProgress());
+}
+
+/// Qt drops what a window manager says to a window behind a modal dialog. The walk with two windows
+/// presses the button itself.
+TEST_F(WindowRootViewTest, hearsItsCloseButtonBehindTheSheet) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    ASSERT_TRUE(m_window->content().attachedSheet()->isVisible());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(WindowRootViewTest, takesNoInputBehindTheSheet) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    QWindow* handle = m_window->windowHandle();
+    testsupport::clickKey(handle, Qt::Key_M);
+    testsupport::clickKey(handle, Qt::Key_K);
+    const QPoint crop =
+        m_window->findChild<ControlsView*>()->cropButton().mapTo(m_window.data(), QPoint(10, 10));
+    QTest::mouseClick(handle, Qt::LeftButton, Qt::NoModifier, crop);
+    pumpPending();
+    EXPECT_FALSE(m_window->state()->isMuted());
+    EXPECT_FALSE(m_window->state()->cropRect());
+    // What was clicked behind the sheet gives the keyboard back to it.
+    QWidget* sheet = m_window->content().attachedSheet();
+    EXPECT_TRUE(pumpUntil([&] { return QApplication::activeWindow() == sheet; }));
+
+    m_window->state()->cancelExport();
+    ASSERT_TRUE(pumpUntil([this] { return !m_window->state()->exportProgress(); }));
+    ASSERT_TRUE(testsupport::showActive(*m_window));
+    QTest::mouseClick(handle, Qt::LeftButton, Qt::NoModifier, crop);
+    EXPECT_TRUE(m_window->state()->cropRect());
+}
+
+TEST_F(WindowRootViewTest, givesItsSheetsNoButtonsOfAWindow) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    m_window->close();
+    m_window->state()->setErrorMessage(QStringLiteral("What went wrong."));
+    int count = 0;
+    for (const auto* dialog : m_window->findChildren<QDialog*>()) {
+        if (!dialog->isVisible())
+            continue;
+        ++count;
+        EXPECT_TRUE(dialog->windowFlags().testFlag(Qt::FramelessWindowHint));
+        EXPECT_FALSE(dialog->windowFlags() & Qt::WindowMinMaxButtonsHint);
+    }
+    EXPECT_EQ(count, 3);
 }
 
 TEST_F(WindowRootViewTest, takesTheQuestionBackWhenTheExportEnds) {

@@ -3,13 +3,14 @@
 windows.py PROGRAM [PICTURES]
 
 A file that can't be opened says so over its own window; Escape takes a drag back instead of closing
-the window; the menus of a window act on that window, whichever has the keyboard."""
+the window; closing during an export asks first; the menus of a window act on that window, whichever
+has the keyboard."""
 
 import sys
 from pathlib import Path
 
 from desktop import Desktop, wait_for
-from program import Program, expect, expect_near, make_video, require_tools
+from program import Program, expect, expect_near, make_video, repeat_video, require_tools
 
 WIDTH, HEIGHT = 640, 360
 SECONDS = 10
@@ -102,6 +103,61 @@ def obey_own_menus(program, video):
     window_of(program, "Brisklet")
 
 
+class Closing:
+    """Asks for the end of the window or the program while a long export runs."""
+
+    def __init__(self, program, folder):
+        self.program = program
+        self.tree = program.tree
+        self.hand = program.hand
+        self.output = folder / "long Trimmed.mp4"
+
+    def export(self):
+        self.hand.press("ctrl+e")
+        self.program.answer_panel("Export", self.output)
+        self.program.wait_for_label("Exporting…")
+
+    def press_close_button(self, title):
+        """The one that the window manager draws, at the right end of the title bar."""
+        x, y, width, _ = window_of(self.program, title).rect
+        self.hand.click(x + width - 11, y - 11)
+
+    def answer(self, name):
+        self.program.wait_for_label("Stop the export and close?")
+        names = [each.name for each in self.tree.elements() if each.role == "push button"]
+        expect("Keep Exporting" in names and "Stop and Close" in names, f"the answers are {names}")
+        self.program.keep_picture("closing-question")
+        self.tree.wait("push button", name).act()
+        self.tree.wait_gone("label", "Stop the export and close?")
+
+    def keep_exporting(self):
+        self.answer("Keep Exporting")
+        expect(self.program.has_label("Exporting…"), "the export goes on")
+
+
+def ask_before_closing(desktop, path, folder, pictures):
+    short = make_video(folder / "short.mp4", "1280x720", SECONDS)
+    video = repeat_video(short, 20, folder / "long.mp4")
+    program = Program(desktop, path, video, pictures=pictures)
+    program.wait_for_video(video)
+    closing = Closing(program, folder)
+    closing.export()
+    closing.press_close_button(video.name)
+    closing.keep_exporting()
+    for key in ("ctrl+w", "ctrl+q", "alt+F4"):
+        program.hand.press(key)
+        closing.keep_exporting()
+    # Nothing behind the sheet takes the mouse or the keys.
+    program.click("check box", "Mute")
+    program.hand.press("k")
+    expect(program.crop() is None, "there is no crop")
+    expect(program.tree.find("check box", "Unmute") is None, "the sound is still on")
+    program.hand.press("ctrl+q")
+    closing.answer("Stop and Close")
+    expect(program.wait_for_end() == 0, "the program ends")
+    expect(not closing.output.exists(), "a stopped export leaves nothing")
+
+
 def main():
     path = Path(sys.argv[1]).resolve()
     pictures = Path(sys.argv[2]).resolve() if len(sys.argv) > 2 else None
@@ -110,6 +166,7 @@ def main():
     require_tools()
     with Desktop() as desktop:
         fail_in_own_window(desktop, path, desktop.folder, pictures)
+        ask_before_closing(desktop, path, desktop.folder, pictures)
         video = make_video(desktop.folder / "clip.mp4", f"{WIDTH}x{HEIGHT}", SECONDS)
         program = Program(desktop, path, video, pictures=pictures)
         program.wait_for_video(video)
