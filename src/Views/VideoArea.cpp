@@ -2,13 +2,14 @@
 
 #include "Models/EditState.h"
 #include "Views/Crop/CropOverlayView.h"
+#include "Views/Painting/RoundCorners.h"
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
 
 #include <QPainter>
 #include <QPaintEvent>
-#include <QPainterPath>
 
+#include <algorithm>
 #include <utility>
 
 namespace brisklet {
@@ -18,29 +19,20 @@ namespace {
 constexpr int kCornerRadius = 8;
 constexpr int kCropHandleSize = 12;
 
-/// Covers the part of a corner outside the rounding with the colour of the window. Cheaper than
-/// clipping each frame of the video.
+/// Covers one corner of its parent outside the rounding with the colour of the window.
 class Corner final : public QWidget {
 public:
-    /// `center` is the centre of the rounding, in the coordinates of this widget.
-    Corner(QPoint center, QWidget* parent) : QWidget(parent), m_center(center) {
+    explicit Corner(QWidget* parent) : QWidget(parent) {
         setFixedSize(kCornerRadius, kCornerRadius);
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        QPainterPath outside;
-        outside.addRect(rect());
-        QPainterPath circle;
-        circle.addEllipse(QPointF(m_center), kCornerRadius, kCornerRadius);
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(outside - circle, palette().color(QPalette::Window));
+        paintRoundCorners(painter, parentWidget()->rect().translated(-pos()), kCornerRadius,
+                          palette().color(QPalette::Window));
     }
-
-private:
-    QPoint m_center;
 };
 
 /// The rectangle whose edges are the nearest whole points.
@@ -63,11 +55,8 @@ VideoArea::VideoArea(std::shared_ptr<EditState> state, QWidget* parent)
     : QWidget(parent),
       m_state(std::move(state)),
       m_player(new PlayerContainerView(nullptr, this)),
-      m_cropOverlay(new CropOverlayView(m_state, kCropHandleSize, this)) {
-    constexpr std::array kCenters{QPoint(kCornerRadius, kCornerRadius), QPoint(0, kCornerRadius),
-                                  QPoint(0, 0), QPoint(kCornerRadius, 0)};
-    for (std::size_t i = 0; i < m_corners.size(); ++i)
-        m_corners[i] = new Corner(kCenters[i], this);
+      m_cropOverlay(new CropOverlayView(m_state, kCropHandleSize, parent)) {
+    std::ranges::generate(m_corners, [this] { return new Corner(this); });
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
     const EditState* model = m_state.get();
@@ -87,6 +76,11 @@ void VideoArea::resizeEvent(QResizeEvent* event) {
     layOut();
 }
 
+void VideoArea::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    layOut();
+}
+
 /// Asks for the player only once there is a video: asking for it creates it.
 void VideoArea::showPlayer() {
     if (m_state->videoURL())
@@ -102,8 +96,11 @@ void VideoArea::layOut() {
     // The player is on whole points, and the overlay uses the same rectangle.
     const QRect picture = onWholePoints(fittedPicture(m_state->rotatedDisplaySize(), size()));
     m_player->setGeometry(picture);
-    m_cropOverlay->setGeometry(rect());
-    m_cropOverlay->setVideoRect(picture);
+    // Beyond this view, so that the handles at the edges of the picture are whole.
+    const int reach = m_cropOverlay->reach();
+    m_cropOverlay->setGeometry(geometry().adjusted(-reach, -reach, reach, reach));
+    m_cropOverlay->setVideoRect(picture.translated(reach, reach));
+    m_cropOverlay->setArea(rect().translated(reach, reach), kCornerRadius);
     m_corners[0]->move(0, 0);
     m_corners[1]->move(width() - kCornerRadius, 0);
     m_corners[2]->move(width() - kCornerRadius, height() - kCornerRadius);

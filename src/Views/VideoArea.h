@@ -18,12 +18,13 @@ class PlayerContainerView;
 /// possible. A picture of unknown size (0 × 0) counts as 16:9.
 QRectF fittedPicture(media::Size picture, QSizeF area);
 
-/// The picture on black with round corners, and the crop over it. Main thread.
+/// The picture on black with round corners. The crop is over it, a child of the same parent, since
+/// its handles extend beyond this view. Main thread.
 class VideoArea final : public QWidget {
     Q_OBJECT
 
 public:
-    explicit VideoArea(std::shared_ptr<EditState> state, QWidget* parent = nullptr);
+    VideoArea(std::shared_ptr<EditState> state, QWidget* parent);
     ~VideoArea() override;
 
     [[nodiscard]] PlayerContainerView& player() const { return *m_player; }
@@ -31,6 +32,7 @@ public:
     [[nodiscard]] CropOverlayView& cropOverlay() const { return *m_cropOverlay; }
 
 protected:
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

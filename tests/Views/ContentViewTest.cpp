@@ -2,6 +2,7 @@
 
 #include "Models/EditStateFixture.h"
 #include "QtSupport/Pixels.h"
+#include "QtSupport/Pointer.h"
 #include "TestSupport/TemporaryFolder.h"
 #include "Views/Controls/ControlsView.h"
 #include "Views/Controls/ExportButton.h"
@@ -307,8 +308,8 @@ TEST_F(ContentViewTest, turnsThePictureWithinTheFittedRectangle) {
              {player.left() - fitted.left(), player.top() - fitted.top(),
               player.right() - fitted.right(), player.bottom() - fitted.bottom()})
             EXPECT_LE(std::abs(difference), 0.5);
-        EXPECT_EQ(area->cropOverlay().videoRect(), player);
-        EXPECT_EQ(area->cropOverlay().geometry(), area->rect());
+        const CropOverlayView& overlay = area->cropOverlay();
+        EXPECT_EQ(overlay.videoRect().translated(overlay.pos() - area->pos()), player);
         EXPECT_EQ(area->player().layerView().rotation(), state().rotation());
         // The picture, once it has come in the new size, fills the rectangle.
         EXPECT_TRUE(pumpUntil([&] {
@@ -317,6 +318,63 @@ TEST_F(ContentViewTest, turnsThePictureWithinTheFittedRectangle) {
         }));
         state().rotateLeft();
     }
+}
+
+/// The half of a handle that lies beyond the picture was cut off, and the corners of the area lay
+/// over the handles in them.
+TEST_F(ContentViewTest, showsWholeHandlesAtTheEdgesOfThePicture) {
+    // As high as the area, then as wide.
+    for (const QSize size : {QSize(320, 240), QSize(640, 160)}) {
+        ASSERT_TRUE(loadAndWait(
+            testsupport::Recipe{.duration = 2, .width = size.width(), .height = size.height()}));
+        state().setCropRect(media::Rect{0, 0, 1, 1});
+        pumpPending();
+        auto* editor = shown<EditorView>();
+        const CropOverlayView& overlay = editor->videoArea().cropOverlay();
+        const QRectF crop = overlay.cropViewRect().translated(overlay.pos());
+        const testsupport::Pixels pixels(*editor);
+        for (const CropHandle handle : kCropHandles) {
+            const QPointF middle = CropGeometry::position(handle, crop);
+            for (const QPointF& by :
+                 {QPointF(-4, 0), QPointF(3.5, 0), QPointF(0, -4), QPointF(0, 3.5)})
+                EXPECT_TRUE(testsupport::isNear(pixels.at(middle.x() + by.x(), middle.y() + by.y()),
+                                                Qt::white, 40))
+                    << "handle " << static_cast<int>(handle) << " at " << by.x() << ", " << by.y();
+        }
+    }
+}
+
+TEST_F(ContentViewTest, gripsHandlesBeyondTheAreaOfThePicture) {
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 2, .width = 320, .height = 240}));
+    state().setCropRect(media::Rect{0, 0, 1, 1});
+    pumpPending();
+    auto* editor = shown<EditorView>();
+    const CropOverlayView& overlay = editor->videoArea().cropOverlay();
+    const QRect area = editor->videoArea().geometry();
+    const QPoint top =
+        CropGeometry::position(CropHandle::top, overlay.cropViewRect().translated(overlay.pos()))
+            .toPoint() -
+        QPoint(0, 5);
+    ASSERT_FALSE(area.contains(top));
+    testsupport::Pointer(*editor).drag(top, top + QPoint(0, area.height() / 2));
+    ASSERT_TRUE(state().cropRect());
+    EXPECT_NEAR(state().cropRect()->y, 0.5, 0.01);
+    EXPECT_NEAR(state().cropRect()->height, 0.5, 0.01);
+}
+
+/// The shade of the crop would lie over them as well.
+TEST_F(ContentViewTest, keepsTheCornersOfTheAreaInTheColourOfTheWindow) {
+    ASSERT_TRUE(loadAndWait(testsupport::Recipe{.duration = 2, .width = 800, .height = 480}));
+    auto* editor = shown<EditorView>();
+    const QRect area = editor->videoArea().geometry();
+    // The picture fills the area but for a few points.
+    m_content->resize(m_content->width() - area.width() + area.height() * 5 / 3,
+                      m_content->height());
+    state().setCropRect(media::Rect{0.25, 0.25, 0.5, 0.5});
+    pumpPending();
+    const testsupport::Pixels pixels(*editor);
+    EXPECT_TRUE(
+        testsupport::isNear(pixels.at(12.5, 12.5), editor->palette().color(QPalette::Window), 1));
 }
 
 TEST_F(ContentViewTest, standsInRowsTwelvePointsApart) {

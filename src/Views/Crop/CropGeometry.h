@@ -16,6 +16,10 @@ struct CropGeometry {
     QRectF videoRect;
     /// Diameter of a handle, points.
     double handleSize = 12;
+    /// The area around the picture, view coordinates; only handles are painted beyond its round
+    /// corners, of `cornerRadius` points.
+    QRectF area;
+    double cornerRadius = 0;
 
     /// The crop in view coordinates.
     [[nodiscard]] QRectF toView(const media::Rect& crop) const;

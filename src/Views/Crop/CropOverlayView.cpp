@@ -68,6 +68,12 @@ void CropOverlayView::setVideoRect(const QRectF& rect) {
     update();
 }
 
+void CropOverlayView::setArea(const QRectF& area, double cornerRadius) {
+    m_geometry.area = area;
+    m_geometry.cornerRadius = cornerRadius;
+    update();
+}
+
 QRectF CropOverlayView::cropViewRect() const {
     const auto& crop = m_state->cropRect();
     return crop ? m_geometry.toView(*crop) : QRectF();
@@ -85,6 +91,10 @@ QString CropOverlayView::cropText() const {
     return tr("%1×%2 at %3, %4")
         .arg(pixels(crop->width, size.width), pixels(crop->height, size.height),
              pixels(crop->x, size.width), pixels(crop->y, size.height));
+}
+
+int CropOverlayView::reach() const {
+    return static_cast<int>(std::ceil(CropPainting::reach(m_geometry)));
 }
 
 void CropOverlayView::followCrop() {

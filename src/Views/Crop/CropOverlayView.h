@@ -37,11 +37,18 @@ public:
 
     void setVideoRect(const QRectF& rect);
 
+    /// The area around the picture, in this view's coordinates, and the radius of its corners.
+    void setArea(const QRectF& area, double cornerRadius);
+
     /// Where the crop is, in this view's coordinates; empty without one.
     [[nodiscard]] QRectF cropViewRect() const;
 
     /// Size and position of the crop in pixels of the picture, as text; empty without one.
     [[nodiscard]] QString cropText() const;
+
+    /// How far handles extend beyond the picture, points: for them to be whole and to be gripped
+    /// there, this view extends as far beyond the area of the picture.
+    [[nodiscard]] int reach() const;
 
 protected:
     bool event(QEvent* event) override;

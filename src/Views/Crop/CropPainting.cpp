@@ -1,5 +1,6 @@
 #include "Views/Crop/CropPainting.h"
 
+#include "Views/Painting/RoundCorners.h"
 #include "Views/Painting/Theme.h"
 
 #include <QPainter>
@@ -40,6 +41,9 @@ void CropPainting::paint(Focus focus) {
     m_painter.setPen(Qt::NoPen);
     paintDimming();
     paintBorder(0, kOutlineWidth, Qt::white);
+    if (m_geometry.cornerRadius > 0)
+        paintRoundCorners(m_painter, m_geometry.area, m_geometry.cornerRadius,
+                          m_palette.color(QPalette::Window));
     m_painter.setRenderHint(QPainter::Antialiasing);
     if (focus == Focus::shown)
         paintFocus();
