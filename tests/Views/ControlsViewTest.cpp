@@ -2,6 +2,7 @@
 
 #include "Export/ExportSettings.h"
 #include "Models/EditStateFixture.h"
+#include "QtSupport/Pixels.h"
 #include "QtSupport/PreferencesFixture.h"
 #include "TestSupport/TemporaryFolder.h"
 #include "Views/Controls/ExportButton.h"
@@ -19,10 +20,12 @@
 #include <QTest>
 
 #include <memory>
+#include <utility>
 
 namespace brisklet {
 namespace {
 
+using testsupport::pumpPending;
 using testsupport::pumpUntil;
 
 class ControlsViewTest : public EditStateFixture {
@@ -293,6 +296,70 @@ TEST_F(ControlsViewTest, opensItsMenuByTheDownKey) {
     QTest::keyClick(&m_controls->exportButton(), Qt::Key_Down);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu()));
     menu().close();
+}
+
+TEST_F(ControlsViewTest, opensItsMenuByTheKeysOfTheDesktop) {
+    ExportButton& button = m_controls->exportButton();
+    button.setFocus(Qt::TabFocusReason);
+    for (const auto& [key, modifiers] :
+         {std::pair(Qt::Key_Down, Qt::KeyboardModifiers(Qt::AltModifier)),
+          std::pair(Qt::Key_F4, Qt::KeyboardModifiers())}) {
+        QTest::keyClick(&button, key, modifiers);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu()));
+        menu().close();
+    }
+}
+
+/// The pointer leaves the button for the menu, which the button was not told.
+TEST_F(ControlsViewTest, forgetsThePointerThatWentToItsMenu) {
+    ExportButton& button = m_controls->exportButton();
+    // The whole screen at twice the density.
+    m_window.setGeometry(0, 0, 400, 400);
+    m_controls->setGeometry(0, 350, 400, 40);
+    QTest::mouseMove(&m_window, QPoint(5, 5));
+    pumpPending();
+    const QImage plain = button.grab().toImage();
+    QTest::mouseMove(&button, button.menuRect().center());
+    pumpPending();
+    EXPECT_NE(button.grab().toImage(), plain);
+    choose(QStringLiteral("MP4"));
+    pumpPending();
+    EXPECT_EQ(button.grab().toImage(), plain);
+}
+
+/// The ring was of nearly the colour of the button.
+TEST_F(ControlsViewTest, showsTheFocusOnTheColourOfTheExportButton) {
+    const QPalette light = QApplication::palette();
+    for (const QPalette& palette :
+         {light, QPalette(QColor(0x38, 0x38, 0x3d), QColor(0x24, 0x24, 0x28))}) {
+        QApplication::setPalette(palette);
+        ExportButton& button = m_controls->exportButton();
+        button.setFocus(Qt::TabFocusReason);
+        pumpPending();
+        const testsupport::Pixels pixels(button);
+        const double x = button.width() / 3.0;
+        const QColor fill = pixels.at(x, 1);
+        EXPECT_GE(theme::contrast(pixels.at(x, 3), fill), 3);
+        EXPECT_GE(theme::contrast(pixels.at(x, button.height() - 3), fill), 3);
+    }
+    QApplication::setPalette(light);
+}
+
+TEST_F(ControlsViewTest, tellsAssistiveProgramsOfItsMenu) {
+    auto* button = QAccessible::queryAccessibleInterface(&m_controls->exportButton());
+    EXPECT_TRUE(button->state().hasPopup);
+    EXPECT_FALSE(button->state().expanded);
+    EXPECT_NE(button->text(QAccessible::Description), QString());
+    ASSERT_EQ(button->childCount(), 1);
+    EXPECT_EQ(button->child(0)->object(), &menu());
+    EXPECT_EQ(button->indexOfChild(button->child(0)), 0);
+    QAccessibleActionInterface* actions = button->actionInterface();
+    ASSERT_EQ(actions->actionNames(), QStringList({QAccessibleActionInterface::pressAction(),
+                                                   QAccessibleActionInterface::showMenuAction()}));
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(button->state().expanded);
+    menu().close();
+    EXPECT_FALSE(button->state().expanded);
 }
 
 /// The keyboard went on to the crop, and the arrow keys moved it after an export.

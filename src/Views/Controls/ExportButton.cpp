@@ -1,5 +1,6 @@
 #include "Views/Controls/ExportButton.h"
 
+#include "Views/Controls/ExportButtonAccessible.h"
 #include "Views/Controls/FlatButton.h"
 #include "Views/Painting/ButtonPainting.h"
 #include "Views/Painting/Symbols.h"
@@ -12,6 +13,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <array>
 
 namespace brisklet {
 
@@ -25,10 +27,26 @@ constexpr int kMenuGap = 4;
 constexpr float kHoverOpacity = 0.12F;
 constexpr float kPressedOpacity = 0.24F;
 constexpr float kSeamOpacity = 0.35F;
+/// Of the focus ring from the edge, points: the ring lies on the fill, which is of its usual
+/// colour.
+constexpr qreal kRingInset = 2;
+
+/// What opens the menu of a control on desktops.
+constexpr std::array kMenuKeys{QKeyCombination(Qt::Key_Down), Qt::ALT | Qt::Key_Down,
+                               QKeyCombination(Qt::Key_F4)};
+
+bool opensMenu(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    return std::ranges::find(kMenuKeys,
+                             QKeyCombination(modifiers, static_cast<Qt::Key>(event.key()))) !=
+           kMenuKeys.end();
+}
 
 } // namespace
 
 ExportButton::ExportButton(QWidget* parent) : QToolButton(parent) {
+    installExportButtonAccessibility();
+    setAccessibleDescription(tr("The Down key opens a menu of formats and resolutions"));
     setPopupMode(QToolButton::MenuButtonPopup);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
@@ -61,7 +79,9 @@ void ExportButton::popUpMenu() {
 bool ExportButton::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto* keyEvent = static_cast<QKeyEvent*>(event);
-        if (keyEvent->modifiers() == Qt::NoModifier && keyEvent->key() == Qt::Key_Space)
+        const bool isSpace =
+            keyEvent->modifiers() == Qt::NoModifier && keyEvent->key() == Qt::Key_Space;
+        if (isSpace || opensMenu(*keyEvent))
             event->accept();
     }
     return QToolButton::event(event);
@@ -82,7 +102,7 @@ void ExportButton::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ExportButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Down)
+    if (opensMenu(*event))
         popUpMenu();
     else
         QToolButton::keyPressEvent(event);
@@ -90,6 +110,10 @@ void ExportButton::keyPressEvent(QKeyEvent* event) {
 
 bool ExportButton::isMenuOpen() const {
     return menu() && menu()->isVisible();
+}
+
+QList<QKeySequence> ExportButton::menuKeys() {
+    return QList<QKeySequence>(kMenuKeys.begin(), kMenuKeys.end());
 }
 
 QPalette ExportButton::enabledPalette() const {
@@ -106,7 +130,10 @@ void ExportButton::paintFill(QPainter& painter) const {
     if (!isEnabled())
         return;
     // Each part is highlighted by itself.
-    const bool isOnMenu = menuRect().contains(mapFromGlobal(QCursor::pos()));
+    const QPoint pointer = mapFromGlobal(QCursor::pos());
+    // While the menu has the pointer, nothing says that it has left the button.
+    const bool hasPointer = underMouse() && rect().contains(pointer);
+    const bool isOnMenu = menuRect().contains(pointer);
     const auto shade = [&](const QRect& part, bool isHovered, bool isPressed) {
         if (!isHovered && !isPressed)
             return;
@@ -117,8 +144,8 @@ void ExportButton::paintFill(QPainter& painter) const {
         painter.fillPath(shape, color);
         painter.restore();
     };
-    shade(labelRect(), underMouse() && !isOnMenu, isDown());
-    shade(menuRect(), underMouse() && isOnMenu, isMenuOpen());
+    shade(labelRect(), hasPointer && !isOnMenu, isDown());
+    shade(menuRect(), hasPointer && isOnMenu, isMenuOpen());
 }
 
 void ExportButton::paintEvent(QPaintEvent* /*event*/) {
@@ -140,7 +167,9 @@ void ExportButton::paintEvent(QPaintEvent* /*event*/) {
                        kChevronSide),
                 ink);
     if (hasFocus())
-        buttonpainting::paintFocusRing(painter, rect(), palette());
+        buttonpainting::paintFocusRing(
+            painter, QRectF(rect()).adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset),
+            ink);
 }
 
 } // namespace brisklet

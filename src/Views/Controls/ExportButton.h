@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QToolButton>
 
 namespace brisklet {
 
-/// A button of two parts: the label, which triggers the action, and a chevron at its end,
-/// which opens the menu. The Down key opens the menu too. Main thread.
+/// A button of two parts: the label, which triggers the action, and a chevron at its end, which
+/// opens the menu. menuKeys() open the menu too. Main thread.
 class ExportButton final : public QToolButton {
     Q_OBJECT
 
@@ -22,6 +23,10 @@ public:
     /// Opens the menu and returns.
     void popUpMenu();
 
+    [[nodiscard]] bool isMenuOpen() const;
+
+    static QList<QKeySequence> menuKeys();
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -34,7 +39,6 @@ private:
     /// The palette of the enabled button.
     [[nodiscard]] QPalette enabledPalette() const;
     void paintFill(QPainter& painter) const;
-    [[nodiscard]] bool isMenuOpen() const;
 };
 
 } // namespace brisklet

@@ -57,7 +57,7 @@ void FlatButton::paintEvent(QPaintEvent* /*event*/) {
         QRectF((width() - kSymbolSide) / 2, (height() - kSymbolSide) / 2, kSymbolSide, kSymbolSide),
         symbolColor());
     if (hasFocus())
-        buttonpainting::paintFocusRing(painter, rect(), palette());
+        buttonpainting::paintFocusRing(painter, rect(), theme::accent(palette()));
 }
 
 void FlatButton::enterEvent(QEnterEvent* event) {

@@ -26,9 +26,9 @@ void paintState(QPainter& painter, const QRectF& rect, const QPalette& palette, 
     painter.drawRoundedRect(rect, kRadius, kRadius);
 }
 
-void paintFocusRing(QPainter& painter, const QRectF& rect, const QPalette& palette) {
+void paintFocusRing(QPainter& painter, const QRectF& rect, const QColor& color) {
     constexpr qreal kInset = kRingWidth / 2;
-    painter.setPen(QPen(theme::accent(palette), kRingWidth));
+    painter.setPen(QPen(color, kRingWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(rect.adjusted(kInset, kInset, -kInset, -kInset), kRadius, kRadius);
 }

@@ -2,6 +2,7 @@
 
 #include <QRectF>
 
+class QColor;
 class QPainter;
 class QPalette;
 
@@ -15,7 +16,7 @@ inline constexpr qreal kRadius = 6;
 void paintState(QPainter& painter, const QRectF& rect, const QPalette& palette, bool isHovered,
                 bool isPressed);
 
-/// Shows that a control has the focus.
-void paintFocusRing(QPainter& painter, const QRectF& rect, const QPalette& palette);
+/// Shows that a control has the focus, inside `rect`.
+void paintFocusRing(QPainter& painter, const QRectF& rect, const QColor& color);
 
 } // namespace brisklet::buttonpainting
