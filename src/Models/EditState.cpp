@@ -209,12 +209,15 @@ QCoro::Task<> EditState::loadAsset(QUrl url, std::optional<KeptEdit> kept) {
         self->m_strip.request_stop();
         self->m_strip = {};
         stripStop = self->m_strip.get_token();
+        self->m_isMakingThumbnails = true;
     }
     auto strip = Thumbnailer::filmstrip(video.asset, video.duration, kThumbnailCount, stripStop);
     const QList<QImage> images = co_await strip;
     const auto self = weak.lock();
-    if (self && !stripStop.stop_requested())
-        self->m_thumbnails = images;
+    if (!self || stripStop.stop_requested())
+        co_return;
+    self->m_thumbnails = images;
+    self->m_isMakingThumbnails = false;
 }
 
 void EditState::failToLoad(const QString& message, const std::optional<KeptEdit>& kept) {

@@ -65,6 +65,9 @@ public:
     /// The filmstrip, in time order.
     [[nodiscard]] const QList<QImage>& thumbnails() const { return m_thumbnails.value(); }
 
+    /// Whether the filmstrip is being made.
+    [[nodiscard]] bool isMakingThumbnails() const { return m_isMakingThumbnails; }
+
     [[nodiscard]] double currentTime() const { return m_currentTime; }
 
     [[nodiscard]] bool isPlaying() const { return m_isPlaying; }
@@ -224,6 +227,7 @@ Q_SIGNALS:
     void durationChanged();
     void displaySizeChanged();
     void thumbnailsChanged();
+    void isMakingThumbnailsChanged();
     void currentTimeChanged();
     void isPlayingChanged();
     void trimStartChanged();
@@ -284,6 +288,8 @@ private:
                                &EditState::displaySizeChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, QList<QImage>, m_thumbnails,
                                &EditState::thumbnailsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(EditState, bool, m_isMakingThumbnails,
+                               &EditState::isMakingThumbnailsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, double, m_currentTime, &EditState::currentTimeChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, bool, m_isPlaying, &EditState::isPlayingChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, double, m_trimStart, &EditState::trimStartChanged)

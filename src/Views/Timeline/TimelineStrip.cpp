@@ -13,6 +13,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -34,6 +35,8 @@ constexpr double kSymbolOpacity = 0.6;
 /// size 11.
 constexpr double kSymbolSide = 18;
 constexpr double kFocusWidth = 2;
+/// How long a filmstrip may take before the strip says that it is coming.
+constexpr std::chrono::seconds kUntilNotice(1);
 /// From the playhead to its focus ring, points.
 constexpr double kFocusDistance = 2;
 
@@ -99,9 +102,27 @@ void TimelineStrip::observe() {
     connect(state, &EditState::trimEndChanged, this, &TimelineStrip::refresh);
     connect(state, &EditState::currentTimeChanged, this, &TimelineStrip::refresh);
     connect(state, &EditState::thumbnailsChanged, this, qOverload<>(&QWidget::update));
+    connect(state, &EditState::isMakingThumbnailsChanged, this, &TimelineStrip::followThumbnails);
+    connect(state, &EditState::videoURLChanged, this, &TimelineStrip::followThumbnails);
+    m_untilNotice.setSingleShot(true);
+    connect(&m_untilNotice, &QTimer::timeout, this, [this] {
+        m_showsNotice = true;
+        update();
+    });
+    followThumbnails();
     connect(&m_escape, &DragEscape::interrupted, this, &TimelineStrip::endDrag);
     for (TimelineMarker* marker : m_markers)
         connect(marker, &TimelineMarker::focusShownChanged, this, qOverload<>(&QWidget::update));
+}
+
+void TimelineStrip::followThumbnails() {
+    m_showsNotice = false;
+    // Once, and without a picture that moves: a window that waits for a slow disk stays idle.
+    if (m_state->isMakingThumbnails())
+        m_untilNotice.start(kUntilNotice);
+    else
+        m_untilNotice.stop();
+    update();
 }
 
 void TimelineStrip::refresh() {
@@ -304,12 +325,21 @@ void TimelineStrip::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(grid.rect(geometry.filmstrip()), theme::quaternary(palette()));
     else
         m_filmstrip.paint(painter, geometry, m_state->thumbnails());
+    if (m_showsNotice)
+        paintNotice(painter);
     paintShades(painter, grid);
     paintRangeFrame(painter, grid);
     paintPlayhead(painter, grid);
     for (const EditMarker end : kRangeEnds)
         paintHandle(painter, grid, end);
     paintFocus(painter, grid);
+}
+
+void TimelineStrip::paintNotice(QPainter& painter) const {
+    painter.setFont(theme::captionFont(font()));
+    painter.setPen(theme::primary(palette()));
+    painter.drawText(geometryNow().filmstrip(), Qt::AlignCenter, tr("Making the filmstrip…"));
+    painter.setPen(Qt::NoPen);
 }
 
 void TimelineStrip::paintShades(QPainter& painter, const DeviceGrid& grid) const {

@@ -8,6 +8,7 @@
 #include "Views/Timeline/TimelineGeometry.h"
 #include "Views/Timeline/WheelSteps.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -74,6 +75,8 @@ private:
     void pointAt(const QPointF& position);
     void showHover();
 
+    void followThumbnails();
+    void paintNotice(QPainter& painter) const;
     void paintShades(QPainter& painter, const DeviceGrid& grid) const;
     void paintRangeFrame(QPainter& painter, const DeviceGrid& grid) const;
     void paintPlayhead(QPainter& painter, const DeviceGrid& grid) const;
@@ -85,6 +88,10 @@ private:
     int m_handleWidth;
     std::array<TimelineMarker*, kEditMarkers.size()> m_markers{};
     TimelineFilmstrip m_filmstrip;
+    /// Runs while a filmstrip is being made, until it is time to say so.
+    QTimer m_untilNotice;
+    /// The filmstrip has been coming for so long that the strip says so.
+    bool m_showsNotice = false;
     /// The geometry for which a repaint was requested last.
     TimelineGeometry m_shown;
     /// None while the mouse drags nothing.
