@@ -9,6 +9,8 @@
 #include "Support/LocalizedMessage.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/QuickAction/QuickAction.h"
+#include "Views/Shortcuts/KeyboardShortcutsView.h"
+#include "Views/WindowKeys.h"
 
 #include <QAction>
 #include <QApplication>
@@ -81,7 +83,12 @@ void AppCommands::makeApplicationActions() {
     m_quickAction = add({});
     m_quickAction->setMenuRole(QAction::ApplicationSpecificRole);
     connect(m_quickAction, &QAction::triggered, this, &AppCommands::toggleQuickAction);
-    m_quit = add(tr("Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    m_shortcuts = add(tr("Keyboard Shortcuts"), Qt::CTRL | Qt::Key_Question);
+    connect(m_shortcuts, &QAction::triggered, this, [this] {
+        if (QWidget* shown = window())
+            KeyboardShortcutsView::openFor(*shown);
+    });
+    m_quit = add(tr("Quit"), kQuitKey);
     m_quit->setMenuRole(QAction::QuitRole);
     connect(m_quit, &QAction::triggered, this, &AppCommands::quitRequested);
 }
@@ -107,7 +114,7 @@ void AppCommands::makeFileActions() {
     connect(m_showLastExport, &QAction::triggered, this, &AppCommands::showLastExport);
     m_close = add(tr("Close Video"));
     // The menu shows the first; the second is the usual one of the desktop.
-    m_close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)});
+    m_close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(kCloseKey)});
     connect(m_close, &QAction::triggered, this, &AppCommands::closeWindow);
 }
 
@@ -178,6 +185,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
     clip->addActions({m_previousFrame, m_nextFrame});
     clip->addSeparator();
     clip->addAction(m_loop);
+    menuBar.addMenu(tr("&Help"))->addAction(m_shortcuts);
 }
 
 void AppCommands::setReopenEnabled(bool enabled) {

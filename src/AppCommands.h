@@ -87,6 +87,7 @@ private:
     QAction* m_previousFrame = nullptr;
     QAction* m_nextFrame = nullptr;
     QAction* m_loop = nullptr;
+    QAction* m_shortcuts = nullptr;
 };
 
 } // namespace brisklet

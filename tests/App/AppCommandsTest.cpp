@@ -102,7 +102,7 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     std::vector<std::string> titles;
     for (const QAction* action : m_menuBar->actions())
         titles.push_back(action->text().remove(u'&').toStdString());
-    EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip"));
+    EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip", "Help"));
     EXPECT_THAT(entries(*menu(0)), ElementsAre("About Brisklet", "Check for Updates…", "-",
                                                "Install Finder Quick Action", "-", "Quit|Ctrl+Q"));
     EXPECT_THAT(entries(*menu(1)),
@@ -113,6 +113,7 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     EXPECT_THAT(entries(*menu(3)),
                 ElementsAre("Set Trim Start at Playhead|[", "Set Trim End at Playhead|]", "-",
                             "Previous Frame|Left", "Next Frame|Right", "-", "Loop Playback|L"));
+    EXPECT_THAT(entries(*menu(4)), ElementsAre("Keyboard Shortcuts|Ctrl+?"));
 }
 
 TEST_F(AppCommandsTest, isMostlyDisabledWithoutAWindow) {

@@ -176,15 +176,16 @@ void ControlsView::addResolutions(QMenu& menu) {
 }
 
 void ControlsView::addKeys() {
-    const auto add = [this](Qt::Key key, FlatButton* button) {
+    const auto add = [this](Qt::Key key, FlatButton* button, const QString& effect) {
         auto* shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setWhatsThis(effect);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, button, &FlatButton::click);
     };
-    add(Qt::Key_Space, m_playButton);
-    add(Qt::Key_M, m_muteButton);
-    add(Qt::Key_R, m_rotateButton);
-    add(Qt::Key_K, m_cropButton);
+    add(Qt::Key_Space, m_playButton, tr("Play or pause"));
+    add(Qt::Key_M, m_muteButton, tr("Mute or unmute"));
+    add(Qt::Key_R, m_rotateButton, tr("Rotate left"));
+    add(Qt::Key_K, m_cropButton, tr("Crop or remove the crop"));
 }
 
 void ControlsView::observe() {

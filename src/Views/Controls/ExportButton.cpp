@@ -116,6 +116,14 @@ QList<QKeySequence> ExportButton::menuKeys() {
     return QList<QKeySequence>(kMenuKeys.begin(), kMenuKeys.end());
 }
 
+QList<ShortcutGroup> ExportButton::shortcutGroups() const {
+    QStringList names;
+    for (const QKeySequence& key : menuKeys())
+        names << key.toString(QKeySequence::NativeText);
+    return {{tr("Export button, reached by Tab"),
+             {{names.join(QStringLiteral(", ")), tr("Choose format and resolution")}}}};
+}
+
 QPalette ExportButton::enabledPalette() const {
     QPalette result = palette();
     result.setCurrentColorGroup(QPalette::Active);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Views/Shortcuts/ShortcutSource.h"
+
 #include <QKeySequence>
 #include <QToolButton>
 
@@ -7,7 +9,7 @@ namespace brisklet {
 
 /// A button of two parts: the label, which triggers the action, and a chevron at its end, which
 /// opens the menu. menuKeys() open the menu too. Main thread.
-class ExportButton final : public QToolButton {
+class ExportButton final : public QToolButton, public ShortcutSource {
     Q_OBJECT
 
 public:
@@ -26,6 +28,7 @@ public:
     [[nodiscard]] bool isMenuOpen() const;
 
     static QList<QKeySequence> menuKeys();
+    [[nodiscard]] QList<ShortcutGroup> shortcutGroups() const override;
 
 protected:
     bool event(QEvent* event) override;

@@ -1,11 +1,36 @@
 #include "Views/Crop/CropKeys.h"
 
+#include <QCoreApplication>
+#include <QKeySequence>
+
+#include <algorithm>
+#include <array>
+
 namespace brisklet {
 
 namespace {
 
 constexpr double kStep = 1;
 constexpr double kShiftStep = 10;
+
+constexpr auto kContext = "brisklet::CropOverlayView";
+
+/// What the arrow keys change with these modifiers held.
+struct Part {
+    Qt::KeyboardModifiers modifiers;
+    /// Of the keys to the left and right, and of those up and down; none moves the whole crop.
+    std::optional<CropHandle> sideways;
+    std::optional<CropHandle> upright;
+    const char* effect;
+};
+
+constexpr std::array kParts{
+    Part{Qt::NoModifier, {}, {}, QT_TRANSLATE_NOOP("brisklet::CropOverlayView", "Move the crop")},
+    Part{Qt::ControlModifier, CropHandle::right, CropHandle::bottom,
+         QT_TRANSLATE_NOOP("brisklet::CropOverlayView", "Move its right or bottom side")},
+    Part{Qt::AltModifier, CropHandle::left, CropHandle::top,
+         QT_TRANSLATE_NOOP("brisklet::CropOverlayView", "Move its left or top side")},
+};
 
 std::optional<QPointF> directionOf(int key) {
     switch (key) {
@@ -26,22 +51,26 @@ std::optional<QPointF> directionOf(int key) {
 
 std::optional<CropKey> CropKey::of(int key, Qt::KeyboardModifiers modifiers) {
     const auto direction = directionOf(key);
-    if (!direction)
+    const auto part = std::ranges::find(
+        kParts, modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier), &Part::modifiers);
+    if (!direction || part == kParts.end())
         return std::nullopt;
-    CropKey result{*direction * (modifiers & Qt::ShiftModifier ? kShiftStep : kStep), {}};
-    const bool isSideways = direction->x() != 0;
-    switch (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) {
-    case Qt::NoModifier:
-        return result;
-    case Qt::ControlModifier:
-        result.handle = isSideways ? CropHandle::right : CropHandle::bottom;
-        return result;
-    case Qt::AltModifier:
-        result.handle = isSideways ? CropHandle::left : CropHandle::top;
-        return result;
-    default:
-        return std::nullopt;
+    const double step = modifiers & Qt::ShiftModifier ? kShiftStep : kStep;
+    return CropKey{*direction * step, direction->x() != 0 ? part->sideways : part->upright};
+}
+
+QList<Shortcut> CropKey::shortcuts() {
+    const QString arrows = QCoreApplication::translate(kContext, "Arrow keys");
+    QList<Shortcut> shortcuts;
+    for (const Part& part : kParts) {
+        // "Ctrl+", in the words of the desktop.
+        const QString held = QKeySequence(static_cast<int>(part.modifiers.toInt()))
+                                 .toString(QKeySequence::NativeText);
+        shortcuts << Shortcut{held + arrows, QCoreApplication::translate(kContext, part.effect)};
     }
+    shortcuts << Shortcut{QCoreApplication::translate(kContext, "Shift with these keys"),
+                          QCoreApplication::translate(kContext, "Ten times as far")};
+    return shortcuts;
 }
 
 } // namespace brisklet

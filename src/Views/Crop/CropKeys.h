@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Views/Crop/CropGeometry.h"
+#include "Views/Shortcuts/ShortcutSource.h"
 
 #include <QPointF>
 #include <QtCore/qnamespace.h>
@@ -19,6 +20,8 @@ struct CropKey {
     /// An arrow key goes one point in its direction, with Shift ten. By itself it moves the crop,
     /// with Ctrl the right or bottom side, with Alt the left or top side. None for other keys.
     static std::optional<CropKey> of(int key, Qt::KeyboardModifiers modifiers);
+    /// All of these keys, for people.
+    static QList<Shortcut> shortcuts();
 
     friend bool operator==(const CropKey&, const CropKey&) = default;
 };

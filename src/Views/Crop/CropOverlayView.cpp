@@ -97,6 +97,14 @@ int CropOverlayView::reach() const {
     return static_cast<int>(std::ceil(CropPainting::reach(m_geometry)));
 }
 
+QList<ShortcutGroup> CropOverlayView::shortcutGroups() const {
+    return {{tr("Crop, by mouse"),
+             {{tr("Drag inside it"), tr("Move the crop")},
+              {tr("Drag a handle"), tr("Resize the crop")},
+              {tr("Esc during a drag"), tr("Take the drag back")}}},
+            {tr("Crop, reached by Tab"), CropKey::shortcuts()}};
+}
+
 void CropOverlayView::followCrop() {
     const bool isWanted = m_state->cropRect().has_value();
     if (!isWanted) {

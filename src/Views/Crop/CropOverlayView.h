@@ -3,6 +3,7 @@
 #include "Models/EditGesture.h"
 #include "Views/Crop/CropGeometry.h"
 #include "Views/DragEscape.h"
+#include "Views/Shortcuts/ShortcutSource.h"
 
 #include <QWidget>
 
@@ -24,7 +25,7 @@ class EditState;
 /// Escape during a drag restores the crop as it was before.
 ///
 /// Main thread.
-class CropOverlayView final : public QWidget {
+class CropOverlayView final : public QWidget, public ShortcutSource {
     Q_OBJECT
 
 public:
@@ -49,6 +50,8 @@ public:
     /// How far handles extend beyond the picture, points: for them to be whole and to be gripped
     /// there, this view extends as far beyond the area of the picture.
     [[nodiscard]] int reach() const;
+
+    [[nodiscard]] QList<ShortcutGroup> shortcutGroups() const override;
 
 protected:
     bool event(QEvent* event) override;

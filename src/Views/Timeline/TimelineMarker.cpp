@@ -8,7 +8,10 @@
 #include <QAccessible>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace brisklet {
@@ -17,6 +20,39 @@ namespace {
 
 /// How much farther a key goes with Shift.
 constexpr int kShiftFactor = 10;
+
+struct KeyMove {
+    int key;
+    TimelineMove move;
+};
+
+/// The keys of a marker that has the focus.
+constexpr std::array kKeyMoves{
+    KeyMove{Qt::Key_Left, {TimelineMove::Kind::byFrames, -1}},
+    KeyMove{Qt::Key_Down, {TimelineMove::Kind::byFrames, -1}},
+    KeyMove{Qt::Key_Right, {TimelineMove::Kind::byFrames, 1}},
+    KeyMove{Qt::Key_Up, {TimelineMove::Kind::byFrames, 1}},
+    KeyMove{Qt::Key_PageDown, {TimelineMove::Kind::bySeconds, -1}},
+    KeyMove{Qt::Key_PageUp, {TimelineMove::Kind::bySeconds, 1}},
+    KeyMove{Qt::Key_Home, {TimelineMove::Kind::toMinimum, 0}},
+    KeyMove{Qt::Key_End, {TimelineMove::Kind::toMaximum, 0}},
+};
+
+QString describe(const TimelineMove& move) {
+    switch (move.kind) {
+    case TimelineMove::Kind::byFrames:
+        return move.count < 0 ? TimelineMarker::tr("One frame back")
+                              : TimelineMarker::tr("One frame forward");
+    case TimelineMove::Kind::bySeconds:
+        return move.count < 0 ? TimelineMarker::tr("One second back")
+                              : TimelineMarker::tr("One second forward");
+    case TimelineMove::Kind::toMinimum:
+        return TimelineMarker::tr("As far back as possible");
+    case TimelineMove::Kind::toMaximum:
+        return TimelineMarker::tr("As far forward as possible");
+    }
+    return {};
+}
 
 QString nameOf(EditMarker marker) {
     //: For screen readers: the handles on the time line. Trim start is the beginning of what is
@@ -36,27 +72,29 @@ QString nameOf(EditMarker marker) {
 
 std::optional<TimelineMove> TimelineMove::of(int key, Qt::KeyboardModifiers modifiers) {
     const auto others = modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    if (others != Qt::NoModifier)
+    const auto found = std::ranges::find(kKeyMoves, key, &KeyMove::key);
+    if (others != Qt::NoModifier || found == kKeyMoves.end())
         return std::nullopt;
-    const int count = modifiers & Qt::ShiftModifier ? kShiftFactor : 1;
-    switch (key) {
-    case Qt::Key_Left:
-    case Qt::Key_Down:
-        return TimelineMove{Kind::byFrames, -count};
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-        return TimelineMove{Kind::byFrames, count};
-    case Qt::Key_PageDown:
-        return TimelineMove{Kind::bySeconds, -count};
-    case Qt::Key_PageUp:
-        return TimelineMove{Kind::bySeconds, count};
-    case Qt::Key_Home:
-        return TimelineMove{Kind::toMinimum};
-    case Qt::Key_End:
-        return TimelineMove{Kind::toMaximum};
-    default:
-        return std::nullopt;
+    TimelineMove move = found->move;
+    if (modifiers & Qt::ShiftModifier)
+        move.count *= kShiftFactor;
+    return move;
+}
+
+QList<Shortcut> TimelineMove::shortcuts() {
+    QList<Shortcut> shortcuts;
+    for (const KeyMove& row : kKeyMoves) {
+        const QString effect = describe(row.move);
+        const QString name = QKeySequence(row.key).toString(QKeySequence::NativeText);
+        const auto same = std::ranges::find(shortcuts, effect, &Shortcut::effect);
+        if (same == shortcuts.end())
+            shortcuts << Shortcut{name, effect};
+        else
+            same->keys += QStringLiteral(", ") + name;
     }
+    shortcuts << Shortcut{TimelineMarker::tr("Shift with these keys"),
+                          TimelineMarker::tr("Ten times as far")};
+    return shortcuts;
 }
 
 TimelineMarker::TimelineMarker(std::shared_ptr<EditState> state, EditMarker marker, QWidget* strip)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Models/EditMarker.h"
+#include "Views/Shortcuts/ShortcutSource.h"
 
 #include <QString>
 #include <QWidget>
@@ -23,6 +24,8 @@ struct TimelineMove {
     /// The move that a key stands for, if any. Left is always backward, also where text runs from
     /// right to left.
     static std::optional<TimelineMove> of(int key, Qt::KeyboardModifiers modifiers);
+    /// All of these keys, for people.
+    static QList<Shortcut> shortcuts();
 
     friend bool operator==(const TimelineMove&, const TimelineMove&) = default;
 };

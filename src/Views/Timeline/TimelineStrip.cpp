@@ -95,6 +95,14 @@ TimelineMarker& TimelineStrip::marker(EditMarker marker) const {
     return *m_markers.at(static_cast<std::size_t>(marker));
 }
 
+QList<ShortcutGroup> TimelineStrip::shortcutGroups() const {
+    return {{tr("Timeline, by mouse"),
+             {{tr("Click or drag"), tr("Move the playhead")},
+              {tr("Drag a handle"), tr("Move the trim start or the trim end")},
+              {tr("Esc during a drag"), tr("Take the drag back")}}},
+            {tr("Trim start, playhead and trim end, reached by Tab"), TimelineMove::shortcuts()}};
+}
+
 void TimelineStrip::observe() {
     const EditState* state = m_state.get();
     connect(state, &EditState::durationChanged, this, &TimelineStrip::refresh);

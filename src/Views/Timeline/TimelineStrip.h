@@ -2,6 +2,7 @@
 
 #include "Models/EditGesture.h"
 #include "Views/DragEscape.h"
+#include "Views/Shortcuts/ShortcutSource.h"
 #include "Views/Timeline/FineDrag.h"
 #include "Views/Timeline/MarkerReadout.h"
 #include "Views/Timeline/TimelineFilmstrip.h"
@@ -25,7 +26,7 @@ class TimelineMarker;
 /// that end of the range, one anywhere else moves the playhead; both follow the absolute position
 /// of the pointer, or with Shift a part of its movement (FineDrag). Escape takes a drag back. The
 /// wheel moves the playhead, or the handle under the pointer, by frames (WheelSteps). Main thread.
-class TimelineStrip final : public QWidget {
+class TimelineStrip final : public QWidget, public ShortcutSource {
     Q_OBJECT
 
 public:
@@ -41,6 +42,8 @@ public:
     }
 
     [[nodiscard]] TimelineMarker& marker(EditMarker marker) const;
+
+    [[nodiscard]] QList<ShortcutGroup> shortcutGroups() const override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

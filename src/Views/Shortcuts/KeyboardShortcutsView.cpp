@@ -1,0 +1,71 @@
+#include "Views/Shortcuts/KeyboardShortcutsView.h"
+
+#include "Support/MainThread.h"
+#include "Views/Painting/Theme.h"
+#include "Views/Shortcuts/ShortcutList.h"
+#include "Views/WindowKeys.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QShortcut>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace brisklet {
+
+namespace {
+
+/// Fits beside or over the smallest window.
+constexpr QSize kInitialSize(520, 440);
+
+void add(QTreeWidget& page, const ShortcutGroup& group) {
+    auto* title = new QTreeWidgetItem(&page, {group.title});
+    title->setFirstColumnSpanned(true);
+    title->setFont(0, theme::headlineFont(page.font()));
+    for (const Shortcut& shortcut : group.shortcuts)
+        new QTreeWidgetItem(title, {shortcut.effect, shortcut.keys});
+}
+
+QTreeWidget* makePage(const QList<ShortcutGroup>& groups) {
+    auto* page = new QTreeWidget;
+    page->setAccessibleName(KeyboardShortcutsView::tr("Keyboard Shortcuts"));
+    page->setHeaderLabels(
+        {KeyboardShortcutsView::tr("Action"), KeyboardShortcutsView::tr("Keys or gesture")});
+    page->setRootIsDecorated(false);
+    page->setItemsExpandable(false);
+    page->setUniformRowHeights(true);
+    page->setAllColumnsShowFocus(true);
+    for (const ShortcutGroup& group : groups)
+        add(*page, group);
+    page->expandAll();
+    page->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    page->setCurrentItem(page->topLevelItem(0));
+    return page;
+}
+
+} // namespace
+
+KeyboardShortcutsView::KeyboardShortcutsView(const QList<ShortcutGroup>& groups, QWidget* window)
+    : QDialog(window) {
+    verifyMainThread();
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("Keyboard Shortcuts"));
+    resize(kInitialSize);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* stack = new QVBoxLayout(this);
+    stack->addWidget(makePage(groups));
+    stack->addWidget(buttons);
+    new QShortcut(kCloseKey, this, this, &QDialog::reject);
+}
+
+void KeyboardShortcutsView::openFor(QWidget& window) {
+    auto* page = window.findChild<KeyboardShortcutsView*>();
+    if (page == nullptr)
+        page = new KeyboardShortcutsView(shortcutsOf(window), &window);
+    page->show();
+    page->raise();
+    page->activateWindow();
+}
+
+} // namespace brisklet

@@ -1,0 +1,75 @@
+#include "Views/Shortcuts/ShortcutList.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QWidget>
+
+namespace brisklet {
+
+namespace {
+
+QString withoutMnemonic(QString text) {
+    return text.remove(u'&');
+}
+
+QString namesOf(const QList<QKeySequence>& keys) {
+    QStringList names;
+    for (const QKeySequence& key : keys)
+        names << key.toString(QKeySequence::NativeText);
+    return names.join(QStringLiteral(", "));
+}
+
+void append(QList<ShortcutGroup>& groups, const ShortcutGroup& group) {
+    if (!group.shortcuts.isEmpty())
+        groups << group;
+}
+
+void appendMenus(QList<ShortcutGroup>& groups, const QMenuBar& menuBar) {
+    for (const QAction* entry : menuBar.actions()) {
+        ShortcutGroup group{withoutMnemonic(entry->text()), {}};
+        for (const QAction* command : entry->menu()->actions()) {
+            if (!command->shortcuts().isEmpty())
+                group.shortcuts << Shortcut{namesOf(command->shortcuts()),
+                                            withoutMnemonic(command->text())};
+        }
+        append(groups, group);
+    }
+}
+
+/// Not those of the dialogs over the window.
+bool isOf(const QWidget& window, const QObject* child) {
+    const auto* widget = qobject_cast<const QWidget*>(child);
+    return widget != nullptr && widget->window() == &window;
+}
+
+void appendControls(QList<ShortcutGroup>& groups, const QWidget& window) {
+    ShortcutGroup group{QCoreApplication::translate("brisklet::KeyboardShortcutsView", "Controls"),
+                        {}};
+    for (const QShortcut* shortcut : window.findChildren<QShortcut*>()) {
+        if (isOf(window, shortcut->parent()))
+            group.shortcuts << Shortcut{namesOf({shortcut->key()}), shortcut->whatsThis()};
+    }
+    append(groups, group);
+}
+
+} // namespace
+
+QList<ShortcutGroup> shortcutsOf(const QWidget& window) {
+    QList<ShortcutGroup> groups;
+    if (const auto* menuBar = window.findChild<QMenuBar*>())
+        appendMenus(groups, *menuBar);
+    appendControls(groups, window);
+    for (const QWidget* view : window.findChildren<QWidget*>()) {
+        const auto* source = dynamic_cast<const ShortcutSource*>(view);
+        if (source == nullptr || !isOf(window, view))
+            continue;
+        for (const ShortcutGroup& group : source->shortcutGroups())
+            append(groups, group);
+    }
+    return groups;
+}
+
+} // namespace brisklet
