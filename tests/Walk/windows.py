@@ -128,10 +128,10 @@ class Closing:
         expect("Keep Exporting" in names and "Stop and Close" in names, f"the answers are {names}")
         self.program.keep_picture("closing-question")
         self.tree.wait("push button", name).act()
-        self.tree.wait_gone("label", "Stop the export and close?")
 
     def keep_exporting(self):
         self.answer("Keep Exporting")
+        self.tree.wait_gone("label", "Stop the export and close?")
         expect(self.program.has_label("Exporting…"), "the export goes on")
 
 
