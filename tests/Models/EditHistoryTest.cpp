@@ -67,8 +67,10 @@ TEST_F(EditHistoryTest, takesAGestureAsOneStep) {
     const Edit before = state().edit();
     {
         const EditGesture gesture(m_state);
-        for (const double time : {1.0, 2.0, 3.0})
+        for (const double time : {1.0, 2.0, 3.0}) {
             state().moveMarker(EditMarker::trimStart, time);
+            state().moveMarker(EditMarker::trimEnd, 10 - time);
+        }
         history().undo();
         EXPECT_EQ(state().trimStart(), 3) << "in the middle of the gesture";
     }

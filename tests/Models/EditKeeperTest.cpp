@@ -136,8 +136,9 @@ TEST_F(EditKeeperTest, writesTheLastEditsAfterItsOwnEnd) {
     m_keeper->release(m_state);
     m_keeper.reset();
     waitForWorkers();
-    EXPECT_EQ(onDisk().size(), 1U);
-    EXPECT_EQ(takenByAnother()->edit, state().edit());
+    const auto kept = takenByAnother();
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->edit, state().edit());
 }
 
 TEST_F(EditKeeperTest, goesOnWithAReopenedEdit) {
@@ -173,6 +174,7 @@ TEST_F(EditKeeperTest, keepsAnEditWhoseVideoIsNotThereAndTriesTheOthersFirst) {
     std::filesystem::remove(gone);
 
     const auto missing = taken();
+    ASSERT_TRUE(missing);
     ASSERT_EQ(missing->file, gone);
     m_keeper->reopen(m_state, *missing);
     ASSERT_TRUE(waitForError());
@@ -187,6 +189,7 @@ TEST_F(EditKeeperTest, keepsAnEditWhoseWindowClosesWhileItIsReopened) {
     state().toggleCrop();
     m_keeper->release(m_state);
     const auto kept = taken();
+    ASSERT_TRUE(kept);
     m_state = std::make_shared<EditState>();
     m_keeper->watch(m_state);
     m_keeper->reopen(m_state, *kept);
@@ -210,7 +213,7 @@ TEST_F(EditKeeperTest, doesNotLoseTheEditsOfAProgramThatRunsBesideIt) {
     EXPECT_FALSE(m_keeper->canReopen());
     waitForWorkers();
     m_keeper->refresh();
-    EXPECT_TRUE(pumpUntil([this] { return m_keeper->canReopen(); }));
+    ASSERT_TRUE(pumpUntil([this] { return m_keeper->canReopen(); }));
     EXPECT_EQ(taken()->edit, model->edit());
 }
 
