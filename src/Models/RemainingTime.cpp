@@ -12,6 +12,10 @@ constexpr double kSilence = 3;
 /// whichever is more.
 constexpr double kShortestLook = 5;
 constexpr double kLookShare = 0.4;
+/// Without progress for that long, it stalls; seconds.
+constexpr double kStall = 3;
+/// Against a division by zero, seconds.
+constexpr double kLeast = 1e-3;
 /// How far the estimate may lie below and above what is told: as a share of that, and in seconds.
 constexpr double kTooHigh = 0.15;
 constexpr double kTooLow = 0.35;
@@ -20,6 +24,8 @@ constexpr double kSlack = 2;
 } // namespace
 
 void RemainingTime::report(double fraction, double seconds) {
+    if (!m_reports.empty() && fraction <= m_reports.back().fraction)
+        return;
     m_reports.push_back({fraction, seconds});
     const double look = std::max(kShortestLook, kLookShare * seconds);
     while (m_reports.size() > 2 && m_reports[1].seconds <= seconds - look)
@@ -29,12 +35,18 @@ void RemainingTime::report(double fraction, double seconds) {
 std::optional<double> RemainingTime::estimate(double seconds) const {
     if (m_reports.empty() || m_reports.back().fraction <= 0)
         return std::nullopt;
-    const double fraction = m_reports.back().fraction;
-    // Without progress meanwhile both speeds sink as the clock goes on.
-    const double recent = (fraction - m_reports.front().fraction) /
-                          std::max(seconds - m_reports.front().seconds, 1e-3);
-    const double speed = (recent + fraction / seconds) / 2;
-    return (1 - fraction) / speed;
+    const Report& latest = m_reports.back();
+    // Progress that comes in jolts is as fast between them as it was up to the last one. In a stall
+    // the speeds sink as the clock goes on.
+    const double still = seconds - latest.seconds;
+    const double now = still < kStall ? latest.seconds : seconds;
+    const double overall = latest.fraction / std::max(now, kLeast);
+    const double recent = m_reports.size() < 2
+                              ? overall
+                              : (latest.fraction - m_reports.front().fraction) /
+                                    std::max(now - m_reports.front().seconds, kLeast);
+    const double left = (1 - latest.fraction) / ((recent + overall) / 2);
+    return std::max(left - (seconds - now), 0.0);
 }
 
 std::optional<double> RemainingTime::at(double seconds) {

@@ -25,7 +25,7 @@ private:
 
     [[nodiscard]] std::optional<double> estimate(double seconds) const;
 
-    /// The latest ones, oldest first.
+    /// The latest ones that told of progress, oldest first.
     std::deque<Report> m_reports;
 
     /// What was told last, and when; seconds.

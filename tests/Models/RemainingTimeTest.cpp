@@ -78,7 +78,7 @@ TEST(RemainingTime, fallsSoonWhenTheSpeedDoubles) {
     const auto later =
         std::ranges::find_if(told, [](const Told& each) { return each.seconds > 40; });
     ASSERT_NE(later, told.end());
-    EXPECT_NEAR(later->left, 60 - later->seconds, 8);
+    EXPECT_NEAR(later->left, 45 - later->seconds, 4);
     EXPECT_LE(largestRise(told), 0);
 }
 

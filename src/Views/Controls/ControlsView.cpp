@@ -132,6 +132,7 @@ void ControlsView::buildMenu() {
     });
     menu->addSeparator();
     m_forecastLabel = addTitle(*menu, {});
+    m_forecastLabel->setContentsMargins(10, 4, 10, 6);
     m_forecastLine = menu->actions().constLast();
     m_exportButton->setMenu(menu);
     connect(menu, &QMenu::aboutToShow, this, &ControlsView::showForecast);
