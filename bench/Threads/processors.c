@@ -39,7 +39,16 @@ int sched_getaffinity(pid_t process, size_t size, cpu_set_t* set) {
     return 0;
 }
 
-// Without it libx265 counts processors itself, by the nodes of the machine.
-int numa_available(void) {
-    return -1;
+// libnuma's, which libx265 asks for the processors of each node; all are those of the first.
+struct bitmask {
+    unsigned long size;
+    unsigned long* maskp;
+};
+
+int numa_node_to_cpus(int node, struct bitmask* mask) {
+    const unsigned long bits = 8 * sizeof(unsigned long);
+    memset(mask->maskp, 0, (mask->size + bits - 1) / bits * sizeof(unsigned long));
+    for (unsigned long i = 0; node == 0 && i < (unsigned long)count() && i < mask->size; ++i)
+        mask->maskp[i / bits] |= 1UL << i % bits;
+    return 0;
 }
