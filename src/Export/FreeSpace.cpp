@@ -32,11 +32,9 @@ void expectSpaceFor(std::int64_t expectedBytes, const std::filesystem::path& out
     const double free = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);
     if (free >= kClearlyTooLittle * static_cast<double>(expectedBytes))
         return;
-    throw media::Error(
-        QStringLiteral("There is not enough free space: the video takes about %1, "
-                       "and %2 are free.")
-            .arg(approximateSize(expectedBytes), approximateSize(static_cast<std::int64_t>(free)))
-            .toStdString());
+    throw media::Error(media::ErrorKind::notEnoughSpace,
+                       {approximateSize(expectedBytes).toStdString(),
+                        approximateSize(static_cast<std::int64_t>(free)).toStdString()});
 }
 
 } // namespace brisklet

@@ -79,8 +79,21 @@ constexpr std::array kSentences{
     //: %1: the file’s name; %2: the reason, a whole sentence.
     Sentence{ErrorKind::sourceNotOpened,
              QT_TRANSLATE_NOOP("media::Error", "Couldn't open “%1”: %2")},
+    //: About a video that the sentence before has named. %1: the folder’s name.
+    Sentence{ErrorKind::keptFolderMissing,
+             QT_TRANSLATE_NOOP("media::Error", "The folder “%1” is not there.")},
+    //: About a video that the sentence before has named.
+    Sentence{ErrorKind::keptNameTaken,
+             QT_TRANSLATE_NOOP("media::Error", "Another file has its name now.")},
+    //: About a video that the sentence before has named. %1: the folder’s name.
+    Sentence{ErrorKind::keptFileGone,
+             QT_TRANSLATE_NOOP("media::Error", "It is no longer in the folder “%1”.")},
     Sentence{ErrorKind::emptyRange,
              QT_TRANSLATE_NOOP("media::Error", "The range to export is empty.")},
+    //: %1 and %2: sizes with their units, such as “46 MB”.
+    Sentence{ErrorKind::notEnoughSpace,
+             QT_TRANSLATE_NOOP("media::Error", "There is not enough free space: the video takes "
+                                               "about %1, and %2 are free.")},
     Sentence{ErrorKind::noVideoTrackInSource,
              QT_TRANSLATE_NOOP("media::Error", "The source file contains no video track.")},
     Sentence{

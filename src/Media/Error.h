@@ -36,10 +36,14 @@ enum class ErrorKind {
     unconvertiblePixelFormat, ///< The format's name.
     unconvertibleColors,
     unconvertibleScreenColors,
-    sourceNotOpened, ///< Its name; has a cause.
+    sourceNotOpened,   ///< Its name; has a cause.
+    keptFolderMissing, ///< The folder's name.
+    keptNameTaken,
+    keptFileGone, ///< Its folder's name.
 
     // Of an export.
     emptyRange,
+    notEnoughSpace, ///< What the video takes and what is free, each with its unit.
     noVideoTrackInSource,
     noExportSession,
     nothingToExport,

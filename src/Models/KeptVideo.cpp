@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <stdexcept>
-#include <string>
 #include <system_error>
 #include <vector>
 
@@ -79,18 +77,14 @@ std::optional<LoadedVideo> loadIfSame(const fs::path& path, const KeptEdit& kept
     return std::nullopt;
 }
 
-std::string quoted(const fs::path& path) {
-    return "\u201C" + path.string() + "\u201D";
-}
-
 [[noreturn]] void throwNotFound(const fs::path& file) {
     std::error_code ignored;
     const fs::path folder = file.parent_path();
     if (!fs::is_directory(folder, ignored))
-        throw std::runtime_error("The folder " + quoted(folder) + " is not there.");
+        throw media::Error(media::ErrorKind::keptFolderMissing, {folder.string()});
     if (fs::exists(fs::symlink_status(file, ignored)))
-        throw std::runtime_error("Another file has its name now.");
-    throw std::runtime_error("It is no longer in the folder " + quoted(folder) + ".");
+        throw media::Error(media::ErrorKind::keptNameTaken);
+    throw media::Error(media::ErrorKind::keptFileGone, {folder.string()});
 }
 
 KeptVideo findAndLoad(const KeptEdit& kept, const std::stop_token& stop) {

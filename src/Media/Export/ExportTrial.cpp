@@ -122,7 +122,7 @@ std::optional<ExportForecast> runTrial(const Composition& composition,
                                        const EncoderSettings& settings,
                                        const std::stop_token& stop) {
     if (!composition.asset || !composition.videoTrack)
-        throw Error("There is no video to export.");
+        throw Error(ErrorKind::nothingToExport);
     std::optional<ExportForecast> forecast;
     runStandingBack(kTrialNiceness, [&] {
         const ThreadName name("forecast");
