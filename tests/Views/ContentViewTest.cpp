@@ -325,8 +325,10 @@ TEST_F(ContentViewTest, turnsThePictureWithinTheFittedRectangle) {
 TEST_F(ContentViewTest, showsWholeHandlesAtTheEdgesOfThePicture) {
     // As high as the area, then as wide.
     for (const QSize size : {QSize(320, 240), QSize(640, 160)}) {
-        ASSERT_TRUE(loadAndWait(
-            testsupport::Recipe{.duration = 2, .width = size.width(), .height = size.height()}));
+        const auto video = testsupport::makeFixture(
+            {.duration = 2, .width = size.width(), .height = size.height()});
+        state().load(urlOf(video.path));
+        ASSERT_TRUE(hasVideo(video.path));
         state().setCropRect(media::Rect{0, 0, 1, 1});
         pumpPending();
         auto* editor = shown<EditorView>();

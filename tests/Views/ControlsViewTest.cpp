@@ -313,9 +313,10 @@ TEST_F(ControlsViewTest, opensItsMenuByTheKeysOfTheDesktop) {
 /// The pointer leaves the button for the menu, which the button was not told.
 TEST_F(ControlsViewTest, forgetsThePointerThatWentToItsMenu) {
     ExportButton& button = m_controls->exportButton();
-    // The whole screen at twice the density.
-    m_window.setGeometry(0, 0, 400, 400);
-    m_controls->setGeometry(0, 350, 400, 40);
+    // At twice the density the offscreen platform looks for the window under the pointer at twice
+    // the distance.
+    m_window.setGeometry(0, 0, 800, 800);
+    m_controls->setGeometry(0, 300, 380, 40);
     QTest::mouseMove(&m_window, QPoint(5, 5));
     pumpPending();
     const QImage plain = button.grab().toImage();

@@ -1,5 +1,6 @@
 #include "Views/Timeline/TimelineView.h"
 
+#include "Support/Thumbnailer.h"
 #include "Views/Painting/Theme.h"
 #include "Views/TimelineStage.h"
 
@@ -11,6 +12,8 @@
 
 #include <array>
 #include <limits>
+#include <stop_token>
+#include <utility>
 
 namespace {
 
@@ -322,6 +325,26 @@ TEST_F(EmptyTimelineViewTest, showsTheFilmstripAsSoonAsItIsThere) {
     ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
     pumpPending();
     EXPECT_TRUE(onScreen(m_window) == paintedAtOnce(m_window));
+}
+
+/// The strip stayed grey without a word. Strips are made one at a time, so one of another video
+/// that has no end for now holds this one up.
+TEST_F(EmptyTimelineViewTest, saysThatASlowFilmstripIsComing) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
+    const auto other = media::Asset::open(testsupport::makeFixture(kTenSeconds).path);
+    std::stop_source end;
+    auto endless = Thumbnailer::filmstrip(other, 10, 1000000, end.get_token());
+    state().load(urlOf(testsupport::makeFixture({.duration = 5}).path));
+    ASSERT_TRUE(pumpUntil([this] { return state().isMakingThumbnails(); }));
+    const QRect middle(kWidth / 2 - 100, 10, 200, 36);
+    const QImage silent = strip().grab(middle).toImage();
+    EXPECT_TRUE(pumpUntil([&] { return strip().grab(middle).toImage() != silent; }));
+    keepPicture(m_window, QStringLiteral("filmstrip-coming"));
+    end.request_stop();
+    ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
+    EXPECT_FALSE(state().isMakingThumbnails());
+    EXPECT_TRUE(pumpUntil([this] { return onScreen(m_window) == paintedAtOnce(m_window); }));
+    testsupport::await(std::move(endless));
 }
 
 // The release goes to a dialog that came meanwhile.
