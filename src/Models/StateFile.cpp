@@ -62,14 +62,22 @@ bool writeWhole(const fs::path& path, std::string_view bytes) {
     return file.isRegular() && file.write(bytes) && file.sync() && file.close();
 }
 
+/// So that the names in it outlive a power cut.
+bool syncFolder(const fs::path& path) {
+    Descriptor folder(path, O_RDONLY | O_DIRECTORY);
+    return folder.isOpen() && folder.sync();
+}
+
 } // namespace
 
 bool makeStateFolder(const fs::path& folder) {
     if (folder.empty())
         return false;
     std::error_code error;
-    if (fs::create_directories(folder, error))
+    if (fs::create_directories(folder, error)) {
         fs::permissions(folder, fs::perms::owner_all, error);
+        syncFolder(folder.parent_path());
+    }
     return fs::is_directory(folder, error);
 }
 
@@ -101,9 +109,7 @@ bool replaceStateFile(const fs::path& path, std::string_view bytes) {
         ::unlink(fresh.c_str());
         return false;
     }
-    // The file is there; whether its name outlives a power cut the folder says.
-    Descriptor folder(path.parent_path(), O_RDONLY | O_DIRECTORY);
-    return folder.isOpen() && folder.sync();
+    return syncFolder(path.parent_path());
 }
 
 bool setAsideStateFile(const fs::path& path, const fs::path& name) {
