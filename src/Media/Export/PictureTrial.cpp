@@ -212,6 +212,9 @@ void PictureTrial::receive() {
 
 void PictureTrial::addTo(TrialFigures& figures) {
     const double unit = av_q2d(m_path.timeBase());
+    double shownSeconds = 0;
+    for (const auto& [pts, bytes] : m_packets)
+        shownSeconds += static_cast<double>(m_durations.at(pts)) * unit;
     for (const Stretch& stretch : m_stretches) {
         // Without its key frame nothing of a place has been measured.
         if (!m_packets.contains(stretch.begin))
@@ -230,7 +233,8 @@ void PictureTrial::addTo(TrialFigures& figures) {
     const auto measured = static_cast<double>(m_packets.size());
     figures.isWhole = m_stretches.size() == 1 && m_stretches.back().hasEnded &&
                       m_packets.size() == m_durations.size();
-    figures.pictures = figures.isWhole ? measured : pictures();
+    // The stated rate of a source of variable rate says little.
+    figures.pictures = shownSeconds > 0 ? measured / shownSeconds * figures.seconds : pictures();
     const auto each = [](double seconds, int count) { return seconds / std::max(count, 1); };
     figures.decodeSeconds = each(m_decodeSeconds, m_decoded);
     figures.transformSeconds = each(m_transformSeconds, static_cast<int>(m_durations.size()));
