@@ -18,6 +18,8 @@ inline QProcessEnvironment environmentOn(const PrivateBus& bus, const QString& d
     environment.insert(QStringLiteral("DISPLAY"), display);
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
                        display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
+    // What it tells is compared with English, whatever the language of the person is.
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
     return environment;
 }
 

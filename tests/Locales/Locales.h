@@ -24,7 +24,7 @@ inline bool isInstalled(const char* locale) {
 inline ProcessResult runInLocale(const char* locale, const std::vector<std::string>& arguments,
                                  std::vector<std::string> environment = {}) {
     environment.insert(environment.end(),
-                       {std::string("LC_ALL=") + locale, "QT_QPA_PLATFORM=offscreen"});
+                       {std::string("LC_ALL=") + locale, "LANGUAGE=", "QT_QPA_PLATFORM=offscreen"});
     return runProcess(arguments, {.additionalEnvironment = environment});
 }
 

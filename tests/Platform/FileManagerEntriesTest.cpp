@@ -3,6 +3,9 @@
 #include "TestSupport/Process.h"
 #include "TestSupport/TemporaryFolder.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -47,6 +50,44 @@ TEST_F(FileManagerEntriesTest, writesOneForEachFileManager) {
     for (const std::size_t named : {0U, 2U, 3U})
         EXPECT_NE(contentOf(m_data / kPlaces[named]).find("\nName=Trim Video\n"),
                   std::string::npos);
+}
+
+/// The program in German.
+class German final {
+public:
+    German() {
+        EXPECT_TRUE(m_translator.load(QStringLiteral(":/translations/brisklet_de")));
+        QCoreApplication::installTranslator(&m_translator);
+    }
+
+    German(const German&) = delete;
+    German& operator=(const German&) = delete;
+
+    ~German() { QCoreApplication::removeTranslator(&m_translator); }
+
+private:
+    QTranslator m_translator;
+};
+
+TEST_F(FileManagerEntriesTest, isThereInAllLanguagesWhateverTheProgramSpeaks) {
+    install();
+    for (const std::size_t named : {0U, 2U, 3U})
+        EXPECT_NE(contentOf(m_data / kPlaces[named]).find("\nName[de]=Video kürzen\n"),
+                  std::string::npos);
+}
+
+// Nautilus shows the file's name.
+TEST_F(FileManagerEntriesTest, hasOneScriptAlsoAfterAChangeOfLanguage) {
+    const fs::path german = m_data / "nautilus/scripts/Video kürzen";
+    install();
+    {
+        const German language;
+        install();
+    }
+    EXPECT_TRUE(fs::exists(german));
+    EXPECT_FALSE(fs::exists(m_data / kPlaces[1]));
+    entries::uninstall(m_data.path());
+    EXPECT_TRUE(fs::is_empty(m_data.path()));
 }
 
 TEST_F(FileManagerEntriesTest, isRemovedWithTheFoldersItMade) {
