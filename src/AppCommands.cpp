@@ -9,6 +9,7 @@
 #include "Support/LocalizedMessage.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/QuickAction/QuickAction.h"
+#include "Views/GoToTimePanel.h"
 #include "Views/Shortcuts/KeyboardShortcutsView.h"
 #include "Views/WindowKeys.h"
 
@@ -54,6 +55,7 @@ AppCommands::AppCommands(Updater& updater, FocusedValues& focusedValues, QObject
     makeFileActions();
     makeEditActions();
     makeClipActions();
+    makeGoActions();
     connect(&m_focusedValues, &FocusedValues::editStateChanged, this, &AppCommands::observe);
     connect(&m_updater, &Updater::canCheckForUpdatesChanged, this, &AppCommands::enable);
     connect(&QuickAction::shared(), &QuickAction::isInstalledChanged, this,
@@ -166,6 +168,31 @@ void AppCommands::makeClipActions() {
             [this, &settings] { m_loop->setChecked(settings.isLoopEnabled()); });
 }
 
+void AppCommands::makeGoActions() {
+    m_goToTime = add(tr("Go to Time…"), QKeySequence(Qt::CTRL | Qt::Key_G));
+    connect(m_goToTime, &QAction::triggered, this, &AppCommands::askForTime);
+    addGo(tr("Range Start, Then Start of Video"), QKeySequence(Qt::Key_Home),
+          [](EditState& state) { state.goToRangeEnd(EditMarker::trimStart); });
+    addGo(tr("Range End, Then End of Video"), QKeySequence(Qt::Key_End),
+          [](EditState& state) { state.goToRangeEnd(EditMarker::trimEnd); });
+    addGo(tr("Back One Second"), QKeySequence(Qt::Key_Down), [](EditState& state) {
+        state.moveMarker(EditMarker::playhead, state.currentTime() - 1);
+    });
+    addGo(tr("Forward One Second"), QKeySequence(Qt::Key_Up), [](EditState& state) {
+        state.moveMarker(EditMarker::playhead, state.currentTime() + 1);
+    });
+}
+
+void AppCommands::addGo(const QString& title, const QKeySequence& key, void (*go)(EditState&)) {
+    QAction* action = add(title, key);
+    action->setAutoRepeat(true);
+    connect(action, &QAction::triggered, this, [this, go] {
+        if (const auto state = m_focusedValues.editState())
+            go(*state);
+    });
+    m_go.append(action);
+}
+
 void AppCommands::fill(QMenuBar& menuBar) {
     m_menuBar = &menuBar;
     //: The name of the program; only the place of the accelerator is yours.
@@ -185,6 +212,10 @@ void AppCommands::fill(QMenuBar& menuBar) {
     clip->addActions({m_previousFrame, m_nextFrame});
     clip->addSeparator();
     clip->addAction(m_loop);
+    QMenu* go = menuBar.addMenu(tr("&Go"));
+    go->addAction(m_goToTime);
+    go->addSeparator();
+    go->addActions(m_go);
     menuBar.addMenu(tr("&Help"))->addAction(m_shortcuts);
 }
 
@@ -217,7 +248,8 @@ void AppCommands::enable() {
     m_open->setEnabled(state != nullptr);
     m_showLastExport->setEnabled(state && state->lastExport());
     m_close->setEnabled(!isExporting);
-    for (QAction* action : {m_export, m_trimStart, m_trimEnd, m_previousFrame, m_nextFrame})
+    for (QAction* action :
+         QList{m_export, m_trimStart, m_trimEnd, m_previousFrame, m_nextFrame, m_goToTime} + m_go)
         action->setEnabled(hasVideo);
 }
 
@@ -290,6 +322,14 @@ void AppCommands::showAbout() {
                                "Free software under the GNU General Public License, "
                                "version 3 or later."));
     box->show();
+}
+
+void AppCommands::askForTime() {
+    const auto state = m_focusedValues.editState();
+    if (!state || m_timePanel)
+        return;
+    m_timePanel = new GoToTimePanel(state, window());
+    m_timePanel->open();
 }
 
 QWidget* AppCommands::window() const {

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QKeySequence>
+#include <QList>
 #include <QObject>
 #include <QPointer>
 
@@ -9,6 +10,7 @@
 #include <optional>
 
 class QAction;
+class QDialog;
 class QMenu;
 class QMenuBar;
 class QWidget;
@@ -50,6 +52,8 @@ private:
     void makeFileActions();
     void makeEditActions();
     void makeClipActions();
+    void makeGoActions();
+    void addGo(const QString& title, const QKeySequence& key, void (*go)(EditState&));
     QAction* add(const QString& title, const QKeySequence& key = {});
 
     void observe();
@@ -62,6 +66,7 @@ private:
     void toggleQuickAction();
     [[nodiscard]] QWidget* window() const;
     void showAbout();
+    void askForTime();
     void closeWindow();
 
     Updater& m_updater;
@@ -69,6 +74,7 @@ private:
     std::optional<QDBusConnection> m_bus;
     std::weak_ptr<EditState> m_observed;
     QPointer<QMenuBar> m_menuBar;
+    QPointer<QDialog> m_timePanel;
 
     QAction* m_about = nullptr;
     QAction* m_checkForUpdates = nullptr;
@@ -87,6 +93,9 @@ private:
     QAction* m_previousFrame = nullptr;
     QAction* m_nextFrame = nullptr;
     QAction* m_loop = nullptr;
+    QAction* m_goToTime = nullptr;
+    /// The rest of its menu.
+    QList<QAction*> m_go;
     QAction* m_shortcuts = nullptr;
 };
 

@@ -80,8 +80,9 @@ protected:
     }
 
     void expectVideoCommands(bool enabled) const {
-        for (const char* title : {"Export…", "Set Trim Start at Playhead",
-                                  "Set Trim End at Playhead", "Previous Frame", "Next Frame"})
+        for (const char* title :
+             {"Export…", "Set Trim Start at Playhead", "Set Trim End at Playhead", "Previous Frame",
+              "Next Frame", "Go to Time…", "Back One Second", "Forward One Second"})
             EXPECT_EQ(action(title)->isEnabled(), enabled) << title;
     }
 
@@ -102,7 +103,7 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     std::vector<std::string> titles;
     for (const QAction* action : m_menuBar->actions())
         titles.push_back(action->text().remove(u'&').toStdString());
-    EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip", "Help"));
+    EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip", "Go", "Help"));
     EXPECT_THAT(entries(*menu(0)), ElementsAre("About Brisklet", "Check for Updates…", "-",
                                                "Install Finder Quick Action", "-", "Quit|Ctrl+Q"));
     EXPECT_THAT(entries(*menu(1)),
@@ -113,7 +114,11 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     EXPECT_THAT(entries(*menu(3)),
                 ElementsAre("Set Trim Start at Playhead|[", "Set Trim End at Playhead|]", "-",
                             "Previous Frame|Left", "Next Frame|Right", "-", "Loop Playback|L"));
-    EXPECT_THAT(entries(*menu(4)), ElementsAre("Keyboard Shortcuts|Ctrl+?"));
+    EXPECT_THAT(entries(*menu(4)),
+                ElementsAre("Go to Time…|Ctrl+G", "-", "Range Start, Then Start of Video|Home",
+                            "Range End, Then End of Video|End", "Back One Second|Down",
+                            "Forward One Second|Up"));
+    EXPECT_THAT(entries(*menu(5)), ElementsAre("Keyboard Shortcuts|Ctrl+?"));
 }
 
 TEST_F(AppCommandsTest, isMostlyDisabledWithoutAWindow) {

@@ -78,6 +78,7 @@ void ExportButton::popUpMenu() {
 
 bool ExportButton::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
+        // Space presses it and Down opens its menu; neither is the window's while it has the focus.
         const auto* keyEvent = static_cast<QKeyEvent*>(event);
         const bool isSpace =
             keyEvent->modifiers() == Qt::NoModifier && keyEvent->key() == Qt::Key_Space;
