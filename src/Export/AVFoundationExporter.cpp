@@ -4,6 +4,7 @@
 #include "Export/ProgressWatcher.h"
 #include "Media/Error.h"
 #include "Media/ExportSession.h"
+#include "Media/SystemRefusal.h"
 #include "Support/FileUrl.h"
 #include "Support/Workers.h"
 
@@ -58,7 +59,9 @@ AVFoundationExporter::ExportError::ExportError(Kind kind)
 QCoro::Task<> AVFoundationExporter::exportVideo(ExportRequest request,
                                                 ExportProgressHandler onProgress,
                                                 std::stop_token stop) const {
-    return runOnWorker([request, onProgress, stop] { run(request, onProgress, stop); });
+    return runOnWorker([request, onProgress, stop] {
+        media::tellingOfRefusals([&] { run(request, onProgress, stop); });
+    });
 }
 
 void AVFoundationExporter::run(const ExportRequest& request,

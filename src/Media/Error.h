@@ -65,6 +65,7 @@ enum class ErrorKind {
 
     // Of the machine.
     notEnoughMemory,
+    noMoreThreads,
     diskFull,
     fileTooLarge,
     diskError,

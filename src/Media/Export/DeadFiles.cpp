@@ -3,9 +3,9 @@
 #include "Media/Export/FileLock.h"
 #include "Media/Export/HiddenName.h"
 
-#include <string>
+#include <dirent.h>
+#include <memory>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -13,13 +13,17 @@ namespace media {
 
 namespace {
 
-std::vector<std::filesystem::path> hiddenFilesIn(const std::filesystem::path& folder) {
+struct CloseFolder {
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+/// Not by std::filesystem, whose iterator ends the program where memory runs out.
+std::vector<std::filesystem::path> hiddenFilesIn(const std::filesystem::path& path) {
     std::vector<std::filesystem::path> paths;
-    std::error_code ignored;
-    std::filesystem::directory_iterator entry(folder, ignored);
-    for (; !ignored && entry != std::filesystem::directory_iterator(); entry.increment(ignored)) {
-        if (isHiddenName(entry->path().filename().native()))
-            paths.push_back(entry->path());
+    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(path.c_str()));
+    while (const dirent* entry = folder ? ::readdir(folder.get()) : nullptr) {
+        if (isHiddenName(entry->d_name))
+            paths.push_back(path / entry->d_name);
     }
     return paths;
 }

@@ -7,14 +7,8 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
 namespace media {
-
-void Descriptor::close() {
-    if (isOpen())
-        ::close(std::exchange(m_number, -1));
-}
 
 LockResult lock(const Descriptor& file) {
     while (::flock(file.number(), LOCK_EX | LOCK_NB) != 0) {

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace media {
 
@@ -91,15 +92,10 @@ void OutputFile::startFlush() {
 
 std::shared_ptr<const ffmpeg::SourceFile> OutputFile::reader() const {
     struct stat status = {};
-    const int descriptor = ::fcntl(m_file.descriptor(), F_DUPFD_CLOEXEC, 0);
-    if (descriptor < 0)
+    Descriptor descriptor(::fcntl(m_file.descriptor(), F_DUPFD_CLOEXEC, 0));
+    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0)
         throwError(errno);
-    if (::fstat(descriptor, &status) != 0) {
-        const int code = errno;
-        ::close(descriptor);
-        throwError(code);
-    }
-    return std::make_shared<const ffmpeg::SourceFile>(descriptor, m_destination, status);
+    return std::make_shared<const ffmpeg::SourceFile>(std::move(descriptor), m_destination, status);
 }
 
 void OutputFile::commit() {
@@ -107,11 +103,10 @@ void OutputFile::commit() {
         throwError(error);
     // The folder's new entry is flushed as well. Where that fails the file is complete all the
     // same.
-    const int folder = ::open(folderOf(m_destination).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder >= 0) {
-        ::fsync(folder);
-        ::close(folder);
-    }
+    const Descriptor folder(
+        ::open(folderOf(m_destination).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.isOpen())
+        ::fsync(folder.number());
 }
 
 } // namespace media

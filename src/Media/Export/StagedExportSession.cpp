@@ -3,9 +3,9 @@
 #include "Media/Error.h"
 #include "Media/Export/ExportRun.h"
 #include "Media/FFmpeg/SourceFile.h"
+#include "Media/SystemRefusal.h"
 #include "Media/Threading/ProcessorDemand.h"
 
-#include <new>
 #include <utility>
 
 namespace media {
@@ -33,13 +33,10 @@ void StagedExportSession::run(std::stop_token stop) {
     try {
         if (stop.stop_requested())
             throw Cancelled();
-        exportFile(stop);
+        tellingOfRefusals([&] { exportFile(stop); });
     } catch (const Cancelled&) {
         m_state = State::cancelled;
         throw;
-    } catch (const std::bad_alloc&) {
-        m_state = State::failed;
-        throw Error(ErrorKind::notEnoughMemory);
     } catch (...) {
         m_state = State::failed;
         throw;

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace media::ffmpeg {
 
@@ -45,40 +46,35 @@ std::shared_ptr<const SourceFile> SourceFile::open(const std::filesystem::path& 
     if (!S_ISREG(status.st_mode))
         throw Error(ErrorKind::notARegularFile);
     // Without O_NONBLOCK a pipe put in the file's place meanwhile would block for ever.
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (descriptor < 0)
+    Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!descriptor.isOpen())
         throwOpenError(errno);
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-        ::close(descriptor);
+    if (::fstat(descriptor.number(), &status) != 0 || !S_ISREG(status.st_mode))
         throw Error(ErrorKind::notARegularFile);
-    }
-    if (status.st_size == 0) {
-        ::close(descriptor);
+    if (status.st_size == 0)
         throw Error(ErrorKind::fileEmpty);
-    }
-    return std::make_shared<const SourceFile>(descriptor, path, status);
+    return std::make_shared<const SourceFile>(std::move(descriptor), path, status);
 }
 
-SourceFile::SourceFile(int descriptor, std::filesystem::path path, const struct stat& status)
-    : m_descriptor(descriptor),
+SourceFile::SourceFile(Descriptor descriptor, std::filesystem::path path, const struct stat& status)
+    : m_descriptor(std::move(descriptor)),
       m_path(std::move(path)),
       m_device(status.st_dev),
       m_inode(status.st_ino),
       m_openedSize(status.st_size),
       m_openedMiddle(middle()) {}
 
-SourceFile::~SourceFile() {
-    ::close(m_descriptor);
-}
+SourceFile::~SourceFile() = default;
 
 std::int64_t SourceFile::size() const {
     struct stat status = {};
-    return ::fstat(m_descriptor, &status) == 0 ? std::int64_t{status.st_size} : 0;
+    return ::fstat(m_descriptor.number(), &status) == 0 ? std::int64_t{status.st_size} : 0;
 }
 
 std::int64_t SourceFile::read(std::int64_t offset, std::uint8_t* buffer, std::int64_t count) const {
     for (;;) {
-        const ssize_t got = ::pread(m_descriptor, buffer, static_cast<std::size_t>(count), offset);
+        const ssize_t got =
+            ::pread(m_descriptor.number(), buffer, static_cast<std::size_t>(count), offset);
         if (got >= 0)
             return got;
         if (errno != EINTR)
@@ -91,9 +87,9 @@ std::string SourceFile::middle() const {
     std::string bytes(kBytes, '\0');
     const std::int64_t offset = std::max<std::int64_t>(0, (m_openedSize - kBytes) / 2);
     // One page is wanted; a slow disk shall not read ahead for it.
-    ::posix_fadvise(m_descriptor, 0, 0, POSIX_FADV_RANDOM);
+    ::posix_fadvise(m_descriptor.number(), 0, 0, POSIX_FADV_RANDOM);
     const std::int64_t got = read(offset, reinterpret_cast<std::uint8_t*>(bytes.data()), kBytes);
-    ::posix_fadvise(m_descriptor, 0, 0, POSIX_FADV_NORMAL);
+    ::posix_fadvise(m_descriptor.number(), 0, 0, POSIX_FADV_NORMAL);
     bytes.resize(static_cast<std::size_t>(std::max<std::int64_t>(0, got)));
     return bytes;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Media/FFmpeg/Descriptor.h"
 #include "Media/FFmpeg/Handles.h"
 
 #include <cstdint>
@@ -19,7 +20,7 @@ public:
     /// Never blocks on pipes and devices: they are refused.
     static std::shared_ptr<const SourceFile> open(const std::filesystem::path& path);
 
-    SourceFile(int descriptor, std::filesystem::path path, const struct stat& status);
+    SourceFile(Descriptor descriptor, std::filesystem::path path, const struct stat& status);
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
     ~SourceFile();
@@ -47,7 +48,7 @@ private:
     /// Up to a page from the middle of what was there at opening.
     [[nodiscard]] std::string middle() const;
 
-    int m_descriptor;
+    Descriptor m_descriptor;
     std::filesystem::path m_path;
     dev_t m_device;
     ino_t m_inode;

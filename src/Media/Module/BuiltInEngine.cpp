@@ -6,6 +6,7 @@
 #include "Media/Playback/CubebOutput.h"
 #include "Media/Playback/ThreadedPlayer.h"
 #include "Media/Reading/OpenedAsset.h"
+#include "Media/SystemRefusal.h"
 
 #include <malloc.h>
 #include <utility>
@@ -25,7 +26,7 @@ public:
 
     [[nodiscard]] std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
                                                          std::stop_token stop) const override {
-        return OpenedAsset::open(path, stop);
+        return tellingOfRefusals([&] { return OpenedAsset::open(path, stop); });
     }
 
     [[nodiscard]] std::shared_ptr<Player> makePlayer(Executor executor) const override {
@@ -41,8 +42,10 @@ public:
     [[nodiscard]] std::unique_ptr<ExportSession>
     makeExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
                       EncoderSettings settings) const override {
-        return std::make_unique<StagedExportSession>(std::move(composition), std::move(outputPath),
-                                                     fileType, std::move(settings));
+        return tellingOfRefusals([&] {
+            return std::make_unique<StagedExportSession>(
+                std::move(composition), std::move(outputPath), fileType, std::move(settings));
+        });
     }
 
     [[nodiscard]] std::optional<ExportForecast>
