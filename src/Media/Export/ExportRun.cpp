@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/SourceFile.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace media {
 
@@ -23,6 +24,8 @@ ExportRun::ExportRun(const Composition& composition,
       m_file(outputPath),
       m_muxer(m_file, fileType, m_source->info(), composition.videoTrack->range),
       m_stages(m_stop) {
+    // Nobody shows it.
+    std::ignore = m_source->takeFirstFrame();
     const ffmpeg::SourceInfo& info = m_source->info();
     const CompositionTrack& picture = *composition.videoTrack;
     m_streams.push_back(&m_video->output());

@@ -19,7 +19,11 @@ constexpr ContainerTraits kBitstream{.isBareBitstream = true};
 constexpr ContainerTraits kOrderedBitstream{.isBareBitstream = true, .hasOrderedPictures = true};
 
 constexpr auto kRows = std::to_array<Row>({
-    {"mov", {.statesPresentationTimes = true, .indexesEverySample = true}},
+    {"mov",
+     {.statesPresentationTimes = true,
+      .statesDecodingTimes = true,
+      .statesParameters = true,
+      .indexesEverySample = true}},
     {"matroska",
      {.statesPresentationTimes = true,
       .isIndexedByPictures = true,

@@ -19,6 +19,11 @@ struct ContainerTraits {
     /// Every packet has its presentation time by itself, so that none need be parsed to find it,
     /// and the demuxer comes back to a position exactly.
     bool statesPresentationTimes = false;
+    /// Decoding times are the file's own: libav works them out for other containers, and may take a
+    /// picture for one that is shown as soon as it is decoded.
+    bool statesDecodingTimes = false;
+    /// The headers may state all that decoders have to know of a track.
+    bool statesParameters = false;
     /// The index lists every sample of every track.
     bool indexesEverySample = false;
     /// The index knows positions by the picture track only.

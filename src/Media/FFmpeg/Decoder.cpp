@@ -16,7 +16,8 @@ int Decoder::usualThreads() {
     return std::min(processorCount(), kMost);
 }
 
-Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads) {
+Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads,
+                 Sharing sharing) {
     silenceLog();
     const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
     if (!codec)
@@ -25,6 +26,13 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
     m_context->thread_count = threads > 0 ? threads : usualThreads();
+    if (sharing == Sharing::withinPictures) {
+        m_context->thread_type = FF_THREAD_SLICE;
+        // dav1d has threads of its own and goes by this; others would take it for the stream's own
+        // property that pictures come in the order in which they are shown.
+        if (parameters.codec_id == AV_CODEC_ID_AV1)
+            m_context->flags |= AV_CODEC_FLAG_LOW_DELAY;
+    }
     const ClassicLocale classic;
     // What libav starts here would have the name of whichever thread that is.
     const ThreadName name(parameters.codec_type == AVMEDIA_TYPE_VIDEO ? "decode-video"

@@ -4,11 +4,26 @@
 
 namespace media::ffmpeg {
 
+/// Whether no picture of the codec needs another one.
+inline bool hasOnlyKeyFrames(AVCodecID codec) {
+    const AVCodecDescriptor* descriptor = avcodec_descriptor_get(codec);
+    return descriptor && descriptor->props & AV_CODEC_PROP_INTRA_ONLY;
+}
+
 /// A libav decoder. Use from one thread at a time.
 class Decoder {
 public:
+    /// What its threads share.
+    enum class Sharing {
+        /// As the codec can: where each decodes a picture, the first comes after some more packets.
+        any,
+        /// The parts of one picture, in codecs that divide it: the first comes soonest.
+        withinPictures,
+    };
+
     /// `threads` 0: usualThreads(). Throws Error if there is no decoder or it does not open.
-    Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads = 0);
+    Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads = 0,
+            Sharing sharing = Sharing::any);
 
     /// As many as there are processors, up to 16.
     static int usualThreads();

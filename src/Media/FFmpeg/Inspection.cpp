@@ -7,6 +7,7 @@
 #include "Media/FFmpeg/FirstPictures.h"
 #include "Media/FFmpeg/LibavReleases.h"
 #include "Media/FFmpeg/PrevailingRate.h"
+#include "Media/FFmpeg/StatedParameters.h"
 #include "Media/FFmpeg/TrackFacts.h"
 
 #include <algorithm>
@@ -97,12 +98,25 @@ Time findOrigin(const AVFormatContext& context, const CorrectedStarts& corrected
     return origin.value_or(Time{0, 1});
 }
 
+/// The start of the whole file in container time: the earliest of its streams.
+Time containerStart(const AVFormatContext& context) {
+    if (const auto start = Timestamp::stated(context.start_time))
+        return timeOf(*start, av_get_time_base_q());
+    std::optional<Time> earliest;
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        const AVStream& stream = *context.streams[i];
+        const auto start = Timestamp::stated(stream.start_time);
+        if (start && (!earliest || timeOf(*start, stream.time_base) < *earliest))
+            earliest = timeOf(*start, stream.time_base);
+    }
+    return earliest.value_or(Time{0, 1});
+}
+
 /// The end of the whole file as the container states it, in container time.
 std::optional<Time> containerEnd(const AVFormatContext& context) {
     if (context.duration == AV_NOPTS_VALUE || context.duration <= 0)
         return std::nullopt;
-    const Timestamp start = Timestamp::stated(context.start_time).value_or(Timestamp(0));
-    return timeOf(start.advancedBy(context.duration), av_get_time_base_q());
+    return containerStart(context) + timeOf(Timestamp(context.duration), av_get_time_base_q());
 }
 
 /// The end of a stream as the container states it, in container time.
@@ -256,6 +270,24 @@ void findFrameDistance(SourceTrack& track, Demuxer& demuxer, const SourceFile& f
     track.facts.frameCount = count;
 }
 
+AVStream* firstVideoStream(AVFormatContext& context) {
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        AVStream* stream = context.streams[i];
+        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && isUsableStream(context, *stream))
+            return stream;
+    }
+    return nullptr;
+}
+
+std::vector<SourceTrack> describeStreams(AVFormatContext& context) {
+    std::vector<SourceTrack> tracks;
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        if (isUsableStream(context, *context.streams[i]))
+            tracks.push_back(describeStream(context, *context.streams[i]));
+    }
+    return tracks;
+}
+
 /// The timecode may be in the metadata of the video stream, of a timecode track or of the file.
 std::string findTimecode(const AVFormatContext& context, int pictureStream) {
     const auto of = [](const AVDictionary* metadata) -> std::string {
@@ -274,19 +306,18 @@ std::string findTimecode(const AVFormatContext& context, int pictureStream) {
 
 } // namespace
 
-SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
-    demuxer.findStreamInfo(stop);
+Inspected inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
+    const bool isStated = statesParameters(demuxer.context());
+    if (!isStated)
+        demuxer.findStreamInfo(stop);
     expectNoEncryption(demuxer.context());
-    SourceInfo info;
+    Inspected result;
+    SourceInfo& info = result.info;
     info.pictures = PictureIndex::read(demuxer, stop);
     if (info.pictures)
         demuxer.usePictures(info.pictures);
     AVFormatContext& context = demuxer.context();
     info.format = context.iformat;
-    for (unsigned i = 0; i < context.nb_streams; ++i) {
-        if (isUsableStream(context, *context.streams[i]))
-            info.tracks.push_back(describeStream(context, *context.streams[i]));
-    }
     AVDictionary* metadata = nullptr;
     check(av_dict_copy(&metadata, context.metadata, 0));
     info.metadata.reset(metadata);
@@ -294,21 +325,29 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
     std::optional<Time> firstPicture;
     int pictureStream = -1;
     std::optional<FirstPicturesReader> reader;
-    const auto video = std::ranges::find(info.tracks, MediaType::video,
-                                         [](const SourceTrack& track) { return track.facts.type; });
-    if (video != info.tracks.end()) {
-        reader.emplace(demuxer, *video);
-        const FirstPictures first = reader->read(stop);
-        video->dynamicRange =
-            describeDynamicRange(*context.streams[video->facts.streamIndex], reader->picture());
-        video->fieldOrder = fieldOrderOf(*video->parameters, reader->picture());
-        findFrameRate(*video, info, demuxer, *reader, stop);
-        findFrameDistance(*video, demuxer, file);
-        video->lacksPresentationTimes = first.lacksPresentationTimes;
-        video->needsGeneratedTimes = first.needsGeneratedTimes;
-        pictureStream = video->facts.streamIndex;
+    FirstPictures first;
+    if (AVStream* stream = firstVideoStream(context)) {
+        using Known = FirstPicturesReader::Known;
+        pictureStream = stream->index;
+        reader.emplace(demuxer, *stream, isStated ? Known::headers : Known::everything);
+        first = reader->read(stop);
+    }
+    info.tracks = describeStreams(context);
+    if (reader) {
+        SourceTrack& video =
+            *std::ranges::find(info.tracks, pictureStream,
+                               [](const SourceTrack& track) { return track.facts.streamIndex; });
+        video.dynamicRange =
+            describeDynamicRange(*context.streams[pictureStream], reader->picture());
+        video.fieldOrder = fieldOrderOf(*video.parameters, reader->picture());
+        findFrameRate(video, info, demuxer, *reader, stop);
+        findFrameDistance(video, demuxer, file);
+        video.lacksPresentationTimes = first.lacksPresentationTimes;
+        video.needsGeneratedTimes = first.needsGeneratedTimes;
+        if (!first.lacksPresentationTimes && !first.needsGeneratedTimes)
+            result.firstFrame = reader->firstFrame();
         if (first.timestamp)
-            firstPicture = timeOf(*first.timestamp, video->timeBase);
+            firstPicture = timeOf(*first.timestamp, video.timeBase);
     }
     const CorrectedStarts corrected = correctedStarts(context, reader ? &*reader : nullptr);
     info.origin = findOrigin(context, corrected, firstPicture, pictureStream);
@@ -323,7 +362,7 @@ SourceInfo inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_tok
     describeChapters(info, context);
     info.timecode = findTimecode(context, pictureStream);
     info.duration = info.tracks.empty() ? Time{0, 1} : findDuration(demuxer, file, info, stop);
-    return info;
+    return result;
 }
 
 } // namespace media::ffmpeg

@@ -15,8 +15,6 @@ namespace media::ffmpeg {
 
 namespace {
 
-/// A higher frame rate is taken for the container's tick rate.
-constexpr double kHighestFrameRate = 1000;
 /// The highest rate that is accepted if only the shortest distance between two frames is known.
 constexpr double kHighestGuessedFrameRate = 240;
 

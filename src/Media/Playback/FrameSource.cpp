@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/Decoder.h"
+#include "Media/Reading/OpenedAsset.h"
 
 #include <algorithm>
 #include <array>
@@ -46,7 +47,12 @@ FrameSource::FrameSource(FrameCache& cache, DecoderBudget& budget,
         return;
     m_firstTicks = tracks.front().startTime.ticks();
     m_renderer = std::make_unique<PictureRenderer>(tracks.front());
-    reader();
+    if (auto first = OpenedAsset::of(m_item->asset())->takeFirstFrame()) {
+        const TickRange range{Ticks::beginning(), *first->knownEnd};
+        m_arrived = Decoded{std::move(first), range, true};
+    } else {
+        reader();
+    }
 }
 
 FrameSource::~FrameSource() {

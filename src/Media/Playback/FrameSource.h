@@ -116,7 +116,7 @@ private:
     DecoderBudget& m_budget;
     std::shared_ptr<const PlayerItem> m_item;
     Ticks m_firstTicks;
-    /// null after releaseDecoder().
+    /// null after releaseDecoder(), and until more is wanted than the asset's first frame.
     std::unique_ptr<VideoReader> m_reader;
     std::unique_ptr<PictureRenderer> m_renderer;
 

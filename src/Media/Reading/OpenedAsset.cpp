@@ -6,8 +6,11 @@
 #include "Media/FFmpeg/Inspection.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Reading/TrackClock.h"
+#include "Media/Reading/VideoReader.h"
 #include "Media/Threading/Verify.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace media {
@@ -25,17 +28,34 @@ std::unique_ptr<ffmpeg::Demuxer> openDemuxer(const std::shared_ptr<const ffmpeg:
     }
 }
 
+/// Null where the frame after it begins at the same tick: it is the frame at no tick then.
+std::shared_ptr<const DecodedFrame> placed(std::optional<ffmpeg::FirstFrame> first,
+                                           const ffmpeg::SourceInfo& info) {
+    if (!first)
+        return nullptr;
+    const auto track = std::ranges::find(info.tracks, MediaType::video,
+                                         [](const auto& each) { return each.facts.type; });
+    const Time time = ffmpeg::assetTime(info, *track, first->timestamp);
+    const Ticks end = TrackClock(info, *track).ticksAt(first->next);
+    if (end <= time.ticks())
+        return nullptr;
+    return std::make_shared<const DecodedFrame>(
+        DecodedFrame{std::move(first->frame), time, time.ticks(), end});
+}
+
 } // namespace
 
 std::shared_ptr<const OpenedAsset> OpenedAsset::open(const std::filesystem::path& path,
                                                      const std::stop_token& stop) {
     auto file = ffmpeg::SourceFile::open(path);
     auto demuxer = openDemuxer(file, stop);
-    auto info = std::make_unique<const ffmpeg::SourceInfo>(ffmpeg::inspect(*demuxer, *file, stop));
+    ffmpeg::Inspected inspected = ffmpeg::inspect(*demuxer, *file, stop);
+    auto info = std::make_unique<const ffmpeg::SourceInfo>(std::move(inspected.info));
+    auto firstFrame = placed(std::move(inspected.firstFrame), *info);
     auto demuxers = std::make_unique<ffmpeg::DemuxerPool>(file, info->format, info->pictures);
     demuxers->giveBack(std::move(demuxer));
     return std::make_shared<const OpenedAsset>(std::move(file), std::move(info),
-                                               std::move(demuxers));
+                                               std::move(demuxers), std::move(firstFrame));
 }
 
 std::shared_ptr<const OpenedAsset> OpenedAsset::of(const std::shared_ptr<const Asset>& asset) {
@@ -46,13 +66,21 @@ std::shared_ptr<const OpenedAsset> OpenedAsset::of(const std::shared_ptr<const A
 
 OpenedAsset::OpenedAsset(std::shared_ptr<const ffmpeg::SourceFile> file,
                          std::unique_ptr<const ffmpeg::SourceInfo> info,
-                         std::unique_ptr<ffmpeg::DemuxerPool> demuxers)
-    : m_file(std::move(file)), m_info(std::move(info)), m_demuxers(std::move(demuxers)) {}
+                         std::unique_ptr<ffmpeg::DemuxerPool> demuxers,
+                         std::shared_ptr<const DecodedFrame> firstFrame)
+    : m_file(std::move(file)),
+      m_info(std::move(info)),
+      m_demuxers(std::move(demuxers)),
+      m_firstFrame(std::move(firstFrame)) {}
 
 OpenedAsset::~OpenedAsset() = default;
 
 const std::filesystem::path& OpenedAsset::path() const {
     return m_file->path();
+}
+
+std::shared_ptr<const DecodedFrame> OpenedAsset::takeFirstFrame() const {
+    return std::exchange(*m_firstFrame.lock(), nullptr);
 }
 
 Time OpenedAsset::duration() const {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "Media/Asset.h"
+#include "Media/Threading/Guarded.h"
 
 #include <memory>
 
 namespace media {
+
+struct DecodedFrame;
 
 namespace ffmpeg {
 struct SourceInfo;
@@ -13,7 +16,8 @@ class SourceFile;
 } // namespace ffmpeg
 
 /// The asset that the engine makes: the open file, what was found out about it, and the demuxers
-/// that its readers borrow. Immutable, but for the pool, which guards itself; any thread.
+/// that its readers borrow. Immutable, but for the pool, which guards itself, and the first frame;
+/// any thread.
 class OpenedAsset final : public Asset {
 public:
     /// As Asset::open().
@@ -26,7 +30,8 @@ public:
 
     OpenedAsset(std::shared_ptr<const ffmpeg::SourceFile> file,
                 std::unique_ptr<const ffmpeg::SourceInfo> info,
-                std::unique_ptr<ffmpeg::DemuxerPool> demuxers);
+                std::unique_ptr<ffmpeg::DemuxerPool> demuxers,
+                std::shared_ptr<const DecodedFrame> firstFrame);
     ~OpenedAsset() override;
 
     [[nodiscard]] const std::filesystem::path& path() const override;
@@ -39,10 +44,15 @@ public:
 
     [[nodiscard]] ffmpeg::DemuxerPool& demuxers() const { return *m_demuxers; }
 
+    /// The first frame of the first video track, decoded when the file was opened, with its known
+    /// end; for whoever asks first, null afterwards and where it is not certain.
+    [[nodiscard]] std::shared_ptr<const DecodedFrame> takeFirstFrame() const;
+
 private:
     std::shared_ptr<const ffmpeg::SourceFile> m_file;
     std::unique_ptr<const ffmpeg::SourceInfo> m_info;
     std::unique_ptr<ffmpeg::DemuxerPool> m_demuxers;
+    mutable Guarded<std::shared_ptr<const DecodedFrame>> m_firstFrame;
 };
 
 } // namespace media

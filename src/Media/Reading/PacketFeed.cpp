@@ -1,18 +1,16 @@
 #include "Media/Reading/PacketFeed.h"
 
+#include "Media/FFmpeg/Decoder.h"
+
 namespace media {
 
 namespace {
 
-bool hasOnlyKeyFrames(AVCodecID codec) {
-    const AVCodecDescriptor* descriptor = avcodec_descriptor_get(codec);
-    return descriptor && descriptor->props & AV_CODEC_PROP_INTRA_ONLY;
-}
-
 /// Whether the packet is shown in its turn: where times of decoding and showing are the same, no
 /// later packet can be shown before this one.
 bool isInTurn(const AVPacket& packet, AVCodecID codec) {
-    return packet.dts == packet.pts || (packet.dts == AV_NOPTS_VALUE && hasOnlyKeyFrames(codec));
+    return packet.dts == packet.pts ||
+           (packet.dts == AV_NOPTS_VALUE && ffmpeg::hasOnlyKeyFrames(codec));
 }
 
 bool isWholeKeyFrame(const AVPacket& packet) {
