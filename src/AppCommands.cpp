@@ -27,24 +27,40 @@ namespace brisklet {
 
 namespace {
 
-QString nameOf(EditStep step) {
+struct StepTitles {
+    QString undo;
+    QString redo;
+};
+
+/// Whole titles, since not every language can put any step behind one word.
+StepTitles titlesOf(EditStep step) {
     switch (step) {
     case EditStep::trimStart:
-        return AppCommands::tr("Trim Start");
+        return {AppCommands::tr("Undo Trim Start"), AppCommands::tr("Redo Trim Start")};
     case EditStep::trimEnd:
-        return AppCommands::tr("Trim End");
+        return {AppCommands::tr("Undo Trim End"), AppCommands::tr("Redo Trim End")};
     case EditStep::crop:
-        return AppCommands::tr("Crop");
+        return {AppCommands::tr("Undo Crop"), AppCommands::tr("Redo Crop")};
     case EditStep::removeCrop:
-        return AppCommands::tr("Remove Crop");
+        return {AppCommands::tr("Undo Remove Crop"), AppCommands::tr("Redo Remove Crop")};
     case EditStep::rotate:
-        return AppCommands::tr("Rotate");
+        return {AppCommands::tr("Undo Rotate"), AppCommands::tr("Redo Rotate")};
     case EditStep::mute:
-        return AppCommands::tr("Mute");
+        return {AppCommands::tr("Undo Mute"), AppCommands::tr("Redo Mute")};
     case EditStep::unmute:
-        return AppCommands::tr("Unmute");
+        return {AppCommands::tr("Undo Unmute"), AppCommands::tr("Redo Unmute")};
     }
     return {};
+}
+
+/// In text that runs from right to left a bracket would be shown as the opposite one.
+QString withKeyAsItIs(const QString& title, const QKeySequence& key) {
+    const bool isMirrored =
+        key == QKeySequence(Qt::Key_BracketLeft) || key == QKeySequence(Qt::Key_BracketRight);
+    if (!isMirrored || !QGuiApplication::isRightToLeft())
+        return title;
+    constexpr QChar kLeftToRightOverride(0x202d);
+    return title + u'\t' + kLeftToRightOverride + key.toString(QKeySequence::NativeText);
 }
 
 } // namespace
@@ -67,7 +83,7 @@ AppCommands::AppCommands(Updater& updater, FocusedValues& focusedValues, QObject
 AppCommands::~AppCommands() = default;
 
 QAction* AppCommands::add(const QString& title, const QKeySequence& key) {
-    auto* action = new QAction(title, this);
+    auto* action = new QAction(withKeyAsItIs(title, key), this);
     // The keys work in this window only, not in its dialogs and menus (Qt::WindowShortcut).
     action->setShortcut(key);
     action->setAutoRepeat(false);
@@ -254,14 +270,13 @@ void AppCommands::enable() {
 }
 
 void AppCommands::showSteps() {
-    const auto show = [](QAction* action, std::optional<EditStep> step, const QString& plain,
-                         const QString& named) {
-        action->setText(step ? named.arg(nameOf(*step)) : plain);
-        action->setEnabled(step.has_value());
-    };
     const auto state = m_focusedValues.editState();
-    show(m_undo, state ? state->history().undoStep() : std::nullopt, tr("Undo"), tr("Undo %1"));
-    show(m_redo, state ? state->history().redoStep() : std::nullopt, tr("Redo"), tr("Redo %1"));
+    const auto undo = state ? state->history().undoStep() : std::nullopt;
+    m_undo->setText(undo ? titlesOf(*undo).undo : tr("Undo"));
+    m_undo->setEnabled(undo.has_value());
+    const auto redo = state ? state->history().redoStep() : std::nullopt;
+    m_redo->setText(redo ? titlesOf(*redo).redo : tr("Redo"));
+    m_redo->setEnabled(redo.has_value());
 }
 
 void AppCommands::showQuickAction() {

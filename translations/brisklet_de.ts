@@ -81,6 +81,53 @@
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <extracomment>The names of keys, as they are on keyboards.</extracomment>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::AppCommands</name>
     <message>
         <source>About Brisklet</source>
@@ -760,8 +807,8 @@ filmstrip  schreibt N (12) kleine Standbilder aus der Mitte von N gleich langen
 frame      schreibt das aufrechte Bild, das ein Player zu dieser Zeit zeigt.
 export     schreibt eine Kopie der Datei:
   --start, --end        der Teil, der bleibt, in Sekunden (alles)
-  --crop                in Bruchteilen des Bildes, wie es nach --rotate angezeigt
-                        wird, von seiner linken oberen Ecke aus
+  --crop                in Bruchteilen des Bildes, wie es nach --rotate ist,
+                        von seiner linken oberen Ecke aus
   --rotate              Vierteldrehungen im Uhrzeigersinn, in Grad
   --mute                lässt den Ton weg
   --max-short-edge      verkleinert auf so viele Pixel an der kürzeren Seite

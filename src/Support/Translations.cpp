@@ -3,18 +3,35 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
 #include <algorithm>
-#include <atomic>
+#include <array>
 #include <map>
 #include <memory>
 
 namespace brisklet {
 
 namespace {
+
+/// Texts of Qt’s that the program shows. Qt comes without a catalogue for some languages, and may
+/// be installed without any; where it has one, that is asked first.
+[[maybe_unused]] constexpr std::array kTextsOfQt{
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&No"),
+    //: The names of keys, as they are on keyboards.
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
+    QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    QT_TRANSLATE_NOOP("QShortcut", "Esc"),
+    QT_TRANSLATE_NOOP("QShortcut", "Space"),
+    QT_TRANSLATE_NOOP("QShortcut", "Left"),
+    QT_TRANSLATE_NOOP("QShortcut", "Right"),
+};
 
 QString catalogueFolder() {
     return QStringLiteral(":/translations");
@@ -47,9 +64,8 @@ const QTranslator& catalogue(const QString& language) {
     std::unique_ptr<QTranslator>& translator = loaded[language];
     if (!translator) {
         translator = std::make_unique<QTranslator>();
-        // One without a single text does not load, and translates nothing.
-        static_cast<void>(
-            translator->load(QStringLiteral("brisklet_") + language, catalogueFolder()));
+        if (!translator->load(QStringLiteral("brisklet_") + language, catalogueFolder()))
+            qFatal("The catalogue %s is damaged.", qPrintable(language));
     }
     return *translator;
 }
@@ -57,18 +73,20 @@ const QTranslator& catalogue(const QString& language) {
 } // namespace
 
 QStringList translatedLanguages() {
+    // Of a catalogue without a text: its header and the rule of its plural forms.
+    constexpr qint64 kMostBytesOfNothing = 128;
     QStringList languages;
-    const QStringList files = QDir(catalogueFolder()).entryList({QStringLiteral("brisklet_*.qm")});
-    for (const QString& file : files) {
-        const QString language = file.section(u'.', 0, 0).section(u'_', 1);
-        if (language != u"en")
+    const QFileInfoList files =
+        QDir(catalogueFolder()).entryInfoList({QStringLiteral("brisklet_*.qm")});
+    for (const QFileInfo& file : files) {
+        const QString language = file.completeBaseName().section(u'_', 1);
+        if (language != u"en" && file.size() > kMostBytesOfNothing)
             languages << language;
     }
     return languages;
 }
 
-QString catalogueFor(const QStringList& languages) {
-    const QStringList catalogues = translatedLanguages();
+QString catalogueFor(const QStringList& languages, const QStringList& catalogues) {
     for (const QString& language : languages) {
         const QLocale wanted(language);
         if (wanted.language() == QLocale::English)
@@ -87,7 +105,8 @@ QString catalogueFor(const QStringList& languages) {
 }
 
 QString userCatalogue() {
-    return isCLocale() ? QString() : catalogueFor(QLocale::system().uiLanguages());
+    return isCLocale() ? QString()
+                       : catalogueFor(QLocale::system().uiLanguages(), translatedLanguages());
 }
 
 void installTranslations(const QString& catalogue) {

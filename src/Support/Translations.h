@@ -6,14 +6,14 @@
 
 namespace brisklet {
 
-/// The languages that there are catalogues of: "de", "pt_BR" … English is the language of the
-/// sources and not among them.
+/// The languages that there are catalogues of, without those that nobody has begun: "de", "pt_BR" …
+/// English is the language of the sources and not among them.
 QStringList translatedLanguages();
 
-/// The catalogue for someone who reads these languages, the first best: "de" for {"de-AT", "fr"}.
-/// Empty for English, which also stands for what there is no catalogue of. A catalogue serves all
-/// countries that write the language in the same script.
-QString catalogueFor(const QStringList& languages);
+/// The one of the catalogues for someone who reads these languages, the first best: "de" for
+/// {"de-AT", "fr"}. Empty for English, which also stands for what there is no catalogue of. A
+/// catalogue serves all countries that write the language in the same script.
+QString catalogueFor(const QStringList& languages, const QStringList& catalogues);
 
 /// The catalogue for the user. Who has asked for the C locale, as scripts do, gets English,
 /// whatever LANGUAGE says; otherwise LANGUAGE, LC_ALL, LC_MESSAGES and LANG count as for other
