@@ -166,6 +166,17 @@ class Hand:
         """Presses the button of the mouse and keeps it down."""
         self._xdotool("mousemove", round(x), round(y), "mousedown", 1)
 
+    def scroll(self, x, y, notches):
+        """Turns the wheel; a positive number is up."""
+        button = 4 if notches > 0 else 5
+        self._xdotool("mousemove", round(x), round(y), "click", "--repeat", abs(notches), button)
+
+    def key_down(self, key):
+        self._xdotool("keydown", key)
+
+    def key_up(self, key):
+        self._xdotool("keyup", key)
+
     def let_go(self):
         self._xdotool("mouseup", 1)
 
@@ -178,7 +189,7 @@ class Hand:
             self._xdotool("key", "--clearmodifiers", key)
 
     def type(self, text):
-        self._xdotool("type", "--delay", 4, text)
+        self._xdotool("type", "--delay", 4, "--", text)
 
 
 def photograph(path):
