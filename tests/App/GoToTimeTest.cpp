@@ -45,6 +45,8 @@ protected:
     }
 
     QPointer<GoToTimePanel> openPanel() {
+        // The panel before this one may have had the keyboard.
+        EXPECT_TRUE(testsupport::showActive(*m_window));
         press(Qt::Key_G, Qt::ControlModifier);
         QPointer<GoToTimePanel> panel;
         EXPECT_TRUE(pumpUntil([&] {
