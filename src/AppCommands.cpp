@@ -197,11 +197,13 @@ void AppCommands::makeGoActions() {
     addGo(tr("Forward One Second"), QKeySequence(Qt::Key_Up), [](EditState& state) {
         state.moveMarker(EditMarker::playhead, state.currentTime() + 1);
     });
+    // Not the ends: going there again goes elsewhere.
+    for (QAction* second : m_go.last(2))
+        second->setAutoRepeat(true);
 }
 
 void AppCommands::addGo(const QString& title, const QKeySequence& key, void (*go)(EditState&)) {
     QAction* action = add(title, key);
-    action->setAutoRepeat(true);
     connect(action, &QAction::triggered, this, [this, go] {
         if (const auto state = m_focusedValues.editState())
             go(*state);

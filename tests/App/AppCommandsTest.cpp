@@ -106,10 +106,9 @@ TEST_F(AppCommandsTest, standInTheirMenusInOrder) {
     EXPECT_THAT(titles, ElementsAre("Brisklet", "File", "Edit", "Clip", "Go", "Help"));
     EXPECT_THAT(entries(*menu(0)), ElementsAre("About Brisklet", "Check for Updates…", "-",
                                                "Install Finder Quick Action", "-", "Quit|Ctrl+Q"));
-    EXPECT_THAT(entries(*menu(1)),
-                ElementsAre("New Window|Ctrl+N", "Open Video…|Ctrl+O",
-                            "Reopen Last Edit|Ctrl+Shift+T", "Export…|Ctrl+E", "Show Last Export",
-                            "Close Video|Esc"));
+    EXPECT_THAT(entries(*menu(1)), ElementsAre("New Window|Ctrl+N", "Open Video…|Ctrl+O",
+                                               "Reopen Last Edit|Ctrl+Shift+T", "Export…|Ctrl+E",
+                                               "Show Last Export", "Close Video|Esc"));
     EXPECT_THAT(entries(*menu(2)), ElementsAre("Undo|Ctrl+Z", "Redo|Ctrl+Shift+Z"));
     EXPECT_THAT(entries(*menu(3)),
                 ElementsAre("Set Trim Start at Playhead|[", "Set Trim End at Playhead|]", "-",
@@ -335,8 +334,9 @@ TEST_F(AppCommandsTest, showsInANewWindowThatTheLoopIsOn) {
 }
 
 TEST_F(AppCommandsTest, repeatOnlyTheStepsWhileAKeyIsHeld) {
-    const std::set<QAction*> steps{action("Previous Frame"), action("Next Frame"), action("Undo"),
-                                   action("Redo")};
+    const std::set<QAction*> steps{
+        action("Previous Frame"),     action("Next Frame"), action("Back One Second"),
+        action("Forward One Second"), action("Undo"),       action("Redo")};
     for (QAction* each : m_commands.findChildren<QAction*>())
         EXPECT_EQ(each->autoRepeat(), steps.contains(each)) << each->text().toStdString();
 }
