@@ -33,8 +33,8 @@ bool isPlanarYuv(const AVPixFmtDescriptor& format) {
 
 /// What one worker holds at most: the source's picture, deinterlaced too, the one in the making and
 /// one of those that wait for the encoder.
-std::int64_t bytesPerWorker(const PictureMaking& making, AVPixelFormat format,
-                            int width, int height) {
+std::int64_t bytesPerWorker(const PictureMaking& making, AVPixelFormat format, int width,
+                            int height) {
     const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
     const bool isUnpacked = !descriptor || !isPlanarYuv(*descriptor);
     const PictureTransform::Output& output = making.output;
@@ -52,7 +52,8 @@ int TransformStage::usefulWorkers(const PictureMaking& making, AVPixelFormat for
                             height == output.height && making.toCanvas == AffineTransform{};
     if (isHandedOn)
         return 1;
-    const std::int64_t bytes = bytesPerWorker(making, format, width, height);
+    const std::int64_t bytes =
+        std::max<std::int64_t>(bytesPerWorker(making, format, width, height), 1);
     const std::int64_t fitting = std::max<std::int64_t>(kMostBytes / bytes, kWorkersAtAnySize);
     // Decoding and encoding keep at least one processor busy.
     const int busy = std::clamp(processors - 1, 1, kMostWorkers);
@@ -60,8 +61,8 @@ int TransformStage::usefulWorkers(const PictureMaking& making, AVPixelFormat for
 }
 
 TransformStage::TransformStage(const PictureMaking& making, BoundedQueue<ScheduledFrame>& in,
-                               BoundedQueue<ScheduledFrame>& out, const std::stop_token& stop)
-    : m_making(making), m_stop(stop), m_in(in), m_out(out) {}
+                               BoundedQueue<ScheduledFrame>& out, std::stop_token stop)
+    : m_making(making), m_stop(std::move(stop)), m_in(in), m_out(out) {}
 
 void TransformStage::run() {
     PictureMaker maker(m_making);

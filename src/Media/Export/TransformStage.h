@@ -20,12 +20,12 @@ public:
     /// As many workers as the processors can keep busy and as the memory for their pictures allows;
     /// one where pictures of the given format and size are handed on as they are. `processors`: at
     /// least 1.
-    static int usefulWorkers(const PictureMaking& making, AVPixelFormat format, int width, int height,
-                             int processors);
+    static int usefulWorkers(const PictureMaking& making, AVPixelFormat format, int width,
+                             int height, int processors);
 
     /// The queues outlive the stage.
     TransformStage(const PictureMaking& making, BoundedQueue<ScheduledFrame>& in,
-                   BoundedQueue<ScheduledFrame>& out, const std::stop_token& stop);
+                   BoundedQueue<ScheduledFrame>& out, std::stop_token stop);
 
     /// The work of one worker, on the calling thread, until there are no more pictures. After the
     /// last picture `out` is finished. Throws Cancelled once `stop` is requested, and Error if a
