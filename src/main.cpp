@@ -1,10 +1,11 @@
 #include "Application.h"
 #include "BriskletApp.h"
 #include "CommandLine.h"
-#include "Media/Engine.h"
 #include "Models/EditStore.h"
+#include "Models/LoadedVideo.h"
 #include "Platform/DesktopApplication.h"
 #include "Platform/QuickActionInstallation.h"
+#include "Support/FileUrl.h"
 #include "Support/LeakCheck.h"
 #include "Support/LocalizedMessage.h"
 #include "Support/TerminalLanguage.h"
@@ -78,16 +79,10 @@ bool takeStartedByBus() {
     return isStartedByBus;
 }
 
-/// Loads the media engine beside the making of the window, which opens files.
-void loadEngineAhead() {
-    brisklet::startWorker([] {
-        try {
-            media::engine();
-        } catch (const std::exception&) {
-            // The window that opens a file tells of it.
-            return;
-        }
-    });
+/// Loads the media engine and opens the first file beside the making of the window that shows it.
+void openAhead(const CommandLine& commandLine) {
+    if (!commandLine.files.empty() && brisklet::isOnThisComputer(commandLine.files.front()))
+        brisklet::openVideoAhead(commandLine.files.front());
 }
 
 /// Whether another process of the session has taken the files over.
@@ -104,8 +99,8 @@ int run(int& argc, char** argv, const CommandLine& everything) {
     const bool isPlain = !everything.unknownOption;
     if (isPlain && handOver(session, everything, launchData))
         return 0;
-    if (isPlain && !everything.files.empty())
-        loadEngineAhead();
+    if (isPlain)
+        openAhead(everything);
 
     const brisklet::Application application(argc, argv);
     setUpApplication();

@@ -13,6 +13,7 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <exception>
 #include <utility>
@@ -25,6 +26,10 @@ constexpr int kThumbnailCount = 12;
 /// Within this distance of the trim end, playing starts over from the trim start: it would stop
 /// again at once. Seconds.
 constexpr double kRestartMargin = 0.05;
+/// The filmstrip takes processor time from the picture: it waits until that has been handed to the
+/// view and painted, which is at the next refresh of the screen, or until it should have come.
+constexpr std::chrono::milliseconds kTimeToPaint(30);
+constexpr std::chrono::milliseconds kLongestWaitForPicture(1000);
 constexpr media::Time kExactly{0, media::kComparisonTimescale};
 
 /// The runs of EditHistory: keys on one end of the range, on one handle of the crop, on the crop.
@@ -75,6 +80,8 @@ EditState::EditState() {
         if (const auto self = weak_from_this().lock())
             self->playedToEnd();
     };
+    m_stripDelay.setSingleShot(true);
+    connect(&m_stripDelay, &QTimer::timeout, this, &EditState::makeFilmstrip);
     connect(this, &EditState::trimStartChanged, this, &EditState::announceTrim);
     connect(this, &EditState::trimEndChanged, this, &EditState::announceTrim);
 }
@@ -172,7 +179,6 @@ void EditState::reopen(const KeptEdit& kept) {
 QCoro::Task<> EditState::loadAsset(QUrl url, std::optional<KeptEdit> kept) {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const std::stop_token stop = m_loads.get_token();
-    std::stop_token stripStop;
     LoadedVideo video;
     QString failure;
     try {
@@ -196,25 +202,28 @@ QCoro::Task<> EditState::loadAsset(QUrl url, std::optional<KeptEdit> kept) {
         failure = (kept ? tr("Couldn’t reopen “%1”: %2") : tr("Couldn't open “%1”: %2"))
                       .arg(displayName(url), localizedMessage(error));
     }
-    {
-        const auto self = weak.lock();
-        if (!self)
-            co_return;
-        --self->m_pendingLoads;
-        if (!failure.isEmpty()) {
-            self->failToLoad(failure, kept);
-            co_return;
-        }
-        self->publish(url, video, kept);
-        self->m_strip.request_stop();
-        self->m_strip = {};
-        stripStop = self->m_strip.get_token();
-        self->m_isMakingThumbnails = true;
+    const auto self = weak.lock();
+    if (!self)
+        co_return;
+    --self->m_pendingLoads;
+    if (!failure.isEmpty()) {
+        self->failToLoad(failure, kept);
+        co_return;
     }
-    auto strip = Thumbnailer::filmstrip(video.asset, video.duration, kThumbnailCount, stripStop);
+    self->publish(url, video, kept);
+    self->m_strip.request_stop();
+    self->m_strip = {};
+    self->m_isMakingThumbnails = true;
+    self->m_stripDelay.start(kLongestWaitForPicture);
+}
+
+QCoro::Task<> EditState::makeFilmstrip() {
+    const std::weak_ptr<EditState> weak = weak_from_this();
+    const std::stop_token stop = m_strip.get_token();
+    auto strip = Thumbnailer::filmstrip(m_video.asset, m_duration, kThumbnailCount, stop);
     const QList<QImage> images = co_await strip;
     const auto self = weak.lock();
-    if (!self || stripStop.stop_requested())
+    if (!self || stop.stop_requested())
         co_return;
     self->m_thumbnails = images;
     self->m_isMakingThumbnails = false;
@@ -280,6 +289,9 @@ QCoro::Task<> EditState::askForMovie() {
 }
 
 void EditState::tick(double time) {
+    // The first after a load comes with the picture.
+    if (m_stripDelay.isActive() && m_stripDelay.intervalAsDuration() > kTimeToPaint)
+        m_stripDelay.start(kTimeToPaint);
     m_currentTime = time;
     if (!m_isPlaying || !(time >= m_trimEnd))
         return;

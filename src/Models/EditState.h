@@ -20,6 +20,7 @@
 #include <QList>
 #include <QObject>
 #include <QProperty>
+#include <QTimer>
 #include <QUrl>
 
 #include <cstdint>
@@ -263,6 +264,7 @@ private:
     void applyMuted(bool muted);
     /// The nearest to it that this video allows.
     [[nodiscard]] Edit fitted(const Edit& edit) const;
+    QCoro::Task<> makeFilmstrip();
     void tick(double time);
     void playedToEnd();
     void seekPlayer(double to);
@@ -324,6 +326,8 @@ private:
     std::stop_source m_loads;
     /// Stops the making of the filmstrip when another video is loaded.
     std::stop_source m_strip;
+    /// Begins it once the picture is on show.
+    QTimer m_stripDelay;
     /// How many loads have neither published their video nor failed.
     int m_pendingLoads = 0;
 };

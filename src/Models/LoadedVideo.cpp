@@ -5,8 +5,27 @@
 #include "Support/Workers.h"
 
 #include <cmath>
+#include <filesystem>
+#include <future>
+#include <utility>
 
 namespace brisklet {
+
+namespace {
+
+/// A video that is being opened, or was, before anybody asked for it.
+struct VideoAhead {
+    QUrl url;
+    std::shared_future<LoadedVideo> video;
+    std::stop_source stop;
+};
+
+std::optional<VideoAhead>& videoAhead() {
+    static std::optional<VideoAhead> ahead;
+    return ahead;
+}
+
+} // namespace
 
 LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& stop) {
     LoadedVideo video;
@@ -28,7 +47,26 @@ LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& 
     return video;
 }
 
+void openVideoAhead(const QUrl& url) {
+    VideoAhead ahead{.url = url, .video = {}, .stop = {}};
+    const auto task = std::make_shared<std::packaged_task<LoadedVideo()>>(
+        [path = pathOf(url), stop = ahead.stop.get_token()] { return loadVideo(path, stop); });
+    ahead.video = task->get_future().share();
+    startWorker([task] { (*task)(); });
+    videoAhead() = std::move(ahead);
+}
+
 QCoro::Task<LoadedVideo> openVideo(const QUrl& url, const std::stop_token& stop) {
+    if (videoAhead() && videoAhead()->url == url) {
+        const VideoAhead ahead = *std::exchange(videoAhead(), std::nullopt);
+        return runOnWorker([ahead, stop] {
+            const std::stop_callback stopOpening(stop, [&ahead] {
+                auto source = ahead.stop;
+                source.request_stop();
+            });
+            return ahead.video.get();
+        });
+    }
     return runOnWorker([path = pathOf(url), stop] { return loadVideo(path, stop); });
 }
 

@@ -36,7 +36,11 @@ struct LoadedVideo {
 /// stop request.
 LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& stop);
 
-/// The same on a worker thread; resumes the caller on its own. Also throws
+/// Begins to open a local file on a worker thread, for the openVideo() that will follow: the
+/// program does so while it still makes its first window. One file at a time. Main thread.
+void openVideoAhead(const QUrl& url);
+
+/// Opens a file on a worker thread and resumes the caller on its own. Throws as loadVideo(), and
 /// std::runtime_error if the URL names no file of this computer.
 QCoro::Task<LoadedVideo> openVideo(const QUrl& url, const std::stop_token& stop);
 

@@ -67,6 +67,39 @@ TEST_F(EditStateTest, loadsAVideoAndThenItsFilmstrip) {
     EXPECT_EQ(player().currentItem()->asset()->path(), video);
 }
 
+/// Story: the filmstrip began with the file, and its decoder took turns with the one that decoded
+/// the first picture.
+TEST_F(EditStateTest, makesTheFilmstripOnceThePictureIsThere) {
+    const auto video = makeFixture(kTenSeconds).path;
+    state().load(urlOf(video));
+    ASSERT_TRUE(pumpUntil([this] { return state().videoURL().has_value(); }));
+    // A strip that was begun by now would be ready.
+    waitForWorkers();
+    testsupport::pumpPending();
+    EXPECT_TRUE(state().thumbnails().isEmpty());
+    ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
+}
+
+TEST_F(EditStateTest, loadsWhatWasOpenedAhead) {
+    const testsupport::TemporaryFolder folder;
+    const auto video = folder.path() / "ahead.mp4";
+    std::filesystem::copy_file(makeFixture(kTwoFrames).path, video);
+    openVideoAhead(urlOf(video));
+    waitForWorkers();
+    std::filesystem::remove(video);
+    state().load(urlOf(video));
+    ASSERT_TRUE(pumpUntil([this] { return state().videoURL().has_value(); }));
+    // Only once: from now on the name counts.
+    state().load(urlOf(video));
+    ASSERT_TRUE(waitForError());
+}
+
+TEST_F(EditStateTest, opensAnotherFileThanTheOneOpenedAhead) {
+    openVideoAhead(urlOf(soundOnly()));
+    EXPECT_TRUE(loadAndWait(kTenSeconds));
+    EXPECT_EQ(state().errorMessage(), std::nullopt);
+}
+
 TEST_F(EditStateTest, resetsTheEditWithEachVideo) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     state().setTrimStart(2);
