@@ -36,12 +36,14 @@ struct StepTitles {
 StepTitles titlesOf(EditStep step) {
     switch (step) {
     case EditStep::trimStart:
+        //: To undo that the beginning of the kept part was moved. “Trim Start” is its name.
         return {AppCommands::tr("Undo Trim Start"), AppCommands::tr("Redo Trim Start")};
     case EditStep::trimEnd:
         return {AppCommands::tr("Undo Trim End"), AppCommands::tr("Redo Trim End")};
     case EditStep::crop:
         return {AppCommands::tr("Undo Crop"), AppCommands::tr("Redo Crop")};
     case EditStep::removeCrop:
+        //: To undo that the crop was removed.
         return {AppCommands::tr("Undo Remove Crop"), AppCommands::tr("Redo Remove Crop")};
     case EditStep::rotate:
         return {AppCommands::tr("Undo Rotate"), AppCommands::tr("Redo Rotate")};
@@ -230,6 +232,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
     clip->addActions({m_previousFrame, m_nextFrame});
     clip->addSeparator();
     clip->addAction(m_loop);
+    //: The menu of the places that the playhead can go to.
     QMenu* go = menuBar.addMenu(tr("&Go"));
     go->addAction(m_goToTime);
     go->addSeparator();

@@ -38,6 +38,7 @@ public:
         : QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"), {}, QMessageBox::NoButton,
                       window, Sheet::flags()) {
         setAttribute(Qt::WA_DeleteOnClose);
+        //: Answers “Stop the export and close?” with no.
         QPushButton* keep =
             addButton(WindowRootView::tr("Keep Exporting"), QMessageBox::RejectRole);
         addButton(WindowRootView::tr("Stop and Close"), QMessageBox::AcceptRole);

@@ -2,6 +2,18 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>PackageFile</name>
+    <message>
+        <source>It is being downloaded already.</source>
+        <extracomment>The new version of the program, by another window or session.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update can’t be stored: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Packaging</name>
     <message>
         <source>Video Trimmer</source>
@@ -218,6 +230,121 @@
 Free software under the GNU General Public License, version 3 or later.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Undo Trim Start</source>
+        <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Trim Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Trim End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Trim End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Remove Crop</source>
+        <extracomment>To undo that the crop was removed.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Remove Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Rotate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Rotate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Mute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Mute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Unmute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Unmute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reopen Last Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Last Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to Time…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range Start, Then Start of Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range End, Then End of Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back One Second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward One Second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <extracomment>The menu of the places that the playhead can go to.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder “%1” can’t be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::CommandLine</name>
@@ -303,6 +430,23 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>about %1</source>
+        <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute or unmute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop or remove the crop</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::CropOverlayView</name>
@@ -314,6 +458,46 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>%1×%2 at %3, %4</source>
         <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move its right or bottom side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move its left or top side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop, by mouse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag inside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag a handle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resize the crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Esc during a drag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the drag back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop, reached by Tab</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -384,6 +568,10 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -397,6 +585,21 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::ExportButton</name>
+    <message>
+        <source>The Down key opens a menu of formats and resolutions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export button, reached by Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose format and resolution</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -453,6 +656,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>about %1 left</source>
+        <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ExportResolution</name>
@@ -487,6 +695,80 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::GoToTimePanel</name>
+    <message>
+        <source>Go to Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to:</source>
+        <extracomment>Before a field for a time.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <extracomment>The button that goes to the time in the field.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
+        <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video ends at %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The frames of this video have no known numbers. Type a time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last frame is #%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A time, or frames from here: 1:23.456, +10f</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::KeyboardShortcutsView</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys or gesture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::MarkerReadout</name>
+    <message>
+        <source>1/10 speed</source>
+        <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/100 speed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -536,11 +818,128 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Trim end</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>One frame back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One frame forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One second back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One second forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As far back as possible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As far forward as possible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::TimelineStrip</name>
+    <message>
+        <source>Timeline, by mouse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click or drag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the playhead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag a handle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the trim start or the trim end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Esc during a drag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the drag back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trim start, playhead and trim end, reached by Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Making the filmstrip…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move a tenth as far as the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag with Shift, far above or below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move a hundredth as far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step by a frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wheel with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step by ten frames</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wheel over a handle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step with that end of the range</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::TimelineView</name>
     <message>
         <source>Timeline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range %1</source>
+        <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -619,10 +1018,6 @@ Trims videos. Each VIDEO opens in a window of its own.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The update couldn’t be downloaded: %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -647,7 +1042,33 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Stop and Close</source>
-        <extracomment>The button that answers “Stop the export and close?” with yes.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Exporting</source>
+        <extracomment>Answers “Stop the export and close?” with no.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Stop %n exports and close?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>brisklet::approximateDuration</name>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1154,6 +1575,30 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder “%1” is not there.</source>
+        <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another file has its name now.</source>
+        <extracomment>About a video that the sentence before has named.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no longer in the folder “%1”.</source>
+        <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
+        <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system is too busy: it can’t start another thread.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

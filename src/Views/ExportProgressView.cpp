@@ -93,6 +93,7 @@ void ExportProgressView::setProgress(double fraction) {
 
 void ExportProgressView::showRemaining() {
     const auto left = m_remaining.at(secondsOn(m_sinceStart));
+    //: %1: a time with its unit, such as “20 s”; how much longer the export takes.
     const QString caption = left ? tr("about %1 left").arg(approximateDuration(*left)) : QString();
     m_caption->setText(left ? caption : QStringLiteral(" "));
     const QString percent = QLocale().toString(m_bar->value() * 100 / kBarSteps) + u'%';

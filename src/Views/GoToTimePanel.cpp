@@ -47,6 +47,7 @@ GoToTimePanel::GoToTimePanel(std::shared_ptr<EditState> state, QWidget* window)
 }
 
 void GoToTimePanel::buildLayout() {
+    //: Before a field for a time.
     auto* label = new QLabel(tr("Go to:"));
     label->setBuddy(m_field);
     m_field->setAccessibleName(windowTitle());
@@ -54,6 +55,7 @@ void GoToTimePanel::buildLayout() {
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
     m_message->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    //: The button that goes to the time in the field.
     auto* button = new QPushButton(tr("Go"));
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, &GoToTimePanel::go);
@@ -81,6 +83,7 @@ void GoToTimePanel::go() {
 std::optional<QString> GoToTimePanel::moveTo(const QString& text) {
     const auto entry = TimeEntry::parse(text);
     if (!entry)
+        //: The letter “f” for frames is the same in all languages.
         return tr("This is no time. Type one such as 1:23.456, +10f or #2412.");
     switch (entry->kind) {
     case TimeEntry::Kind::time:

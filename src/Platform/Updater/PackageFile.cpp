@@ -47,6 +47,7 @@ bool PackageFile::create() {
     if (!QDir().mkpath(QFileInfo(m_path).path()) || !m_file.open(QIODevice::ReadWrite))
         return false;
     if (!lock(m_file)) {
+        //: The new version of the program, by another window or session.
         m_reason = tr("It is being downloaded already.");
         m_file.close();
         return false;

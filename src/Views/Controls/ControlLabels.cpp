@@ -44,6 +44,7 @@ QString forecastLabel(double seconds, media::Size picture,
         QStringLiteral("%1 × %2").arg(wholePixels(picture.width)).arg(wholePixels(picture.height))};
     if (forecast) {
         const auto about = [](const QString& what) {
+            //: %1: a size, such as “46 MB”, or a time, such as “20 s”.
             return QCoreApplication::translate("brisklet::ControlsView", "about %1").arg(what);
         };
         parts << about(approximateSize(forecast->bytes))

@@ -29,6 +29,7 @@ void add(QTreeWidget& page, const ShortcutGroup& group) {
 QTreeWidget* makePage(const QList<ShortcutGroup>& groups) {
     auto* page = new QTreeWidget;
     page->setAccessibleName(KeyboardShortcutsView::tr("Keyboard Shortcuts"));
+    //: The heads of two columns: what is done, and by which keys.
     page->setHeaderLabels(
         {KeyboardShortcutsView::tr("Action"), KeyboardShortcutsView::tr("Keys or gesture")});
     page->setRootIsDecorated(false);

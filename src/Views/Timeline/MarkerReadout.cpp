@@ -22,6 +22,7 @@ QString textOf(DragSpeed speed) {
     case DragSpeed::full:
         return {};
     case DragSpeed::tenth:
+        //: During a fine drag: the handle moves a tenth as far as the mouse.
         return MarkerReadout::tr("1/10 speed");
     case DragSpeed::hundredth:
         return MarkerReadout::tr("1/100 speed");

@@ -99,6 +99,12 @@ QList<ShortcutGroup> TimelineStrip::shortcutGroups() const {
     return {{tr("Timeline, by mouse"),
              {{tr("Click or drag"), tr("Move the playhead")},
               {tr("Drag a handle"), tr("Move the trim start or the trim end")},
+              {tr("Drag with Shift"), tr("Move a tenth as far as the pointer")},
+              {tr("Drag with Shift, far above or below"), tr("Move a hundredth as far")},
+              //: Of the mouse; or two fingers on a touchpad.
+              {tr("Wheel"), tr("Step by a frame")},
+              {tr("Wheel with Shift"), tr("Step by ten frames")},
+              {tr("Wheel over a handle"), tr("Step with that end of the range")},
               {tr("Esc during a drag"), tr("Take the drag back")}}},
             {tr("Trim start, playhead and trim end, reached by Tab"), TimelineMove::shortcuts()}};
 }

@@ -99,6 +99,7 @@ void TimelineView::showLength() {
     const double start = m_state->trimStart();
     const double end = m_state->trimEnd();
     const bool isPart = end > start && (start > 0 || end < m_state->duration());
+    //: %1: the length of the part that is kept, such as 0:00:05.298. As short as possible.
     m_length->setText(isPart ? tr("Range %1").arg(exactTimelineLabel(end - start)) : QString());
     placeLabels();
 }
