@@ -20,11 +20,15 @@ ContainerTraits traitsOf(const char* name) {
 TEST(ContainerTraits, knowContainersByAnyOfTheirNames) {
     for (const char* name : {"mov", "mp4", "3gp"}) {
         EXPECT_TRUE(traitsOf(name).statesPresentationTimes) << name;
+        EXPECT_TRUE(traitsOf(name).statesDecodingTimes) << name;
+        EXPECT_TRUE(traitsOf(name).statesParameters) << name;
         EXPECT_TRUE(traitsOf(name).indexesEverySample) << name;
         EXPECT_FALSE(traitsOf(name).isIndexedByPictures) << name;
     }
     for (const char* name : {"matroska", "webm"}) {
         EXPECT_TRUE(traitsOf(name).statesPresentationTimes) << name;
+        EXPECT_FALSE(traitsOf(name).statesDecodingTimes) << name;
+        EXPECT_FALSE(traitsOf(name).statesParameters) << name;
         EXPECT_TRUE(traitsOf(name).isIndexedByPictures) << name;
         EXPECT_TRUE(traitsOf(name).countsSoundPriming) << name;
         EXPECT_FALSE(traitsOf(name).indexesEverySample) << name;
@@ -38,7 +42,8 @@ TEST(ContainerTraits, knowContainersByAnyOfTheirNames) {
 TEST(ContainerTraits, relyOnNothingInFormatsThatAreNotKnown) {
     for (const char* name : {"mpegts", "avi", "mpeg", "yuv4mpegpipe"}) {
         const ContainerTraits traits = traitsOf(name);
-        EXPECT_FALSE(traits.statesPresentationTimes || traits.indexesEverySample ||
+        EXPECT_FALSE(traits.statesPresentationTimes || traits.statesDecodingTimes ||
+                     traits.statesParameters || traits.indexesEverySample ||
                      traits.isIndexedByPictures || traits.countsSoundPriming ||
                      traits.isBareBitstream || traits.hasOrderedPictures || traits.isStillPicture)
             << name;

@@ -304,6 +304,20 @@ std::string findTimecode(const AVFormatContext& context, int pictureStream) {
     return code;
 }
 
+void describePictures(SourceTrack& track, const AVStream& stream, const FirstPicturesReader& reader,
+                      const FirstPictures& first) {
+    track.dynamicRange = describeDynamicRange(stream, reader.picture());
+    track.fieldOrder = fieldOrderOf(*track.parameters, reader.picture());
+    track.lacksPresentationTimes = first.lacksPresentationTimes;
+    track.needsGeneratedTimes = first.needsGeneratedTimes;
+}
+
+DictionaryPtr copyOf(const AVDictionary* metadata) {
+    AVDictionary* copy = nullptr;
+    check(av_dict_copy(&copy, metadata, 0));
+    return DictionaryPtr(copy);
+}
+
 } // namespace
 
 Inspected inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_token& stop) {
@@ -318,9 +332,7 @@ Inspected inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_toke
         demuxer.usePictures(info.pictures);
     AVFormatContext& context = demuxer.context();
     info.format = context.iformat;
-    AVDictionary* metadata = nullptr;
-    check(av_dict_copy(&metadata, context.metadata, 0));
-    info.metadata.reset(metadata);
+    info.metadata = copyOf(context.metadata);
 
     std::optional<Time> firstPicture;
     int pictureStream = -1;
@@ -337,13 +349,9 @@ Inspected inspect(Demuxer& demuxer, const SourceFile& file, const std::stop_toke
         SourceTrack& video =
             *std::ranges::find(info.tracks, pictureStream,
                                [](const SourceTrack& track) { return track.facts.streamIndex; });
-        video.dynamicRange =
-            describeDynamicRange(*context.streams[pictureStream], reader->picture());
-        video.fieldOrder = fieldOrderOf(*video.parameters, reader->picture());
+        describePictures(video, *context.streams[pictureStream], *reader, first);
         findFrameRate(video, info, demuxer, *reader, stop);
         findFrameDistance(video, demuxer, file);
-        video.lacksPresentationTimes = first.lacksPresentationTimes;
-        video.needsGeneratedTimes = first.needsGeneratedTimes;
         if (!first.lacksPresentationTimes && !first.needsGeneratedTimes)
             result.firstFrame = reader->firstFrame();
         if (first.timestamp)
