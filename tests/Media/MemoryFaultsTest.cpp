@@ -67,6 +67,11 @@ protected:
             carryOut(order);
             return result;
         });
+        // libav itself ends the program where an encoder’s default options get no memory
+        // (avcodec_alloc_context3). Then nothing is lost either.
+        const bool isLibavsEnd = GetParam() == Allocations::libavs && complaint == "signal 6";
+        if (isLibavsEnd)
+            complaint = contentsOf(folder / "out.mp4") == "old" ? "" : "the older file is lost; ";
         if (namesIn(folder.path()) != std::vector<std::string>{"out.mp4"})
             complaint += "something stays";
         return complaint;

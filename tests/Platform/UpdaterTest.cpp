@@ -1,7 +1,11 @@
+#include "FaultySystem/FaultySystem.h"
 #include "UpdaterFixture.h"
 
-#include <chrono>
 #include <QTimeZone>
+
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
 #include <sys/file.h>
 
 namespace brisklet {
@@ -218,6 +222,44 @@ TEST_F(UpdaterTest, leavesTheDownloadOfAnotherProgramAlone) {
     install();
     EXPECT_EQ(m_driver.failure, QString());
     EXPECT_FALSE(other.exists());
+}
+
+/// Each call to the system about the package fails once.
+TEST_F(UpdaterTest, installsTheWholePackageOrLeavesNothing) {
+    const std::string folder = m_configuration.downloadFolder.toStdString();
+    int failures = 0;
+    for (const int error : {ENOSPC, EIO, EINTR}) {
+        for (int number = 0, calls = 1; number < calls; ++number) {
+            calls = 0;
+            testsupport::setSystemJudge([&](const testsupport::SystemCall& call) {
+                std::error_code ignored;
+                const std::string path =
+                    call.descriptor < 0
+                        ? std::string(call.path)
+                        : std::filesystem::read_symlink(
+                              "/proc/self/fd/" + std::to_string(call.descriptor), ignored)
+                              .string();
+                const bool isFailing = path.starts_with(folder) && calls++ == number;
+                return testsupport::SystemAnswer{.error = isFailing ? error : 0};
+            });
+            install();
+            testsupport::setSystemJudge({});
+            SCOPED_TRACE(testing::Message() << "call " << number << ", error " << error << ": "
+                                            << m_driver.failure.toStdString());
+            QFile package(m_driver.opened);
+            if (m_driver.failure.isEmpty()) {
+                ASSERT_TRUE(package.open(QIODevice::ReadOnly));
+                EXPECT_EQ(package.readAll(), m_package);
+                ASSERT_TRUE(package.remove());
+            } else {
+                ++failures;
+            }
+            EXPECT_EQ(QDir(m_configuration.downloadFolder).entryList(QDir::Files | QDir::Hidden),
+                      QStringList());
+            m_driver.forget();
+        }
+    }
+    EXPECT_GT(failures, 10);
 }
 
 TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {
