@@ -225,38 +225,54 @@ TEST_F(UpdaterTest, leavesTheDownloadOfAnotherProgramAlone) {
 }
 
 /// Each call to the system about the package fails once.
-TEST_F(UpdaterTest, installsTheWholePackageOrLeavesNothing) {
-    const std::string folder = m_configuration.downloadFolder.toStdString();
+class UpdaterWithAFault : public UpdaterTest {
+protected:
+    /// Installs while the call with that number fails; how many there were.
+    int installWithFaultAt(int number, int error) {
+        const std::string folder = m_configuration.downloadFolder.toStdString();
+        int calls = 0;
+        testsupport::setSystemJudge([&](const testsupport::SystemCall& call) {
+            const bool isFailing = pathOf(call).starts_with(folder) && calls++ == number;
+            return testsupport::SystemAnswer{.error = isFailing ? error : 0};
+        });
+        install();
+        testsupport::setSystemJudge({});
+        return calls;
+    }
+
+private:
+    static std::string pathOf(const testsupport::SystemCall& call) {
+        if (call.descriptor < 0)
+            return std::string(call.path);
+        const auto link = "/proc/self/fd/" + std::to_string(call.descriptor);
+        std::error_code ignored;
+        return std::filesystem::read_symlink(link, ignored).string();
+    }
+};
+
+TEST_F(UpdaterWithAFault, installsTheWholePackageOrLeavesNothing) {
+    const int calls = installWithFaultAt(-1, 0);
+    ASSERT_TRUE(QFile::remove(m_driver.opened));
     int failures = 0;
     for (const int error : {ENOSPC, EIO, EINTR}) {
-        for (int number = 0, calls = 1; number < calls; ++number) {
-            calls = 0;
-            testsupport::setSystemJudge([&](const testsupport::SystemCall& call) {
-                std::error_code ignored;
-                const std::string path =
-                    call.descriptor < 0
-                        ? std::string(call.path)
-                        : std::filesystem::read_symlink(
-                              "/proc/self/fd/" + std::to_string(call.descriptor), ignored)
-                              .string();
-                const bool isFailing = path.starts_with(folder) && calls++ == number;
-                return testsupport::SystemAnswer{.error = isFailing ? error : 0};
-            });
-            install();
-            testsupport::setSystemJudge({});
-            SCOPED_TRACE(testing::Message() << "call " << number << ", error " << error << ": "
-                                            << m_driver.failure.toStdString());
-            QFile package(m_driver.opened);
-            if (m_driver.failure.isEmpty()) {
+        for (int number = 0; number < calls; ++number) {
+            m_driver.forget();
+            installWithFaultAt(number, error);
+            const QString failure = m_driver.failure;
+            SCOPED_TRACE(testing::Message() << "call " << number << ", error " << error);
+            if (failure.isEmpty()) {
+                QFile package(m_driver.opened);
                 ASSERT_TRUE(package.open(QIODevice::ReadOnly));
                 EXPECT_EQ(package.readAll(), m_package);
                 ASSERT_TRUE(package.remove());
             } else {
                 ++failures;
+                EXPECT_TRUE(failure.startsWith(QStringLiteral("The update ")))
+                    << failure.toStdString();
+                EXPECT_FALSE(failure.contains(QStringLiteral("nknown"))) << failure.toStdString();
             }
             EXPECT_EQ(QDir(m_configuration.downloadFolder).entryList(QDir::Files | QDir::Hidden),
                       QStringList());
-            m_driver.forget();
         }
     }
     EXPECT_GT(failures, 10);

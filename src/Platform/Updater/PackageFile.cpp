@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -70,11 +71,15 @@ bool PackageFile::flush() {
 bool PackageFile::keep() {
     // The file’s own lock ends with its descriptor, and its name must not be free before.
     const int second = ::dup(m_file.handle());
-    QFile::remove(m_path);
-    const bool isKept = m_file.rename(m_path);
-    ::close(second);
-    if (!isKept)
+    // All is on disk: what closing it says is of no interest.
+    m_file.close();
+    const bool isKept = std::rename(QFile::encodeName(m_file.fileName()).constData(),
+                                    QFile::encodeName(m_path).constData()) == 0;
+    if (!isKept) {
+        m_reason = qt_error_string(errno);
         m_file.remove();
+    }
+    ::close(second);
     return isKept;
 }
 
