@@ -240,7 +240,11 @@ int fcntl(int descriptor, int command, ...) {
     va_start(arguments, command);
     void* const argument = va_arg(arguments, void*);
     va_end(arguments);
-    return answered(ask({.kind = SystemCall::Kind::lock, .descriptor = descriptor}), -1, [&] {
+    SystemAnswer answer = ask({.kind = SystemCall::Kind::lock, .descriptor = descriptor});
+    // A descriptor that nobody is told of cannot be closed.
+    if (command == F_DUPFD_CLOEXEC)
+        answer.isDone = false;
+    return answered(answer, -1, [&] {
         return next<int(int, int, ...)>("fcntl")(descriptor, command, argument);
     });
 }

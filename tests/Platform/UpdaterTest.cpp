@@ -267,7 +267,7 @@ TEST_F(UpdaterWithAFault, installsTheWholePackageOrLeavesNothing) {
                 ASSERT_TRUE(package.remove());
             } else {
                 ++failures;
-                EXPECT_TRUE(failure.startsWith(QStringLiteral("The update ")))
+                EXPECT_TRUE(failure.startsWith(QStringLiteral("The update c")))
                     << failure.toStdString();
                 EXPECT_FALSE(failure.contains(QStringLiteral("nknown"))) << failure.toStdString();
             }

@@ -14,12 +14,11 @@ const unsigned char* bytesOf(const QByteArray& array) {
 
 } // namespace
 
-bool isSigned(const QString& file, const QByteArray& signature, const QByteArray& publicKey) {
+bool isSigned(QFile& package, const QByteArray& signature, const QByteArray& publicKey) {
     if (signature.size() != qsizetype{crypto_sign_BYTES} ||
         publicKey.size() != qsizetype{crypto_sign_PUBLICKEYBYTES} || sodium_init() < 0)
         return false;
-    QFile package(file);
-    if (!package.open(QIODevice::ReadOnly) || package.size() == 0)
+    if (package.size() == 0)
         return false;
     // Memory-mapped, so that the package does not have to fit into memory.
     const uchar* content = package.map(0, package.size());

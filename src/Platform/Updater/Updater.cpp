@@ -233,12 +233,12 @@ void Updater::packageArrived(const QString& failure) {
         fail(tr("The update couldn’t be downloaded: %1").arg(failure));
         return;
     }
-    const QFile& file = m_package->file();
+    QFile& file = m_package->file();
     if (!m_package->flush())
         fail(m_package->failure());
     else if (file.size() != m_item.length)
         fail(tr("The update is incomplete. It hasn’t been installed."));
-    else if (!isSigned(file.fileName(), m_item.signature, m_configuration.publicKey))
+    else if (!isSigned(file, m_item.signature, m_configuration.publicKey))
         fail(tr("The update isn’t genuine: its signature is wrong. It hasn’t been installed."));
     else
         openChecked();
