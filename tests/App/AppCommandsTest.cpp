@@ -329,7 +329,7 @@ TEST_F(AppCommandsTest, showsInANewWindowThatTheLoopIsOn) {
     AppCommands commands(m_updater, m_focusedValues);
     QMenuBar menuBar;
     commands.fill(menuBar);
-    EXPECT_TRUE(menuBar.actions().at(2)->menu()->actions().last()->isChecked());
+    EXPECT_TRUE(menuBar.actions().at(3)->menu()->actions().last()->isChecked());
     PlaybackSettings::shared().setLoopEnabled(false);
 }
 

@@ -237,7 +237,7 @@ TEST_F(BriskletAppTest, leavesNothingUnfinishedWhenTheSystemEndsIt) {
     WindowRootView* exporting = openWindow();
     openWindow();
     ASSERT_TRUE(startLongExport(*exporting));
-    ASSERT_TRUE(pumpUntil([this] { return !std::filesystem::is_empty(m_folder.path()); }));
+    ASSERT_TRUE(pumpUntil([&] { return exporting->state()->exportProgress().value_or(0) > 0; }));
     std::raise(SIGTERM);
     EXPECT_TRUE(pumpUntil([this] { return m_app->windows().isEmpty(); }));
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));

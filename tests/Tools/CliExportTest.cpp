@@ -225,7 +225,7 @@ TEST(CliExport, isRefusedWhereAnotherProcessIsExporting) {
     running.waitFor(0);
     EXPECT_EQ(exported({source, folder / "out.mp4"}).errors,
               "Export failed: “out.mp4” is being written by another export.\n");
-    EXPECT_EQ(namesIn(folder.path()).size(), 1U);
+    EXPECT_THAT(namesIn(folder.path()), testing::Not(testing::Contains("out.mp4")));
     running.send(SIGKILL);
     EXPECT_EQ(running.finish(), 128 + SIGKILL);
     EXPECT_EQ(exported({source, folder / "out.mp4", "--end", "1"}).exitStatus, 0);

@@ -292,7 +292,7 @@ void ControlsView::showForecast() {
                                  : QString();
     m_forecastLabel->setText(line);
     m_forecastLine->setText(line);
-    m_exportButton->setAccessibleDescription(line);
+    m_exportButton->describe(line);
 }
 
 void ControlsView::showFonts() {

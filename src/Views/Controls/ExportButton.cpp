@@ -46,11 +46,16 @@ bool opensMenu(const QKeyEvent& event) {
 
 ExportButton::ExportButton(QWidget* parent) : QToolButton(parent) {
     installExportButtonAccessibility();
-    setAccessibleDescription(tr("The Down key opens a menu of formats and resolutions"));
+    describe({});
     setPopupMode(QToolButton::MenuButtonPopup);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void ExportButton::describe(const QString& forecast) {
+    const QString menu = tr("The Down key opens a menu of formats and resolutions");
+    setAccessibleDescription(forecast.isEmpty() ? menu : forecast + u'\n' + menu);
 }
 
 QSize ExportButton::sizeHint() const {

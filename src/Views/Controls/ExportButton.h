@@ -27,6 +27,9 @@ public:
 
     [[nodiscard]] bool isMenuOpen() const;
 
+    /// Tells assistive technology what an export comes to, if that is known, and of the menu.
+    void describe(const QString& forecast);
+
     static QList<QKeySequence> menuKeys();
     [[nodiscard]] QList<ShortcutGroup> shortcutGroups() const override;
 
