@@ -4,6 +4,7 @@
 #
 #   bench/forecast.sh [VIDEO...]    default: the sample videos
 source "$(dirname "$0")/common.sh"
+export QT_QPA_PLATFORM=offscreen
 
 videos=("$@")
 if ((${#videos[@]} == 0)); then

@@ -6,11 +6,11 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يجري تنزيله بالفعل.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن حفظ التحديث: %1</translation>
     </message>
 </context>
 <context>
@@ -18,49 +18,49 @@
     <message>
         <source>Video Trimmer</source>
         <extracomment>The kind of program, in the menus of desktops.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أداة قص الفيديو</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>قص الفيديو واقتصاصه وتدويره بدقة الإطار الواحد</translation>
     </message>
     <message>
         <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
         <extracomment>What people search for in the menus of desktops, in any number; a semicolon after each.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>قص;قطع;تقصير;اقتصاص;تدوير;فيديو;فيلم;مقطع;mp4;mov;</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة جديدة</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos</source>
         <extracomment>These and the following stand in software centres.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>قص الفيديو واقتصاصه وتدويره</translation>
     </message>
     <message>
         <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
-        <translation type="unfinished"></translation>
+        <translation>يؤدي Brisklet مهمة واحدة: إنشاء نسخة من الفيديو أقصر أو مقتصة أو مدارة. أفلت ملفًا على نافذته، واسحب المقبضين فوق شريط اللقطات، ثم صدّر.</translation>
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>أول صورة في الملف المصدَّر هي التي رأيتها عند بداية النطاق، ويبقى الصوت في موضعه.</translation>
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation type="unfinished"></translation>
+        <translation>الاقتصاص والتدوير في خطوة واحدة، مع إعادة اعتيان واحدة متقنة.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحافظ على الألوان والمدى الديناميكي العالي ومسارات الصوت والفصول والتواريخ.</translation>
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
-        <translation type="unfinished"></translation>
+        <translation>يكتب MP4 و MOV، ويقرأ ما تكتبه الكاميرات والهواتف ومسجلات الشاشة.</translation>
     </message>
     <message>
         <source>Never touches the original, and never leaves a half-written file.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمس الأصل أبدًا، ولا يترك أبدًا ملفًا لم تكتمل كتابته.</translation>
     </message>
 </context>
 <context>
@@ -68,47 +68,47 @@
     <message>
         <source>Videos (%1)</source>
         <extracomment>A type of files in the open panel; %1: patterns of names.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ملفات الفيديو (%1)</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>The title of the save panel, a noun.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تصدير</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>The title of the open panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>فتح</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الملفات (*)</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>“%1” is the video that is being edited. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف «%1» هو الفيديو الذي يجري تحريره. اختر اسمًا آخر.</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>حسنًا</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نعم</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لا</translation>
     </message>
 </context>
 <context>
@@ -116,234 +116,236 @@
     <message>
         <source>Ctrl</source>
         <extracomment>The names of keys, as they are on keyboards.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>مسافة</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين</translation>
     </message>
 </context>
 <context>
     <name>brisklet::AppCommands</name>
     <message>
         <source>About Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>عن Brisklet</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من وجود تحديثات…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>إنهاء</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة جديدة</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح فيديو…</translation>
     </message>
     <message>
         <source>Export…</source>
         <extracomment>Opens the save panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تصدير…</translation>
     </message>
     <message>
         <source>Close Video</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق الفيديو</translation>
     </message>
     <message>
         <source>Set Trim Start at Playhead</source>
         <extracomment>“Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ضبط بداية القص عند رأس التشغيل</translation>
     </message>
     <message>
         <source>Set Trim End at Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>ضبط نهاية القص عند رأس التشغيل</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار السابق</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار التالي</translation>
     </message>
     <message>
         <source>Loop Playback</source>
         <extracomment>Plays what is kept again and again; can be checked.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تكرار التشغيل</translation>
     </message>
     <message>
         <source>&amp;Brisklet</source>
         <extracomment>The name of the program; only the place of the accelerator is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Brisklet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ملف</translation>
     </message>
     <message>
         <source>&amp;Clip</source>
         <extracomment>The menu of what is done to the part of the video that is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مق&amp;طع</translation>
     </message>
     <message>
         <source>Remove Finder Quick Action</source>
         <extracomment>The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name none if your language has a word for all: “Add to File Managers”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>إزالة من مدير الملفات</translation>
     </message>
     <message>
         <source>Install Finder Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة إلى مدير الملفات</translation>
     </message>
     <message>
         <source>Couldn&apos;t update the Quick Action: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث مدخلات مدير الملفات: %1</translation>
     </message>
     <message>
         <source>Brisklet %1</source>
         <extracomment>%1: the version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1</translation>
     </message>
     <message>
         <source>Trims, crops and turns videos, exact to the frame.
 
 Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>قص الفيديو واقتصاصه وتدويره بدقة الإطار الواحد.
+
+برنامج حر برخصة GNU العمومية العامة، الإصدار 3 أو ما بعده.</translation>
     </message>
     <message>
         <source>Undo Trim Start</source>
         <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن بداية القص</translation>
     </message>
     <message>
         <source>Redo Trim Start</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة بداية القص</translation>
     </message>
     <message>
         <source>Undo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن نهاية القص</translation>
     </message>
     <message>
         <source>Redo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة نهاية القص</translation>
     </message>
     <message>
         <source>Undo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن الاقتصاص</translation>
     </message>
     <message>
         <source>Redo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة الاقتصاص</translation>
     </message>
     <message>
         <source>Undo Remove Crop</source>
         <extracomment>To undo that the crop was removed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن إزالة الاقتصاص</translation>
     </message>
     <message>
         <source>Redo Remove Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة إزالة الاقتصاص</translation>
     </message>
     <message>
         <source>Undo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن التدوير</translation>
     </message>
     <message>
         <source>Redo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة التدوير</translation>
     </message>
     <message>
         <source>Undo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن الكتم</translation>
     </message>
     <message>
         <source>Redo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة الكتم</translation>
     </message>
     <message>
         <source>Undo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع عن إلغاء الكتم</translation>
     </message>
     <message>
         <source>Redo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة إلغاء الكتم</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>اختصارات لوحة المفاتيح</translation>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة فتح آخر تحرير</translation>
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض آخر تصدير</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة</translation>
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation type="unfinished"></translation>
+        <translation>الانتقال إلى وقت…</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>بداية النطاق، ثم بداية الفيديو</translation>
     </message>
     <message>
         <source>Range End, Then End of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>نهاية النطاق، ثم نهاية الفيديو</translation>
     </message>
     <message>
         <source>Back One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>ثانية إلى الخلف</translation>
     </message>
     <message>
         <source>Forward One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>ثانية إلى الأمام</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تحرير</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <extracomment>The menu of the places that the playhead can go to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;نتقال</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;ساعدة</translation>
     </message>
     <message>
         <source>The folder “%1” can’t be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن عرض المجلد «%1».</translation>
     </message>
 </context>
 <context>
@@ -357,7 +359,13 @@ Trims videos. Each VIDEO opens in a window of its own.
   --version               print the version and exit
 </source>
         <extracomment>What --help prints. The options stay as they are; lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: brisklet [VIDEO...]
+قص الفيديو. يُفتح كل VIDEO في نافذة خاصة به.
+
+  --install-quick-action  إضافة «قص الفيديو» إلى قوائم مديري الملفات والخروج
+  --help                  عرض هذه المساعدة والخروج
+  --version               عرض الإصدار والخروج
+</translation>
     </message>
 </context>
 <context>
@@ -365,12 +373,12 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop zone</source>
         <extracomment>For screen readers: the empty window, on which videos are dropped.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>منطقة الإفلات</translation>
     </message>
     <message>
         <source>Editor</source>
         <extracomment>For screen readers: the window with a video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>المحرّر</translation>
     </message>
 </context>
 <context>
@@ -378,74 +386,74 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Export %1…</source>
         <extracomment>A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تصدير %1…</translation>
     </message>
     <message>
         <source>Export options</source>
         <extracomment>For screen readers: the menu of formats and resolutions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>خيارات التصدير</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
         <extracomment>Format and resolution.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>استعادة الإعدادات المبدئية</translation>
     </message>
     <message>
         <source>Format</source>
         <extracomment>The title of a group of entries: MP4, MOV.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الصيغة</translation>
     </message>
     <message>
         <source>Resolution</source>
         <extracomment>The title of a group of entries: Original, 1080p, 720p …</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الدقة</translation>
     </message>
     <message>
         <source>Pause</source>
         <extracomment>What the button does when it is pressed; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء كتم الصوت (سيُحذف الصوت عند التصدير)</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>كتم الصوت</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير لليسار</translation>
     </message>
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>إزالة الاقتصاص</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>اقتصاص</translation>
     </message>
     <message>
         <source>about %1</source>
         <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>نحو %1</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل أو إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>كتم الصوت أو إلغاء كتمه</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>اقتصاص أو إزالة الاقتصاص</translation>
     </message>
 </context>
 <context>
@@ -453,59 +461,59 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Crop</source>
         <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>منطقة الاقتصاص</translation>
     </message>
     <message>
         <source>%1×%2 at %3, %4</source>
         <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1×%2 عند %3، %4</translation>
     </message>
     <message>
         <source>Move the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل منطقة الاقتصاص</translation>
     </message>
     <message>
         <source>Move its right or bottom side</source>
-        <translation type="unfinished"></translation>
+        <translation>تحريك جانبها الأيمن أو السفلي</translation>
     </message>
     <message>
         <source>Move its left or top side</source>
-        <translation type="unfinished"></translation>
+        <translation>تحريك جانبها الأيسر أو العلوي</translation>
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>الاقتصاص بالفأرة</translation>
     </message>
     <message>
         <source>Drag inside it</source>
-        <translation type="unfinished"></translation>
+        <translation>السحب داخلها</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>سحب مقبض</translation>
     </message>
     <message>
         <source>Resize the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير حجم منطقة الاقتصاص</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc أثناء السحب</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء السحب</translation>
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>منطقة الاقتصاص، بالمفتاح Tab</translation>
     </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>
     <message>
         <source>Brisklet is running already, but it doesn’t answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>برنامج Brisklet يعمل بالفعل، لكنه لا يستجيب.</translation>
     </message>
 </context>
 <context>
@@ -513,34 +521,34 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Show</source>
         <extracomment>A button of the notification of an export that has ended: shows the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>عرض</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Download</name>
     <message>
         <source>The server took too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>استغرق الخادم وقتًا أطول من اللازم.</translation>
     </message>
     <message>
         <source>“%1” is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان «%1» غير آمن.</translation>
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحيل الخادم إلى «%1»، وهو عنوان غير آمن.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
-        <translation type="unfinished"></translation>
+        <translation>يرسل الخادم أكثر مما ينبغي.</translation>
     </message>
     <message>
         <source>The download can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن حفظ التنزيل: %1</translation>
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال بـ «%1» غير آمن: %2.</translation>
     </message>
 </context>
 <context>
@@ -548,11 +556,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop a video here</source>
         <extracomment>Under a picture of a film, in a frame that fills the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أفلت فيديو هنا</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح فيديو…</translation>
     </message>
 </context>
 <context>
@@ -560,20 +568,20 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trimmed</source>
         <extracomment>Follows the name of the original in the proposed name of the new file: “Holiday Trimmed.mp4”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مقصوص</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي «%1» على مسار فيديو.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح «%1»: %2</translation>
     </message>
     <message>
         <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إعادة فتح «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -581,85 +589,85 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Something Went Wrong</source>
         <extracomment>The title of each alert; what went wrong stands below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>حدث خطأ ما</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>حسنًا</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportButton</name>
     <message>
         <source>The Down key opens a menu of formats and resolutions</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتاح السهم السفلي يفتح قائمة بالصيغ والدقات</translation>
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>زر التصدير، بالمفتاح Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار الصيغة والدقة</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportFormat</name>
     <message>
         <source>MPEG-4 movie</source>
-        <translation type="unfinished"></translation>
+        <translation>فيلم MPEG-4</translation>
     </message>
     <message>
         <source>QuickTime movie</source>
-        <translation type="unfinished"></translation>
+        <translation>فيلم QuickTime</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportJob</name>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل التصدير: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportMonitor</name>
     <message>
         <source>Export finished</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل التصدير</translation>
     </message>
     <message>
         <source>Export failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل التصدير</translation>
     </message>
     <message>
         <source>A video is being exported.</source>
         <extracomment>Why the computer is not to sleep; some desktops show it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يجري تصدير فيديو.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportProgressView</name>
     <message>
         <source>Exporting…</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري التصدير…</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>A title, a noun: the act of exporting.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>التصدير</translation>
     </message>
     <message>
         <source>Export progress</source>
-        <translation type="unfinished"></translation>
+        <translation>تقدّم التصدير</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>about %1 left</source>
         <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>بقي نحو %1</translation>
     </message>
 </context>
 <context>
@@ -667,7 +675,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Original</source>
         <extracomment>The resolution of the export: that of the source.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الأصلية</translation>
     </message>
 </context>
 <context>
@@ -675,89 +683,89 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim Video</source>
         <extracomment>An entry in the menus of file managers, for the selected videos. A file is named so: no slash.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>قص الفيديو</translation>
     </message>
     <message>
         <source>Open the selected videos in Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح ملفات الفيديو المحددة في Brisklet</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
         <extracomment>%1: a file’s name; %2: the reason. So it is in the next one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إزالة «%1»: %2</translation>
     </message>
 </context>
 <context>
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف «%1» ليس على هذا الحاسوب، ولا يؤدي إليه أي مجلد هنا.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>الانتقال إلى وقت</translation>
     </message>
     <message>
         <source>Go to:</source>
         <extracomment>Before a field for a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>انتقال إلى:</translation>
     </message>
     <message>
         <source>Go</source>
         <extracomment>The button that goes to the time in the field.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>انتقال</translation>
     </message>
     <message>
         <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
         <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>هذا ليس وقتًا. اكتب مثلًا ‎1:23.456 أو ‎+10f أو ‎#2412‎.</translation>
     </message>
     <message>
         <source>The video ends at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي الفيديو عند %1.</translation>
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>أرقام إطارات هذا الفيديو غير معروفة. اكتب وقتًا.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار الأخير هو ‎#%1‎.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation type="unfinished"></translation>
+        <translation>وقت، أو عدد إطارات من هنا، أو رقم إطار: ‎1:23.456، ‎+10f، ‎#2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation type="unfinished"></translation>
+        <translation>وقت، أو عدد إطارات من هنا: ‎1:23.456، ‎+10f</translation>
     </message>
 </context>
 <context>
     <name>brisklet::KeyboardShortcutsView</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>اختصارات لوحة المفاتيح</translation>
     </message>
     <message>
         <source>Action</source>
         <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الإجراء</translation>
     </message>
     <message>
         <source>Keys or gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>المفاتيح أو الإيماءة</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>عناصر التحكم</translation>
     </message>
 </context>
 <context>
@@ -765,11 +773,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>1/10 speed</source>
         <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>السرعة 1/10</translation>
     </message>
     <message>
         <source>1/100 speed</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة 1/100</translation>
     </message>
 </context>
 <context>
@@ -777,30 +785,30 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>“%1” couldn’t be made: %2</source>
         <extracomment>%1: a file’s or folder’s name; %2: the reason. So it is in the next three.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر إنشاء «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be copied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر نسخ «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إزالة «%1»: %2</translation>
     </message>
     <message>
         <source>It doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>غير موجود.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::QuickActionInstallation</name>
     <message>
         <source>The place of the program couldn’t be found out.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديد مكان البرنامج.</translation>
     </message>
 </context>
 <context>
@@ -808,256 +816,256 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim start</source>
         <extracomment>For screen readers: the handles on the time line. Trim start is the beginning of what is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>بداية القص</translation>
     </message>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>رأس التشغيل</translation>
     </message>
     <message>
         <source>Trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>نهاية القص</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>إطار إلى الخلف</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>إطار إلى الأمام</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>ثانية إلى الخلف</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>ثانية إلى الأمام</translation>
     </message>
     <message>
         <source>As far back as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى الخلف قدر الإمكان</translation>
     </message>
     <message>
         <source>As far forward as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى الأمام قدر الإمكان</translation>
     </message>
     <message>
         <source>Shift with these keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift مع هذه المفاتيح</translation>
     </message>
     <message>
         <source>Ten times as far</source>
-        <translation type="unfinished"></translation>
+        <translation>عشرة أضعاف المسافة</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineStrip</name>
     <message>
         <source>Timeline, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>الخط الزمني بالفأرة</translation>
     </message>
     <message>
         <source>Click or drag</source>
-        <translation type="unfinished"></translation>
+        <translation>النقر أو السحب</translation>
     </message>
     <message>
         <source>Move the playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل رأس التشغيل</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>سحب مقبض</translation>
     </message>
     <message>
         <source>Move the trim start or the trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل بداية القص أو نهايته</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc أثناء السحب</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء السحب</translation>
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>بداية القص ورأس التشغيل ونهاية القص، بالمفتاح Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري إنشاء شريط اللقطات…</translation>
     </message>
     <message>
         <source>Drag with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>السحب مع Shift</translation>
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>التحرك عُشر مسافة المؤشر</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>
-        <translation type="unfinished"></translation>
+        <translation>السحب مع Shift، بعيدًا إلى أعلى أو أسفل</translation>
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation type="unfinished"></translation>
+        <translation>التحرك جزءًا من مئة من مسافته</translation>
     </message>
     <message>
         <source>Wheel</source>
         <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>العجلة</translation>
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>التحرك إطارًا واحدًا</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>العجلة مع Shift</translation>
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation type="unfinished"></translation>
+        <translation>التحرك عشرة إطارات</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>العجلة فوق مقبض</translation>
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>تحريك ذلك الطرف من النطاق</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineView</name>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>الخط الزمني</translation>
     </message>
     <message>
         <source>Range %1</source>
         <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>النطاق %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::UpdateDialogs</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديثات</translation>
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>أتريد التحقق من وجود تحديثات تلقائيًا؟</translation>
     </message>
     <message>
         <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>يمكن لبرنامج Brisklet أن يتحقق مرة في اليوم من وجود إصدار جديد. ويمكنك أيضًا التحقق من قائمته.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري التحقق من وجود تحديثات…</translation>
     </message>
     <message>
         <source>You’re up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>لديك أحدث إصدار.</translation>
     </message>
     <message>
         <source>Brisklet %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار %1 من Brisklet هو أحدث إصدار متاح.</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث</translation>
     </message>
     <message>
         <source>Install Update</source>
-        <translation type="unfinished"></translation>
+        <translation>تثبيت التحديث</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>تذكيري لاحقًا</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>تخطي هذا الإصدار</translation>
     </message>
     <message>
         <source>A new version of Brisklet is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر إصدار جديد من Brisklet.</translation>
     </message>
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Brisklet %1، ولديك %2. أتريد تثبيته؟</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري تنزيل Brisklet %1…</translation>
     </message>
     <message>
         <source>The update didn’t work.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم ينجح التحديث.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Updater</name>
     <message>
         <source>The update feed is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>قائمة التحديثات تالفة.</translation>
     </message>
     <message>
         <source>Couldn’t check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر التحقق من وجود تحديثات: %1</translation>
     </message>
     <message>
         <source>The update is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديث كبير جدًا.</translation>
     </message>
     <message>
         <source>The update couldn’t be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تنزيل التحديث: %1</translation>
     </message>
     <message>
         <source>The update is incomplete. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديث غير مكتمل. لم يُثبّت.</translation>
     </message>
     <message>
         <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديث غير أصيل: توقيعه غير صحيح. لم يُثبّت.</translation>
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد برنامج لتثبيت التحديث. تجد التحديث هنا: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::WindowRootView</name>
     <message>
         <source>Stop the export and close?</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف التصدير والإغلاق؟</translation>
     </message>
     <message>
         <source>Stop and Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف وإغلاق</translation>
     </message>
     <message>
         <source>Keep Exporting</source>
         <extracomment>Answers “Stop the export and close?” with no.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>متابعة التصدير</translation>
     </message>
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>إيقاف %n عملية تصدير والإغلاق؟</numerusform>
+            <numerusform>إيقاف %n عملية تصدير والإغلاق؟</numerusform>
+            <numerusform>إيقاف عمليتي التصدير (%n) والإغلاق؟</numerusform>
+            <numerusform>إيقاف %n عمليات تصدير والإغلاق؟</numerusform>
+            <numerusform>إيقاف %n عملية تصدير والإغلاق؟</numerusform>
+            <numerusform>إيقاف %n عملية تصدير والإغلاق؟</numerusform>
         </translation>
     </message>
 </context>
@@ -1065,117 +1073,117 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::approximateDuration</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ث</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 د</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 س</translation>
     </message>
 </context>
 <context>
     <name>brisklet::cli::ToolText</name>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 غير معروف</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 لا يأخذ قيمة</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
         <extracomment>%1: an option, such as “--start”. So it is in what follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 يتطلب قيمة</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 مذكور مرتين</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 يتطلب عددًا، لا «%2»</translation>
     </message>
     <message>
         <source>%1 needs a whole number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 يتطلب عددًا صحيحًا، لا «%2»</translation>
     </message>
     <message>
         <source>something is missing: expected %1</source>
-        <translation type="unfinished"></translation>
+        <translation>هناك شيء ناقص: المتوقع %1</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>معامل غير متوقع «%1»</translation>
     </message>
     <message>
         <source>a name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد الأسماء فارغ</translation>
     </message>
     <message>
         <source>--count needs a number from 1 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار --count يتطلب عددًا من 1 إلى %1</translation>
     </message>
     <message>
         <source>SECONDS needs a number from 0, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>المعامل SECONDS يتطلب عددًا من 0 فأكثر، لا «%1»</translation>
     </message>
     <message>
         <source>--crop needs X,Y,W,H, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار --crop يتطلب X,Y,W,H، لا «%1»</translation>
     </message>
     <message>
         <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار --crop يتطلب كسورًا من الصورة، من 0 إلى 1، تشكّل مساحة</translation>
     </message>
     <message>
         <source>--format knows %1, not &quot;%2&quot;</source>
         <extracomment>%1: the formats, such as “mp4, mov”; %2: what was given.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الخيار --format يعرف %1، لا «%2»</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> و </translation>
     </message>
     <message>
         <source>the name of the output does not say which format: add --format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم ملف الخرج لا يدل على الصيغة: أضف --format %1</translation>
     </message>
     <message>
         <source> or </source>
         <extracomment>Between the names of formats, of which there are two or more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> أو </translation>
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار %1 لا يعرف «%2»</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب ألا يكون --start سالبًا</translation>
     </message>
     <message>
         <source>--end must come after --start</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب أن يأتي --end بعد --start</translation>
     </message>
     <message>
         <source>--max-short-edge needs a number of pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار --max-short-edge يتطلب عددًا من البكسلات</translation>
     </message>
     <message>
         <source>--progress knows json only, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار --progress لا يعرف إلا json، لا «%1»</translation>
     </message>
     <message>
         <source>no command is given</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُعطَ أي أمر</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس «%1» أمرًا</translation>
     </message>
     <message>
         <source>Usage: brisklet-cli probe SOURCE
@@ -1186,7 +1194,13 @@ Trims videos. Each VIDEO opens in a window of its own.
                     [--format %1] [--progress json]
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: brisklet-cli probe SOURCE
+           brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
+           brisklet-cli frame SOURCE SECONDS OUTPUT.png
+           brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
+                        [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                        [--max-short-edge N] [--format %1] [--progress json]
+</translation>
     </message>
     <message>
         <source>probe      prints what the file is, as one JSON object.
@@ -1210,49 +1224,68 @@ export     writes a copy of the file:
 Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>probe      يعرض معلومات الملف في كائن JSON واحد.
+filmstrip  يكتب N (12) لقطة صغيرة من منتصف N شريحة متساوية في المجلد
+           بالأسماء 00.png و 01.png وهكذا، ويعرض أوقاتها بصيغة JSON.
+frame      يكتب الصورة المعتدلة التي يعرضها المشغّل عند ذلك الوقت.
+export     يكتب نسخة من الملف:
+  --start, --end        الجزء المراد إبقاؤه، بالثواني (كله)
+  --crop                بكسور من الصورة كما تُعرض بعد --rotate،
+                        من زاويتها العليا اليسرى
+  --rotate              أرباع دورات باتجاه عقارب الساعة، بالدرجات
+  --mute                حذف الصوت
+  --max-short-edge      التصغير إلى هذا العدد من البكسلات للضلع الأقصر
+  --format              %1 (ما ينتهي به اسم ملف الخرج)
+  --progress json       سطر JSON لكل تقرير بدلًا من شريط التقدم
+  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
+                        إعدادات مرمّز غير إعدادات البرنامج، لأغراض القياس
+
+  --help, --version     عرض هذه المساعدة أو الإصدار، ثم الخروج
+
+حالة الخروج: 0 تم؛ 1 فشل؛ 2 استخدام خاطئ؛ 130 قوطع.
+</translation>
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل التصدير: %1</translation>
     </message>
     <message>
         <source>Couldn’t write “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة «%1»: %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح «%1»: %2</translation>
     </message>
     <message>
         <source>Couldn’t write the answer: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة الجواب: %1.</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي «%1» على مسار فيديو.</translation>
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة الصورة بصيغة PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر إنشاء المجلد «%1»: %2.</translation>
     </message>
     <message>
         <source>It has no length.</source>
         <extracomment>A reason: it is about the video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ليس له مدة.</translation>
     </message>
     <message>
         <source>Couldn’t make a filmstrip of “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر إنشاء شريط لقطات من «%1»: %2</translation>
     </message>
     <message>
         <source>Couldn’t make the picture: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر إنشاء الصورة: %1</translation>
     </message>
 </context>
 <context>
@@ -1260,15 +1293,15 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>Quick Action install failed: %1</source>
         <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت الإضافة إلى مديري الملفات: %1</translation>
     </message>
     <message>
         <source>Installed Trim Video Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>أُضيف «قص الفيديو» إلى قوائم مديري الملفات</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخيار «%1» غير معروف</translation>
     </message>
 </context>
 <context>
@@ -1276,334 +1309,334 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>It is not a video file, or it is damaged.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملف فيديو، أو أنه تالف.</translation>
     </message>
     <message>
         <source>Its format isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>صيغته غير مدعومة.</translation>
     </message>
     <message>
         <source>Its video codec isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ترميز الفيديو فيه غير مدعوم.</translation>
     </message>
     <message>
         <source>It is encrypted or copy-protected.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الملف مشفّر أو محمي من النسخ.</translation>
     </message>
     <message>
         <source>The file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف غير موجود.</translation>
     </message>
     <message>
         <source>You don’t have permission to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لديك إذن بقراءة هذا الملف.</translation>
     </message>
     <message>
         <source>The file name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف طويل جدًا.</translation>
     </message>
     <message>
         <source>The link to the file leads nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصلة إلى الملف لا تؤدي إلى شيء.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
         <extracomment>About a file that the sentence before has named. “Regular” is the system’s word for a file that is neither a folder nor a device nor a pipe.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملفًا عاديًا.</translation>
     </message>
     <message>
         <source>It is a folder, not a video file.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>إنه مجلد، لا ملف فيديو.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف فارغ.</translation>
     </message>
     <message>
         <source>The file can’t be read: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءة الملف: %1.</translation>
     </message>
     <message>
         <source>The video can’t be read: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءة الفيديو: %1</translation>
     </message>
     <message>
         <source>“%1” was changed after it was opened.</source>
         <extracomment>%1: the file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تغيّر الملف «%1» بعد فتحه.</translation>
     </message>
     <message>
         <source>The file ends too early.</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي الملف قبل أوانه.</translation>
     </message>
     <message>
         <source>The video was cut short while it was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>بُتر الفيديو أثناء قراءته.</translation>
     </message>
     <message>
         <source>The disk reported an error while the video was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>أبلغ القرص عن خطأ أثناء قراءة الفيديو.</translation>
     </message>
     <message>
         <source>The file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي الملف على مسار فيديو.</translation>
     </message>
     <message>
         <source>Not one picture in this file can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فك ترميز أي صورة في هذا الملف.</translation>
     </message>
     <message>
         <source>There is no picture at this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صورة عند هذا الوقت.</translation>
     </message>
     <message>
         <source>Pictures in the pixel format “%1” cannot be converted.</source>
         <extracomment>%1: FFmpeg’s name of the format, such as “yuv420p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تحويل الصور ذات صيغة البكسل «%1».</translation>
     </message>
     <message>
         <source>The colors of the pictures cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تحويل ألوان الصور.</translation>
     </message>
     <message>
         <source>The colours of the picture cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تحويل ألوان الصورة.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح «%1»: %2</translation>
     </message>
     <message>
         <source>The range to export is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>النطاق المراد تصديره فارغ.</translation>
     </message>
     <message>
         <source>The source file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي الملف المصدر على مسار فيديو.</translation>
     </message>
     <message>
         <source>Couldn&apos;t create an export session for this video.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر التحضير لتصدير هذا الفيديو.</translation>
     </message>
     <message>
         <source>There is no video to export.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد فيديو لتصديره.</translation>
     </message>
     <message>
         <source>The video can’t be exported over itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تصدير الفيديو فوق نفسه.</translation>
     </message>
     <message>
         <source>Not one picture of this range can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فك ترميز أي صورة في هذا النطاق.</translation>
     </message>
     <message>
         <source>The new file was damaged while it was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>تلف الملف الجديد أثناء كتابته.</translation>
     </message>
     <message>
         <source>An encoder that the export needs isn’t installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد المرمّزات التي يحتاجها التصدير غير مثبّت.</translation>
     </message>
     <message>
         <source>The encoder %1 doesn’t take the setting “%2”.</source>
         <extracomment>%1: the encoder’s name, such as “libx264”; %2: the setting, such as “crf=18”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>المرمّز %1 لا يقبل الإعداد «%2».</translation>
     </message>
     <message>
         <source>“%1” is being written by another export.</source>
         <extracomment>%1: the new file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تجري كتابة «%1» في عملية تصدير أخرى.</translation>
     </message>
     <message>
         <source>The unfinished new file was removed by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>أزال برنامج آخر الملف الجديد قبل اكتماله.</translation>
     </message>
     <message>
         <source>The folder “%1” for the new file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد «%1» المخصص للملف الجديد غير موجود.</translation>
     </message>
     <message>
         <source>You don’t have permission to write to the folder “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لديك إذن بالكتابة في المجلد «%1».</translation>
     </message>
     <message>
         <source>The disk with the folder “%1” is write-protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>القرص الذي فيه المجلد «%1» محمي من الكتابة.</translation>
     </message>
     <message>
         <source>A folder has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد مجلد باسم الملف الجديد.</translation>
     </message>
     <message>
         <source>Something that is not a regular file has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد شيء ليس ملفًا عاديًا باسم الملف الجديد.</translation>
     </message>
     <message>
         <source>The name of the new file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف الجديد طويل جدًا.</translation>
     </message>
     <message>
         <source>The disk reported an error while the new file was being written.</source>
-        <translation type="unfinished"></translation>
+        <translation>أبلغ القرص عن خطأ أثناء كتابة الملف الجديد.</translation>
     </message>
     <message>
         <source>The new file can’t be written: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة الملف الجديد: %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد ذاكرة كافية.</translation>
     </message>
     <message>
         <source>There is not enough space on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مساحة كافية على القرص.</translation>
     </message>
     <message>
         <source>The file would be too large for this disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>سيكون الملف أكبر مما يسعه هذا القرص.</translation>
     </message>
     <message>
         <source>The disk reported an error.</source>
-        <translation type="unfinished"></translation>
+        <translation>أبلغ القرص عن خطأ.</translation>
     </message>
     <message>
         <source>The media engine can’t be found: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن العثور على محرك الوسائط: %1.</translation>
     </message>
     <message>
         <source>Brisklet is not completely installed. Install it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُثبَّت Brisklet كاملًا. أعد تثبيته.</translation>
     </message>
     <message>
         <source>Brisklet has been updated. Start it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>حُدِّث Brisklet. شغّله من جديد.</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a reason, which stands alone or after a colon. Only the full stop is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الإذن مرفوض</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>العملية غير مسموح بها</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ملف أو مجلد كهذا</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس مجلدًا</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف موجود بالفعل</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>هو مجلد</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation type="unfinished"></translation>
+        <translation>معامل غير صالح</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات مفتوحة أكثر من اللازم</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation type="unfinished"></translation>
+        <translation>نظام الملفات للقراءة فقط</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الملف على قرص الشبكة</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>انتهت مهلة الاتصال</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation type="unfinished"></translation>
+        <translation>الجهاز أو المورد مشغول</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>مستويات كثيرة جدًا من الوصلات الرمزية</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>انتهى البرنامج القارئ</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تبق مساحة على الجهاز</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>تجاوزت الحصة المسموحة من القرص</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في القراءة أو الكتابة</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف طويل جدًا</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ عام في مكتبة خارجية</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُنجز هذا في FFmpeg بعد</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>خطأ غير متوقع (التفاصيل: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>المجلد «%1» ليس موجودًا.</translation>
     </message>
     <message>
         <source>Another file has its name now.</source>
         <extracomment>About a video that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يحمل ملف آخر اسمه الآن.</translation>
     </message>
     <message>
         <source>It is no longer in the folder “%1”.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد في المجلد «%1».</translation>
     </message>
     <message>
         <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
         <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مساحة حرة كافية: يحتاج الفيديو إلى نحو %1، والمتاح %2.</translation>
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
-        <translation type="unfinished"></translation>
+        <translation>النظام مشغول جدًا: لا يمكنه بدء خيط آخر.</translation>
     </message>
 </context>
 </TS>

@@ -6,11 +6,11 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Už se stahuje.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizaci nelze uložit: %1</translation>
     </message>
 </context>
 <context>
@@ -18,49 +18,49 @@
     <message>
         <source>Video Trimmer</source>
         <extracomment>The kind of program, in the menus of desktops.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zkracování videa</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkracování, ořezávání a otáčení videa s přesností na snímek</translation>
     </message>
     <message>
         <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
         <extracomment>What people search for in the menus of desktops, in any number; a semicolon after each.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>střih;zkrátit;oříznout;výřez;otočit;klip;video;film;mp4;mov;</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Nové okno</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos</source>
         <extracomment>These and the following stand in software centres.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zkracování, ořezávání a otáčení videa</translation>
     </message>
     <message>
         <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet dělá jednu věc: zkrácenou, oříznutou nebo otočenou kopii videa. Přetáhněte soubor do okna, posuňte dvě táhla nad filmovým pásem a exportujte.</translation>
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>První snímek exportu je ten, který jste viděli na začátku úseku, a zvuk zůstává tam, kde byl.</translation>
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ořezává a otáčí v jednom kroku, s jediným pečlivým převzorkováním.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachovává barvy, vysoký dynamický rozsah, zvukové stopy, kapitoly a data pořízení.</translation>
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje MP4 a MOV; čte to, co zapisují kamery, telefony a programy pro záznam obrazovky.</translation>
     </message>
     <message>
         <source>Never touches the original, and never leaves a half-written file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdy nemění originál a nikdy nenechává napůl zapsaný soubor.</translation>
     </message>
 </context>
 <context>
@@ -68,47 +68,47 @@
     <message>
         <source>Videos (%1)</source>
         <extracomment>A type of files in the open panel; %1: patterns of names.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Videa (%1)</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>The title of the save panel, a noun.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>The title of the open panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny soubory (*)</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>“%1” is the video that is being edited. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je video, které se právě upravuje. Zvolte jiný název.</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ano</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne</translation>
     </message>
 </context>
 <context>
@@ -116,234 +116,236 @@
     <message>
         <source>Ctrl</source>
         <extracomment>The names of keys, as they are on keyboards.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezerník</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Šipka vlevo</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Šipka vpravo</translation>
     </message>
 </context>
 <context>
     <name>brisklet::AppCommands</name>
     <message>
         <source>About Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>O aplikaci Brisklet</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkontrolovat aktualizace…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončit</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Nové okno</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít video…</translation>
     </message>
     <message>
         <source>Export…</source>
         <extracomment>Opens the save panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat…</translation>
     </message>
     <message>
         <source>Close Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít video</translation>
     </message>
     <message>
         <source>Set Trim Start at Playhead</source>
         <extracomment>“Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nastavit začátek střihu na ukazatel přehrávání</translation>
     </message>
     <message>
         <source>Set Trim End at Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavit konec střihu na ukazatel přehrávání</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí snímek</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Následující snímek</translation>
     </message>
     <message>
         <source>Loop Playback</source>
         <extracomment>Plays what is kept again and again; can be checked.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Přehrávat ve smyčce</translation>
     </message>
     <message>
         <source>&amp;Brisklet</source>
         <extracomment>The name of the program; only the place of the accelerator is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Brisklet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Soubor</translation>
     </message>
     <message>
         <source>&amp;Clip</source>
         <extracomment>The menu of what is done to the part of the video that is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klip</translation>
     </message>
     <message>
         <source>Remove Finder Quick Action</source>
         <extracomment>The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name none if your language has a word for all: “Add to File Managers”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat ze správců souborů</translation>
     </message>
     <message>
         <source>Install Finder Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat do správců souborů</translation>
     </message>
     <message>
         <source>Couldn&apos;t update the Quick Action: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze změnit nabídky správců souborů: %1</translation>
     </message>
     <message>
         <source>Brisklet %1</source>
         <extracomment>%1: the version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1</translation>
     </message>
     <message>
         <source>Trims, crops and turns videos, exact to the frame.
 
 Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkracuje, ořezává a otáčí videa s přesností na snímek.
+
+Svobodný software pod licencí GNU General Public License, verze 3 nebo novější.</translation>
     </message>
     <message>
         <source>Undo Trim Start</source>
         <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět začátek střihu</translation>
     </message>
     <message>
         <source>Redo Trim Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu začátek střihu</translation>
     </message>
     <message>
         <source>Undo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět konec střihu</translation>
     </message>
     <message>
         <source>Redo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu konec střihu</translation>
     </message>
     <message>
         <source>Undo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět oříznutí</translation>
     </message>
     <message>
         <source>Redo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu oříznutí</translation>
     </message>
     <message>
         <source>Undo Remove Crop</source>
         <extracomment>To undo that the crop was removed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět zrušení ořezu</translation>
     </message>
     <message>
         <source>Redo Remove Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu zrušení ořezu</translation>
     </message>
     <message>
         <source>Undo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět otočení</translation>
     </message>
     <message>
         <source>Redo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu otočení</translation>
     </message>
     <message>
         <source>Undo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět ztlumení</translation>
     </message>
     <message>
         <source>Redo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu ztlumení</translation>
     </message>
     <message>
         <source>Undo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět zapnutí zvuku</translation>
     </message>
     <message>
         <source>Redo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu zapnutí zvuku</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Klávesové zkratky</translation>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Znovu otevřít poslední úpravy</translation>
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit poslední export</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit zpět</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Provést znovu</translation>
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejít na čas…</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek úseku, pak začátek videa</translation>
     </message>
     <message>
         <source>Range End, Then End of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec úseku, pak konec videa</translation>
     </message>
     <message>
         <source>Back One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>O sekundu zpět</translation>
     </message>
     <message>
         <source>Forward One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>O sekundu vpřed</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpr&amp;avy</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <extracomment>The menu of the places that the playhead can go to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přejít</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nápověda</translation>
     </message>
     <message>
         <source>The folder “%1” can’t be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“ nelze zobrazit.</translation>
     </message>
 </context>
 <context>
@@ -357,7 +359,13 @@ Trims videos. Each VIDEO opens in a window of its own.
   --version               print the version and exit
 </source>
         <extracomment>What --help prints. The options stay as they are; lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Použití: brisklet [VIDEO...]
+Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
+
+  --install-quick-action  přidá „Zkrátit video“ do správců souborů a skončí
+  --help                  vypíše tuto nápovědu a skončí
+  --version               vypíše verzi a skončí
+</translation>
     </message>
 </context>
 <context>
@@ -365,12 +373,12 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop zone</source>
         <extracomment>For screen readers: the empty window, on which videos are dropped.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Místo pro přetažení</translation>
     </message>
     <message>
         <source>Editor</source>
         <extracomment>For screen readers: the window with a video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Editor</translation>
     </message>
 </context>
 <context>
@@ -378,74 +386,74 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Export %1…</source>
         <extracomment>A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat %1…</translation>
     </message>
     <message>
         <source>Export options</source>
         <extracomment>For screen readers: the menu of formats and resolutions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Volby exportu</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
         <extracomment>Format and resolution.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit výchozí</translation>
     </message>
     <message>
         <source>Format</source>
         <extracomment>The title of a group of entries: MP4, MOV.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Formát</translation>
     </message>
     <message>
         <source>Resolution</source>
         <extracomment>The title of a group of entries: Original, 1080p, 720p …</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rozlišení</translation>
     </message>
     <message>
         <source>Pause</source>
         <extracomment>What the button does when it is pressed; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pozastavit</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát</translation>
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapnout zvuk (jinak se při exportu odstraní)</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztlumit</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Otočit doleva</translation>
     </message>
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit ořez</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Oříznout</translation>
     </message>
     <message>
         <source>about %1</source>
         <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>asi %1</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát nebo pozastavit</translation>
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztlumit nebo zapnout zvuk</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Oříznout nebo zrušit ořez</translation>
     </message>
 </context>
 <context>
@@ -453,59 +461,59 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Crop</source>
         <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ořez</translation>
     </message>
     <message>
         <source>%1×%2 at %3, %4</source>
         <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1×%2 v bodě %3, %4</translation>
     </message>
     <message>
         <source>Move the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout ořez</translation>
     </message>
     <message>
         <source>Move its right or bottom side</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout jeho pravou nebo dolní stranu</translation>
     </message>
     <message>
         <source>Move its left or top side</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout jeho levou nebo horní stranu</translation>
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ořez, myší</translation>
     </message>
     <message>
         <source>Drag inside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Táhnout uvnitř</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Táhnout za táhlo</translation>
     </message>
     <message>
         <source>Resize the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit velikost ořezu</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc během tažení</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzít tažení zpět</translation>
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Ořez, dostupný klávesou Tab</translation>
     </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>
     <message>
         <source>Brisklet is running already, but it doesn’t answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet už běží, ale neodpovídá.</translation>
     </message>
 </context>
 <context>
@@ -513,34 +521,34 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Show</source>
         <extracomment>A button of the notification of an export that has ended: shows the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Download</name>
     <message>
         <source>The server took too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveru to trvalo příliš dlouho.</translation>
     </message>
     <message>
         <source>“%1” is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není bezpečná adresa.</translation>
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server odkazuje na „%1“, což není bezpečná adresa.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server posílá více dat, než by měl.</translation>
     </message>
     <message>
         <source>The download can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stažená data nelze uložit: %1</translation>
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojení k „%1“ není bezpečné: %2.</translation>
     </message>
 </context>
 <context>
@@ -548,11 +556,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop a video here</source>
         <extracomment>Under a picture of a film, in a frame that fills the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Přetáhněte sem video</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít video…</translation>
     </message>
 </context>
 <context>
@@ -560,20 +568,20 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trimmed</source>
         <extracomment>Follows the name of the original in the proposed name of the new file: “Holiday Trimmed.mp4”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>zkráceno</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ neobsahuje obrazovou stopu.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít: %2</translation>
     </message>
     <message>
         <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze znovu otevřít: %2</translation>
     </message>
 </context>
 <context>
@@ -581,85 +589,85 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Something Went Wrong</source>
         <extracomment>The title of each alert; what went wrong stands below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Něco se nepovedlo</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportButton</name>
     <message>
         <source>The Down key opens a menu of formats and resolutions</source>
-        <translation type="unfinished"></translation>
+        <translation>Klávesa Šipka dolů otevře nabídku formátů a rozlišení</translation>
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tlačítko exportu, dostupné klávesou Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolit formát a rozlišení</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportFormat</name>
     <message>
         <source>MPEG-4 movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Film MPEG-4</translation>
     </message>
     <message>
         <source>QuickTime movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Film QuickTime</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportJob</name>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Export selhal: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportMonitor</name>
     <message>
         <source>Export finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Export dokončen</translation>
     </message>
     <message>
         <source>Export failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Export selhal</translation>
     </message>
     <message>
         <source>A video is being exported.</source>
         <extracomment>Why the computer is not to sleep; some desktops show it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportuje se video.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportProgressView</name>
     <message>
         <source>Exporting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportuje se…</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>A title, a noun: the act of exporting.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Export progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběh exportu</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>about %1 left</source>
         <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>zbývá asi %1</translation>
     </message>
 </context>
 <context>
@@ -667,7 +675,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Original</source>
         <extracomment>The resolution of the export: that of the source.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Původní</translation>
     </message>
 </context>
 <context>
@@ -675,89 +683,89 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim Video</source>
         <extracomment>An entry in the menus of file managers, for the selected videos. A file is named so: no slash.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zkrátit video</translation>
     </message>
     <message>
         <source>Open the selected videos in Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít vybraná videa v aplikaci Brisklet</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
         <extracomment>%1: a file’s name; %2: the reason. So it is in the next one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze zapsat: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze odebrat: %2</translation>
     </message>
 </context>
 <context>
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není na tomto počítači a žádná složka zde k němu nevede.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejít na čas</translation>
     </message>
     <message>
         <source>Go to:</source>
         <extracomment>Before a field for a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Přejít na:</translation>
     </message>
     <message>
         <source>Go</source>
         <extracomment>The button that goes to the time in the field.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Přejít</translation>
     </message>
     <message>
         <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
         <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>To není čas. Zadejte například 1:23.456, +10f nebo #2412.</translation>
     </message>
     <message>
         <source>The video ends at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Video končí v čase %1.</translation>
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čísla snímků tohoto videa nejsou známa. Zadejte čas.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední snímek je #%1.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas, počet snímků odsud nebo číslo snímku: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas nebo počet snímků odsud: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
     <name>brisklet::KeyboardShortcutsView</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Klávesové zkratky</translation>
     </message>
     <message>
         <source>Action</source>
         <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>Keys or gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Klávesy nebo gesto</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Ovládání</translation>
     </message>
 </context>
 <context>
@@ -765,11 +773,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>1/10 speed</source>
         <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost 1/10</translation>
     </message>
     <message>
         <source>1/100 speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost 1/100</translation>
     </message>
 </context>
 <context>
@@ -777,30 +785,30 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>“%1” couldn’t be made: %2</source>
         <extracomment>%1: a file’s or folder’s name; %2: the reason. So it is in the next three.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze vytvořit: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze zapsat: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be copied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze zkopírovat: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze odebrat: %2</translation>
     </message>
     <message>
         <source>It doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neexistuje.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::QuickActionInstallation</name>
     <message>
         <source>The place of the program couldn’t be found out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze zjistit umístění programu.</translation>
     </message>
 </context>
 <context>
@@ -808,253 +816,253 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim start</source>
         <extracomment>For screen readers: the handles on the time line. Trim start is the beginning of what is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Začátek střihu</translation>
     </message>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazatel přehrávání</translation>
     </message>
     <message>
         <source>Trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec střihu</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek zpět</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek vpřed</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>O sekundu zpět</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>O sekundu vpřed</translation>
     </message>
     <message>
         <source>As far back as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Co nejdále zpět</translation>
     </message>
     <message>
         <source>As far forward as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Co nejdále vpřed</translation>
     </message>
     <message>
         <source>Shift with these keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift s těmito klávesami</translation>
     </message>
     <message>
         <source>Ten times as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Desetkrát dále</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineStrip</name>
     <message>
         <source>Timeline, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Časová osa, myší</translation>
     </message>
     <message>
         <source>Click or drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknout nebo táhnout</translation>
     </message>
     <message>
         <source>Move the playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout ukazatel přehrávání</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Táhnout za táhlo</translation>
     </message>
     <message>
         <source>Move the trim start or the trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout začátek nebo konec střihu</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc během tažení</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzít tažení zpět</translation>
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek střihu, ukazatel přehrávání a konec střihu, dostupné klávesou Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytváří se filmový pás…</translation>
     </message>
     <message>
         <source>Drag with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Táhnout se Shiftem</translation>
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun desetkrát menší než u kurzoru myši</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>
-        <translation type="unfinished"></translation>
+        <translation>Táhnout se Shiftem, daleko nahoře či dole</translation>
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun stokrát menší</translation>
     </message>
     <message>
         <source>Wheel</source>
         <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kolečko</translation>
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Krok o snímek</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolečko se Shiftem</translation>
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Krok o deset snímků</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolečko nad táhlem</translation>
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Krok tímto koncem úseku</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineView</name>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Časová osa</translation>
     </message>
     <message>
         <source>Range %1</source>
         <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Úsek %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::UpdateDialogs</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace</translation>
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrolovat aktualizace automaticky?</translation>
     </message>
     <message>
         <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet může jednou denně zjišťovat, zda existuje nová verze. Můžete to také zkontrolovat z jeho nabídky.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrolují se aktualizace…</translation>
     </message>
     <message>
         <source>You’re up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Máte nejnovější verzi.</translation>
     </message>
     <message>
         <source>Brisklet %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1 je nejnovější dostupná verze.</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace</translation>
     </message>
     <message>
         <source>Install Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Nainstalovat aktualizaci</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Připomenout později</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Přeskočit tuto verzi</translation>
     </message>
     <message>
         <source>A new version of Brisklet is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Je dostupná nová verze aplikace Brisklet.</translation>
     </message>
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Je tu Brisklet %1; máte verzi %2. Chcete novou verzi nainstalovat?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahuje se Brisklet %1…</translation>
     </message>
     <message>
         <source>The update didn’t work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace se nezdařila.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Updater</name>
     <message>
         <source>The update feed is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam aktualizací je poškozený.</translation>
     </message>
     <message>
         <source>Couldn’t check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace nelze zkontrolovat: %1</translation>
     </message>
     <message>
         <source>The update is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace je příliš velká.</translation>
     </message>
     <message>
         <source>The update couldn’t be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizaci nelze stáhnout: %1</translation>
     </message>
     <message>
         <source>The update is incomplete. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace není úplná. Nebyla nainstalována.</translation>
     </message>
     <message>
         <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizace není pravá: její podpis je chybný. Nebyla nainstalována.</translation>
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chybí program, kterým by šlo aktualizaci nainstalovat. Je zde: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::WindowRootView</name>
     <message>
         <source>Stop the export and close?</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit export a zavřít?</translation>
     </message>
     <message>
         <source>Stop and Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit a zavřít</translation>
     </message>
     <message>
         <source>Keep Exporting</source>
         <extracomment>Answers “Stop the export and close?” with no.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat dál</translation>
     </message>
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zastavit %n export a zavřít?</numerusform>
+            <numerusform>Zastavit %n exporty a zavřít?</numerusform>
+            <numerusform>Zastavit %n exportů a zavřít?</numerusform>
         </translation>
     </message>
 </context>
@@ -1062,117 +1070,117 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::approximateDuration</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
 </context>
 <context>
     <name>brisklet::cli::ToolText</name>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámá volba %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nepřijímá hodnotu</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
         <extracomment>%1: an option, such as “--start”. So it is in what follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 vyžaduje hodnotu</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je zadáno dvakrát</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vyžaduje číslo, ne „%2“</translation>
     </message>
     <message>
         <source>%1 needs a whole number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vyžaduje celé číslo, ne „%2“</translation>
     </message>
     <message>
         <source>something is missing: expected %1</source>
-        <translation type="unfinished"></translation>
+        <translation>něco chybí: očekává se %1</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>neočekávaný argument „%1“</translation>
     </message>
     <message>
         <source>a name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>název je prázdný</translation>
     </message>
     <message>
         <source>--count needs a number from 1 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--count vyžaduje číslo od 1 do %1</translation>
     </message>
     <message>
         <source>SECONDS needs a number from 0, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>SECONDS vyžaduje číslo od 0, ne „%1“</translation>
     </message>
     <message>
         <source>--crop needs X,Y,W,H, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop vyžaduje X,Y,W,H, ne „%1“</translation>
     </message>
     <message>
         <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop vyžaduje zlomky obrazu od 0 do 1, tvořící neprázdnou plochu</translation>
     </message>
     <message>
         <source>--format knows %1, not &quot;%2&quot;</source>
         <extracomment>%1: the formats, such as “mp4, mov”; %2: what was given.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>--format zná %1, ne „%2“</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> a </translation>
     </message>
     <message>
         <source>the name of the output does not say which format: add --format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>z názvu výstupu není zřejmý formát: přidejte --format %1</translation>
     </message>
     <message>
         <source> or </source>
         <extracomment>Between the names of formats, of which there are two or more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> nebo </translation>
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nezná „%2“</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
-        <translation type="unfinished"></translation>
+        <translation>--start nesmí být záporné</translation>
     </message>
     <message>
         <source>--end must come after --start</source>
-        <translation type="unfinished"></translation>
+        <translation>--end musí následovat po --start</translation>
     </message>
     <message>
         <source>--max-short-edge needs a number of pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>--max-short-edge vyžaduje počet pixelů</translation>
     </message>
     <message>
         <source>--progress knows json only, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--progress zná jen json, ne „%1“</translation>
     </message>
     <message>
         <source>no command is given</source>
-        <translation type="unfinished"></translation>
+        <translation>není zadán příkaz</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není příkaz</translation>
     </message>
     <message>
         <source>Usage: brisklet-cli probe SOURCE
@@ -1183,7 +1191,13 @@ Trims videos. Each VIDEO opens in a window of its own.
                     [--format %1] [--progress json]
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Použití: brisklet-cli probe SOURCE
+         brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
+         brisklet-cli frame SOURCE SECONDS OUTPUT.png
+         brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
+                      [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                      [--max-short-edge N] [--format %1] [--progress json]
+</translation>
     </message>
     <message>
         <source>probe      prints what the file is, as one JSON object.
@@ -1207,49 +1221,68 @@ export     writes a copy of the file:
 Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>probe      vypíše informace o souboru jako jeden objekt JSON.
+filmstrip  zapíše do adresáře N (12) malých náhledů ze středů N stejných dílů
+           jako 00.png, 01.png, ... a vypíše jejich časy jako JSON.
+frame      zapíše snímek z daného času tak, jak ho ukazuje přehrávač.
+export     zapíše kopii souboru:
+  --start, --end        část, která se zachová, v sekundách (vše)
+  --crop                ve zlomcích obrazu, jak se zobrazuje po --rotate,
+                        od jeho levého horního rohu
+  --rotate              čtvrtotáčky po směru hodinových ručiček, ve stupních
+  --mute                vynechá zvuk
+  --max-short-edge      zmenší kratší stranu na tento počet pixelů
+  --format              %1 (podle koncovky názvu výstupu)
+  --progress json       vypíše řádek JSON za každé hlášení místo ukazatele
+  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
+                        jiná nastavení kodéru, než má program, pro měření
+
+  --help, --version     vypíše tuto nápovědu nebo verzi a skončí
+
+Návratový kód: 0 hotovo; 1 selhání; 2 chybné použití; 130 přerušeno.
+</translation>
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Export selhal: %1</translation>
     </message>
     <message>
         <source>Couldn’t write “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze zapsat: %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít: %2</translation>
     </message>
     <message>
         <source>Couldn’t write the answer: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpověď nelze vypsat: %1.</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ neobsahuje obrazovou stopu.</translation>
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Snímek nelze zapsat jako PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“ nelze vytvořit: %2.</translation>
     </message>
     <message>
         <source>It has no length.</source>
         <extracomment>A reason: it is about the video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nemá žádnou délku.</translation>
     </message>
     <message>
         <source>Couldn’t make a filmstrip of “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Z „%1“ nelze vytvořit filmový pás: %2</translation>
     </message>
     <message>
         <source>Couldn’t make the picture: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek nelze vytvořit: %1</translation>
     </message>
 </context>
 <context>
@@ -1257,15 +1290,15 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>Quick Action install failed: %1</source>
         <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nelze přidat do nabídek správců souborů: %1</translation>
     </message>
     <message>
         <source>Installed Trim Video Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>„Zkrátit video“ přidáno do správců souborů</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámá volba „%1“</translation>
     </message>
 </context>
 <context>
@@ -1273,334 +1306,334 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>It is not a video file, or it is damaged.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Není to soubor s videem, nebo je poškozený.</translation>
     </message>
     <message>
         <source>Its format isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jeho formát není podporován.</translation>
     </message>
     <message>
         <source>Its video codec isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jeho obrazový kodek není podporován.</translation>
     </message>
     <message>
         <source>It is encrypted or copy-protected.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Je šifrovaný nebo chráněný proti kopírování.</translation>
     </message>
     <message>
         <source>The file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor neexistuje.</translation>
     </message>
     <message>
         <source>You don’t have permission to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nemáte oprávnění číst tento soubor.</translation>
     </message>
     <message>
         <source>The file name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru je příliš dlouhý.</translation>
     </message>
     <message>
         <source>The link to the file leads nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkaz na soubor nikam nevede.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
         <extracomment>About a file that the sentence before has named. “Regular” is the system’s word for a file that is neither a folder nor a device nor a pipe.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Není to obyčejný soubor.</translation>
     </message>
     <message>
         <source>It is a folder, not a video file.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Je to složka, ne soubor s videem.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor je prázdný.</translation>
     </message>
     <message>
         <source>The file can’t be read: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Soubor nelze přečíst: %1.</translation>
     </message>
     <message>
         <source>The video can’t be read: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Video nelze přečíst: %1</translation>
     </message>
     <message>
         <source>“%1” was changed after it was opened.</source>
         <extracomment>%1: the file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ byl po otevření změněn.</translation>
     </message>
     <message>
         <source>The file ends too early.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor končí předčasně.</translation>
     </message>
     <message>
         <source>The video was cut short while it was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Video bylo během čtení zkráceno.</translation>
     </message>
     <message>
         <source>The disk reported an error while the video was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk ohlásil chybu při čtení videa.</translation>
     </message>
     <message>
         <source>The file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor neobsahuje obrazovou stopu.</translation>
     </message>
     <message>
         <source>Not one picture in this file can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto souboru nelze dekódovat ani jeden snímek.</translation>
     </message>
     <message>
         <source>There is no picture at this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto čase není žádný snímek.</translation>
     </message>
     <message>
         <source>Pictures in the pixel format “%1” cannot be converted.</source>
         <extracomment>%1: FFmpeg’s name of the format, such as “yuv420p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Snímky ve formátu pixelů „%1“ nelze převést.</translation>
     </message>
     <message>
         <source>The colors of the pictures cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barvy snímků nelze převést.</translation>
     </message>
     <message>
         <source>The colours of the picture cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barvy snímku nelze převést.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít: %2</translation>
     </message>
     <message>
         <source>The range to export is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek k exportu je prázdný.</translation>
     </message>
     <message>
         <source>The source file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdrojový soubor neobsahuje obrazovou stopu.</translation>
     </message>
     <message>
         <source>Couldn&apos;t create an export session for this video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Export tohoto videa nelze připravit.</translation>
     </message>
     <message>
         <source>There is no video to export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není žádné video k exportu.</translation>
     </message>
     <message>
         <source>The video can’t be exported over itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Video nelze exportovat přes sebe samo.</translation>
     </message>
     <message>
         <source>Not one picture of this range can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto úseku nelze dekódovat ani jeden snímek.</translation>
     </message>
     <message>
         <source>The new file was damaged while it was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový soubor byl při zápisu poškozen.</translation>
     </message>
     <message>
         <source>An encoder that the export needs isn’t installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodér potřebný k exportu není nainstalovaný.</translation>
     </message>
     <message>
         <source>The encoder %1 doesn’t take the setting “%2”.</source>
         <extracomment>%1: the encoder’s name, such as “libx264”; %2: the setting, such as “crf=18”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kodér %1 nepřijímá nastavení „%2“.</translation>
     </message>
     <message>
         <source>“%1” is being written by another export.</source>
         <extracomment>%1: the new file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Do souboru „%1“ právě zapisuje jiný export.</translation>
     </message>
     <message>
         <source>The unfinished new file was removed by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedokončený nový soubor odstranil jiný program.</translation>
     </message>
     <message>
         <source>The folder “%1” for the new file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka „%1“ pro nový soubor neexistuje.</translation>
     </message>
     <message>
         <source>You don’t have permission to write to the folder “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nemáte oprávnění zapisovat do složky „%1“.</translation>
     </message>
     <message>
         <source>The disk with the folder “%1” is write-protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk se složkou „%1“ je chráněn proti zápisu.</translation>
     </message>
     <message>
         <source>A folder has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Název nového souboru už má složka.</translation>
     </message>
     <message>
         <source>Something that is not a regular file has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Název nového souboru už má něco, co není obyčejný soubor.</translation>
     </message>
     <message>
         <source>The name of the new file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Název nového souboru je příliš dlouhý.</translation>
     </message>
     <message>
         <source>The disk reported an error while the new file was being written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk ohlásil chybu při zápisu nového souboru.</translation>
     </message>
     <message>
         <source>The new file can’t be written: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nový soubor nelze zapsat: %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není dostatek paměti.</translation>
     </message>
     <message>
         <source>There is not enough space on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na disku není dostatek místa.</translation>
     </message>
     <message>
         <source>The file would be too large for this disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor by byl pro tento disk příliš velký.</translation>
     </message>
     <message>
         <source>The disk reported an error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk ohlásil chybu.</translation>
     </message>
     <message>
         <source>The media engine can’t be found: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Multimediální jádro nelze najít: %1.</translation>
     </message>
     <message>
         <source>Brisklet is not completely installed. Install it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet není úplně nainstalován. Nainstalujte ho znovu.</translation>
     </message>
     <message>
         <source>Brisklet has been updated. Start it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet byl aktualizován. Spusťte ho znovu.</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a reason, which stands alone or after a colon. Only the full stop is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Přístup odmítnut</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>Operace není povolena</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Takový soubor ani adresář neexistuje</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Není adresářem</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor už existuje</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Je adresářem</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation type="unfinished"></translation>
+        <translation>Neplatný argument</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš mnoho otevřených souborů</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation type="unfinished"></translation>
+        <translation>Souborový systém je jen pro čtení</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Soubor už na síťovém disku není</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový limit spojení vypršel</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Zařízení nebo zdroj jsou používány</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš mnoho úrovní symbolických odkazů</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Čtoucí program skončil</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>Na zařízení nezbývá místo</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Disková kvóta překročena</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation type="unfinished"></translation>
+        <translation>Chyba vstupu/výstupu</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru je příliš dlouhý</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation type="unfinished"></translation>
+        <translation>Obecná chyba v externí knihovně</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve FFmpegu zatím neimplementováno</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Neočekávaná chyba (podrobnosti: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Složka „%1“ není k dispozici.</translation>
     </message>
     <message>
         <source>Another file has its name now.</source>
         <extracomment>About a video that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jeho název má nyní jiný soubor.</translation>
     </message>
     <message>
         <source>It is no longer in the folder “%1”.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Už není ve složce „%1“.</translation>
     </message>
     <message>
         <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
         <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Není dostatek volného místa: video zabere asi %1 a volných je %2.</translation>
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
-        <translation type="unfinished"></translation>
+        <translation>Systém je přetížený: nemůže spustit další vlákno.</translation>
     </message>
 </context>
 </TS>

@@ -6,11 +6,11 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sie wird bereits heruntergeladen.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
-        <translation type="unfinished">Die Aktualisierung kann nicht gespeichert werden: %1</translation>
+        <translation>Die Aktualisierung kann nicht gespeichert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -22,7 +22,7 @@
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
-        <translation>Videos kürzen, beschneiden und drehen, auf das Einzelbild genau</translation>
+        <translation>Videos kürzen, zuschneiden und drehen, auf das Einzelbild genau</translation>
     </message>
     <message>
         <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
@@ -36,11 +36,11 @@
     <message>
         <source>Trim, crop and turn videos</source>
         <extracomment>These and the following stand in software centres.</extracomment>
-        <translation>Videos kürzen, beschneiden und drehen</translation>
+        <translation>Videos kürzen, zuschneiden und drehen</translation>
     </message>
     <message>
         <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
-        <translation>Brisklet tut eines: Es macht eine kürzere, beschnittene oder gedrehte Kopie eines Videos. Eine Datei auf dem Fenster ablegen, die beiden Griffe über dem Filmstreifen ziehen, exportieren.</translation>
+        <translation>Brisklet tut eines: Es macht eine kürzere, zugeschnittene oder gedrehte Kopie eines Videos. Eine Datei auf dem Fenster ablegen, die beiden Griffe über dem Filmstreifen ziehen, exportieren.</translation>
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation>Beschneidet und dreht in einem Schritt, mit einer einzigen sorgfältigen Neuabtastung.</translation>
+        <translation>Schneidet zu und dreht in einem Schritt, mit einer einzigen sorgfältigen Neuabtastung.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
@@ -73,7 +73,7 @@
     <message>
         <source>Export</source>
         <extracomment>The title of the save panel, a noun.</extracomment>
-        <translation>Exportieren</translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Open</source>
@@ -228,124 +228,124 @@
         <source>Trims, crops and turns videos, exact to the frame.
 
 Free software under the GNU General Public License, version 3 or later.</source>
-        <translation>Kürzt, beschneidet und dreht Videos, auf das Einzelbild genau.
+        <translation>Kürzt Videos, schneidet sie zu und dreht sie, auf das Einzelbild genau.
 
 Freie Software unter der GNU General Public License, Version 3 oder neuer.</translation>
     </message>
     <message>
         <source>Undo Trim Start</source>
         <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Schnittanfang</translation>
     </message>
     <message>
         <source>Redo Trim Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Schnittanfang</translation>
     </message>
     <message>
         <source>Undo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Schnittende</translation>
     </message>
     <message>
         <source>Redo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Schnittende</translation>
     </message>
     <message>
         <source>Undo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Zuschneiden</translation>
     </message>
     <message>
         <source>Redo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Zuschneiden</translation>
     </message>
     <message>
         <source>Undo Remove Crop</source>
         <extracomment>To undo that the crop was removed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Zuschnitt aufheben</translation>
     </message>
     <message>
         <source>Redo Remove Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Zuschnitt aufheben</translation>
     </message>
     <message>
         <source>Undo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Drehen</translation>
     </message>
     <message>
         <source>Redo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Drehen</translation>
     </message>
     <message>
         <source>Undo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Ton aus</translation>
     </message>
     <message>
         <source>Redo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Ton aus</translation>
     </message>
     <message>
         <source>Undo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: Ton ein</translation>
     </message>
     <message>
         <source>Redo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: Ton ein</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Bearbeitung wieder öffnen</translation>
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzten Export anzeigen</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Zeitpunkt gehen …</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereichsanfang, dann Videoanfang</translation>
     </message>
     <message>
         <source>Range End, Then End of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereichsende, dann Videoende</translation>
     </message>
     <message>
         <source>Back One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde zurück</translation>
     </message>
     <message>
         <source>Forward One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde weiter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;earbeiten</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <extracomment>The menu of the places that the playhead can go to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gehe zu</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>The folder “%1” can’t be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angezeigt werden.</translation>
     </message>
 </context>
 <context>
@@ -362,10 +362,9 @@ Trims videos. Each VIDEO opens in a window of its own.
         <translation>Aufruf: brisklet [VIDEO...]
 Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
 
-  --install-quick-action  „Video kürzen“ in die Menüs der Dateiverwaltungen
-                          aufnehmen
-  --help                  diese Hilfe ausgeben
-  --version               die Version ausgeben
+  --install-quick-action  „Video kürzen“ in Dateiverwaltungen anlegen und enden
+  --help                  diese Hilfe ausgeben und enden
+  --version               die Version ausgeben und enden
 </translation>
     </message>
 </context>
@@ -442,19 +441,19 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>about %1</source>
         <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>etwa %1</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe oder Pause</translation>
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton aus- oder einschalten</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschneiden oder Zuschnitt aufheben</translation>
     </message>
 </context>
 <context>
@@ -471,43 +470,43 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     </message>
     <message>
         <source>Move the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildausschnitt verschieben</translation>
     </message>
     <message>
         <source>Move its right or bottom side</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechte oder untere Seite verschieben</translation>
     </message>
     <message>
         <source>Move its left or top side</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke oder obere Seite verschieben</translation>
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildausschnitt, mit der Maus</translation>
     </message>
     <message>
         <source>Drag inside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Innerhalb ziehen</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Griff ziehen</translation>
     </message>
     <message>
         <source>Resize the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Bildausschnitts ändern</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc beim Ziehen</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen zurücknehmen</translation>
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildausschnitt, über die Tab-Taste</translation>
     </message>
 </context>
 <context>
@@ -582,7 +581,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht wieder geöffnet werden: %2</translation>
     </message>
 </context>
 <context>
@@ -601,15 +600,15 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <name>brisklet::ExportButton</name>
     <message>
         <source>The Down key opens a menu of formats and resolutions</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taste „Pfeil nach unten“ öffnet ein Menü mit Formaten und Auflösungen</translation>
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportschaltfläche, über die Tab-Taste</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Format und Auflösung wählen</translation>
     </message>
 </context>
 <context>
@@ -668,7 +667,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>about %1 left</source>
         <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>noch etwa %1</translation>
     </message>
 </context>
 <context>
@@ -711,62 +710,62 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Zeitpunkt gehen</translation>
     </message>
     <message>
         <source>Go to:</source>
         <extracomment>Before a field for a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gehe zu:</translation>
     </message>
     <message>
         <source>Go</source>
         <extracomment>The button that goes to the time in the field.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gehe zu</translation>
     </message>
     <message>
         <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
         <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein Zeitpunkt. Geben Sie einen ein, etwa 1:23.456, +10f oder #2412.</translation>
     </message>
     <message>
         <source>The video ends at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Video endet bei %1.</translation>
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Nummern der Einzelbilder dieses Videos sind nicht bekannt. Geben Sie einen Zeitpunkt ein.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das letzte Einzelbild ist #%1.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zeitpunkt, Einzelbilder von hier aus oder ein Einzelbild: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zeitpunkt oder Einzelbilder von hier aus: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
     <name>brisklet::KeyboardShortcutsView</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Action</source>
         <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>Keys or gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten oder Geste</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienelemente</translation>
     </message>
 </context>
 <context>
@@ -774,11 +773,11 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>1/10 speed</source>
         <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tempo 1/10</translation>
     </message>
     <message>
         <source>1/100 speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo 1/100</translation>
     </message>
 </context>
 <context>
@@ -829,115 +828,115 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Einzelbild zurück</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Einzelbild weiter</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde zurück</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde weiter</translation>
     </message>
     <message>
         <source>As far back as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>So weit zurück wie möglich</translation>
     </message>
     <message>
         <source>As far forward as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>So weit nach vorn wie möglich</translation>
     </message>
     <message>
         <source>Shift with these keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt mit diesen Tasten</translation>
     </message>
     <message>
         <source>Ten times as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehnmal so weit</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineStrip</name>
     <message>
         <source>Timeline, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitleiste, mit der Maus</translation>
     </message>
     <message>
         <source>Click or drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken oder ziehen</translation>
     </message>
     <message>
         <source>Move the playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielposition verschieben</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Griff ziehen</translation>
     </message>
     <message>
         <source>Move the trim start or the trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittanfang oder Schnittende verschieben</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc beim Ziehen</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen zurücknehmen</translation>
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittanfang, Abspielposition und Schnittende, über die Tab-Taste</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmstreifen wird erstellt …</translation>
     </message>
     <message>
         <source>Drag with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Umschalt ziehen</translation>
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Um ein Zehntel des Zeigerwegs verschieben</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Umschalt ziehen, weit darüber oder darunter</translation>
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Um ein Hundertstel verschieben</translation>
     </message>
     <message>
         <source>Wheel</source>
         <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mausrad</translation>
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Um ein Einzelbild springen</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Mausrad mit Umschalt</translation>
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Um zehn Einzelbilder springen</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mausrad über einem Griff</translation>
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Ende des Bereichs schrittweise verschieben</translation>
     </message>
 </context>
 <context>
@@ -949,7 +948,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>Range %1</source>
         <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bereich %1</translation>
     </message>
 </context>
 <context>
@@ -1056,13 +1055,13 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>Keep Exporting</source>
         <extracomment>Answers “Stop the export and close?” with no.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Weiter exportieren</translation>
     </message>
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Export abbrechen und schließen?</numerusform>
+            <numerusform>%n Exporte abbrechen und schließen?</numerusform>
         </translation>
     </message>
 </context>
@@ -1070,15 +1069,15 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <name>brisklet::approximateDuration</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
 </context>
 <context>
@@ -1222,9 +1221,8 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
         <translation>probe      gibt als ein JSON-Objekt aus, was die Datei ist.
-filmstrip  schreibt N (12) kleine Standbilder aus der Mitte von N gleich langen
-           Abschnitten als 00.png, 01.png, ... in das Verzeichnis und gibt ihre
-           Zeiten als JSON aus.
+filmstrip  schreibt N (12) kleine Standbilder, je aus der Mitte gleicher Teile,
+           als 00.png, 01.png, ... ins Verzeichnis; gibt Zeiten als JSON aus.
 frame      schreibt das aufrechte Bild, das ein Player zu dieser Zeit zeigt.
 export     schreibt eine Kopie der Datei:
   --start, --end        der Teil, der bleibt, in Sekunden (alles)
@@ -1236,10 +1234,9 @@ export     schreibt eine Kopie der Datei:
   --format              %1 (worauf der Name der Ausgabe endet)
   --progress json       gibt je Meldung eine JSON-Zeile aus statt eines Balkens
   --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
-                        andere Encoder-Einstellungen als die des Programms, für
-                        Messungen
+                        abweichende Encoder-Einstellungen, für Messungen
 
-  --help, --version     diese Hilfe oder die Version ausgeben
+  --help, --version     diese Hilfe oder die Version ausgeben und enden
 
 Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
 </translation>
@@ -1292,7 +1289,7 @@ Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
     <message>
         <source>Quick Action install failed: %1</source>
         <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
-        <translation>Die Einträge in den Dateiverwaltungen konnten nicht angelegt werden: %1</translation>
+        <translation>Die Menüeinträge konnten nicht angelegt werden: %1</translation>
     </message>
     <message>
         <source>Installed Trim Video Quick Action</source>
@@ -1565,7 +1562,7 @@ Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation>die Datei ist auf dem Netzlaufwerk nicht mehr vorhanden</translation>
+        <translation>Datei nicht mehr im Netzlaufwerk</translation>
     </message>
     <message>
         <source>Connection timed out</source>
@@ -1582,7 +1579,7 @@ Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation>das lesende Programm ist beendet</translation>
+        <translation>Leseprogramm ist beendet</translation>
     </message>
     <message>
         <source>No space left on device</source>
@@ -1616,26 +1613,26 @@ Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
     <message>
         <source>The folder “%1” is not there.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ ist nicht vorhanden.</translation>
     </message>
     <message>
         <source>Another file has its name now.</source>
         <extracomment>About a video that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere Datei trägt jetzt seinen Namen.</translation>
     </message>
     <message>
         <source>It is no longer in the folder “%1”.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Es liegt nicht mehr im Ordner „%1“.</translation>
     </message>
     <message>
         <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
         <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Es ist nicht genug Platz frei: Das Video braucht etwa %1, frei sind %2.</translation>
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System ist überlastet: Es kann keinen weiteren Thread starten.</translation>
     </message>
 </context>
 </TS>

@@ -6,11 +6,11 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Elle est déjà en cours de téléchargement.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer la mise à jour&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -18,49 +18,49 @@
     <message>
         <source>Video Trimmer</source>
         <extracomment>The kind of program, in the menus of desktops.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcisseur vidéo</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcir, recadrer et faire pivoter des vidéos, à l’image près</translation>
     </message>
     <message>
         <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
         <extracomment>What people search for in the menus of desktops, in any number; a semicolon after each.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>couper;découper;raccourcir;recadrer;rogner;pivoter;tourner;film;clip;mp4;mov;</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle fenêtre</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos</source>
         <extracomment>These and the following stand in software centres.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcir, recadrer et faire pivoter des vidéos</translation>
     </message>
     <message>
         <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet fait une seule chose&#xa0;: une copie plus courte, recadrée ou pivotée d’une vidéo. Déposez un fichier sur sa fenêtre, faites glisser les deux poignées sur la pellicule, exportez.</translation>
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>La première image du fichier exporté est celle que vous avez vue au début de l’extrait, et le son reste à sa place.</translation>
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recadre et fait pivoter en une seule étape, avec un unique rééchantillonnage soigné.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserve les couleurs, la plage dynamique étendue, les pistes audio, les chapitres et les dates.</translation>
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit du MP4 et du MOV&#x202f;; lit ce qu’enregistrent les caméras, les téléphones et les outils de capture d’écran.</translation>
     </message>
     <message>
         <source>Never touches the original, and never leaves a half-written file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne touche jamais à l’original et ne laisse jamais de fichier à moitié écrit.</translation>
     </message>
 </context>
 <context>
@@ -68,47 +68,47 @@
     <message>
         <source>Videos (%1)</source>
         <extracomment>A type of files in the open panel; %1: patterns of names.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vidéos (%1)</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>The title of the save panel, a noun.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportation</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>The title of the open panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>“%1” is the video that is being edited. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» est la vidéo en cours de modification. Choisissez un autre nom.</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oui</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non</translation>
     </message>
 </context>
 <context>
@@ -116,234 +116,236 @@
     <message>
         <source>Ctrl</source>
         <extracomment>The names of keys, as they are on keyboards.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maj</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
 </context>
 <context>
     <name>brisklet::AppCommands</name>
     <message>
         <source>About Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Brisklet</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle fenêtre</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une vidéo…</translation>
     </message>
     <message>
         <source>Export…</source>
         <extracomment>Opens the save panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exporter…</translation>
     </message>
     <message>
         <source>Close Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la vidéo</translation>
     </message>
     <message>
         <source>Set Trim Start at Playhead</source>
         <extracomment>“Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Placer le début de l’extrait à la tête de lecture</translation>
     </message>
     <message>
         <source>Set Trim End at Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer la fin de l’extrait à la tête de lecture</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante</translation>
     </message>
     <message>
         <source>Loop Playback</source>
         <extracomment>Plays what is kept again and again; can be checked.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lire en boucle</translation>
     </message>
     <message>
         <source>&amp;Brisklet</source>
         <extracomment>The name of the program; only the place of the accelerator is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Brisklet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Clip</source>
         <extracomment>The menu of what is done to the part of the video that is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Clip</translation>
     </message>
     <message>
         <source>Remove Finder Quick Action</source>
         <extracomment>The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name none if your language has a word for all: “Add to File Managers”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Retirer des gestionnaires de fichiers</translation>
     </message>
     <message>
         <source>Install Finder Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter aux gestionnaires de fichiers</translation>
     </message>
     <message>
         <source>Couldn&apos;t update the Quick Action: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier les entrées des gestionnaires de fichiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>Brisklet %1</source>
         <extracomment>%1: the version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1</translation>
     </message>
     <message>
         <source>Trims, crops and turns videos, exact to the frame.
 
 Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcit, recadre et fait pivoter des vidéos, à l’image près.
+
+Logiciel libre sous licence publique générale GNU (GPL), version 3 ou ultérieure.</translation>
     </message>
     <message>
         <source>Undo Trim Start</source>
         <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: début de l’extrait</translation>
     </message>
     <message>
         <source>Redo Trim Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: début de l’extrait</translation>
     </message>
     <message>
         <source>Undo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: fin de l’extrait</translation>
     </message>
     <message>
         <source>Redo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: fin de l’extrait</translation>
     </message>
     <message>
         <source>Undo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: recadrer</translation>
     </message>
     <message>
         <source>Redo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: recadrer</translation>
     </message>
     <message>
         <source>Undo Remove Crop</source>
         <extracomment>To undo that the crop was removed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: retirer le recadrage</translation>
     </message>
     <message>
         <source>Redo Remove Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: retirer le recadrage</translation>
     </message>
     <message>
         <source>Undo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: pivoter</translation>
     </message>
     <message>
         <source>Redo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: pivoter</translation>
     </message>
     <message>
         <source>Undo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: couper le son</translation>
     </message>
     <message>
         <source>Redo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: couper le son</translation>
     </message>
     <message>
         <source>Undo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler&#xa0;: réactiver le son</translation>
     </message>
     <message>
         <source>Redo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir&#xa0;: réactiver le son</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouvrir la dernière édition</translation>
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la dernière exportation</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller au temps…</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de l’extrait, puis de la vidéo</translation>
     </message>
     <message>
         <source>Range End, Then End of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de l’extrait, puis de la vidéo</translation>
     </message>
     <message>
         <source>Back One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer d’une seconde</translation>
     </message>
     <message>
         <source>Forward One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer d’une seconde</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <extracomment>The menu of the places that the playhead can go to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aller</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>The folder “%1” can’t be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’afficher le dossier «&#x202f;%1&#x202f;».</translation>
     </message>
 </context>
 <context>
@@ -357,7 +359,13 @@ Trims videos. Each VIDEO opens in a window of its own.
   --version               print the version and exit
 </source>
         <extracomment>What --help prints. The options stay as they are; lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: brisklet [VIDEO...]
+Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
+
+  --install-quick-action  ajoute l’action aux gestionnaires de fichiers, quitte
+  --help                  affiche cette aide et quitte
+  --version               affiche la version et quitte
+</translation>
     </message>
 </context>
 <context>
@@ -365,12 +373,12 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop zone</source>
         <extracomment>For screen readers: the empty window, on which videos are dropped.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zone de dépôt</translation>
     </message>
     <message>
         <source>Editor</source>
         <extracomment>For screen readers: the window with a video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur</translation>
     </message>
 </context>
 <context>
@@ -378,74 +386,74 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Export %1…</source>
         <extracomment>A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en %1…</translation>
     </message>
     <message>
         <source>Export options</source>
         <extracomment>For screen readers: the menu of formats and resolutions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Options d’exportation</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
         <extracomment>Format and resolution.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir les valeurs par défaut</translation>
     </message>
     <message>
         <source>Format</source>
         <extracomment>The title of a group of entries: MP4, MOV.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Resolution</source>
         <extracomment>The title of a group of entries: Original, 1080p, 720p …</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Résolution</translation>
     </message>
     <message>
         <source>Pause</source>
         <extracomment>What the button does when it is pressed; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation type="unfinished"></translation>
+        <translation>Réactiver le son (il sera absent de l’exportation)</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper le son</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Pivoter à gauche</translation>
     </message>
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le recadrage</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Recadrer</translation>
     </message>
     <message>
         <source>about %1</source>
         <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>environ %1</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture ou pause</translation>
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper ou réactiver le son</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Recadrer ou retirer le recadrage</translation>
     </message>
 </context>
 <context>
@@ -453,59 +461,59 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Crop</source>
         <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Recadrage</translation>
     </message>
     <message>
         <source>%1×%2 at %3, %4</source>
         <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1×%2 à %3, %4</translation>
     </message>
     <message>
         <source>Move the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le recadrage</translation>
     </message>
     <message>
         <source>Move its right or bottom side</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer son côté droit ou inférieur</translation>
     </message>
     <message>
         <source>Move its left or top side</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer son côté gauche ou supérieur</translation>
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Recadrage, à la souris</translation>
     </message>
     <message>
         <source>Drag inside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser à l’intérieur</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser une poignée</translation>
     </message>
     <message>
         <source>Resize the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Redimensionner le recadrage</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap pendant un glissement</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le glissement</translation>
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Recadrage, atteint avec Tab</translation>
     </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>
     <message>
         <source>Brisklet is running already, but it doesn’t answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet est déjà lancé mais ne répond pas.</translation>
     </message>
 </context>
 <context>
@@ -513,34 +521,34 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Show</source>
         <extracomment>A button of the notification of an export that has ended: shows the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Download</name>
     <message>
         <source>The server took too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a mis trop de temps.</translation>
     </message>
     <message>
         <source>“%1” is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une adresse sécurisée.</translation>
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur mène à «&#x202f;%1&#x202f;», qui n’est pas une adresse sécurisée.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur envoie plus qu’il ne devrait.</translation>
     </message>
     <message>
         <source>The download can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer le téléchargement&#xa0;: %1</translation>
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion à «&#x202f;%1&#x202f;» n’est pas sécurisée&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -548,11 +556,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop a video here</source>
         <extracomment>Under a picture of a film, in a frame that fills the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Déposez une vidéo ici</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une vidéo…</translation>
     </message>
 </context>
 <context>
@@ -560,20 +568,20 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trimmed</source>
         <extracomment>Follows the name of the original in the proposed name of the new file: “Holiday Trimmed.mp4”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>extrait</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» ne contient aucune piste vidéo.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rouvrir «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -581,85 +589,85 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Something Went Wrong</source>
         <extracomment>The title of each alert; what went wrong stands below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Un problème est survenu</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportButton</name>
     <message>
         <source>The Down key opens a menu of formats and resolutions</source>
-        <translation type="unfinished"></translation>
+        <translation>La touche Bas ouvre un menu de formats et de résolutions</translation>
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton d’exportation, atteint avec Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le format et la résolution</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportFormat</name>
     <message>
         <source>MPEG-4 movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Film MPEG-4</translation>
     </message>
     <message>
         <source>QuickTime movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Film QuickTime</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportJob</name>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’exportation&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportMonitor</name>
     <message>
         <source>Export finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportation terminée</translation>
     </message>
     <message>
         <source>Export failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’exportation</translation>
     </message>
     <message>
         <source>A video is being exported.</source>
         <extracomment>Why the computer is not to sleep; some desktops show it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Une vidéo est en cours d’exportation.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportProgressView</name>
     <message>
         <source>Exporting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportation…</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>A title, a noun: the act of exporting.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportation</translation>
     </message>
     <message>
         <source>Export progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de l’exportation</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>about %1 left</source>
         <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>encore environ %1</translation>
     </message>
 </context>
 <context>
@@ -667,7 +675,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Original</source>
         <extracomment>The resolution of the export: that of the source.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Originale</translation>
     </message>
 </context>
 <context>
@@ -675,89 +683,89 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim Video</source>
         <extracomment>An entry in the menus of file managers, for the selected videos. A file is named so: no slash.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcir la vidéo</translation>
     </message>
     <message>
         <source>Open the selected videos in Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les vidéos sélectionnées dans Brisklet</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
         <extracomment>%1: a file’s name; %2: the reason. So it is in the next one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas sur cet ordinateur et aucun dossier d’ici n’y mène.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller au temps</translation>
     </message>
     <message>
         <source>Go to:</source>
         <extracomment>Before a field for a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aller à&#xa0;:</translation>
     </message>
     <message>
         <source>Go</source>
         <extracomment>The button that goes to the time in the field.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aller</translation>
     </message>
     <message>
         <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
         <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un temps. Saisissez-en un, par exemple 1:23.456, +10f ou #2412.</translation>
     </message>
     <message>
         <source>The video ends at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo se termine à %1.</translation>
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les numéros des images de cette vidéo ne sont pas connus. Saisissez un temps.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dernière image est #%1.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps, un nombre d’images à partir d’ici ou une image&#xa0;: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps ou un nombre d’images à partir d’ici&#xa0;: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
     <name>brisklet::KeyboardShortcutsView</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Action</source>
         <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Action</translation>
     </message>
     <message>
         <source>Keys or gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches ou geste</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
 </context>
 <context>
@@ -765,11 +773,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>1/10 speed</source>
         <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>vitesse 1/10</translation>
     </message>
     <message>
         <source>1/100 speed</source>
-        <translation type="unfinished"></translation>
+        <translation>vitesse 1/100</translation>
     </message>
 </context>
 <context>
@@ -777,30 +785,30 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>“%1” couldn’t be made: %2</source>
         <extracomment>%1: a file’s or folder’s name; %2: the reason. So it is in the next three.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be copied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de copier «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>It doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’élément n’existe pas.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::QuickActionInstallation</name>
     <message>
         <source>The place of the program couldn’t be found out.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’emplacement du programme n’a pas pu être déterminé.</translation>
     </message>
 </context>
 <context>
@@ -808,252 +816,252 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim start</source>
         <extracomment>For screen readers: the handles on the time line. Trim start is the beginning of what is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Début de l’extrait</translation>
     </message>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Tête de lecture</translation>
     </message>
     <message>
         <source>Trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de l’extrait</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer d’une image</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer d’une image</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer d’une seconde</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer d’une seconde</translation>
     </message>
     <message>
         <source>As far back as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer autant que possible</translation>
     </message>
     <message>
         <source>As far forward as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer autant que possible</translation>
     </message>
     <message>
         <source>Shift with these keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Maj avec ces touches</translation>
     </message>
     <message>
         <source>Ten times as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix fois plus loin</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineStrip</name>
     <message>
         <source>Timeline, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de temps, à la souris</translation>
     </message>
     <message>
         <source>Click or drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquer ou faire glisser</translation>
     </message>
     <message>
         <source>Move the playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer la tête de lecture</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser une poignée</translation>
     </message>
     <message>
         <source>Move the trim start or the trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le début ou la fin de l’extrait</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap pendant un glissement</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le glissement</translation>
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de l’extrait, tête de lecture et fin de l’extrait, atteints avec Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
-        <translation type="unfinished"></translation>
+        <translation>Création de la pellicule…</translation>
     </message>
     <message>
         <source>Drag with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser avec Maj</translation>
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer d’un dixième du trajet du pointeur</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser avec Maj, loin au-dessus ou au-dessous</translation>
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer d’un centième du trajet</translation>
     </message>
     <message>
         <source>Wheel</source>
         <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Molette</translation>
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Se déplacer d’une image</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette avec Maj</translation>
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Se déplacer de dix images</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette sur une poignée</translation>
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer pas à pas cette limite de l’extrait</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineView</name>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de temps</translation>
     </message>
     <message>
         <source>Range %1</source>
         <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Extrait %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::UpdateDialogs</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Mises à jour</translation>
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement les mises à jour&#x202f;?</translation>
     </message>
     <message>
         <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet peut vérifier une fois par jour s’il existe une nouvelle version. Vous pouvez aussi le faire depuis son menu.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de mises à jour…</translation>
     </message>
     <message>
         <source>You’re up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet est à jour.</translation>
     </message>
     <message>
         <source>Brisklet %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1 est la version la plus récente disponible.</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour</translation>
     </message>
     <message>
         <source>Install Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer la mise à jour</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Me le rappeler plus tard</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer cette version</translation>
     </message>
     <message>
         <source>A new version of Brisklet is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une nouvelle version de Brisklet est disponible.</translation>
     </message>
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1 est disponible&#x202f;; vous avez la version %2. Voulez-vous l’installer&#x202f;?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de Brisklet %1…</translation>
     </message>
     <message>
         <source>The update didn’t work.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour a échoué.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Updater</name>
     <message>
         <source>The update feed is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste des mises à jour est endommagée.</translation>
     </message>
     <message>
         <source>Couldn’t check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher des mises à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>The update is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour est trop volumineuse.</translation>
     </message>
     <message>
         <source>The update couldn’t be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de télécharger la mise à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>The update is incomplete. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour est incomplète. Elle n’a pas été installée.</translation>
     </message>
     <message>
         <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour n’est pas authentique&#xa0;: sa signature est incorrecte. Elle n’a pas été installée.</translation>
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme ne permet d’installer la mise à jour. Elle se trouve ici&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::WindowRootView</name>
     <message>
         <source>Stop the export and close?</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l’exportation et fermer&#x202f;?</translation>
     </message>
     <message>
         <source>Stop and Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et fermer</translation>
     </message>
     <message>
         <source>Keep Exporting</source>
         <extracomment>Answers “Stop the export and close?” with no.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Continuer l’exportation</translation>
     </message>
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Arrêter %n exportation et fermer&#x202f;?</numerusform>
+            <numerusform>Arrêter %n exportations et fermer&#x202f;?</numerusform>
         </translation>
     </message>
 </context>
@@ -1061,117 +1069,117 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::approximateDuration</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;h</translation>
     </message>
 </context>
 <context>
     <name>brisklet::cli::ToolText</name>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>option inconnue %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne prend pas de valeur</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
         <extracomment>%1: an option, such as “--start”. So it is in what follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 demande une valeur</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est indiqué deux fois</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 demande un nombre, pas «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>%1 needs a whole number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 demande un nombre entier, pas «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>something is missing: expected %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque quelque chose&#xa0;: %1 attendu</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>argument inattendu «&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
         <source>a name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>un nom est vide</translation>
     </message>
     <message>
         <source>--count needs a number from 1 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--count demande un nombre de 1 à %1</translation>
     </message>
     <message>
         <source>SECONDS needs a number from 0, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>SECONDS demande un nombre à partir de 0, pas «&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
         <source>--crop needs X,Y,W,H, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop demande X,Y,W,H, pas «&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
         <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop demande des fractions de l’image, de 0 à 1, avec une surface non nulle</translation>
     </message>
     <message>
         <source>--format knows %1, not &quot;%2&quot;</source>
         <extracomment>%1: the formats, such as “mp4, mov”; %2: what was given.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>--format connaît %1, pas «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> et </translation>
     </message>
     <message>
         <source>the name of the output does not say which format: add --format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de sortie n’indique pas le format&#xa0;: ajoutez --format %1</translation>
     </message>
     <message>
         <source> or </source>
         <extracomment>Between the names of formats, of which there are two or more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> ou </translation>
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne connaît pas «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
-        <translation type="unfinished"></translation>
+        <translation>--start ne doit pas être négatif</translation>
     </message>
     <message>
         <source>--end must come after --start</source>
-        <translation type="unfinished"></translation>
+        <translation>--end doit venir après --start</translation>
     </message>
     <message>
         <source>--max-short-edge needs a number of pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>--max-short-edge demande un nombre de pixels</translation>
     </message>
     <message>
         <source>--progress knows json only, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--progress ne connaît que json, pas «&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
         <source>no command is given</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune commande n’est indiquée</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une commande</translation>
     </message>
     <message>
         <source>Usage: brisklet-cli probe SOURCE
@@ -1182,7 +1190,13 @@ Trims videos. Each VIDEO opens in a window of its own.
                     [--format %1] [--progress json]
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: brisklet-cli probe SOURCE
+              brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
+              brisklet-cli frame SOURCE SECONDS OUTPUT.png
+              brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
+                    [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                    [--max-short-edge N] [--format %1] [--progress json]
+</translation>
     </message>
     <message>
         <source>probe      prints what the file is, as one JSON object.
@@ -1206,49 +1220,68 @@ export     writes a copy of the file:
 Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>probe      affiche ce qu’est le fichier, en un seul objet JSON.
+filmstrip  écrit N (12) vignettes du milieu de N tranches égales, en
+           00.png, 01.png, ... dans le dossier, et affiche leurs temps en JSON.
+frame      écrit l’image redressée qu’un lecteur affiche à ce temps.
+export     écrit une copie du fichier&#xa0;:
+  --start, --end        la partie à conserver, en secondes (tout)
+  --crop                en fractions de l’image affichée après --rotate,
+                        depuis son coin supérieur gauche
+  --rotate              quarts de tour dans le sens horaire, en degrés
+  --mute                sans le son
+  --max-short-edge      réduit à ce nombre de pixels sur le petit côté
+  --format              %1 (selon la fin du nom de sortie)
+  --progress json       affiche une ligne JSON par message au lieu d’une barre
+  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
+                        autres réglages de l’encodeur, pour des mesures
+
+  --help, --version     affiche ceci, ou la version, et quitte
+
+Code de sortie&#xa0;: 0 réussi&#x202f;; 1 échec&#x202f;; 2 mauvais usage&#x202f;; 130 interrompu.
+</translation>
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’exportation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Couldn’t write “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire «&#x202f;%1&#x202f;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>Couldn’t write the answer: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire la réponse&#xa0;: %1.</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» ne contient aucune piste vidéo.</translation>
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire l’image en PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer le dossier «&#x202f;%1&#x202f;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>It has no length.</source>
         <extracomment>A reason: it is about the video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sa durée est nulle.</translation>
     </message>
     <message>
         <source>Couldn’t make a filmstrip of “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer une pellicule de «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>Couldn’t make the picture: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer l’image&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1256,15 +1289,15 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>Quick Action install failed: %1</source>
         <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’installer les entrées de menu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Installed Trim Video Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;Raccourcir la vidéo&#x202f;» ajouté aux gestionnaires de fichiers</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>option inconnue «&#x202f;%1&#x202f;»</translation>
     </message>
 </context>
 <context>
@@ -1272,334 +1305,334 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>It is not a video file, or it is damaged.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier vidéo, ou il est endommagé.</translation>
     </message>
     <message>
         <source>Its format isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Son format n’est pas pris en charge.</translation>
     </message>
     <message>
         <source>Its video codec isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Son codec vidéo n’est pas pris en charge.</translation>
     </message>
     <message>
         <source>It is encrypted or copy-protected.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est chiffré ou protégé contre la copie.</translation>
     </message>
     <message>
         <source>The file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
         <source>You don’t have permission to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n’avez pas le droit de lire ce fichier.</translation>
     </message>
     <message>
         <source>The file name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du fichier est trop long.</translation>
     </message>
     <message>
         <source>The link to the file leads nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien vers le fichier ne mène nulle part.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
         <extracomment>About a file that the sentence before has named. “Regular” is the system’s word for a file that is neither a folder nor a device nor a pipe.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>It is a folder, not a video file.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>C’est un dossier, pas un fichier vidéo.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est vide.</translation>
     </message>
     <message>
         <source>The file can’t be read: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The video can’t be read: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la vidéo&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1” was changed after it was opened.</source>
         <extracomment>%1: the file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» a été modifié après son ouverture.</translation>
     </message>
     <message>
         <source>The file ends too early.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier se termine trop tôt.</translation>
     </message>
     <message>
         <source>The video was cut short while it was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo a été tronquée pendant sa lecture.</translation>
     </message>
     <message>
         <source>The disk reported an error while the video was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a signalé une erreur pendant la lecture de la vidéo.</translation>
     </message>
     <message>
         <source>The file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient aucune piste vidéo.</translation>
     </message>
     <message>
         <source>Not one picture in this file can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image de ce fichier ne peut être décodée.</translation>
     </message>
     <message>
         <source>There is no picture at this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’image à ce temps.</translation>
     </message>
     <message>
         <source>Pictures in the pixel format “%1” cannot be converted.</source>
         <extracomment>%1: FFmpeg’s name of the format, such as “yuv420p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Les images au format de pixel «&#x202f;%1&#x202f;» ne peuvent pas être converties.</translation>
     </message>
     <message>
         <source>The colors of the pictures cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les couleurs des images ne peuvent pas être converties.</translation>
     </message>
     <message>
         <source>The colours of the picture cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les couleurs de l’image ne peuvent pas être converties.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>The range to export is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’extrait à exporter est vide.</translation>
     </message>
     <message>
         <source>The source file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier source ne contient aucune piste vidéo.</translation>
     </message>
     <message>
         <source>Couldn&apos;t create an export session for this video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de préparer l’exportation de cette vidéo.</translation>
     </message>
     <message>
         <source>There is no video to export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de vidéo à exporter.</translation>
     </message>
     <message>
         <source>The video can’t be exported over itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo ne peut pas être exportée sur elle-même.</translation>
     </message>
     <message>
         <source>Not one picture of this range can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image de cet extrait ne peut être décodée.</translation>
     </message>
     <message>
         <source>The new file was damaged while it was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nouveau fichier a été endommagé pendant son écriture.</translation>
     </message>
     <message>
         <source>An encoder that the export needs isn’t installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un encodeur nécessaire à l’exportation n’est pas installé.</translation>
     </message>
     <message>
         <source>The encoder %1 doesn’t take the setting “%2”.</source>
         <extracomment>%1: the encoder’s name, such as “libx264”; %2: the setting, such as “crf=18”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L’encodeur %1 n’accepte pas le réglage «&#x202f;%2&#x202f;».</translation>
     </message>
     <message>
         <source>“%1” is being written by another export.</source>
         <extracomment>%1: the new file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>«&#x202f;%1&#x202f;» est en cours d’écriture par une autre exportation.</translation>
     </message>
     <message>
         <source>The unfinished new file was removed by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nouveau fichier inachevé a été supprimé par un autre programme.</translation>
     </message>
     <message>
         <source>The folder “%1” for the new file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#x202f;%1&#x202f;» du nouveau fichier n’existe pas.</translation>
     </message>
     <message>
         <source>You don’t have permission to write to the folder “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n’avez pas le droit d’écrire dans le dossier «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>The disk with the folder “%1” is write-protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque contenant le dossier «&#x202f;%1&#x202f;» est protégé en écriture.</translation>
     </message>
     <message>
         <source>A folder has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier porte le nom du nouveau fichier.</translation>
     </message>
     <message>
         <source>Something that is not a regular file has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du nouveau fichier est déjà celui d’un élément qui n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>The name of the new file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du nouveau fichier est trop long.</translation>
     </message>
     <message>
         <source>The disk reported an error while the new file was being written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a signalé une erreur pendant l’écriture du nouveau fichier.</translation>
     </message>
     <message>
         <source>The new file can’t be written: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le nouveau fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas assez de mémoire.</translation>
     </message>
     <message>
         <source>There is not enough space on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas assez d’espace sur le disque.</translation>
     </message>
     <message>
         <source>The file would be too large for this disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier serait trop volumineux pour ce disque.</translation>
     </message>
     <message>
         <source>The disk reported an error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque a signalé une erreur.</translation>
     </message>
     <message>
         <source>The media engine can’t be found: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur multimédia est introuvable&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Brisklet is not completely installed. Install it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet n’est pas complètement installé. Réinstallez-le.</translation>
     </message>
     <message>
         <source>Brisklet has been updated. Start it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet a été mis à jour. Redémarrez-le.</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a reason, which stands alone or after a colon. Only the full stop is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>permission refusée</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>opération non permise</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier ou dossier introuvable</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est pas un dossier</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier existe déjà</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>est un dossier</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation type="unfinished"></translation>
+        <translation>argument non valable</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation type="unfinished"></translation>
+        <translation>trop de fichiers ouverts</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation type="unfinished"></translation>
+        <translation>système de fichiers en lecture seule</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>le fichier n’est plus sur le réseau</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>délai de connexion dépassé</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation type="unfinished"></translation>
+        <translation>périphérique ou ressource occupés</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>trop de liens symboliques imbriqués</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>le destinataire s’est arrêté</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>plus d’espace disponible sur le disque</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>quota de disque dépassé</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation type="unfinished"></translation>
+        <translation>erreur d’entrée/sortie</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation type="unfinished"></translation>
+        <translation>nom de fichier trop long</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation type="unfinished"></translation>
+        <translation>erreur dans une bibliothèque externe</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>pas encore pris en charge par FFmpeg</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>erreur inattendue (détails&#xa0;: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#x202f;%1&#x202f;» n’existe pas.</translation>
     </message>
     <message>
         <source>Another file has its name now.</source>
         <extracomment>About a video that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Un autre fichier porte maintenant son nom.</translation>
     </message>
     <message>
         <source>It is no longer in the folder “%1”.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Elle n’est plus dans le dossier «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
         <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L’espace libre est insuffisant&#xa0;: la vidéo occupe environ %1, et %2 sont libres.</translation>
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système est trop occupé&#xa0;: impossible de démarrer un nouveau fil d’exécution.</translation>
     </message>
 </context>
 </TS>

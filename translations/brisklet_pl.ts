@@ -6,11 +6,11 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jest już pobierana.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać aktualizacji: %1</translation>
     </message>
 </context>
 <context>
@@ -18,49 +18,49 @@
     <message>
         <source>Video Trimmer</source>
         <extracomment>The kind of program, in the menus of desktops.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przycinanie wideo</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycinanie, kadrowanie i obracanie wideo z dokładnością do klatki</translation>
     </message>
     <message>
         <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
         <extracomment>What people search for in the menus of desktops, in any number; a semicolon after each.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>wytnij;przytnij;skróć;kadruj;obróć;klip;wideo;film;mp4;mov;</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Nowe okno</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos</source>
         <extracomment>These and the following stand in software centres.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przycinanie, kadrowanie i obracanie wideo</translation>
     </message>
     <message>
         <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet robi jedno: krótszą, wykadrowaną lub obróconą kopię wideo. Wystarczy upuścić plik na okno, przeciągnąć dwa uchwyty nad paskiem klatek i wyeksportować.</translation>
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwsza klatka eksportu to ta, którą było widać na początku zakresu, a dźwięk pozostaje na swoim miejscu.</translation>
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kadruje i obraca w jednym kroku, z jednym starannym przepróbkowaniem.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowuje kolory, szeroki zakres dynamiki, ścieżki dźwiękowe, rozdziały i daty.</translation>
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje MP4 i MOV; odczytuje to, co zapisują kamery, telefony i programy do nagrywania ekranu.</translation>
     </message>
     <message>
         <source>Never touches the original, and never leaves a half-written file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nigdy nie zmienia oryginału ani nie pozostawia niedokończonego pliku.</translation>
     </message>
 </context>
 <context>
@@ -68,47 +68,47 @@
     <message>
         <source>Videos (%1)</source>
         <extracomment>A type of files in the open panel; %1: patterns of names.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pliki wideo (%1)</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>The title of the save panel, a noun.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eksport</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>The title of the open panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Otwieranie</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie pliki (*)</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>“%1” is the video that is being edited. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” to wideo, które jest właśnie edytowane. Należy wybrać inną nazwę.</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tak</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nie</translation>
     </message>
 </context>
 <context>
@@ -116,234 +116,236 @@
     <message>
         <source>Ctrl</source>
         <extracomment>The names of keys, as they are on keyboards.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spacja</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>W lewo</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>W prawo</translation>
     </message>
 </context>
 <context>
     <name>brisklet::AppCommands</name>
     <message>
         <source>About Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>O programie Brisklet</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź aktualizacje…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Nowe okno</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz wideo…</translation>
     </message>
     <message>
         <source>Export…</source>
         <extracomment>Opens the save panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eksportuj…</translation>
     </message>
     <message>
         <source>Close Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Zamknij wideo</translation>
     </message>
     <message>
         <source>Set Trim Start at Playhead</source>
         <extracomment>“Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ustaw początek przycięcia na wskaźniku odtwarzania</translation>
     </message>
     <message>
         <source>Set Trim End at Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustaw koniec przycięcia na wskaźniku odtwarzania</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Poprzednia klatka</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Następna klatka</translation>
     </message>
     <message>
         <source>Loop Playback</source>
         <extracomment>Plays what is kept again and again; can be checked.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zapętlaj odtwarzanie</translation>
     </message>
     <message>
         <source>&amp;Brisklet</source>
         <extracomment>The name of the program; only the place of the accelerator is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Brisklet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plik</translation>
     </message>
     <message>
         <source>&amp;Clip</source>
         <extracomment>The menu of what is done to the part of the video that is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klip</translation>
     </message>
     <message>
         <source>Remove Finder Quick Action</source>
         <extracomment>The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name none if your language has a word for all: “Add to File Managers”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Usuń z menedżerów plików</translation>
     </message>
     <message>
         <source>Install Finder Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj do menedżerów plików</translation>
     </message>
     <message>
         <source>Couldn&apos;t update the Quick Action: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zmienić menu menedżerów plików: %1</translation>
     </message>
     <message>
         <source>Brisklet %1</source>
         <extracomment>%1: the version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1</translation>
     </message>
     <message>
         <source>Trims, crops and turns videos, exact to the frame.
 
 Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycina, kadruje i obraca wideo z dokładnością do klatki.
+
+Wolne oprogramowanie na licencji GNU General Public License w wersji 3 lub nowszej.</translation>
     </message>
     <message>
         <source>Undo Trim Start</source>
         <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij początek przycięcia</translation>
     </message>
     <message>
         <source>Redo Trim Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów początek przycięcia</translation>
     </message>
     <message>
         <source>Undo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij koniec przycięcia</translation>
     </message>
     <message>
         <source>Redo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów koniec przycięcia</translation>
     </message>
     <message>
         <source>Undo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij kadrowanie</translation>
     </message>
     <message>
         <source>Redo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów kadrowanie</translation>
     </message>
     <message>
         <source>Undo Remove Crop</source>
         <extracomment>To undo that the crop was removed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij usunięcie kadrowania</translation>
     </message>
     <message>
         <source>Redo Remove Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów usunięcie kadrowania</translation>
     </message>
     <message>
         <source>Undo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij obrót</translation>
     </message>
     <message>
         <source>Redo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów obrót</translation>
     </message>
     <message>
         <source>Undo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij wyciszenie</translation>
     </message>
     <message>
         <source>Redo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów wyciszenie</translation>
     </message>
     <message>
         <source>Undo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij włączenie dźwięku</translation>
     </message>
     <message>
         <source>Redo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów włączenie dźwięku</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Skróty klawiszowe</translation>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywróć ostatnią edycję</translation>
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż ostatni eksport</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponów</translation>
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Przejdź do czasu…</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Początek zakresu, potem początek wideo</translation>
     </message>
     <message>
         <source>Range End, Then End of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Koniec zakresu, potem koniec wideo</translation>
     </message>
     <message>
         <source>Back One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda wstecz</translation>
     </message>
     <message>
         <source>Forward One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda naprzód</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Edycja</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <extracomment>The menu of the places that the playhead can go to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;rzejdź</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomo&amp;c</translation>
     </message>
     <message>
         <source>The folder “%1” can’t be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można wyświetlić katalogu „%1”.</translation>
     </message>
 </context>
 <context>
@@ -357,7 +359,13 @@ Trims videos. Each VIDEO opens in a window of its own.
   --version               print the version and exit
 </source>
         <extracomment>What --help prints. The options stay as they are; lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Użycie: brisklet [VIDEO...]
+Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
+
+  --install-quick-action  dodaje „Przytnij wideo” do menedżerów plików i kończy
+  --help                  wyświetla tę pomoc i kończy
+  --version               wyświetla wersję i kończy
+</translation>
     </message>
 </context>
 <context>
@@ -365,12 +373,12 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop zone</source>
         <extracomment>For screen readers: the empty window, on which videos are dropped.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce upuszczania</translation>
     </message>
     <message>
         <source>Editor</source>
         <extracomment>For screen readers: the window with a video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Edytor</translation>
     </message>
 </context>
 <context>
@@ -378,74 +386,74 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Export %1…</source>
         <extracomment>A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eksportuj %1…</translation>
     </message>
     <message>
         <source>Export options</source>
         <extracomment>For screen readers: the menu of formats and resolutions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Opcje eksportu</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
         <extracomment>Format and resolution.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przywróć domyślne</translation>
     </message>
     <message>
         <source>Format</source>
         <extracomment>The title of a group of entries: MP4, MOV.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Resolution</source>
         <extracomment>The title of a group of entries: Original, 1080p, 720p …</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rozdzielczość</translation>
     </message>
     <message>
         <source>Pause</source>
         <extracomment>What the button does when it is pressed; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wstrzymaj</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzaj</translation>
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyłącz wyciszenie (dźwięk zostanie usunięty przy eksporcie)</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Wycisz</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Obróć w lewo</translation>
     </message>
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Usuń kadrowanie</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Kadruj</translation>
     </message>
     <message>
         <source>about %1</source>
         <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>około %1</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzaj lub wstrzymaj</translation>
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Wycisz lub wyłącz wyciszenie</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Kadruj lub usuń kadrowanie</translation>
     </message>
 </context>
 <context>
@@ -453,59 +461,59 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Crop</source>
         <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ramka kadru</translation>
     </message>
     <message>
         <source>%1×%2 at %3, %4</source>
         <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1×%2 w punkcie %3, %4</translation>
     </message>
     <message>
         <source>Move the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Przesunięcie ramki kadru</translation>
     </message>
     <message>
         <source>Move its right or bottom side</source>
-        <translation type="unfinished"></translation>
+        <translation>Przesunięcie jej prawego lub dolnego boku</translation>
     </message>
     <message>
         <source>Move its left or top side</source>
-        <translation type="unfinished"></translation>
+        <translation>Przesunięcie jej lewego lub górnego boku</translation>
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramka kadru, mysz</translation>
     </message>
     <message>
         <source>Drag inside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnięcie jej wnętrza</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnięcie uchwytu</translation>
     </message>
     <message>
         <source>Resize the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmiana rozmiaru ramki kadru</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc w trakcie przeciągania</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnięcie przeciągnięcia</translation>
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramka kadru, dostępna przez Tab</translation>
     </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>
     <message>
         <source>Brisklet is running already, but it doesn’t answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet już działa, ale nie odpowiada.</translation>
     </message>
 </context>
 <context>
@@ -513,34 +521,34 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Show</source>
         <extracomment>A button of the notification of an export that has ended: shows the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Download</name>
     <message>
         <source>The server took too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serwer nie odpowiadał zbyt długo.</translation>
     </message>
     <message>
         <source>“%1” is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie jest bezpiecznym adresem.</translation>
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serwer kieruje do „%1”, a to nie jest bezpieczny adres.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serwer wysyła więcej danych, niż powinien.</translation>
     </message>
     <message>
         <source>The download can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać pobranych danych: %1</translation>
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Połączenie z „%1” nie jest bezpieczne: %2.</translation>
     </message>
 </context>
 <context>
@@ -548,11 +556,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop a video here</source>
         <extracomment>Under a picture of a film, in a frame that fills the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Upuść wideo tutaj</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz wideo…</translation>
     </message>
 </context>
 <context>
@@ -560,20 +568,20 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trimmed</source>
         <extracomment>Follows the name of the original in the proposed name of the new file: “Holiday Trimmed.mp4”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>przycięte</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie zawiera ścieżki wideo.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można otworzyć „%1”: %2</translation>
     </message>
     <message>
         <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można ponownie otworzyć „%1”: %2</translation>
     </message>
 </context>
 <context>
@@ -581,85 +589,85 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Something Went Wrong</source>
         <extracomment>The title of each alert; what went wrong stands below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Coś się nie powiodło</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportButton</name>
     <message>
         <source>The Down key opens a menu of formats and resolutions</source>
-        <translation type="unfinished"></translation>
+        <translation>Klawisz „W dół” otwiera menu formatów i rozdzielczości</translation>
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycisk eksportu, dostępny przez Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybór formatu i rozdzielczości</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportFormat</name>
     <message>
         <source>MPEG-4 movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Film MPEG-4</translation>
     </message>
     <message>
         <source>QuickTime movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Film QuickTime</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportJob</name>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport się nie powiódł: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportMonitor</name>
     <message>
         <source>Export finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport ukończony</translation>
     </message>
     <message>
         <source>Export failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport nieudany</translation>
     </message>
     <message>
         <source>A video is being exported.</source>
         <extracomment>Why the computer is not to sleep; some desktops show it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Trwa eksportowanie wideo.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportProgressView</name>
     <message>
         <source>Exporting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksportowanie…</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>A title, a noun: the act of exporting.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eksport</translation>
     </message>
     <message>
         <source>Export progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Postęp eksportu</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>about %1 left</source>
         <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>pozostało około %1</translation>
     </message>
 </context>
 <context>
@@ -667,7 +675,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Original</source>
         <extracomment>The resolution of the export: that of the source.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Oryginalna</translation>
     </message>
 </context>
 <context>
@@ -675,89 +683,89 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim Video</source>
         <extracomment>An entry in the menus of file managers, for the selected videos. A file is named so: no slash.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przytnij wideo</translation>
     </message>
     <message>
         <source>Open the selected videos in Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwiera zaznaczone wideo w programie Brisklet</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
         <extracomment>%1: a file’s name; %2: the reason. So it is in the next one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać „%1”: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można usunąć „%1”: %2</translation>
     </message>
 </context>
 <context>
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie znajduje się na tym komputerze i żaden katalog tutaj tam nie prowadzi.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Przejście do czasu</translation>
     </message>
     <message>
         <source>Go to:</source>
         <extracomment>Before a field for a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przejdź do:</translation>
     </message>
     <message>
         <source>Go</source>
         <extracomment>The button that goes to the time in the field.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Przejdź</translation>
     </message>
     <message>
         <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
         <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest czas. Należy wpisać np. 1:23.456, +10f lub #2412.</translation>
     </message>
     <message>
         <source>The video ends at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wideo kończy się na %1.</translation>
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Numery klatek tego wideo są nieznane. Należy wpisać czas.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatnia klatka to #%1.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas, liczba klatek stąd lub numer klatki: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas lub liczba klatek stąd: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
     <name>brisklet::KeyboardShortcutsView</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Skróty klawiszowe</translation>
     </message>
     <message>
         <source>Action</source>
         <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Działanie</translation>
     </message>
     <message>
         <source>Keys or gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Klawisze lub gest</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Sterowanie</translation>
     </message>
 </context>
 <context>
@@ -765,11 +773,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>1/10 speed</source>
         <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Prędkość 1/10</translation>
     </message>
     <message>
         <source>1/100 speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Prędkość 1/100</translation>
     </message>
 </context>
 <context>
@@ -777,30 +785,30 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>“%1” couldn’t be made: %2</source>
         <extracomment>%1: a file’s or folder’s name; %2: the reason. So it is in the next three.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć „%1”: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać „%1”: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be copied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można skopiować „%1”: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można usunąć „%1”: %2</translation>
     </message>
     <message>
         <source>It doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie istnieje.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::QuickActionInstallation</name>
     <message>
         <source>The place of the program couldn’t be found out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można ustalić położenia programu.</translation>
     </message>
 </context>
 <context>
@@ -808,253 +816,253 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim start</source>
         <extracomment>For screen readers: the handles on the time line. Trim start is the beginning of what is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Początek przycięcia</translation>
     </message>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Wskaźnik odtwarzania</translation>
     </message>
     <message>
         <source>Trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Koniec przycięcia</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Klatka wstecz</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Klatka naprzód</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda wstecz</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda naprzód</translation>
     </message>
     <message>
         <source>As far back as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak najdalej wstecz</translation>
     </message>
     <message>
         <source>As far forward as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak najdalej naprzód</translation>
     </message>
     <message>
         <source>Shift with these keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift z tymi klawiszami</translation>
     </message>
     <message>
         <source>Ten times as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziesięć razy dalej</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineStrip</name>
     <message>
         <source>Timeline, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Oś czasu, mysz</translation>
     </message>
     <message>
         <source>Click or drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknięcie lub przeciągnięcie</translation>
     </message>
     <message>
         <source>Move the playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Przesunięcie wskaźnika odtwarzania</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnięcie uchwytu</translation>
     </message>
     <message>
         <source>Move the trim start or the trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Przesunięcie początku lub końca przycięcia</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc w trakcie przeciągania</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnięcie przeciągnięcia</translation>
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Początek przycięcia, wskaźnik odtwarzania i koniec przycięcia, dostępne przez Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tworzenie paska klatek…</translation>
     </message>
     <message>
         <source>Drag with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnięcie z Shift</translation>
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruch dziesięć razy mniejszy niż ruch kursora</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnięcie z Shift dużo wyżej lub niżej</translation>
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruch sto razy mniejszy</translation>
     </message>
     <message>
         <source>Wheel</source>
         <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kółko</translation>
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Krok o klatkę</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Kółko z Shift</translation>
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Krok o dziesięć klatek</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Kółko nad uchwytem</translation>
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Krok tego końca zakresu</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineView</name>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Oś czasu</translation>
     </message>
     <message>
         <source>Range %1</source>
         <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zakres %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::UpdateDialogs</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacje</translation>
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatycznie sprawdzać aktualizacje?</translation>
     </message>
     <message>
         <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet może raz dziennie sprawdzać, czy jest nowa wersja. Można to też zrobić ręcznie z menu programu.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdzanie aktualizacji…</translation>
     </message>
     <message>
         <source>You’re up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program jest aktualny.</translation>
     </message>
     <message>
         <source>Brisklet %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1 to najnowsza dostępna wersja.</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja</translation>
     </message>
     <message>
         <source>Install Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Zainstaluj aktualizację</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Przypomnij później</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń tę wersję</translation>
     </message>
     <message>
         <source>A new version of Brisklet is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest nowa wersja programu Brisklet.</translation>
     </message>
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dostępny jest Brisklet %1; zainstalowana wersja to %2. Zainstalować nową?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobieranie programu Brisklet %1…</translation>
     </message>
     <message>
         <source>The update didn’t work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja się nie powiodła.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Updater</name>
     <message>
         <source>The update feed is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista aktualizacji jest uszkodzona.</translation>
     </message>
     <message>
         <source>Couldn’t check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można sprawdzić aktualizacji: %1</translation>
     </message>
     <message>
         <source>The update is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja jest za duża.</translation>
     </message>
     <message>
         <source>The update couldn’t be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można pobrać aktualizacji: %1</translation>
     </message>
     <message>
         <source>The update is incomplete. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja jest niekompletna. Nie została zainstalowana.</translation>
     </message>
     <message>
         <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja nie jest autentyczna: jej podpis jest błędny. Nie została zainstalowana.</translation>
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma programu, który mógłby zainstalować aktualizację. Znajduje się tutaj: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::WindowRootView</name>
     <message>
         <source>Stop the export and close?</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymać eksport i zamknąć?</translation>
     </message>
     <message>
         <source>Stop and Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymaj i zamknij</translation>
     </message>
     <message>
         <source>Keep Exporting</source>
         <extracomment>Answers “Stop the export and close?” with no.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eksportuj dalej</translation>
     </message>
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zatrzymać %n eksport i zamknąć?</numerusform>
+            <numerusform>Zatrzymać %n eksporty i zamknąć?</numerusform>
+            <numerusform>Zatrzymać %n eksportów i zamknąć?</numerusform>
         </translation>
     </message>
 </context>
@@ -1062,117 +1070,117 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::approximateDuration</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 godz.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::cli::ToolText</name>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznana opcja %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nie przyjmuje wartości</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
         <extracomment>%1: an option, such as “--start”. So it is in what follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 wymaga wartości</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 podano dwukrotnie</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wymaga liczby, nie „%2”</translation>
     </message>
     <message>
         <source>%1 needs a whole number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wymaga liczby całkowitej, nie „%2”</translation>
     </message>
     <message>
         <source>something is missing: expected %1</source>
-        <translation type="unfinished"></translation>
+        <translation>czegoś brakuje: oczekiwano %1</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>nieoczekiwany argument „%1”</translation>
     </message>
     <message>
         <source>a name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>nazwa jest pusta</translation>
     </message>
     <message>
         <source>--count needs a number from 1 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--count wymaga liczby od 1 do %1</translation>
     </message>
     <message>
         <source>SECONDS needs a number from 0, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>SECONDS wymaga liczby od 0, nie „%1”</translation>
     </message>
     <message>
         <source>--crop needs X,Y,W,H, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop wymaga X,Y,W,H, nie „%1”</translation>
     </message>
     <message>
         <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop wymaga ułamków obrazu od 0 do 1, tworzących niepusty obszar</translation>
     </message>
     <message>
         <source>--format knows %1, not &quot;%2&quot;</source>
         <extracomment>%1: the formats, such as “mp4, mov”; %2: what was given.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>--format przyjmuje %1, nie „%2”</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> i </translation>
     </message>
     <message>
         <source>the name of the output does not say which format: add --format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>z nazwy pliku wyjściowego nie wynika format: należy dodać --format %1</translation>
     </message>
     <message>
         <source> or </source>
         <extracomment>Between the names of formats, of which there are two or more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> lub </translation>
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nie przyjmuje „%2”</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
-        <translation type="unfinished"></translation>
+        <translation>--start nie może być ujemne</translation>
     </message>
     <message>
         <source>--end must come after --start</source>
-        <translation type="unfinished"></translation>
+        <translation>--end musi być większe niż --start</translation>
     </message>
     <message>
         <source>--max-short-edge needs a number of pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>--max-short-edge wymaga liczby pikseli</translation>
     </message>
     <message>
         <source>--progress knows json only, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--progress przyjmuje tylko json, nie „%1”</translation>
     </message>
     <message>
         <source>no command is given</source>
-        <translation type="unfinished"></translation>
+        <translation>nie podano polecenia</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie jest poleceniem</translation>
     </message>
     <message>
         <source>Usage: brisklet-cli probe SOURCE
@@ -1183,7 +1191,13 @@ Trims videos. Each VIDEO opens in a window of its own.
                     [--format %1] [--progress json]
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Użycie: brisklet-cli probe SOURCE
+        brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
+        brisklet-cli frame SOURCE SECONDS OUTPUT.png
+        brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
+                     [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                     [--max-short-edge N] [--format %1] [--progress json]
+</translation>
     </message>
     <message>
         <source>probe      prints what the file is, as one JSON object.
@@ -1207,49 +1221,68 @@ export     writes a copy of the file:
 Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>probe      wypisuje informacje o pliku jako jeden obiekt JSON.
+filmstrip  zapisuje w katalogu N (12) miniatur ze środków N równych odcinków
+           jako 00.png, 01.png, ... i wypisuje ich czasy jako JSON.
+frame      zapisuje klatkę z tego czasu tak, jak pokazuje ją odtwarzacz.
+export     zapisuje kopię pliku:
+  --start, --end        zachowywana część, w sekundach (całość)
+  --crop                w ułamkach obrazu wyświetlanego po --rotate,
+                        od jego lewego górnego rogu
+  --rotate              ćwierćobroty w prawo, w stopniach
+  --mute                pomija dźwięk
+  --max-short-edge      zmniejsza krótszy bok do tylu pikseli
+  --format              %1 (według końcówki nazwy pliku wyjściowego)
+  --progress json       wypisuje wiersz JSON na każdy raport zamiast paska
+  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
+                        inne ustawienia kodera niż w programie, do pomiarów
+
+  --help, --version     wypisuje tę pomoc lub wersję i kończy działanie
+
+Kod wyjścia: 0 gotowe; 1 niepowodzenie; 2 błędne użycie; 130 przerwano.
+</translation>
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport się nie powiódł: %1</translation>
     </message>
     <message>
         <source>Couldn’t write “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać „%1”: %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można otworzyć „%1”: %2</translation>
     </message>
     <message>
         <source>Couldn’t write the answer: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można wypisać odpowiedzi: %1.</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie zawiera ścieżki wideo.</translation>
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać obrazu jako PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć katalogu „%1”: %2.</translation>
     </message>
     <message>
         <source>It has no length.</source>
         <extracomment>A reason: it is about the video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma długości.</translation>
     </message>
     <message>
         <source>Couldn’t make a filmstrip of “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć paska klatek z „%1”: %2</translation>
     </message>
     <message>
         <source>Couldn’t make the picture: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć obrazu: %1</translation>
     </message>
 </context>
 <context>
@@ -1257,15 +1290,15 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>Quick Action install failed: %1</source>
         <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można dodać do menu menedżerów plików: %1</translation>
     </message>
     <message>
         <source>Installed Trim Video Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodano „Przytnij wideo” do menedżerów plików</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznana opcja „%1”</translation>
     </message>
 </context>
 <context>
@@ -1273,334 +1306,334 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>It is not a video file, or it is damaged.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest plik wideo lub jest on uszkodzony.</translation>
     </message>
     <message>
         <source>Its format isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jego format nie jest obsługiwany.</translation>
     </message>
     <message>
         <source>Its video codec isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jego kodek wideo nie jest obsługiwany.</translation>
     </message>
     <message>
         <source>It is encrypted or copy-protected.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Plik jest zaszyfrowany lub zabezpieczony przed kopiowaniem.</translation>
     </message>
     <message>
         <source>The file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik nie istnieje.</translation>
     </message>
     <message>
         <source>You don’t have permission to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak uprawnień do odczytania tego pliku.</translation>
     </message>
     <message>
         <source>The file name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa pliku jest za długa.</translation>
     </message>
     <message>
         <source>The link to the file leads nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dowiązanie do pliku prowadzi donikąd.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
         <extracomment>About a file that the sentence before has named. “Regular” is the system’s word for a file that is neither a folder nor a device nor a pipe.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest zwykły plik.</translation>
     </message>
     <message>
         <source>It is a folder, not a video file.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>To jest katalog, a nie plik wideo.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik jest pusty.</translation>
     </message>
     <message>
         <source>The file can’t be read: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odczytać pliku: %1.</translation>
     </message>
     <message>
         <source>The video can’t be read: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odczytać wideo: %1</translation>
     </message>
     <message>
         <source>“%1” was changed after it was opened.</source>
         <extracomment>%1: the file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Plik „%1” został zmieniony po otwarciu.</translation>
     </message>
     <message>
         <source>The file ends too early.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik kończy się za wcześnie.</translation>
     </message>
     <message>
         <source>The video was cut short while it was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wideo zostało skrócone podczas odczytywania.</translation>
     </message>
     <message>
         <source>The disk reported an error while the video was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dysk zgłosił błąd podczas odczytywania wideo.</translation>
     </message>
     <message>
         <source>The file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik nie zawiera ścieżki wideo.</translation>
     </message>
     <message>
         <source>Not one picture in this file can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zdekodować żadnej klatki z tego pliku.</translation>
     </message>
     <message>
         <source>There is no picture at this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tym czasie nie ma klatki.</translation>
     </message>
     <message>
         <source>Pictures in the pixel format “%1” cannot be converted.</source>
         <extracomment>%1: FFmpeg’s name of the format, such as “yuv420p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przekształcić klatek w formacie pikseli „%1”.</translation>
     </message>
     <message>
         <source>The colors of the pictures cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przekształcić kolorów klatek.</translation>
     </message>
     <message>
         <source>The colours of the picture cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przekształcić kolorów klatki.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można otworzyć „%1”: %2</translation>
     </message>
     <message>
         <source>The range to export is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakres do wyeksportowania jest pusty.</translation>
     </message>
     <message>
         <source>The source file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik źródłowy nie zawiera ścieżki wideo.</translation>
     </message>
     <message>
         <source>Couldn&apos;t create an export session for this video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przygotować eksportu tego wideo.</translation>
     </message>
     <message>
         <source>There is no video to export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma wideo do wyeksportowania.</translation>
     </message>
     <message>
         <source>The video can’t be exported over itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można wyeksportować wideo w miejsce jego samego.</translation>
     </message>
     <message>
         <source>Not one picture of this range can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zdekodować żadnej klatki z tego zakresu.</translation>
     </message>
     <message>
         <source>The new file was damaged while it was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nowy plik został uszkodzony podczas zapisywania.</translation>
     </message>
     <message>
         <source>An encoder that the export needs isn’t installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Koder potrzebny do eksportu nie jest zainstalowany.</translation>
     </message>
     <message>
         <source>The encoder %1 doesn’t take the setting “%2”.</source>
         <extracomment>%1: the encoder’s name, such as “libx264”; %2: the setting, such as “crf=18”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Koder %1 nie przyjmuje ustawienia „%2”.</translation>
     </message>
     <message>
         <source>“%1” is being written by another export.</source>
         <extracomment>%1: the new file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Plik „%1” jest właśnie zapisywany przez inny eksport.</translation>
     </message>
     <message>
         <source>The unfinished new file was removed by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inny program usunął niedokończony nowy plik.</translation>
     </message>
     <message>
         <source>The folder “%1” for the new file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Katalog „%1” dla nowego pliku nie istnieje.</translation>
     </message>
     <message>
         <source>You don’t have permission to write to the folder “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak uprawnień do zapisu w katalogu „%1”.</translation>
     </message>
     <message>
         <source>The disk with the folder “%1” is write-protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dysk z katalogiem „%1” jest chroniony przed zapisem.</translation>
     </message>
     <message>
         <source>A folder has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwę nowego pliku nosi już katalog.</translation>
     </message>
     <message>
         <source>Something that is not a regular file has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwę nowego pliku nosi już coś, co nie jest zwykłym plikiem.</translation>
     </message>
     <message>
         <source>The name of the new file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa nowego pliku jest za długa.</translation>
     </message>
     <message>
         <source>The disk reported an error while the new file was being written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dysk zgłosił błąd podczas zapisywania nowego pliku.</translation>
     </message>
     <message>
         <source>The new file can’t be written: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać nowego pliku: %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Za mało pamięci.</translation>
     </message>
     <message>
         <source>There is not enough space on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Za mało miejsca na dysku.</translation>
     </message>
     <message>
         <source>The file would be too large for this disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik byłby za duży dla tego dysku.</translation>
     </message>
     <message>
         <source>The disk reported an error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dysk zgłosił błąd.</translation>
     </message>
     <message>
         <source>The media engine can’t be found: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odnaleźć silnika multimediów: %1.</translation>
     </message>
     <message>
         <source>Brisklet is not completely installed. Install it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program Brisklet nie jest w pełni zainstalowany. Należy zainstalować go ponownie.</translation>
     </message>
     <message>
         <source>Brisklet has been updated. Start it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program Brisklet został zaktualizowany. Należy uruchomić go ponownie.</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a reason, which stands alone or after a colon. Only the full stop is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brak dostępu</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>Operacja niedozwolona</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma takiego pliku ani katalogu</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest katalog</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik istnieje</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>To jest katalog</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation type="unfinished"></translation>
+        <translation>Błędny argument</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation type="unfinished"></translation>
+        <translation>Za dużo otwartych plików</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation type="unfinished"></translation>
+        <translation>System plików tylko do odczytu</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pliku nie ma już na dysku sieciowym</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Przekroczono czas oczekiwania na połączenie</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenie lub zasób zajęte</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>Za dużo poziomów dowiązań symbolicznych</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Potok został przerwany</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak miejsca na urządzeniu</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Przekroczono limit dyskowy</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd wejścia/wyjścia</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Za długa nazwa pliku</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogólny błąd w zewnętrznej bibliotece</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeszcze niezaimplementowane w FFmpeg</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nieoczekiwany błąd (szczegóły: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brak katalogu „%1”.</translation>
     </message>
     <message>
         <source>Another file has its name now.</source>
         <extracomment>About a video that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Inny plik ma teraz jego nazwę.</translation>
     </message>
     <message>
         <source>It is no longer in the folder “%1”.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma go już w katalogu „%1”.</translation>
     </message>
     <message>
         <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
         <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Za mało wolnego miejsca: wideo zajmie około %1, a wolne jest %2.</translation>
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
-        <translation type="unfinished"></translation>
+        <translation>System jest zbyt obciążony: nie może uruchomić kolejnego wątku.</translation>
     </message>
 </context>
 </TS>

@@ -6,11 +6,11 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Воно вже завантажується.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається зберегти оновлення: %1</translation>
     </message>
 </context>
 <context>
@@ -18,49 +18,49 @@
     <message>
         <source>Video Trimmer</source>
         <extracomment>The kind of program, in the menus of desktops.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Обрізання відео</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Обрізання, кадрування та поворот відео з точністю до кадру</translation>
     </message>
     <message>
         <source>cut;clip;shorten;crop;rotate;movie;mp4;mov;</source>
         <extracomment>What people search for in the menus of desktops, in any number; a semicolon after each.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>вирізати;обрізати;вкоротити;кадрувати;повернути;кліп;відео;фільм;mp4;mov;</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Нове вікно</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos</source>
         <extracomment>These and the following stand in software centres.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Обрізання, кадрування та поворот відео</translation>
     </message>
     <message>
         <source>Brisklet does one thing: it makes a shorter, cropped or turned copy of a video. Drop a file on its window, drag the two handles over the filmstrip, export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet робить одне: коротшу, кадровану або повернуту копію відео. Перетягніть файл у вікно, пересуньте дві ручки над стрічкою кадрів, експортуйте.</translation>
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Перший кадр експорту — той, який ви бачили на початку фрагмента, а звук лишається там, де був.</translation>
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кадрує й повертає за один крок, з однією ретельною передискретизацією.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Зберігає кольори, розширений динамічний діапазон, звукові доріжки, розділи та дати.</translation>
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Записує MP4 і MOV; читає те, що пишуть камери, телефони та програми запису екрана.</translation>
     </message>
     <message>
         <source>Never touches the original, and never leaves a half-written file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ніколи не змінює оригінал і не залишає недописаних файлів.</translation>
     </message>
 </context>
 <context>
@@ -68,47 +68,47 @@
     <message>
         <source>Videos (%1)</source>
         <extracomment>A type of files in the open panel; %1: patterns of names.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Відео (%1)</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>The title of the save panel, a noun.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Експорт</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>The title of the open panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Відкриття</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Усі файли (*)</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>“%1” is the video that is being edited. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — це відео, яке зараз редагується. Виберіть іншу назву.</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Гаразд</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Так</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ні</translation>
     </message>
 </context>
 <context>
@@ -116,234 +116,236 @@
     <message>
         <source>Ctrl</source>
         <extracomment>The names of keys, as they are on keyboards.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Пробіл</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ліворуч</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Праворуч</translation>
     </message>
 </context>
 <context>
     <name>brisklet::AppCommands</name>
     <message>
         <source>About Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>Про Brisklet</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Перевірити оновлення…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Вийти</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Нове вікно</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Відкрити відео…</translation>
     </message>
     <message>
         <source>Export…</source>
         <extracomment>Opens the save panel.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Експортувати…</translation>
     </message>
     <message>
         <source>Close Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрити відео</translation>
     </message>
     <message>
         <source>Set Trim Start at Playhead</source>
         <extracomment>“Trim start” is the beginning of what is kept; the playhead marks the picture that is shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Встановити початок обрізання за позначкою</translation>
     </message>
     <message>
         <source>Set Trim End at Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Встановити кінець обрізання за позначкою</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Попередній кадр</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Наступний кадр</translation>
     </message>
     <message>
         <source>Loop Playback</source>
         <extracomment>Plays what is kept again and again; can be checked.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Повторювати відтворення</translation>
     </message>
     <message>
         <source>&amp;Brisklet</source>
         <extracomment>The name of the program; only the place of the accelerator is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Brisklet</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Файл</translation>
     </message>
     <message>
         <source>&amp;Clip</source>
         <extracomment>The menu of what is done to the part of the video that is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Кліп</translation>
     </message>
     <message>
         <source>Remove Finder Quick Action</source>
         <extracomment>The entries “Trim Video” in the menus of file managers. “Finder” is the file manager; name none if your language has a word for all: “Add to File Managers”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Вилучити з файлових менеджерів</translation>
     </message>
     <message>
         <source>Install Finder Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Додати до файлових менеджерів</translation>
     </message>
     <message>
         <source>Couldn&apos;t update the Quick Action: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося змінити меню файлових менеджерів: %1</translation>
     </message>
     <message>
         <source>Brisklet %1</source>
         <extracomment>%1: the version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1</translation>
     </message>
     <message>
         <source>Trims, crops and turns videos, exact to the frame.
 
 Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Обрізає, кадрує та повертає відео з точністю до кадру.
+
+Вільне програмне забезпечення на умовах GNU General Public License версії 3 або новішої.</translation>
     </message>
     <message>
         <source>Undo Trim Start</source>
         <extracomment>To undo that the beginning of the kept part was moved. “Trim Start” is its name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати початок обрізання</translation>
     </message>
     <message>
         <source>Redo Trim Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити початок обрізання</translation>
     </message>
     <message>
         <source>Undo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати кінець обрізання</translation>
     </message>
     <message>
         <source>Redo Trim End</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити кінець обрізання</translation>
     </message>
     <message>
         <source>Undo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати кадрування</translation>
     </message>
     <message>
         <source>Redo Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити кадрування</translation>
     </message>
     <message>
         <source>Undo Remove Crop</source>
         <extracomment>To undo that the crop was removed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати вилучення кадрування</translation>
     </message>
     <message>
         <source>Redo Remove Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити вилучення кадрування</translation>
     </message>
     <message>
         <source>Undo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати поворот</translation>
     </message>
     <message>
         <source>Redo Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити поворот</translation>
     </message>
     <message>
         <source>Undo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати вимкнення звуку</translation>
     </message>
     <message>
         <source>Redo Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити вимкнення звуку</translation>
     </message>
     <message>
         <source>Undo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати ввімкнення звуку</translation>
     </message>
     <message>
         <source>Redo Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити ввімкнення звуку</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Клавіатурні скорочення</translation>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Повернути останню правку</translation>
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Показати останній експорт</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторити</translation>
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти до часу…</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Початок фрагмента, потім початок відео</translation>
     </message>
     <message>
         <source>Range End, Then End of Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Кінець фрагмента, потім кінець відео</translation>
     </message>
     <message>
         <source>Back One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>На секунду назад</translation>
     </message>
     <message>
         <source>Forward One Second</source>
-        <translation type="unfinished"></translation>
+        <translation>На секунду вперед</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Зміни</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <extracomment>The menu of the places that the playhead can go to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Перехід</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Довідка</translation>
     </message>
     <message>
         <source>The folder “%1” can’t be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається показати теку «%1».</translation>
     </message>
 </context>
 <context>
@@ -357,7 +359,13 @@ Trims videos. Each VIDEO opens in a window of its own.
   --version               print the version and exit
 </source>
         <extracomment>What --help prints. The options stay as they are; lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Виклик: brisklet [VIDEO...]
+Обрізає відео. Кожне VIDEO відкривається в окремому вікні.
+
+  --install-quick-action  додати «Обрізати відео» до файлових менеджерів, вийти
+  --help                  показати цю довідку й вийти
+  --version               показати версію й вийти
+</translation>
     </message>
 </context>
 <context>
@@ -365,12 +373,12 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop zone</source>
         <extracomment>For screen readers: the empty window, on which videos are dropped.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Область перетягування</translation>
     </message>
     <message>
         <source>Editor</source>
         <extracomment>For screen readers: the window with a video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Редактор</translation>
     </message>
 </context>
 <context>
@@ -378,74 +386,74 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Export %1…</source>
         <extracomment>A button. %1: the format, and the resolution if it is not the source’s: “MP4 · 720p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Експорт %1…</translation>
     </message>
     <message>
         <source>Export options</source>
         <extracomment>For screen readers: the menu of formats and resolutions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Параметри експорту</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
         <extracomment>Format and resolution.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Відновити типові</translation>
     </message>
     <message>
         <source>Format</source>
         <extracomment>The title of a group of entries: MP4, MOV.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Формат</translation>
     </message>
     <message>
         <source>Resolution</source>
         <extracomment>The title of a group of entries: Original, 1080p, 720p …</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Роздільність</translation>
     </message>
     <message>
         <source>Pause</source>
         <extracomment>What the button does when it is pressed; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Призупинити</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Відтворити</translation>
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation type="unfinished"></translation>
+        <translation>Увімкнути звук (інакше його буде вилучено під час експорту)</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Вимкнути звук</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Повернути ліворуч</translation>
     </message>
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Прибрати кадрування</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Кадрувати</translation>
     </message>
     <message>
         <source>about %1</source>
         <extracomment>%1: a size, such as “46 MB”, or a time, such as “20 s”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>близько %1</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Відтворити або призупинити</translation>
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Вимкнути або ввімкнути звук</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Кадрувати або прибрати кадрування</translation>
     </message>
 </context>
 <context>
@@ -453,59 +461,59 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Crop</source>
         <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Рамка кадрування</translation>
     </message>
     <message>
         <source>%1×%2 at %3, %4</source>
         <extracomment>For screen readers: width, height and the distances from left and top, in pixels.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1×%2 у точці %3, %4</translation>
     </message>
     <message>
         <source>Move the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересунути рамку</translation>
     </message>
     <message>
         <source>Move its right or bottom side</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересунути її праву або нижню сторону</translation>
     </message>
     <message>
         <source>Move its left or top side</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересунути її ліву або верхню сторону</translation>
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Рамка кадрування, мишею</translation>
     </message>
     <message>
         <source>Drag inside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Перетягнути всередині неї</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Перетягнути ручку</translation>
     </message>
     <message>
         <source>Resize the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Змінити розмір рамки</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc під час перетягування</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати перетягування</translation>
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Рамка кадрування, перехід за Tab</translation>
     </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>
     <message>
         <source>Brisklet is running already, but it doesn’t answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet уже працює, але не відповідає.</translation>
     </message>
 </context>
 <context>
@@ -513,34 +521,34 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Show</source>
         <extracomment>A button of the notification of an export that has ended: shows the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Показати</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Download</name>
     <message>
         <source>The server took too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер надто довго не відповідав.</translation>
     </message>
     <message>
         <source>“%1” is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — небезпечна адреса.</translation>
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер переспрямовує на «%1», а це небезпечна адреса.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер надсилає більше даних, ніж мав би.</translation>
     </message>
     <message>
         <source>The download can’t be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається зберегти завантажене: %1</translation>
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>З’єднання з «%1» небезпечне: %2.</translation>
     </message>
 </context>
 <context>
@@ -548,11 +556,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Drop a video here</source>
         <extracomment>Under a picture of a film, in a frame that fills the window.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Перетягніть відео сюди</translation>
     </message>
     <message>
         <source>Open Video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Відкрити відео…</translation>
     </message>
 </context>
 <context>
@@ -560,20 +568,20 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trimmed</source>
         <extracomment>Follows the name of the original in the proposed name of the new file: “Holiday Trimmed.mp4”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>обрізано</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» не містить відеодоріжки.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося відкрити «%1»: %2</translation>
     </message>
     <message>
         <source>Couldn’t reopen “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося знову відкрити «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -581,85 +589,85 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Something Went Wrong</source>
         <extracomment>The title of each alert; what went wrong stands below.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Щось пішло не так</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Гаразд</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportButton</name>
     <message>
         <source>The Down key opens a menu of formats and resolutions</source>
-        <translation type="unfinished"></translation>
+        <translation>Клавіша «Вниз» відкриває меню форматів і роздільностей</translation>
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Кнопка експорту, перехід за Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Вибрати формат і роздільність</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportFormat</name>
     <message>
         <source>MPEG-4 movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Відео MPEG-4</translation>
     </message>
     <message>
         <source>QuickTime movie</source>
-        <translation type="unfinished"></translation>
+        <translation>Відео QuickTime</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportJob</name>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося експортувати: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportMonitor</name>
     <message>
         <source>Export finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Експорт завершено</translation>
     </message>
     <message>
         <source>Export failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Експорт не вдався</translation>
     </message>
     <message>
         <source>A video is being exported.</source>
         <extracomment>Why the computer is not to sleep; some desktops show it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Триває експорт відео.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::ExportProgressView</name>
     <message>
         <source>Exporting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Експортування…</translation>
     </message>
     <message>
         <source>Export</source>
         <extracomment>A title, a noun: the act of exporting.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Експорт</translation>
     </message>
     <message>
         <source>Export progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Поступ експорту</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати</translation>
     </message>
     <message>
         <source>about %1 left</source>
         <extracomment>%1: a time with its unit, such as “20 s”; how much longer the export takes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>залишилося близько %1</translation>
     </message>
 </context>
 <context>
@@ -667,7 +675,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Original</source>
         <extracomment>The resolution of the export: that of the source.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Початкова</translation>
     </message>
 </context>
 <context>
@@ -675,89 +683,89 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim Video</source>
         <extracomment>An entry in the menus of file managers, for the selected videos. A file is named so: no slash.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Обрізати відео</translation>
     </message>
     <message>
         <source>Open the selected videos in Brisklet</source>
-        <translation type="unfinished"></translation>
+        <translation>Відкрити вибрані відео у Brisklet</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
         <extracomment>%1: a file’s name; %2: the reason. So it is in the next one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося записати «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося вилучити «%1»: %2</translation>
     </message>
 </context>
 <context>
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» зберігається не на цьому комп’ютері, і жодна тека тут туди не веде.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Перехід до часу</translation>
     </message>
     <message>
         <source>Go to:</source>
         <extracomment>Before a field for a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Перейти до:</translation>
     </message>
     <message>
         <source>Go</source>
         <extracomment>The button that goes to the time in the field.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Перейти</translation>
     </message>
     <message>
         <source>This is no time. Type one such as 1:23.456, +10f or #2412.</source>
         <extracomment>The letter “f” for frames is the same in all languages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Це не час. Введіть, наприклад, 1:23.456, +10f або #2412.</translation>
     </message>
     <message>
         <source>The video ends at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Відео закінчується на %1.</translation>
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Номери кадрів цього відео невідомі. Введіть час.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Останній кадр — #%1.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation type="unfinished"></translation>
+        <translation>Час, зсув у кадрах або номер кадру: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation type="unfinished"></translation>
+        <translation>Час або зсув у кадрах: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
     <name>brisklet::KeyboardShortcutsView</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Клавіатурні скорочення</translation>
     </message>
     <message>
         <source>Action</source>
         <extracomment>The heads of two columns: what is done, and by which keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Дія</translation>
     </message>
     <message>
         <source>Keys or gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Клавіші або жест</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Керування</translation>
     </message>
 </context>
 <context>
@@ -765,11 +773,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>1/10 speed</source>
         <extracomment>During a fine drag: the handle moves a tenth as far as the mouse.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Швидкість 1/10</translation>
     </message>
     <message>
         <source>1/100 speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Швидкість 1/100</translation>
     </message>
 </context>
 <context>
@@ -777,30 +785,30 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>“%1” couldn’t be made: %2</source>
         <extracomment>%1: a file’s or folder’s name; %2: the reason. So it is in the next three.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося створити «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося записати «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be copied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося скопіювати «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” couldn’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося вилучити «%1»: %2</translation>
     </message>
     <message>
         <source>It doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не існує.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::QuickActionInstallation</name>
     <message>
         <source>The place of the program couldn’t be found out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося визначити розташування програми.</translation>
     </message>
 </context>
 <context>
@@ -808,253 +816,253 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Trim start</source>
         <extracomment>For screen readers: the handles on the time line. Trim start is the beginning of what is kept.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Початок обрізання</translation>
     </message>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Позначка відтворення</translation>
     </message>
     <message>
         <source>Trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Кінець обрізання</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>На кадр назад</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>На кадр вперед</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>На секунду назад</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>На секунду вперед</translation>
     </message>
     <message>
         <source>As far back as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Якомога далі назад</translation>
     </message>
     <message>
         <source>As far forward as possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Якомога далі вперед</translation>
     </message>
     <message>
         <source>Shift with these keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift із цими клавішами</translation>
     </message>
     <message>
         <source>Ten times as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Удесятеро далі</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineStrip</name>
     <message>
         <source>Timeline, by mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Шкала часу, мишею</translation>
     </message>
     <message>
         <source>Click or drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Клацнути або перетягнути</translation>
     </message>
     <message>
         <source>Move the playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересунути позначку відтворення</translation>
     </message>
     <message>
         <source>Drag a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Перетягнути ручку</translation>
     </message>
     <message>
         <source>Move the trim start or the trim end</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересунути початок або кінець обрізання</translation>
     </message>
     <message>
         <source>Esc during a drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc під час перетягування</translation>
     </message>
     <message>
         <source>Take the drag back</source>
-        <translation type="unfinished"></translation>
+        <translation>Скасувати перетягування</translation>
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Початок обрізання, позначка відтворення та кінець обрізання, перехід за Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
-        <translation type="unfinished"></translation>
+        <translation>Створення стрічки кадрів…</translation>
     </message>
     <message>
         <source>Drag with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Перетягнути із Shift</translation>
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Зсув удесятеро менший, ніж у вказівника</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>
-        <translation type="unfinished"></translation>
+        <translation>Перетягнути із Shift значно вище або нижче</translation>
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation type="unfinished"></translation>
+        <translation>Зсув у сто разів менший</translation>
     </message>
     <message>
         <source>Wheel</source>
         <extracomment>Of the mouse; or two fingers on a touchpad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Коліщатко</translation>
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Крок на один кадр</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Коліщатко із Shift</translation>
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Крок на десять кадрів</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>Коліщатко над ручкою</translation>
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Крок цього краю фрагмента</translation>
     </message>
 </context>
 <context>
     <name>brisklet::TimelineView</name>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Шкала часу</translation>
     </message>
     <message>
         <source>Range %1</source>
         <extracomment>%1: the length of the part that is kept, such as 0:00:05.298. As short as possible.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Фрагмент %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::UpdateDialogs</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Оновлення</translation>
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Перевіряти оновлення автоматично?</translation>
     </message>
     <message>
         <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet може раз на день перевіряти, чи є нова версія. Перевірити можна й самостійно, з меню програми.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Перевірка оновлень…</translation>
     </message>
     <message>
         <source>You’re up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>У вас найновіша версія.</translation>
     </message>
     <message>
         <source>Brisklet %1 is the newest version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet %1 — найновіша з доступних версій.</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Оновлення</translation>
     </message>
     <message>
         <source>Install Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Встановити оновлення</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Нагадати пізніше</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропустити цю версію</translation>
     </message>
     <message>
         <source>A new version of Brisklet is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступна нова версія Brisklet.</translation>
     </message>
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Вийшла версія Brisklet %1; у вас встановлено %2. Встановити нову?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Завантаження Brisklet %1…</translation>
     </message>
     <message>
         <source>The update didn’t work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося виконати оновлення.</translation>
     </message>
 </context>
 <context>
     <name>brisklet::Updater</name>
     <message>
         <source>The update feed is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Список оновлень пошкоджено.</translation>
     </message>
     <message>
         <source>Couldn’t check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося перевірити оновлення: %1</translation>
     </message>
     <message>
         <source>The update is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Оновлення завелике.</translation>
     </message>
     <message>
         <source>The update couldn’t be downloaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося завантажити оновлення: %1</translation>
     </message>
     <message>
         <source>The update is incomplete. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Оновлення неповне. Його не встановлено.</translation>
     </message>
     <message>
         <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Оновлення несправжнє: його підпис неправильний. Його не встановлено.</translation>
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Немає програми, яка могла б встановити оновлення. Воно тут: %1</translation>
     </message>
 </context>
 <context>
     <name>brisklet::WindowRootView</name>
     <message>
         <source>Stop the export and close?</source>
-        <translation type="unfinished"></translation>
+        <translation>Зупинити експорт і закрити?</translation>
     </message>
     <message>
         <source>Stop and Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Зупинити й закрити</translation>
     </message>
     <message>
         <source>Keep Exporting</source>
         <extracomment>Answers “Stop the export and close?” with no.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Продовжити експорт</translation>
     </message>
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Зупинити %n експорт і закрити?</numerusform>
+            <numerusform>Зупинити %n експорти й закрити?</numerusform>
+            <numerusform>Зупинити %n експортів і закрити?</numerusform>
         </translation>
     </message>
 </context>
@@ -1062,117 +1070,117 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::approximateDuration</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 с</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 хв</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 год</translation>
     </message>
 </context>
 <context>
     <name>brisklet::cli::ToolText</name>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>невідомий параметр %1</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 не приймає значення</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
         <extracomment>%1: an option, such as “--start”. So it is in what follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 потребує значення</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 вказано двічі</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 потребує числа, а не «%2»</translation>
     </message>
     <message>
         <source>%1 needs a whole number, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 потребує цілого числа, а не «%2»</translation>
     </message>
     <message>
         <source>something is missing: expected %1</source>
-        <translation type="unfinished"></translation>
+        <translation>чогось бракує: очікується %1</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>зайвий аргумент «%1»</translation>
     </message>
     <message>
         <source>a name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>порожня назва</translation>
     </message>
     <message>
         <source>--count needs a number from 1 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>--count потребує числа від 1 до %1</translation>
     </message>
     <message>
         <source>SECONDS needs a number from 0, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>SECONDS потребує числа від 0, а не «%1»</translation>
     </message>
     <message>
         <source>--crop needs X,Y,W,H, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop потребує X,Y,W,H, а не «%1»</translation>
     </message>
     <message>
         <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
-        <translation type="unfinished"></translation>
+        <translation>--crop потребує часток кадру від 0 до 1, що утворюють непорожню область</translation>
     </message>
     <message>
         <source>--format knows %1, not &quot;%2&quot;</source>
         <extracomment>%1: the formats, such as “mp4, mov”; %2: what was given.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>--format приймає %1, але не «%2»</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> і </translation>
     </message>
     <message>
         <source>the name of the output does not say which format: add --format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>з назви вихідного файла не зрозуміти формат: додайте --format %1</translation>
     </message>
     <message>
         <source> or </source>
         <extracomment>Between the names of formats, of which there are two or more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> або </translation>
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>для %1 немає «%2»</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
-        <translation type="unfinished"></translation>
+        <translation>--start не може бути від’ємним</translation>
     </message>
     <message>
         <source>--end must come after --start</source>
-        <translation type="unfinished"></translation>
+        <translation>--end має бути більшим за --start</translation>
     </message>
     <message>
         <source>--max-short-edge needs a number of pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>--max-short-edge потребує кількості пікселів</translation>
     </message>
     <message>
         <source>--progress knows json only, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--progress приймає лише json, а не «%1»</translation>
     </message>
     <message>
         <source>no command is given</source>
-        <translation type="unfinished"></translation>
+        <translation>не вказано команди</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — не команда</translation>
     </message>
     <message>
         <source>Usage: brisklet-cli probe SOURCE
@@ -1183,7 +1191,13 @@ Trims videos. Each VIDEO opens in a window of its own.
                     [--format %1] [--progress json]
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4|mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Виклик: brisklet-cli probe SOURCE
+        brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
+        brisklet-cli frame SOURCE SECONDS OUTPUT.png
+        brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
+                     [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                     [--max-short-edge N] [--format %1] [--progress json]
+</translation>
     </message>
     <message>
         <source>probe      prints what the file is, as one JSON object.
@@ -1207,49 +1221,68 @@ export     writes a copy of the file:
 Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
 </source>
         <extracomment>Commands and options stay as they are; %1 is “mp4 or mov”. Lines have at most 79 letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>probe      виводить відомості про файл як один об’єкт JSON.
+filmstrip  записує N (12) мініатюр із середин N рівних відрізків до каталогу
+           з назвами 00.png, 01.png, ... і виводить їхній час як JSON.
+frame      записує кадр цього часу таким, яким його показує програвач.
+export     записує копію файла:
+  --start, --end        частина, що лишається, у секундах (усе відео)
+  --crop                у частках кадру, яким його видно після --rotate,
+                        від його лівого верхнього кута
+  --rotate              поворот чвертями за годинниковою стрілкою, у градусах
+  --mute                прибирає звук
+  --max-short-edge      зменшує коротшу сторону до цієї кількості пікселів
+  --format              %1 (за закінченням назви вихідного файла)
+  --progress json       виводить рядок JSON на кожен звіт замість смужки
+  --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
+                        інші параметри кодувальника, для вимірювань
+
+  --help, --version     вивести цю довідку або версію й вийти
+
+Код завершення: 0 — готово; 1 — збій; 2 — хибний виклик; 130 — перервано.
+</translation>
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося експортувати: %1</translation>
     </message>
     <message>
         <source>Couldn’t write “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося записати «%1»: %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося відкрити «%1»: %2</translation>
     </message>
     <message>
         <source>Couldn’t write the answer: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося вивести відповідь: %1.</translation>
     </message>
     <message>
         <source>“%1” contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» не містить відеодоріжки.</translation>
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося записати кадр у форматі PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося створити теку «%1»: %2.</translation>
     </message>
     <message>
         <source>It has no length.</source>
         <extracomment>A reason: it is about the video.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Воно не має тривалості.</translation>
     </message>
     <message>
         <source>Couldn’t make a filmstrip of “%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося створити стрічку кадрів із «%1»: %2</translation>
     </message>
     <message>
         <source>Couldn’t make the picture: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося створити зображення: %1</translation>
     </message>
 </context>
 <context>
@@ -1257,15 +1290,15 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>Quick Action install failed: %1</source>
         <extracomment>%1: the reasons. “Quick Action”: the entries in the menus of file managers.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося додати до меню файлових менеджерів: %1</translation>
     </message>
     <message>
         <source>Installed Trim Video Quick Action</source>
-        <translation type="unfinished"></translation>
+        <translation>«Обрізати відео» додано до файлових менеджерів</translation>
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>невідомий параметр «%1»</translation>
     </message>
 </context>
 <context>
@@ -1273,334 +1306,334 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     <message>
         <source>It is not a video file, or it is damaged.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Це не відеофайл, або його пошкоджено.</translation>
     </message>
     <message>
         <source>Its format isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Його формат не підтримується.</translation>
     </message>
     <message>
         <source>Its video codec isn’t supported.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Його відеокодек не підтримується.</translation>
     </message>
     <message>
         <source>It is encrypted or copy-protected.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Файл зашифровано або захищено від копіювання.</translation>
     </message>
     <message>
         <source>The file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файла не існує.</translation>
     </message>
     <message>
         <source>You don’t have permission to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>У вас немає прав на читання цього файла.</translation>
     </message>
     <message>
         <source>The file name is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Назва файла задовга.</translation>
     </message>
     <message>
         <source>The link to the file leads nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Посилання на файл нікуди не веде.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
         <extracomment>About a file that the sentence before has named. “Regular” is the system’s word for a file that is neither a folder nor a device nor a pipe.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Це не звичайний файл.</translation>
     </message>
     <message>
         <source>It is a folder, not a video file.</source>
         <extracomment>About a file that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Це тека, а не відеофайл.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл порожній.</translation>
     </message>
     <message>
         <source>The file can’t be read: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається прочитати файл: %1.</translation>
     </message>
     <message>
         <source>The video can’t be read: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається прочитати відео: %1</translation>
     </message>
     <message>
         <source>“%1” was changed after it was opened.</source>
         <extracomment>%1: the file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Файл «%1» було змінено після відкриття.</translation>
     </message>
     <message>
         <source>The file ends too early.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл обривається завчасно.</translation>
     </message>
     <message>
         <source>The video was cut short while it was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Відео було вкорочено під час читання.</translation>
     </message>
     <message>
         <source>The disk reported an error while the video was being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Диск повідомив про помилку під час читання відео.</translation>
     </message>
     <message>
         <source>The file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл не містить відеодоріжки.</translation>
     </message>
     <message>
         <source>Not one picture in this file can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>У цьому файлі немає жодного кадру, який вдається декодувати.</translation>
     </message>
     <message>
         <source>There is no picture at this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>У цей момент часу кадру немає.</translation>
     </message>
     <message>
         <source>Pictures in the pixel format “%1” cannot be converted.</source>
         <extracomment>%1: FFmpeg’s name of the format, such as “yuv420p”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Кадри у форматі пікселів «%1» неможливо перетворити.</translation>
     </message>
     <message>
         <source>The colors of the pictures cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кольори кадрів неможливо перетворити.</translation>
     </message>
     <message>
         <source>The colours of the picture cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Кольори кадру неможливо перетворити.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open “%1”: %2</source>
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося відкрити «%1»: %2</translation>
     </message>
     <message>
         <source>The range to export is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Фрагмент для експорту порожній.</translation>
     </message>
     <message>
         <source>The source file contains no video track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Початковий файл не містить відеодоріжки.</translation>
     </message>
     <message>
         <source>Couldn&apos;t create an export session for this video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не вдалося підготувати експорт цього відео.</translation>
     </message>
     <message>
         <source>There is no video to export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Немає відео для експорту.</translation>
     </message>
     <message>
         <source>The video can’t be exported over itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Неможливо експортувати відео поверх нього самого.</translation>
     </message>
     <message>
         <source>Not one picture of this range can be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>У фрагменті немає жодного кадру, який вдається декодувати.</translation>
     </message>
     <message>
         <source>The new file was damaged while it was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Новий файл було пошкоджено під час запису.</translation>
     </message>
     <message>
         <source>An encoder that the export needs isn’t installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не встановлено кодувальник, потрібний для експорту.</translation>
     </message>
     <message>
         <source>The encoder %1 doesn’t take the setting “%2”.</source>
         <extracomment>%1: the encoder’s name, such as “libx264”; %2: the setting, such as “crf=18”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Кодувальник %1 не приймає параметр «%2».</translation>
     </message>
     <message>
         <source>“%1” is being written by another export.</source>
         <extracomment>%1: the new file’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>У «%1» зараз записує інший експорт.</translation>
     </message>
     <message>
         <source>The unfinished new file was removed by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Незавершений новий файл вилучила інша програма.</translation>
     </message>
     <message>
         <source>The folder “%1” for the new file doesn’t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Тека «%1» для нового файла не існує.</translation>
     </message>
     <message>
         <source>You don’t have permission to write to the folder “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>У вас немає прав на запис до теки «%1».</translation>
     </message>
     <message>
         <source>The disk with the folder “%1” is write-protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Диск із текою «%1» захищено від запису.</translation>
     </message>
     <message>
         <source>A folder has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Назву нового файла вже має тека.</translation>
     </message>
     <message>
         <source>Something that is not a regular file has the name of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Назву нового файла вже має об’єкт, який не є звичайним файлом.</translation>
     </message>
     <message>
         <source>The name of the new file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Назва нового файла задовга.</translation>
     </message>
     <message>
         <source>The disk reported an error while the new file was being written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Диск повідомив про помилку під час запису нового файла.</translation>
     </message>
     <message>
         <source>The new file can’t be written: %1</source>
         <extracomment>%1: the reason, a whole sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається записати новий файл: %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Недостатньо пам’яті.</translation>
     </message>
     <message>
         <source>There is not enough space on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Недостатньо місця на диску.</translation>
     </message>
     <message>
         <source>The file would be too large for this disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл був би завеликим для цього диска.</translation>
     </message>
     <message>
         <source>The disk reported an error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Диск повідомив про помилку.</translation>
     </message>
     <message>
         <source>The media engine can’t be found: %1.</source>
         <extracomment>%1: the reason, without a full stop.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Не вдається знайти компонент обробки відео: %1.</translation>
     </message>
     <message>
         <source>Brisklet is not completely installed. Install it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet встановлено не повністю. Встановіть його знову.</translation>
     </message>
     <message>
         <source>Brisklet has been updated. Start it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brisklet було оновлено. Запустіть його знову.</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>%1: a reason, which stands alone or after a colon. Only the full stop is yours.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Відмовлено в доступі</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>Дію заборонено</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Немає такого файла або каталогу</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Не є каталогом</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл уже існує</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Є каталогом</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation type="unfinished"></translation>
+        <translation>Некоректний аргумент</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation type="unfinished"></translation>
+        <translation>Забагато відкритих файлів</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлова система лише для читання</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Файла вже немає на мережевому диску</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Час очікування з’єднання вичерпано</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Пристрій або ресурс зайнято</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation type="unfinished"></translation>
+        <translation>Забагато рівнів символічних посилань</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Програма-читач завершилася</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>На пристрої не лишилося місця</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Перевищено дискову квоту</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation type="unfinished"></translation>
+        <translation>Помилка введення-виведення</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Назва файла задовга</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation type="unfinished"></translation>
+        <translation>Загальна помилка зовнішньої бібліотеки</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Ще не реалізовано у FFmpeg</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Неочікувана помилка (подробиці: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Теки «%1» немає на місці.</translation>
     </message>
     <message>
         <source>Another file has its name now.</source>
         <extracomment>About a video that the sentence before has named.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Його назву тепер має інший файл.</translation>
     </message>
     <message>
         <source>It is no longer in the folder “%1”.</source>
         <extracomment>About a video that the sentence before has named. %1: the folder’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Його більше немає в теці «%1».</translation>
     </message>
     <message>
         <source>There is not enough free space: the video takes about %1, and %2 are free.</source>
         <extracomment>%1 and %2: sizes with their units, such as “46 MB”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Недостатньо вільного місця: відео займе близько %1, а вільно %2.</translation>
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
-        <translation type="unfinished"></translation>
+        <translation>Система перевантажена: неможливо запустити ще один потік.</translation>
     </message>
 </context>
 </TS>
