@@ -6,13 +6,13 @@
 #include "Media/Export/TrialBudget.h"
 #include "Media/Export/TrialFigures.h"
 #include "Media/FFmpeg/Muxer.h"
+#include "Media/Threading/Processors.h"
 #include "Media/Threading/ThreadName.h"
 #include "Media/Threading/ThreadPriority.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <thread>
 
 namespace media {
 
@@ -50,7 +50,7 @@ public:
 
     std::optional<ExportForecast> run() {
         m_figures.seconds = m_composition.videoTrack->range.duration().seconds();
-        m_figures.processors = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+        m_figures.processors = processorCount();
         try {
             for (const double place : kSoundPlaces)
                 trySound(place);

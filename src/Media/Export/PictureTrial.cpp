@@ -229,6 +229,7 @@ void PictureTrial::addTo(TrialFigures& figures) {
         }
         figures.places.push_back(place);
     }
+    figures.makers = m_path.usefulMakers();
     figures.keyFrames = pictures() / kKeyFrameDistance + 1 + (m_path.tailStart() ? 1 : 0);
     const auto measured = static_cast<double>(m_packets.size());
     figures.isWhole = m_stretches.size() == 1 && m_stretches.back().hasEnded &&

@@ -10,7 +10,9 @@ namespace {
 
 /// What an export takes however short it is: decoders and encoders are opened, the file is checked
 /// and brought to disk. Seconds.
-constexpr double kConstantSeconds = 0.24;
+constexpr double kConstantSeconds = 0.04;
+/// What is lost until all stages work: up to so many seconds, of which short exports see a part.
+constexpr double kRampSeconds = 0.2;
 /// How much of the processors an export keeps busy.
 constexpr double kUtilisation = 0.92;
 
@@ -50,9 +52,10 @@ double duration(const TrialFigures& figures) {
     const double all =
         pictures * (figures.decodeSeconds + figures.transformSeconds + figures.encodeSeconds) +
         soundSeconds;
-    // One thread transforms all pictures.
-    const double longestStage = std::max(pictures * figures.transformSeconds, soundSeconds);
-    return kConstantSeconds + std::max(all / (figures.processors * kUtilisation), longestStage);
+    const double longestStage =
+        std::max(pictures * figures.transformSeconds / figures.makers, soundSeconds);
+    const double work = std::max(all / (figures.processors * kUtilisation), longestStage);
+    return kConstantSeconds + kRampSeconds * (1 - std::exp(-work / kRampSeconds)) + work;
 }
 
 } // namespace

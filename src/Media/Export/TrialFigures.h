@@ -33,6 +33,8 @@ struct TrialFigures {
     /// What the file takes besides its media.
     std::int64_t indexBytes = 0;
     int processors = 1;
+    /// On how many threads pictures are transformed at the same time.
+    int makers = 1;
 
     std::vector<TrialPlace> places;
     /// The places hold every picture of the range.
