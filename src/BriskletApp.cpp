@@ -176,12 +176,13 @@ WindowRootView* BriskletApp::openWindow() {
     m_windows.append(window);
     connect(window, &WindowRootView::newWindowRequested, this, [this] { openWindow(); });
     connect(window, &WindowRootView::quitRequested, this, &BriskletApp::quit);
-    connect(window->state().get(), &EditState::exportProgressChanged, this, [this, window] {
-        // The question is about one export less.
-        const bool isAsking = m_askedToQuit && m_askedToQuit->isAskingToClose();
-        if (isAsking && !window->state()->exportProgress())
-            quit();
-    });
+    connect(window->state().get(), &EditState::exportProgressChanged, this,
+            [this, self = QPointer(window)] {
+                // The question is about one export less.
+                const bool isAsking = m_askedToQuit && m_askedToQuit->isAskingToClose();
+                if (isAsking && self && !self->state()->exportProgress())
+                    quit();
+            });
     connect(window, &WindowRootView::becameNeedless, this, [this, window] {
         if (windows().size() > 1 && window->state()->isEmpty())
             window->close();

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;لا</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>أغلق</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>يمين</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>الأعلى</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>الأسفل</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -419,7 +452,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation>إلغاء كتم الصوت (سيُحذف الصوت عند التصدير)</translation>
+        <translation>إلغاء كتم الصوت (وإلا حُذف الصوت عند التصدير)</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -1000,7 +1033,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation>يتوفر Brisklet %1، ولديك %2. أتريد تثبيته؟</translation>
+        <translation>يتوفر Brisklet %1، ولديك %2. أتريد تثبيت الإصدار الجديد؟</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
@@ -1198,8 +1231,8 @@ Trims videos. Each VIDEO opens in a window of its own.
            brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
            brisklet-cli frame SOURCE SECONDS OUTPUT.png
            brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
-                        [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
-                        [--max-short-edge N] [--format %1] [--progress json]
+                      [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                      [--max-short-edge N] [--format %1] [--progress json]
 </translation>
     </message>
     <message>

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Ne</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Zavřít</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Šipka vpravo</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nahoru</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Dolů</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -936,7 +969,7 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation>Krok tímto koncem úseku</translation>
+        <translation>Krok tímto okrajem úseku</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1072,7 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation>Chybí program, kterým by šlo aktualizaci nainstalovat. Je zde: %1</translation>
+        <translation>Chybí program, kterým by šlo aktualizaci nainstalovat. Aktualizace je zde: %1</translation>
     </message>
 </context>
 <context>
@@ -1164,7 +1197,7 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     </message>
     <message>
         <source>--end must come after --start</source>
-        <translation>--end musí následovat po --start</translation>
+        <translation>--end musí být větší než --start</translation>
     </message>
     <message>
         <source>--max-short-edge needs a number of pixels</source>
@@ -1265,7 +1298,7 @@ Návratový kód: 0 hotovo; 1 selhání; 2 chybné použití; 130 přerušeno.
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation>Snímek nelze zapsat jako PNG.</translation>
+        <translation>Obrázek nelze zapsat jako PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>

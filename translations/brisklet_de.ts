@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Nein</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Herunter</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pos1</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Bild aufwärts</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Bild abwärts</translation>
     </message>
 </context>
 <context>
@@ -312,7 +345,7 @@ Freie Software unter der GNU General Public License, Version 3 oder neuer.</tran
     </message>
     <message>
         <source>Go to Time…</source>
-        <translation>Zu Zeitpunkt gehen …</translation>
+        <translation>Gehe zu Zeitpunkt …</translation>
     </message>
     <message>
         <source>Range Start, Then Start of Video</source>
@@ -710,7 +743,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <name>brisklet::GoToTimePanel</name>
     <message>
         <source>Go to Time</source>
-        <translation>Zu Zeitpunkt gehen</translation>
+        <translation>Gehe zu Zeitpunkt</translation>
     </message>
     <message>
         <source>Go to:</source>
@@ -1035,7 +1068,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     </message>
     <message>
         <source>The update isn’t genuine: its signature is wrong. It hasn’t been installed.</source>
-        <translation>Die Aktualisierung ist nicht echt: Ihre Signatur stimmt nicht. Sie wurde nicht installiert.</translation>
+        <translation>Die Aktualisierung ist nicht echt: Die Signatur ist falsch. Sie wurde nicht installiert.</translation>
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
@@ -1088,7 +1121,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation>%1 nimmt keinen Wert</translation>
+        <translation>%1 nimmt keinen Wert an</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
@@ -1193,9 +1226,9 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
         <translation>Aufruf: brisklet-cli probe SOURCE
         brisklet-cli filmstrip SOURCE DIRECTORY [--count N]
         brisklet-cli frame SOURCE SECONDS OUTPUT.png
-        brisklet-cli export SOURCE OUTPUT [--start S] [--end S] [--crop X,Y,W,H]
-                     [--rotate DEGREES] [--mute] [--max-short-edge N]
-                     [--format %1] [--progress json]
+        brisklet-cli export SOURCE OUTPUT [--start S] [--end S]
+                     [--crop X,Y,W,H] [--rotate DEGREES] [--mute]
+                     [--max-short-edge N] [--format %1] [--progress json]
 </translation>
     </message>
     <message>
@@ -1236,7 +1269,7 @@ export     schreibt eine Kopie der Datei:
   --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
                         abweichende Encoder-Einstellungen, für Messungen
 
-  --help, --version     diese Hilfe oder die Version ausgeben und enden
+  --help, --version     gibt diese Hilfe oder die Version aus und endet
 
 Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
 </translation>
@@ -1579,7 +1612,7 @@ Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation>Leseprogramm ist beendet</translation>
+        <translation>Empfängerprogramm beendet</translation>
     </message>
     <message>
         <source>No space left on device</source>

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;No</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Re Pág</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Av Pág</translation>
     </message>
 </context>
 <context>
@@ -396,7 +429,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     <message>
         <source>Reset to Defaults</source>
         <extracomment>Format and resolution.</extracomment>
-        <translation>Restablecer valores</translation>
+        <translation>Restaurar valores predeterminados</translation>
     </message>
     <message>
         <source>Format</source>
@@ -506,7 +539,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation>Recorte, al que se llega con Tab</translation>
+        <translation>Recorte, accesible con Tab</translation>
     </message>
 </context>
 <context>
@@ -536,7 +569,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation>El servidor lleva a «%1», que no es una dirección segura.</translation>
+        <translation>El servidor remite a «%1», que no es una dirección segura.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
@@ -604,7 +637,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation>Botón Exportar, al que se llega con Tab</translation>
+        <translation>Botón Exportar, accesible con Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
@@ -891,7 +924,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation>Inicio del intervalo, cabezal y final del intervalo, a los que se llega con Tab</translation>
+        <translation>Inicio del intervalo, cabezal y final del intervalo, accesibles con Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
@@ -1155,7 +1188,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation>%1 no conoce «%2»</translation>
+        <translation>%1 no admite «%2»</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
@@ -1223,7 +1256,7 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
         <translation>probe      muestra qué es el archivo, como un objeto JSON.
 filmstrip  escribe N (12) miniaturas del centro de N partes iguales en el
            directorio como 00.png, 01.png, ..., y muestra sus tiempos en JSON.
-frame      escribe la imagen, ya orientada, que un reproductor muestra ahí.
+frame      escribe la imagen, ya orientada, que se ve en ese momento.
 export     escribe una copia del archivo:
   --start, --end        la parte que se conserva, en segundos (todo)
   --crop                en fracciones de la imagen como se ve tras --rotate,
@@ -1525,81 +1558,81 @@ Estado de salida: 0 hecho; 1 fallo; 2 uso incorrecto; 130 interrumpido.
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation>Permiso denegado</translation>
+        <translation>permiso denegado</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation>Operación no permitida</translation>
+        <translation>operación no permitida</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation>No existe el archivo o la carpeta</translation>
+        <translation>no existe el archivo o la carpeta</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation>No es una carpeta</translation>
+        <translation>no es una carpeta</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation>El archivo ya existe</translation>
+        <translation>el archivo ya existe</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation>Es una carpeta</translation>
+        <translation>es una carpeta</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation>Argumento no válido</translation>
+        <translation>argumento no válido</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation>Demasiados archivos abiertos</translation>
+        <translation>demasiados archivos abiertos</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation>Sistema de archivos de solo lectura</translation>
+        <translation>sistema de archivos de solo lectura</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation>El archivo ya no está en el disco de red</translation>
+        <translation>el archivo ya no está en el disco de red</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation>Se agotó el tiempo de conexión</translation>
+        <translation>se agotó el tiempo de conexión</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation>Dispositivo o recurso ocupado</translation>
+        <translation>dispositivo o recurso ocupado</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation>Demasiados niveles de enlaces simbólicos</translation>
+        <translation>demasiados niveles de enlaces simbólicos</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation>El programa lector terminó</translation>
+        <translation>el programa lector terminó</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation>No queda espacio en el dispositivo</translation>
+        <translation>no queda espacio en el dispositivo</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation>Se ha superado la cuota de disco</translation>
+        <translation>se ha superado la cuota de disco</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation>Error de entrada/salida</translation>
+        <translation>error de entrada/salida</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation>Nombre de archivo demasiado largo</translation>
+        <translation>nombre de archivo demasiado largo</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation>Error genérico en una biblioteca externa</translation>
+        <translation>error genérico en una biblioteca externa</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
@@ -1608,7 +1641,7 @@ Estado de salida: 0 hecho; 1 fallo; 2 uso incorrecto; 130 interrumpido.
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation>Error inesperado (detalles: %1)</translation>
+        <translation>error inesperado (detalles: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>

@@ -18,7 +18,7 @@
     <message>
         <source>Video Trimmer</source>
         <extracomment>The kind of program, in the menus of desktops.</extracomment>
-        <translation>Raccourcisseur vidéo</translation>
+        <translation>Raccourcisseur de vidéos</translation>
     </message>
     <message>
         <source>Trim, crop and turn videos, exact to the frame</source>
@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
-        <translation>Écrit du MP4 et du MOV&#x202f;; lit ce qu’enregistrent les caméras, les téléphones et les outils de capture d’écran.</translation>
+        <translation>Écrit du MP4 et du MOV&#x202f;; lit ce que produisent les caméras, les téléphones et les enregistreurs d’écran.</translation>
     </message>
     <message>
         <source>Never touches the original, and never leaves a half-written file.</source>
@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Non</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Fermer</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Page préc</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Page suiv</translation>
     </message>
 </context>
 <context>
@@ -296,7 +329,7 @@ Logiciel libre sous licence publique générale GNU (GPL), version 3 ou ultérie
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation>Rouvrir la dernière édition</translation>
+        <translation>Rouvrir le dernier montage</translation>
     </message>
     <message>
         <source>Show Last Export</source>
@@ -419,7 +452,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation>Réactiver le son (il sera absent de l’exportation)</translation>
+        <translation>Réactiver le son (sinon, il sera absent de l’exportation)</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -506,7 +539,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation>Recadrage, atteint avec Tab</translation>
+        <translation>Recadrage, accessible avec Tab</translation>
     </message>
 </context>
 <context>
@@ -536,7 +569,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation>Le serveur mène à «&#x202f;%1&#x202f;», qui n’est pas une adresse sécurisée.</translation>
+        <translation>Le serveur renvoie vers «&#x202f;%1&#x202f;», qui n’est pas une adresse sécurisée.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
@@ -604,7 +637,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation>Bouton d’exportation, atteint avec Tab</translation>
+        <translation>Bouton d’exportation, accessible avec Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
@@ -737,7 +770,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
     <message>
         <source>The last frame is #%1.</source>
-        <translation>La dernière image est #%1.</translation>
+        <translation>La dernière image est la #%1.</translation>
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
@@ -891,7 +924,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation>Début de l’extrait, tête de lecture et fin de l’extrait, atteints avec Tab</translation>
+        <translation>Début de l’extrait, tête de lecture et fin de l’extrait, accessibles avec Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
@@ -1000,7 +1033,7 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation>Brisklet %1 est disponible&#x202f;; vous avez la version %2. Voulez-vous l’installer&#x202f;?</translation>
+        <translation>Brisklet %1 est disponible&#x202f;; vous avez la version %2. Voulez-vous installer la nouvelle version&#x202f;?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
@@ -1223,7 +1256,7 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
         <translation>probe      affiche ce qu’est le fichier, en un seul objet JSON.
 filmstrip  écrit N (12) vignettes du milieu de N tranches égales, en
            00.png, 01.png, ... dans le dossier, et affiche leurs temps en JSON.
-frame      écrit l’image redressée qu’un lecteur affiche à ce temps.
+frame      écrit l’image redressée qu’un lecteur affiche à cet instant.
 export     écrit une copie du fichier&#xa0;:
   --start, --end        la partie à conserver, en secondes (tout)
   --crop                en fractions de l’image affichée après --rotate,
@@ -1389,7 +1422,7 @@ Code de sortie&#xa0;: 0 réussi&#x202f;; 1 échec&#x202f;; 2 mauvais usage&#x202
     </message>
     <message>
         <source>There is no picture at this time.</source>
-        <translation>Il n’y a pas d’image à ce temps.</translation>
+        <translation>Il n’y a pas d’image à cet instant.</translation>
     </message>
     <message>
         <source>Pictures in the pixel format “%1” cannot be converted.</source>
@@ -1515,7 +1548,7 @@ Code de sortie&#xa0;: 0 réussi&#x202f;; 1 échec&#x202f;; 2 mauvais usage&#x202
     </message>
     <message>
         <source>Brisklet has been updated. Start it again.</source>
-        <translation>Brisklet a été mis à jour. Redémarrez-le.</translation>
+        <translation>Brisklet a été mis à jour. Relancez-le.</translation>
     </message>
     <message>
         <source>%1.</source>

@@ -6,7 +6,7 @@
     <message>
         <source>It is being downloaded already.</source>
         <extracomment>The new version of the program, by another window or session.</extracomment>
-        <translation>È già in corso di scaricamento.</translation>
+        <translation>Lo scaricamento è già in corso.</translation>
     </message>
     <message>
         <source>The update can’t be stored: %1</source>
@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;No</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Giù</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>↖</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Pag↑</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Pag↓</translation>
     </message>
 </context>
 <context>
@@ -506,7 +539,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation>Ritaglio, raggiunto con Tab</translation>
+        <translation>Ritaglio, raggiungibile con Tab</translation>
     </message>
 </context>
 <context>
@@ -544,7 +577,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
     <message>
         <source>The download can’t be stored: %1</source>
-        <translation>Impossibile salvare lo scaricamento: %1</translation>
+        <translation>Impossibile salvare il file scaricato: %1</translation>
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
@@ -604,7 +637,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
     <message>
         <source>Export button, reached by Tab</source>
-        <translation>Pulsante Esporta, raggiunto con Tab</translation>
+        <translation>Pulsante Esporta, raggiungibile con Tab</translation>
     </message>
     <message>
         <source>Choose format and resolution</source>
@@ -891,7 +924,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
     <message>
         <source>Trim start, playhead and trim end, reached by Tab</source>
-        <translation>Inizio dell’intervallo, testina e fine dell’intervallo, raggiunti con Tab</translation>
+        <translation>Inizio dell’intervallo, testina e fine dell’intervallo, raggiungibili con Tab</translation>
     </message>
     <message>
         <source>Making the filmstrip…</source>
@@ -1097,7 +1130,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation>%1 è indicata due volte</translation>
+        <translation>%1 compare due volte</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
@@ -1155,7 +1188,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation>%1 non conosce «%2»</translation>
+        <translation>%1 non accetta «%2»</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
@@ -1525,90 +1558,90 @@ Stato di uscita: 0 riuscito; 1 fallito; 2 uso errato; 130 interrotto.
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation>Permesso negato</translation>
+        <translation>permesso negato</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation>Operazione non permessa</translation>
+        <translation>operazione non permessa</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation>File o cartella non esistente</translation>
+        <translation>file o cartella non esistente</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation>Non è una cartella</translation>
+        <translation>non è una cartella</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation>Il file esiste già</translation>
+        <translation>il file esiste già</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation>È una cartella</translation>
+        <translation>è una cartella</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation>Argomento non valido</translation>
+        <translation>argomento non valido</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation>Troppi file aperti</translation>
+        <translation>troppi file aperti</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation>File system in sola lettura</translation>
+        <translation>file system in sola lettura</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation>Il file non è più sul disco di rete</translation>
+        <translation>il file non è più sul disco di rete</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation>Tempo di connessione scaduto</translation>
+        <translation>tempo di connessione scaduto</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation>Dispositivo o risorsa occupata</translation>
+        <translation>dispositivo o risorsa occupata</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation>Troppi livelli di collegamenti simbolici</translation>
+        <translation>troppi livelli di collegamenti simbolici</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation>Programma lettore terminato</translation>
+        <translation>programma lettore terminato</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation>Spazio sul dispositivo esaurito</translation>
+        <translation>spazio sul dispositivo esaurito</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation>Quota disco superata</translation>
+        <translation>quota disco superata</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation>Errore di ingresso/uscita</translation>
+        <translation>errore di ingresso/uscita</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation>Nome del file troppo lungo</translation>
+        <translation>nome del file troppo lungo</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation>Errore generico in una libreria esterna</translation>
+        <translation>errore generico in una libreria esterna</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation>Non ancora implementato in FFmpeg</translation>
+        <translation>non ancora implementato in FFmpeg</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation>Errore inatteso (dettagli: %1)</translation>
+        <translation>errore inatteso (dettagli: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>

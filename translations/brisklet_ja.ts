@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>The first picture of the export is the one you saw at the start of the range, and the sound stays where it was.</source>
-        <translation>エクスポートの最初の画像は範囲の先頭に表示されていたもので、音声の位置もずれません。</translation>
+        <translation>エクスポートした動画の最初の画像は、範囲の先頭で見えていたものです。音声の位置もずれません。</translation>
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>いいえ(&amp;N)</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>閉じる</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>→</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>↑</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>↓</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -419,7 +452,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation>ミュート解除 (エクスポート時に音声は除かれます)</translation>
+        <translation>ミュート解除 (このままではエクスポート時に音声が除かれます)</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -903,7 +936,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Move a tenth as far as the pointer</source>
-        <translation>ポインターの 10 分の 1 だけ移動</translation>
+        <translation>ポインターの動きの 10 分の 1 だけ移動</translation>
     </message>
     <message>
         <source>Drag with Shift, far above or below</source>

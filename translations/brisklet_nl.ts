@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Crops and turns in the same step, with one careful resampling.</source>
-        <translation>Bijsnijden en draaien in dezelfde stap, met één zorgvuldige herbemonstering.</translation>
+        <translation>Snijdt bij en draait in dezelfde stap, met één zorgvuldige herbemonstering.</translation>
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Nee</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Sluiten</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Pijl omhoog</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Pijl omlaag</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -362,9 +395,9 @@ Trims videos. Each VIDEO opens in a window of its own.
         <translation>Gebruik: brisklet [VIDEO...]
 Kort video’s in. Elke VIDEO opent in een eigen venster.
 
-  --install-quick-action  actie in bestandsbeheerders opnemen en stoppen
-  --help                  deze hulp tonen en stoppen
-  --version               de versie tonen en stoppen
+  --install-quick-action  zet “Video inkorten” in bestandsbeheerders en stopt
+  --help                  toont deze hulp en stopt
+  --version               toont de versie en stopt
 </translation>
     </message>
 </context>
@@ -741,11 +774,11 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation>Een tijd, aantal frames vanaf hier, of een frame: 1:23.456, +10f, #2412</translation>
+        <translation>Een tijd, een aantal frames vanaf hier of een frame: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation>Een tijd, of aantal frames vanaf hier: 1:23.456, +10f</translation>
+        <translation>Een tijd of een aantal frames vanaf hier: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
@@ -911,7 +944,7 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     </message>
     <message>
         <source>Move a hundredth as far</source>
-        <translation>Een honderdste verplaatsen</translation>
+        <translation>Een honderdste van de muisbeweging verplaatsen</translation>
     </message>
     <message>
         <source>Wheel</source>
@@ -971,7 +1004,7 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     </message>
     <message>
         <source>You’re up to date.</source>
-        <translation>Brisklet is bijgewerkt.</translation>
+        <translation>U hebt de nieuwste versie.</translation>
     </message>
     <message>
         <source>Brisklet %1 is the newest version available.</source>
@@ -1000,7 +1033,7 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation>Brisklet %1 is er; u hebt %2. Wilt u deze versie installeren?</translation>
+        <translation>Brisklet %1 is er; u hebt %2. Wilt u de nieuwe versie installeren?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
@@ -1236,7 +1269,7 @@ export     schrijft een kopie van het bestand:
   --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
                         andere encoderinstellingen, voor metingen
 
-  --help, --version     deze hulp of de versie tonen en stoppen
+  --help, --version     toont deze hulp of de versie en stopt
 
 Afsluitstatus: 0 klaar; 1 mislukt; 2 verkeerd gebruik; 130 onderbroken.
 </translation>
@@ -1557,7 +1590,7 @@ Afsluitstatus: 0 klaar; 1 mislukt; 2 verkeerd gebruik; 130 onderbroken.
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation>alleen-lezen bestandssysteem</translation>
+        <translation>bestandssysteem is alleen-lezen</translation>
     </message>
     <message>
         <source>Stale file handle</source>

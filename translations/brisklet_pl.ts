@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Nie</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Zamknij</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>W prawo</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Góra</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Dół</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -296,7 +329,7 @@ Wolne oprogramowanie na licencji GNU General Public License w wersji 3 lub nowsz
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation>Przywróć ostatnią edycję</translation>
+        <translation>Otwórz ponownie ostatnią edycję</translation>
     </message>
     <message>
         <source>Show Last Export</source>
@@ -419,7 +452,7 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation>Wyłącz wyciszenie (dźwięk zostanie usunięty przy eksporcie)</translation>
+        <translation>Włącz dźwięk (inaczej zostanie usunięty przy eksporcie)</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -449,7 +482,7 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     </message>
     <message>
         <source>Mute or unmute</source>
-        <translation>Wycisz lub wyłącz wyciszenie</translation>
+        <translation>Wycisz lub włącz dźwięk</translation>
     </message>
     <message>
         <source>Crop or remove the crop</source>
@@ -703,7 +736,7 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation>„%1” nie znajduje się na tym komputerze i żaden katalog tutaj tam nie prowadzi.</translation>
+        <translation>„%1” nie znajduje się na tym komputerze i żaden katalog tutaj do niego nie prowadzi.</translation>
     </message>
 </context>
 <context>
@@ -741,11 +774,11 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation>Czas, liczba klatek stąd lub numer klatki: 1:23.456, +10f, #2412</translation>
+        <translation>Czas, liczba klatek od tego miejsca lub numer klatki: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation>Czas lub liczba klatek stąd: 1:23.456, +10f</translation>
+        <translation>Czas lub liczba klatek od tego miejsca: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
@@ -936,7 +969,7 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation>Krok tego końca zakresu</translation>
+        <translation>Krok tego krańca zakresu</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1072,7 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation>Nie ma programu, który mógłby zainstalować aktualizację. Znajduje się tutaj: %1</translation>
+        <translation>Nie ma programu, który mógłby zainstalować aktualizację. Aktualizacja jest tutaj: %1</translation>
     </message>
 </context>
 <context>

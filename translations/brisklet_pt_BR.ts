@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Keeps colours, high dynamic range, sound tracks, chapters and dates.</source>
-        <translation>Mantém as cores, a alta faixa dinâmica, as faixas de áudio, os capítulos e as datas.</translation>
+        <translation>Mantém as cores, o alto alcance dinâmico, as faixas de áudio, os capítulos e as datas.</translation>
     </message>
     <message>
         <source>Writes MP4 and MOV; reads what cameras, phones and screen recorders write.</source>
@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Não</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Fechar</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Acima</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abaixo</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -920,7 +953,7 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     </message>
     <message>
         <source>Step by a frame</source>
-        <translation>Mover um quadro</translation>
+        <translation>Avançar ou voltar um quadro</translation>
     </message>
     <message>
         <source>Wheel with Shift</source>
@@ -928,7 +961,7 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     </message>
     <message>
         <source>Step by ten frames</source>
-        <translation>Mover dez quadros</translation>
+        <translation>Avançar ou voltar dez quadros</translation>
     </message>
     <message>
         <source>Wheel over a handle</source>
@@ -936,7 +969,7 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     </message>
     <message>
         <source>Step with that end of the range</source>
-        <translation>Mover aos poucos esse extremo do intervalo</translation>
+        <translation>Mover passo a passo esse extremo do intervalo</translation>
     </message>
 </context>
 <context>
@@ -1097,7 +1130,7 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation>%1 foi indicada duas vezes</translation>
+        <translation>%1 aparece duas vezes</translation>
     </message>
     <message>
         <source>%1 needs a number, not &quot;%2&quot;</source>
@@ -1155,7 +1188,7 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     </message>
     <message>
         <source>%1 knows no &quot;%2&quot;</source>
-        <translation>%1 não conhece “%2”</translation>
+        <translation>%1 não aceita “%2”</translation>
     </message>
     <message>
         <source>--start must not be negative</source>
@@ -1525,90 +1558,90 @@ Status de saída: 0 concluído; 1 falha; 2 uso incorreto; 130 interrompido.
     <message>
         <source>Permission denied</source>
         <extracomment>A reason after a colon, as the system words it; so are the following.</extracomment>
-        <translation>Permissão negada</translation>
+        <translation>permissão negada</translation>
     </message>
     <message>
         <source>Operation not permitted</source>
-        <translation>Operação não permitida</translation>
+        <translation>operação não permitida</translation>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation>Arquivo ou pasta inexistente</translation>
+        <translation>arquivo ou pasta inexistente</translation>
     </message>
     <message>
         <source>Not a directory</source>
-        <translation>Não é uma pasta</translation>
+        <translation>não é uma pasta</translation>
     </message>
     <message>
         <source>File exists</source>
-        <translation>O arquivo já existe</translation>
+        <translation>o arquivo já existe</translation>
     </message>
     <message>
         <source>Is a directory</source>
-        <translation>É uma pasta</translation>
+        <translation>é uma pasta</translation>
     </message>
     <message>
         <source>Invalid argument</source>
-        <translation>Argumento inválido</translation>
+        <translation>argumento inválido</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation>Arquivos abertos demais</translation>
+        <translation>muitos arquivos abertos</translation>
     </message>
     <message>
         <source>Read-only file system</source>
-        <translation>Sistema de arquivos somente leitura</translation>
+        <translation>sistema de arquivos somente leitura</translation>
     </message>
     <message>
         <source>Stale file handle</source>
         <extracomment>The file was on a network disk, where it is not any more.</extracomment>
-        <translation>O arquivo não está mais no disco de rede</translation>
+        <translation>o arquivo não está mais no disco de rede</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation>Tempo de conexão esgotado</translation>
+        <translation>tempo de conexão esgotado</translation>
     </message>
     <message>
         <source>Device or resource busy</source>
-        <translation>Dispositivo ou recurso ocupado</translation>
+        <translation>dispositivo ou recurso ocupado</translation>
     </message>
     <message>
         <source>Too many levels of symbolic links</source>
-        <translation>Níveis demais de links simbólicos</translation>
+        <translation>muitos níveis de links simbólicos</translation>
     </message>
     <message>
         <source>Broken pipe</source>
         <extracomment>The program that reads what is written has ended.</extracomment>
-        <translation>O programa leitor terminou</translation>
+        <translation>o programa leitor terminou</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation>Não há espaço no dispositivo</translation>
+        <translation>não há espaço no dispositivo</translation>
     </message>
     <message>
         <source>Disk quota exceeded</source>
-        <translation>Cota de disco excedida</translation>
+        <translation>cota de disco excedida</translation>
     </message>
     <message>
         <source>Input/output error</source>
-        <translation>Erro de entrada/saída</translation>
+        <translation>erro de entrada/saída</translation>
     </message>
     <message>
         <source>File name too long</source>
-        <translation>Nome de arquivo longo demais</translation>
+        <translation>nome de arquivo longo demais</translation>
     </message>
     <message>
         <source>Generic error in an external library</source>
-        <translation>Erro genérico em uma biblioteca externa</translation>
+        <translation>erro genérico em uma biblioteca externa</translation>
     </message>
     <message>
         <source>Not yet implemented in FFmpeg, patches welcome</source>
-        <translation>Ainda não implementado no FFmpeg</translation>
+        <translation>ainda não implementado no FFmpeg</translation>
     </message>
     <message>
         <source>%1</source>
         <extracomment>%1: English words of the system or of FFmpeg that have no translation. Say so: “unexpected error (details: %1)”.</extracomment>
-        <translation>Erro inesperado (detalhes: %1)</translation>
+        <translation>erro inesperado (detalhes: %1)</translation>
     </message>
     <message>
         <source>The folder “%1” is not there.</source>

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Нет</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Закрыть</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Вправо</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -296,7 +329,7 @@ Free software under the GNU General Public License, version 3 or later.</source>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation>Вернуть последнюю правку</translation>
+        <translation>Снова открыть последнюю правку</translation>
     </message>
     <message>
         <source>Show Last Export</source>
@@ -432,7 +465,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation>Убрать кадрирование</translation>
+        <translation>Удалить кадрирование</translation>
     </message>
     <message>
         <source>Crop</source>
@@ -453,7 +486,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation>Кадрировать или убрать кадрирование</translation>
+        <translation>Кадрировать или удалить кадрирование</translation>
     </message>
 </context>
 <context>
@@ -703,7 +736,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation>«%1» находится не на этом компьютере, и ни одна папка здесь туда не ведёт.</translation>
+        <translation>«%1» находится не на этом компьютере, и ни одна папка здесь к нему не ведёт.</translation>
     </message>
 </context>
 <context>
@@ -1265,7 +1298,7 @@ export     записывает копию файла:
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation>Не удалось записать кадр в формате PNG.</translation>
+        <translation>Не удалось записать изображение в формате PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Nej</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Stäng</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Höger</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Upp</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ned</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Page Down</translation>
     </message>
 </context>
 <context>
@@ -801,7 +834,7 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
     </message>
     <message>
         <source>It doesn’t exist.</source>
-        <translation>Det finns inte.</translation>
+        <translation>Den finns inte.</translation>
     </message>
 </context>
 <context>
@@ -1000,7 +1033,7 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
     <message>
         <source>Brisklet %1 is here; you have %2. Do you want to install it?</source>
         <extracomment>%1: the new version; %2: the one that is installed.</extracomment>
-        <translation>Brisklet %1 finns här; du har %2. Vill du installera den?</translation>
+        <translation>Brisklet %1 finns tillgänglig; du har %2. Vill du installera den nya versionen?</translation>
     </message>
     <message>
         <source>Downloading Brisklet %1…</source>
@@ -1223,7 +1256,7 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
         <translation>probe      skriver ut vad filen är, som ett JSON-objekt.
 filmstrip  skriver N (12) små stillbilder från mitten av N lika delar till
            katalogen som 00.png, 01.png, ... och skriver ut tiderna som JSON.
-frame      skriver den upprättvända bild som en spelare visar vid den tiden.
+frame      skriver den rättvända bild som en spelare visar vid den tiden.
 export     skriver en kopia av filen:
   --start, --end        den del som ska behållas, i sekunder (allt)
   --crop                i bråkdelar av bilden som den visas efter --rotate,
@@ -1232,11 +1265,11 @@ export     skriver en kopia av filen:
   --mute                utelämnar ljudet
   --max-short-edge      skalar ner till så här många bildpunkter på kortsidan
   --format              %1 (vad utdatanamnet slutar på)
-  --progress json       skriver en JSON-rad per rapport i stället för en stapel
+  --progress json       skriver ut en JSON-rad per rapport i stället för stapel
   --h264-preset, --h264-crf, --hevc-preset, --hevc-crf
                         andra kodarinställningar än programmets, för mätningar
 
-  --help, --version     skriv ut denna hjälp, eller versionen, och avsluta
+  --help, --version     skriver ut denna hjälp, eller versionen, och avslutar
 
 Slutstatus: 0 klar; 1 misslyckades; 2 felaktig användning; 130 avbruten.
 </translation>

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Hayır</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Kapat</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Sağ</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Yukarı</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Aşağı</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Page Down</translation>
     </message>
 </context>
 <context>
@@ -300,7 +333,7 @@ GNU Genel Kamu Lisansı sürüm 3 veya sonrası altında özgür yazılım.</tra
     </message>
     <message>
         <source>Show Last Export</source>
-        <translation>Son Dışa Aktarımı Göster</translation>
+        <translation>Son Dışa Aktarmayı Göster</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -419,7 +452,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation>Sesi aç (yoksa dışa aktarımda ses kaldırılacak)</translation>
+        <translation>Sesi aç (yoksa dışa aktarırken ses kaldırılacak)</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -461,7 +494,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     <message>
         <source>Crop</source>
         <extracomment>For screen readers, a noun: the frame around what is kept of the picture.</extracomment>
-        <translation>Kırpma</translation>
+        <translation>Kırpma alanı</translation>
     </message>
     <message>
         <source>%1×%2 at %3, %4</source>
@@ -482,7 +515,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>Crop, by mouse</source>
-        <translation>Kırpma, fareyle</translation>
+        <translation>Kırpma alanı, fareyle</translation>
     </message>
     <message>
         <source>Drag inside it</source>
@@ -506,7 +539,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>Crop, reached by Tab</source>
-        <translation>Kırpma, Tab ile ulaşılır</translation>
+        <translation>Kırpma alanı, Tab ile ulaşılır</translation>
     </message>
 </context>
 <context>
@@ -703,7 +736,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation>“%1” bu bilgisayarda değil ve buradaki hiçbir klasör ona ulaşmıyor.</translation>
+        <translation>“%1” bu bilgisayarda değil ve buradaki hiçbir klasör ona götürmüyor.</translation>
     </message>
 </context>
 <context>
@@ -733,7 +766,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>The frames of this video have no known numbers. Type a time.</source>
-        <translation>Bu videonun karelerinin bilinen numaraları yok. Bir zaman yazın.</translation>
+        <translation>Bu videonun kare numaraları bilinmiyor. Bir zaman yazın.</translation>
     </message>
     <message>
         <source>The last frame is #%1.</source>
@@ -741,11 +774,11 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation>Zaman, buradan kare sayısı veya kare: 1:23.456, +10f, #2412</translation>
+        <translation>Zaman, buradan itibaren kare sayısı veya kare numarası: 1:23.456, +10f, #2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation>Zaman veya buradan kare sayısı: 1:23.456, +10f</translation>
+        <translation>Zaman veya buradan itibaren kare sayısı: 1:23.456, +10f</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1072,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>There is no program to install the update with. It is here: %1</source>
-        <translation>Güncellemeyi kuracak bir program yok. Dosya burada: %1</translation>
+        <translation>Güncellemeyi kuracak bir program yok. Güncelleme burada: %1</translation>
     </message>
 </context>
 <context>
@@ -1132,7 +1165,7 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
     <message>
         <source>--crop needs fractions of the picture, from 0 to 1, with an area</source>
-        <translation>--crop görüntünün 0 ile 1 arasında, alanı olan kesirlerini ister</translation>
+        <translation>--crop görüntünün 0 ile 1 arasındaki kesirlerini ister; alan boş olamaz</translation>
     </message>
     <message>
         <source>--format knows %1, not &quot;%2&quot;</source>
@@ -1418,7 +1451,7 @@ export     dosyanın bir kopyasını yazar:
     </message>
     <message>
         <source>Couldn&apos;t create an export session for this video.</source>
-        <translation>Bu videonun dışa aktarımı hazırlanamadı.</translation>
+        <translation>Bu video için dışa aktarma hazırlanamadı.</translation>
     </message>
     <message>
         <source>There is no video to export.</source>
@@ -1426,7 +1459,7 @@ export     dosyanın bir kopyasını yazar:
     </message>
     <message>
         <source>The video can’t be exported over itself.</source>
-        <translation>Video kendi üzerine aktarılamaz.</translation>
+        <translation>Video kendi üzerine dışa aktarılamaz.</translation>
     </message>
     <message>
         <source>Not one picture of this range can be decoded.</source>

@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>&amp;Ні</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>Закрити</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>Праворуч</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вгору</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -296,7 +329,7 @@ Free software under the GNU General Public License, version 3 or later.</source>
     </message>
     <message>
         <source>Reopen Last Edit</source>
-        <translation>Повернути останню правку</translation>
+        <translation>Знову відкрити останню правку</translation>
     </message>
     <message>
         <source>Show Last Export</source>
@@ -432,7 +465,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Remove crop</source>
         <extracomment>Commands: makes a crop frame, or removes it.</extracomment>
-        <translation>Прибрати кадрування</translation>
+        <translation>Вилучити кадрування</translation>
     </message>
     <message>
         <source>Crop</source>
@@ -453,7 +486,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Crop or remove the crop</source>
-        <translation>Кадрувати або прибрати кадрування</translation>
+        <translation>Кадрувати або вилучити кадрування</translation>
     </message>
 </context>
 <context>
@@ -532,11 +565,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>“%1” is not a secure address.</source>
-        <translation>«%1» — небезпечна адреса.</translation>
+        <translation>«%1» — незахищена адреса.</translation>
     </message>
     <message>
         <source>The server leads to “%1”, which is not a secure address.</source>
-        <translation>Сервер переспрямовує на «%1», а це небезпечна адреса.</translation>
+        <translation>Сервер переспрямовує на «%1», а це незахищена адреса.</translation>
     </message>
     <message>
         <source>The server sends more than it should.</source>
@@ -548,7 +581,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>The connection to “%1” isn’t secure: %2.</source>
-        <translation>З’єднання з «%1» небезпечне: %2.</translation>
+        <translation>З’єднання з «%1» не захищено: %2.</translation>
     </message>
 </context>
 <context>
@@ -703,7 +736,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::FileUrl</name>
     <message>
         <source>“%1” is not on this computer, and no folder here leads to it.</source>
-        <translation>«%1» зберігається не на цьому комп’ютері, і жодна тека тут туди не веде.</translation>
+        <translation>«%1» немає на цьому комп’ютері, і жодна тека тут до нього не веде.</translation>
     </message>
 </context>
 <context>
@@ -1265,7 +1298,7 @@ export     записує копію файла:
     </message>
     <message>
         <source>Couldn’t write the picture as PNG.</source>
-        <translation>Не вдалося записати кадр у форматі PNG.</translation>
+        <translation>Не вдалося записати зображення у форматі PNG.</translation>
     </message>
     <message>
         <source>Couldn’t make the folder “%1”: %2.</source>

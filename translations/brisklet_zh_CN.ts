@@ -110,6 +110,11 @@
         <source>&amp;No</source>
         <translation>否(&amp;N)</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Closes a dialog that only tells something.</extracomment>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -137,6 +142,34 @@
     <message>
         <source>Right</source>
         <translation>→</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上方向</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下方向</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
     </message>
 </context>
 <context>
@@ -419,7 +452,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Unmute (audio will be removed on export)</source>
-        <translation>取消静音（导出时将去除声音）</translation>
+        <translation>取消静音（否则导出时将去除声音）</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -959,7 +992,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>Check for updates automatically?</source>
-        <translation>自动检查更新吗？</translation>
+        <translation>要自动检查更新吗？</translation>
     </message>
     <message>
         <source>Brisklet can look once a day whether there is a new version. You can also check from its menu.</source>
@@ -1046,7 +1079,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <name>brisklet::WindowRootView</name>
     <message>
         <source>Stop the export and close?</source>
-        <translation>停止导出并关闭吗？</translation>
+        <translation>要停止导出并关闭吗？</translation>
     </message>
     <message>
         <source>Stop and Close</source>
@@ -1060,7 +1093,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message numerus="yes">
         <source>Stop %n exports and close?</source>
         <translation>
-            <numerusform>停止 %n 项导出并关闭吗？</numerusform>
+            <numerusform>要停止 %n 项导出并关闭吗？</numerusform>
         </translation>
     </message>
 </context>

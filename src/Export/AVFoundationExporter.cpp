@@ -2,6 +2,7 @@
 
 #include "Export/FreeSpace.h"
 #include "Export/ProgressWatcher.h"
+#include "Media/Engine.h"
 #include "Media/Error.h"
 #include "Media/ExportSession.h"
 #include "Media/SystemRefusal.h"
@@ -69,8 +70,10 @@ void AVFoundationExporter::run(const ExportRequest& request,
                                const std::stop_token& stop) {
     media::Composition toExport = composition(source(request, stop), request);
     const auto rendering = videoComposition(toExport.videoTrack->source, request);
-    if (request.expectedBytes)
+    if (request.expectedBytes) {
+        media::engine().removeLeftovers(pathOf(request.outputURL));
         expectSpaceFor(*request.expectedBytes, pathOf(request.outputURL));
+    }
     std::shared_ptr<media::ExportSession> session = makeSession(std::move(toExport), request);
     session->setVideoComposition(rendering);
 

@@ -37,6 +37,8 @@ public:
     forecastExport(const Composition& composition,
                    const std::optional<VideoComposition>& videoComposition,
                    const EncoderSettings& settings, const std::stop_token& stop) const = 0;
+    /// Frees the space that killed exports into the output's folder hold. Blocks.
+    virtual void removeLeftovers(const std::filesystem::path& output) const = 0;
 };
 
 /// The engine. The first call loads it, which takes some tens of milliseconds; calls meanwhile wait

@@ -98,7 +98,10 @@ public:
     /// `request` is the one that the forecast is for.
     void setExportForecast(const ExportRequest& request, const media::ExportForecast& forecast);
 
-    void clearExportForecast() { m_exportForecast = std::nullopt; }
+    void clearExportForecast() {
+        m_exportForecast = std::nullopt;
+        m_forecastRequest = {};
+    }
 
     /// The file that the latest successful export of this window has written; none before.
     [[nodiscard]] const std::optional<QUrl>& lastExport() const { return m_lastExport.value(); }

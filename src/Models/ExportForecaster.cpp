@@ -69,6 +69,7 @@ ExportForecaster::~ExportForecaster() {
 void ExportForecaster::observe() {
     const EditState* state = m_state.get();
     connect(state, &EditState::videoURLChanged, this, &ExportForecaster::forgetAll);
+    connect(state, &EditState::editBegan, this, &ExportForecaster::forgetAll);
     connect(state, &EditState::thumbnailsChanged, this, &ExportForecaster::reconsider);
     for (const auto changed :
          {&EditState::trimStartChanged, &EditState::trimEndChanged, &EditState::cropRectChanged,
@@ -77,7 +78,8 @@ void ExportForecaster::observe() {
     const ExportSettings* settings = &ExportSettings::shared();
     connect(settings, &ExportSettings::formatChanged, this, &ExportForecaster::reconsider);
     connect(settings, &ExportSettings::resolutionChanged, this, &ExportForecaster::reconsider);
-    for (const auto changed : {&EditState::isPlayingChanged, &EditState::exportProgressChanged})
+    for (const auto changed : {&EditState::isPlayingChanged, &EditState::exportProgressChanged,
+                               &EditState::isMakingThumbnailsChanged})
         connect(state, changed, this, &ExportForecaster::wakeAll);
 }
 
@@ -145,7 +147,8 @@ void ExportForecaster::rested() {
 }
 
 bool ExportForecaster::isBusy() const {
-    return m_state->isPlaying() || m_state->exportProgress().has_value();
+    return m_state->isPlaying() || m_state->isMakingThumbnails() ||
+           m_state->exportProgress().has_value();
 }
 
 bool ExportForecaster::mayBegin() {

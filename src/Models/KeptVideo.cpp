@@ -88,12 +88,22 @@ std::optional<LoadedVideo> loadIfSame(const fs::path& path, const KeptEdit& kept
 }
 
 KeptVideo findAndLoad(const KeptEdit& kept, const std::stop_token& stop) {
+    // Known by size and duration alone. Of two such files neither is it for certain: cameras make
+    // parts of equal size and length.
+    std::optional<KeptVideo> copy;
     for (const Candidate& candidate : candidatesFor(kept, stop)) {
         if (candidate.isCertain())
             return {urlOf(candidate.path), loadVideo(candidate.path, stop)};
-        if (auto video = loadIfSame(candidate.path, kept, stop))
+        auto video = loadIfSame(candidate.path, kept, stop);
+        if (video && (candidate.isSameFile || candidate.hasName))
             return {urlOf(candidate.path), std::move(*video)};
+        if (video && copy)
+            throwNotFound(kept.file);
+        if (video)
+            copy = KeptVideo{urlOf(candidate.path), std::move(*video)};
     }
+    if (copy)
+        return std::move(*copy);
     throwNotFound(kept.file);
 }
 

@@ -31,6 +31,15 @@ namespace {
     QT_TRANSLATE_NOOP("QShortcut", "Space"),
     QT_TRANSLATE_NOOP("QShortcut", "Left"),
     QT_TRANSLATE_NOOP("QShortcut", "Right"),
+    QT_TRANSLATE_NOOP("QShortcut", "Alt"),
+    QT_TRANSLATE_NOOP("QShortcut", "Up"),
+    QT_TRANSLATE_NOOP("QShortcut", "Down"),
+    QT_TRANSLATE_NOOP("QShortcut", "Home"),
+    QT_TRANSLATE_NOOP("QShortcut", "End"),
+    QT_TRANSLATE_NOOP("QShortcut", "PgUp"),
+    QT_TRANSLATE_NOOP("QShortcut", "PgDown"),
+    //: Closes a dialog that only tells something.
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Close"),
 };
 
 QString catalogueFolder() {
@@ -113,12 +122,16 @@ void installTranslations(const QString& catalogue) {
     // English has plural forms to choose from.
     load(QStringLiteral("brisklet_") + (catalogue.isEmpty() ? QStringLiteral("en") : catalogue),
          catalogueFolder());
-    if (catalogue.isEmpty())
-        return;
-    spokenLocale() = QLocale(catalogue);
-    load(QStringLiteral("qtbase_") + catalogue, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr)
-        QGuiApplication::setLayoutDirection(spokenLocale().textDirection());
+    if (!catalogue.isEmpty()) {
+        spokenLocale() = QLocale(catalogue);
+        load(QStringLiteral("qtbase_") + catalogue,
+             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr)
+            QGuiApplication::setLayoutDirection(spokenLocale().textDirection());
+    }
+    // Numbers and sizes in the language of the texts around them.
+    if (!isCLocale())
+        QLocale::setDefault(uiLocale());
 }
 
 QLocale uiLocale() {

@@ -20,6 +20,9 @@ namespace brisklet {
 
 namespace {
 
+/// What is shown of a time is rounded to the millisecond. Seconds.
+constexpr double kRounding = 0.0005;
+
 constexpr int kPadding = 16;
 constexpr int kSpacing = 8;
 constexpr int kFieldWidth = 180;
@@ -87,7 +90,7 @@ std::optional<QString> GoToTimePanel::moveTo(const QString& text) {
         return tr("This is no time. Type one such as 1:23.456, +10f or #2412.");
     switch (entry->kind) {
     case TimeEntry::Kind::time:
-        if (entry->seconds > m_state->duration())
+        if (entry->seconds > m_state->duration() + kRounding)
             return tr("The video ends at %1.").arg(exactTimelineLabel(m_state->duration()));
         m_state->moveMarker(EditMarker::playhead, entry->seconds);
         return std::nullopt;

@@ -94,9 +94,8 @@ TEST(TrialFigures, extrapolateRatesAndCountKeyFramesOnce) {
         .keyFrames = 14,
         .indexBytes = 1000,
         .processors = 2,
-        .places =
-            {{.keySeconds = 0.1, .laterSeconds = 1, .keyBytes = 50'000, .laterBytes = 100'000},
-             {.keySeconds = 0.1, .laterSeconds = 1, .keyBytes = 70'000, .laterBytes = 300'000}},
+        .places = {{.laterSeconds = 1, .keyBytes = 50'000, .laterBytes = 100'000},
+                   {.laterSeconds = 1, .keyBytes = 70'000, .laterBytes = 300'000}},
         .sound = {.seconds = 2, .bytes = 20'000}};
     const std::int64_t wanted = 14 * 60'000 + 100 * 200'000 + 100 * 10'000 + 1000;
     EXPECT_NEAR(static_cast<double>(extrapolated(figures).bytes), static_cast<double>(wanted),
@@ -108,7 +107,7 @@ TEST(TrialFigures, addUpWhatIsWhole) {
         .seconds = 2,
         .pictures = 60,
         .keyFrames = 2,
-        .places = {{.keySeconds = 1, .laterSeconds = 1, .keyBytes = 5'000, .laterBytes = 7'000}},
+        .places = {{.laterSeconds = 1, .keyBytes = 5'000, .laterBytes = 7'000}},
         .isWhole = true};
     EXPECT_EQ(extrapolated(figures).bytes, 12'000);
 }
@@ -116,7 +115,7 @@ TEST(TrialFigures, addUpWhatIsWhole) {
 TEST(TrialFigures, shareTheWorkAmongTheProcessors) {
     TrialFigures figures{.seconds = 100,
                          .pictures = 3000,
-                         .places = {{.keySeconds = 1, .laterSeconds = 1}},
+                         .places = {{.laterSeconds = 1}},
                          .decodeSeconds = 0.01,
                          .transformSeconds = 0.01,
                          .encodeSeconds = 0.03};

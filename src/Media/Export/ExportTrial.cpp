@@ -68,11 +68,11 @@ private:
     void trySound(double place) {
         TrialSound sound;
         double tried = 0;
-        m_soundPackets = 0;
+        std::int64_t packets = 0;
         for (const CompositionTrack& track : m_composition.audioTracks) {
             if (m_budget.used() > kSoundEnd)
                 break;
-            tryTrack(track, place, sound);
+            packets += tryTrack(track, place, sound);
             ++tried;
         }
         if (tried == 0)
@@ -82,9 +82,11 @@ private:
         m_figures.sound.bytes += std::llround(static_cast<double>(sound.bytes) * share);
         m_figures.sound.processorSeconds += sound.processorSeconds * share;
         m_figures.sound.seconds += sound.seconds;
+        m_soundPackets = std::llround(static_cast<double>(packets) * share);
     }
 
-    void tryTrack(const CompositionTrack& track, double place, TrialSound& sound) {
+    /// Gives the number of packets that the whole range will have.
+    std::int64_t tryTrack(const CompositionTrack& track, double place, TrialSound& sound) {
         CompositionTrack part = track;
         part.range = stretch(track.range, place, kSoundSeconds);
         AudioPipeline pipeline(m_composition, part, m_budget.token());
@@ -94,8 +96,8 @@ private:
         while (const auto packet = pipeline.output().packets.pop())
             sound.bytes += (*packet)->size;
         sound.seconds = part.range.duration().seconds();
-        m_soundPackets += static_cast<std::int64_t>(static_cast<double>(pipeline.packets()) *
-                                                    m_figures.seconds / sound.seconds);
+        return std::llround(static_cast<double>(pipeline.packets()) * m_figures.seconds /
+                            sound.seconds);
     }
 
     void tryPictures() {

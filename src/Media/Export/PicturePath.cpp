@@ -47,8 +47,9 @@ PicturePath::PicturePath(const Composition& composition,
 std::unique_ptr<FrameSchedule> PicturePath::schedule(const TimeRange& range) {
     if (m_frameDuration) {
         return FrameSchedule::constantRate(m_reader, range, *m_frameDuration,
-                                           m_making.deinterlaces ? FrameSchedule::Neighbours::decoded
-                                                          : FrameSchedule::Neighbours::none);
+                                           m_making.deinterlaces
+                                               ? FrameSchedule::Neighbours::decoded
+                                               : FrameSchedule::Neighbours::none);
     }
     CompositionTrack track = m_track;
     track.range = range;

@@ -11,9 +11,9 @@
 
 namespace media {
 
-/// What the pictures of an export pass through: reader, schedule and encoder, and
-/// how pictures are made for it. Each of
-/// them is used from one thread at a time, but they may be used on different threads.
+/// What the pictures of an export pass through: reader, schedule and encoder, and how pictures are
+/// made for it. Each of them is used from one thread at a time, but they may be used on different
+/// threads.
 class PicturePath {
 public:
     struct Options {

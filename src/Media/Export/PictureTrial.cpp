@@ -221,7 +221,6 @@ void PictureTrial::addTo(TrialFigures& figures) {
             continue;
         TrialPlace place;
         place.keyBytes = m_packets.at(stretch.begin);
-        place.keySeconds = static_cast<double>(m_durations.at(stretch.begin)) * unit;
         for (auto packet = m_packets.upper_bound(stretch.begin);
              packet != m_packets.end() && packet->first < stretch.end; ++packet) {
             place.laterBytes += packet->second;

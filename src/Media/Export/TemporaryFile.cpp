@@ -123,8 +123,12 @@ bool TemporaryFile::createLocked(const std::filesystem::path& shownName) {
 void TemporaryFile::createUnderRandomName() {
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         m_path = folderOf(m_destination) / randomHiddenName();
+        if (!create())
+            continue;
         // Before it is locked, another export may take it for a dead one.
-        if (create() && (lock(m_file) == LockResult::impossible || isNamed(m_file, m_path)))
+        const LockResult result = lock(m_file);
+        if (result == LockResult::impossible ||
+            (result == LockResult::locked && isNamed(m_file, m_path)))
             return;
     }
     throwWriteError(EEXIST, m_destination);

@@ -10,7 +10,6 @@ namespace media {
 /// What was measured of the pictures at one place of the range: a key frame and those after it.
 struct TrialPlace {
     /// How long they are shown, in seconds, and what they take.
-    double keySeconds = 0;
     double laterSeconds = 0;
     std::int64_t keyBytes = 0;
     std::int64_t laterBytes = 0;

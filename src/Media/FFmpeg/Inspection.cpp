@@ -257,9 +257,8 @@ void findFrameRate(SourceTrack& track, const SourceInfo& info, Demuxer& demuxer,
 void findFrameDistance(SourceTrack& track, Demuxer& demuxer, const SourceFile& file) {
     AVFormatContext& context = demuxer.context();
     AVStream& stream = *context.streams[track.facts.streamIndex];
-    const AVCodecDescriptor* codec = avcodec_descriptor_get(track.parameters->codec_id);
-    const bool isIntraOnly = codec != nullptr && (codec->props & AV_CODEC_PROP_INTRA_ONLY) != 0;
-    if ((track.isInterlaced() && !isIntraOnly) || !indexReachesEnd(context, file, stream))
+    if ((track.isInterlaced() && !hasOnlyKeyFrames(track.parameters->codec_id)) ||
+        !indexReachesEnd(context, file, stream))
         return;
     std::vector<Timestamp> times = indexedTimes(context, stream);
     const auto count = static_cast<std::int64_t>(times.size());

@@ -1,7 +1,9 @@
 #include "Media/Module/BuiltInEngine.h"
 
+#include "Media/Export/DeadFiles.h"
 #include "Media/Export/ExportTrial.h"
 #include "Media/Export/StagedExportSession.h"
+#include "Media/Export/WriteError.h"
 #include "Media/Pictures/DecodingImageGenerator.h"
 #include "Media/Playback/CubebOutput.h"
 #include "Media/Playback/ThreadedPlayer.h"
@@ -53,6 +55,10 @@ public:
                    const std::optional<VideoComposition>& videoComposition,
                    const EncoderSettings& settings, const std::stop_token& stop) const override {
         return runTrial(composition, videoComposition, settings, stop);
+    }
+
+    void removeLeftovers(const std::filesystem::path& output) const override {
+        removeDeadFiles(folderOf(output));
     }
 };
 

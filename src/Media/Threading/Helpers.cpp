@@ -26,8 +26,14 @@ std::shared_ptr<Helpers> Helpers::shared() {
 }
 
 Helpers::Helpers(int count) {
-    for (int worker = 1; worker <= count; ++worker)
-        m_threads.emplace_back([this, worker](const std::stop_token& stop) { help(stop, worker); });
+    try {
+        for (int worker = 1; worker <= count; ++worker)
+            m_threads.emplace_back(
+                [this, worker](const std::stop_token& stop) { help(stop, worker); });
+    } catch (const std::system_error&) {
+        // The system starts no more threads: those that there are do the work, or the caller alone.
+        return;
+    }
 }
 
 Helpers::~Helpers() {

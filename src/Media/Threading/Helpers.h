@@ -20,7 +20,7 @@ public:
     /// them.
     static std::shared_ptr<Helpers> shared();
 
-    /// `count`: 0 or more.
+    /// `count`: 0 or more. There are fewer where the system starts no more threads.
     explicit Helpers(int count);
     Helpers(const Helpers&) = delete;
     Helpers& operator=(const Helpers&) = delete;

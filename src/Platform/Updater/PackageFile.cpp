@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brisklet {
@@ -29,6 +30,15 @@ bool lock(const QFile& file) {
     return true;
 }
 
+/// Whether the open file is still the one of its name.
+bool isNamed(const QFile& file) {
+    struct stat open = {};
+    struct stat named = {};
+    return ::fstat(file.handle(), &open) == 0 &&
+           ::lstat(QFile::encodeName(file.fileName()).constData(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
 bool isBeingDownloaded(const QFileInfo& entry) {
     QFile file(entry.filePath());
     return file.open(QIODevice::ReadOnly) && !lock(file);
@@ -45,15 +55,22 @@ PackageFile::~PackageFile() {
 
 bool PackageFile::create() {
     verifyMainThread();
-    if (!QDir().mkpath(QFileInfo(m_path).path()) || !m_file.open(QIODevice::ReadWrite))
-        return false;
-    if (!lock(m_file)) {
-        //: The new version of the program, by another window or session.
-        m_reason = tr("It is being downloaded already.");
+    constexpr int kAttempts = 10;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        if (!QDir().mkpath(QFileInfo(m_path).path()) || !m_file.open(QIODevice::ReadWrite))
+            return false;
+        if (!lock(m_file)) {
+            //: The new version of the program, by another window or session.
+            m_reason = tr("It is being downloaded already.");
+            m_file.close();
+            return false;
+        }
+        if (isNamed(m_file))
+            return m_file.resize(0);
+        // Before it was locked, another program completed or removed it.
         m_file.close();
-        return false;
     }
-    return m_file.resize(0);
+    return false;
 }
 
 bool PackageFile::flush() {

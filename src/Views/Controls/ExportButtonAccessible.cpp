@@ -20,7 +20,7 @@ public:
         QAccessible::State state = QAccessibleWidget::state();
         state.hasPopup = true;
         state.expandable = true;
-        state.expanded = m_button.menu()->isVisible();
+        state.expanded = m_button.isMenuOpen();
         return state;
     }
 

@@ -11,8 +11,9 @@ namespace brisklet {
 
 namespace {
 
-QString withoutMnemonic(QString text) {
-    return text.remove(u'&');
+/// Without the mnemonic, and the key that some titles carry after a tab.
+QString titleOf(const QAction& action) {
+    return action.text().section(u'\t', 0, 0).remove(u'&');
 }
 
 QString namesOf(const QList<QKeySequence>& keys) {
@@ -29,11 +30,10 @@ void append(QList<ShortcutGroup>& groups, const ShortcutGroup& group) {
 
 void appendMenus(QList<ShortcutGroup>& groups, const QMenuBar& menuBar) {
     for (const QAction* entry : menuBar.actions()) {
-        ShortcutGroup group{withoutMnemonic(entry->text()), {}};
+        ShortcutGroup group{titleOf(*entry), {}};
         for (const QAction* command : entry->menu()->actions()) {
             if (!command->shortcuts().isEmpty())
-                group.shortcuts << Shortcut{namesOf(command->shortcuts()),
-                                            withoutMnemonic(command->text())};
+                group.shortcuts << Shortcut{namesOf(command->shortcuts()), titleOf(*command)};
         }
         append(groups, group);
     }

@@ -217,6 +217,9 @@ void TimelineStrip::mouseReleaseEvent(QMouseEvent* event) {
 
 void TimelineStrip::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
+    // What the wheel does to a handle afterwards is another step to undo.
+    if (m_pointer)
+        m_state->history().endRun();
     m_pointer.reset();
     showHover();
 }
