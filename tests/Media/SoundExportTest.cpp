@@ -13,6 +13,7 @@
 #include <complex>
 #include <cstring>
 #include <numbers>
+#include <ostream>
 
 /// Every kind of sound comes out with its channels in their places, at its level and in its time.
 namespace media {
@@ -41,6 +42,9 @@ struct Sound {
         return std::string(encoder) + "_" + std::to_string(sampleRate) + "_" +
                std::to_string(channels) + (std::strchr(layout, '(') ? "_side" : "");
     }
+
+    /// Otherwise printed as bytes, among them addresses, which are part of the names of tests.
+    friend void PrintTo(const Sound& sound, std::ostream* stream) { *stream << sound.name(); }
 };
 
 /// The tone of each channel; what an effects channel holds lies below 120 Hz. Hz.

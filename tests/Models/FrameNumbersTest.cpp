@@ -6,9 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <limits>
 #include <ostream>
+#include <string>
 
 namespace brisklet {
 namespace {
@@ -52,7 +55,13 @@ INSTANTIATE_TEST_SUITE_P(
                     Recipe{.frameRate = {24000, 1001}, .bFrames = 0},
                     Recipe{.container = "mov", .frameRate = {60, 1}},
                     Recipe{.codec = VideoCodec::hevc, .frameRate = {25, 1}},
-                    Recipe{.codec = VideoCodec::mjpeg, .container = "mov", .frameRate = {50, 1}}));
+                    Recipe{.codec = VideoCodec::mjpeg, .container = "mov", .frameRate = {50, 1}}),
+    [](const testing::TestParamInfo<Recipe>& info) {
+        std::string name = info.param.fileName();
+        std::ranges::replace_if(
+            name, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+        return name;
+    });
 
 TEST(FrameNumbers, staysWithTheFirstAndTheLastFrameBeyondThem) {
     const FrameNumbers numbers = numbersOf(makeFixture({.duration = 1}).path);
