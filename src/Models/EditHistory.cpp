@@ -58,9 +58,6 @@ void EditHistory::begin(const Edit& edit) {
 void EditHistory::record(EditStep step, const Edit& edit, int run) {
     verifyMainThread();
     if (m_gestures > 0) {
-        // Another kind of edit in the middle of a drag is a step of its own.
-        if (m_pending && m_pending->step != step)
-            push(*m_pending, kNeverMerged);
         m_pending = Change{step, edit};
         return;
     }
