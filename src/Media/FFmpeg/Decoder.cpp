@@ -1,5 +1,6 @@
 #include "Media/FFmpeg/Decoder.h"
 
+#include "Media/FFmpeg/Bounds.h"
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/Threading/Processors.h"
@@ -25,6 +26,7 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     m_context.reset(allocated(avcodec_alloc_context3(codec)));
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
+    m_context->max_pixels = kMostPixels;
     m_context->thread_count = threads > 0 ? threads : usualThreads();
     if (sharing == Sharing::withinPictures) {
         m_context->thread_type = FF_THREAD_SLICE;

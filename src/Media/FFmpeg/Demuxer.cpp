@@ -1,5 +1,6 @@
 #include "Media/FFmpeg/Demuxer.h"
 
+#include "Media/FFmpeg/Bounds.h"
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/FFmpeg/ContainerTraits.h"
@@ -136,7 +137,12 @@ Demuxer::~Demuxer() = default;
 void Demuxer::findStreamInfo(const std::stop_token& stop) {
     const CallScope scope(*m_io, m_ioContext.get(), stop);
     const ClassicLocale classic;
-    const int result = avformat_find_stream_info(m_context.get(), nullptr);
+    std::vector<AVDictionary*> options(m_context->nb_streams);
+    for (AVDictionary*& each : options)
+        av_dict_set_int(&each, "max_pixels", kMostPixels, 0);
+    const int result = avformat_find_stream_info(m_context.get(), options.data());
+    for (AVDictionary*& each : options)
+        av_dict_free(&each);
     if (stop.stop_requested())
         throw Cancelled();
     check(result);

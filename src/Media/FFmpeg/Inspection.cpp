@@ -138,7 +138,7 @@ bool indexReachesEnd(const AVFormatContext& context, const SourceFile& file, AVS
         return false;
     const AVIndexEntry* last = avformat_index_get_entry(&stream, count - 1);
     const Time lastTime = timeOf(Timestamp(last->timestamp), stream.time_base);
-    return last->pos + last->size <= file.size() && (*end - lastTime).seconds() < kTailSeconds;
+    return last->pos <= file.size() - last->size && (*end - lastTime).seconds() < kTailSeconds;
 }
 
 /// Reads packets to the end of the file and notes where each stream ends.

@@ -19,12 +19,17 @@ constexpr std::size_t kFewestDistances = 8;
 /// most.
 constexpr double kHighestRate = 240;
 
+/// Stops at the end of the range: files can hold any timestamps.
+std::int64_t between(Timestamp earlier, Timestamp later) {
+    return av_sat_sub64(later.value(), earlier.value());
+}
+
 std::vector<std::int64_t> distances(std::vector<Timestamp> times) {
     std::ranges::sort(times);
     std::vector<std::int64_t> result;
     for (std::size_t i = 1; i < times.size(); ++i) {
         if (times[i] > times[i - 1])
-            result.push_back(times[i].value() - times[i - 1].value());
+            result.push_back(between(times[i - 1], times[i]));
     }
     return result;
 }
@@ -57,12 +62,12 @@ std::optional<double> rateBetweenGaps(std::vector<Timestamp> times, AVRational t
 std::optional<std::int64_t> constantDistance(std::vector<Timestamp> times) {
     std::ranges::sort(times);
     const auto differs = [&](Timestamp a, Timestamp b) {
-        return b.value() - a.value() != times[1].value() - times[0].value();
+        return between(a, b) != between(times[0], times[1]);
     };
     if (times.size() < 2 || times[0] == times[1] ||
         std::ranges::adjacent_find(times, differs) != times.end())
         return std::nullopt;
-    return times[1].value() - times[0].value();
+    return between(times[0], times[1]);
 }
 
 std::vector<Timestamp> indexedTimes(const AVFormatContext& context, AVStream& stream) {

@@ -19,11 +19,20 @@ bool isRate(AVRational rate) {
     return rate.num > 0 && rate.den > 0;
 }
 
+/// Whether it is as long as "01:02:03:04" or "01:02:03:004" at most, with no more than two digits
+/// of hours and no sign. Files can hold any text here, and libav adds up its numbers unchecked.
+bool isShort(const std::string& label) {
+    constexpr std::size_t kMostLetters = 12;
+    constexpr std::size_t kMostHourDigits = 2;
+    return label.size() <= kMostLetters && label.find(':') <= kMostHourDigits &&
+           label.find('-') == std::string::npos;
+}
+
 /// Whether labels of the form given can be counted at the rate, to the nearest whole one a usual
 /// one.
 bool canCount(const std::string& label, AVRational rate) {
     AVTimecode timecode;
-    return isRate(rate) && av_timecode_check_frame_rate(rate) >= 0 &&
+    return isShort(label) && isRate(rate) && av_timecode_check_frame_rate(rate) >= 0 &&
            av_timecode_init_from_string(&timecode, rate, label.c_str(), nullptr) >= 0;
 }
 

@@ -4,6 +4,7 @@
 #include "Media/Export/ExportTrial.h"
 #include "Media/Export/StagedExportSession.h"
 #include "Media/Export/WriteError.h"
+#include "Media/FFmpeg/Bounds.h"
 #include "Media/Pictures/DecodingImageGenerator.h"
 #include "Media/Playback/CubebOutput.h"
 #include "Media/Playback/ThreadedPlayer.h"
@@ -12,6 +13,10 @@
 
 #include <malloc.h>
 #include <utility>
+
+extern "C" {
+#include <libavutil/mem.h>
+}
 
 namespace media {
 
@@ -22,9 +27,16 @@ namespace {
 /// freed pictures leave holes in its heaps. Bytes.
 constexpr int kMappedBlockBytes = 1024 * 1024;
 
+/// The largest block that libav may ask for: a picture of most pixels in 32 bits. A file of a few
+/// bytes can claim an index for which libav would fill gigabytes.
+constexpr std::size_t kMostBlockBytes = std::size_t{4} * ffmpeg::kMostPixels;
+
 class BuiltInEngine final : public Engine {
 public:
-    BuiltInEngine() { ::mallopt(M_MMAP_THRESHOLD, kMappedBlockBytes); }
+    BuiltInEngine() {
+        ::mallopt(M_MMAP_THRESHOLD, kMappedBlockBytes);
+        ::av_max_alloc(kMostBlockBytes);
+    }
 
     [[nodiscard]] std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
                                                          std::stop_token stop) const override {
