@@ -56,8 +56,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Recipe{.container = "mov", .frameRate = {60, 1}},
                     Recipe{.codec = VideoCodec::hevc, .frameRate = {25, 1}},
                     Recipe{.codec = VideoCodec::mjpeg, .container = "mov", .frameRate = {50, 1}}),
-    [](const testing::TestParamInfo<Recipe>& info) {
-        std::string name = info.param.fileName();
+    [](const testing::TestParamInfo<Recipe>& tested) {
+        std::string name = tested.param.fileName();
         std::ranges::replace_if(
             name, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
         return name;

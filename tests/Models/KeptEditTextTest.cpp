@@ -150,7 +150,7 @@ TEST(KeptEditText, readsAnyBytes) {
                 text.insert(place, 1, " =,.%\n0-9e"[below(10)]);
             }
             if (text.empty())
-                text = "b";
+                text.push_back('b');
         }
         const KeptEditText read = KeptEditText::parse(text);
         readCount += read.records.size();
