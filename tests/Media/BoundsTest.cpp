@@ -91,5 +91,20 @@ TEST(Bounds, aTimecodeThatIsNoLabelCountsNothing) {
     EXPECT_EQ(ffmpeg::timecodeAt("01:00:00:00", {25, 1}, Time{1, 1}, {25, 1}), "01:00:01:00");
 }
 
+/// Read as an enumerator such a number is undefined behaviour, which the sanitizer tells of.
+TEST(Bounds, aColorNumberOfNoStandardIsNone) {
+    const TemporaryFolder folder;
+    std::string bytes = contentsOf(testsupport::cachedMedia(
+        "colour-number.mkv", {"-f", "lavfi", "-i", "testsrc2=d=0.2", "-c:v", "mjpeg", "-pix_fmt",
+                              "yuvj420p", "-color_trc", "bt709"}));
+    const std::string transfer = "\x55\xba\x81\x01";
+    const std::size_t place = bytes.find(transfer);
+    ASSERT_NE(place, std::string::npos);
+    bytes[place + 3] = '\x7f';
+    writeFile(folder / "video.mkv", bytes);
+    const auto asset = Asset::open(folder / "video.mkv");
+    EXPECT_EQ(asset->tracks(MediaType::video).at(0).color.transfer, "");
+}
+
 } // namespace
 } // namespace media

@@ -5,6 +5,8 @@
 #include "Media/FFmpeg/LibavReleases.h"
 
 #include <algorithm>
+#include <cstring>
+#include <type_traits>
 
 extern "C" {
 #include <libavutil/display.h>
@@ -27,6 +29,24 @@ bool isFullRange(int format) {
     return format == AV_PIX_FMT_YUVJ420P || format == AV_PIX_FMT_YUVJ422P ||
            format == AV_PIX_FMT_YUVJ444P || format == AV_PIX_FMT_YUVJ440P ||
            format == AV_PIX_FMT_YUVJ411P;
+}
+
+/// Matroska's numbers come through libav as they stand in the file: those that no enumerator has
+/// must not be read as one.
+template<typename Enum>
+void dropUnknown(Enum& value, Enum count, Enum unspecified) {
+    std::underlying_type_t<Enum> number = 0;
+    std::memcpy(&number, &value, sizeof number);
+    if (number >= static_cast<std::underlying_type_t<Enum>>(count))
+        value = unspecified;
+}
+
+void dropUnknownColors(AVCodecParameters& parameters) {
+    dropUnknown(parameters.color_primaries, AVCOL_PRI_NB, AVCOL_PRI_UNSPECIFIED);
+    dropUnknown(parameters.color_trc, AVCOL_TRC_NB, AVCOL_TRC_UNSPECIFIED);
+    dropUnknown(parameters.color_space, AVCOL_SPC_NB, AVCOL_SPC_UNSPECIFIED);
+    dropUnknown(parameters.color_range, AVCOL_RANGE_NB, AVCOL_RANGE_UNSPECIFIED);
+    dropUnknown(parameters.chroma_location, AVCHROMA_LOC_NB, AVCHROMA_LOC_UNSPECIFIED);
 }
 
 ColorDescription describeColor(const AVCodecParameters& parameters) {
@@ -110,6 +130,7 @@ bool isUsableStream(const AVFormatContext& context, const AVStream& stream) {
 }
 
 SourceTrack describeStream(AVFormatContext& context, AVStream& stream) {
+    dropUnknownColors(*stream.codecpar);
     SourceTrack track;
     track.timeBase = stream.time_base;
     track.disposition = stream.disposition;
