@@ -75,8 +75,10 @@ TEST(Bounds, theDistanceBetweenTheFarthestTimestampsIsPositive) {
     using ffmpeg::Timestamp;
     constexpr std::int64_t kFar = std::numeric_limits<std::int64_t>::max();
     EXPECT_EQ(ffmpeg::constantDistance({Timestamp(-kFar), Timestamp(kFar)}), kFar);
+    constexpr int kNear = 10;
     std::vector<Timestamp> times;
-    for (int i = 0; i < 10; ++i)
+    times.reserve(kNear + 2);
+    for (int i = 0; i < kNear; ++i)
         times.emplace_back(i);
     times.emplace_back(-kFar);
     times.emplace_back(kFar);

@@ -4,7 +4,7 @@
 #include "Media/FFmpeg/ContainerTraits.h"
 #include "Media/FFmpeg/LibavReleases.h"
 
-#include <algorithm>
+#include <array>
 #include <cstring>
 #include <type_traits>
 
@@ -70,10 +70,10 @@ ColorDescription describeColor(const AVCodecParameters& parameters) {
 
 AffineTransform displayTransform(const AVStream& stream) {
     const auto data = sideData(stream, AV_PKT_DATA_DISPLAYMATRIX);
-    if (data.size() < 9 * sizeof(std::int32_t))
+    std::array<std::int32_t, 9> matrix = {};
+    if (data.size() < sizeof matrix)
         return {};
-    std::int32_t matrix[9];
-    std::copy_n(data.data(), sizeof matrix, reinterpret_cast<std::uint8_t*>(matrix));
+    std::memcpy(matrix.data(), data.data(), sizeof matrix);
     constexpr double kOne = 65536;
     const AffineTransform transform{matrix[0] / kOne, matrix[1] / kOne, matrix[3] / kOne,
                                     matrix[4] / kOne, matrix[6] / kOne, matrix[7] / kOne};
