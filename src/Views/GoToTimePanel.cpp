@@ -98,13 +98,25 @@ std::optional<QString> GoToTimePanel::moveTo(const QString& text) {
         m_state->moveMarker(EditMarker::playhead, m_state->currentTime() + entry->seconds);
         return std::nullopt;
     case TimeEntry::Kind::frameOffset:
-        m_state->stepFrames(
-            static_cast<int>(std::clamp<qint64>(entry->frames, -kMostFrames, kMostFrames)));
+        moveByFrames(std::clamp<qint64>(entry->frames, -kMostFrames, kMostFrames));
         return std::nullopt;
     case TimeEntry::Kind::frameNumber:
         return moveToFrame(entry->frames);
     }
     return std::nullopt;
+}
+
+/// One jump where the frames have numbers: walking there would show each on the way.
+void GoToTimePanel::moveByFrames(qint64 count) {
+    const FrameNumbers& numbers = m_state->frameNumbers();
+    const auto current = numbers.at(m_state->currentTime());
+    if (!current) {
+        m_state->stepFrames(static_cast<int>(count));
+        return;
+    }
+    const qint64 number = std::clamp<qint64>(*current + count, 0, numbers.count() - 1);
+    if (const auto time = numbers.timeOf(number))
+        m_state->moveMarker(EditMarker::playhead, *time);
 }
 
 std::optional<QString> GoToTimePanel::moveToFrame(qint64 number) {

@@ -34,6 +34,7 @@ private:
     void go();
     /// Gives the reason why it could not.
     std::optional<QString> moveTo(const QString& text);
+    void moveByFrames(qint64 count);
     std::optional<QString> moveToFrame(qint64 number);
     void showHint();
     void showRefusal(const QString& reason);

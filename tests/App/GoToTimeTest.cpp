@@ -89,6 +89,15 @@ TEST_F(GoToTimeTest, movesThePlayheadToWhatIsTyped) {
     EXPECT_EQ(state().trimEnd(), 10);
 }
 
+/// Each frame on the way was decoded before: half a minute for a thousand of them.
+TEST_F(GoToTimeTest, jumpsOverTheFramesInBetween) {
+    ASSERT_TRUE(goesTo(QStringLiteral("1")));
+    ASSERT_TRUE(waitForTime(1));
+    const QPointer<GoToTimePanel> panel = openPanel();
+    type(panel, QStringLiteral("+120f"));
+    EXPECT_NEAR(state().currentTime(), 5, 0.001) << "at once, as after a seek";
+}
+
 TEST_F(GoToTimeTest, offersTheTimeThatItIs) {
     state().seek(2.5);
     const QPointer<GoToTimePanel> panel = openPanel();
