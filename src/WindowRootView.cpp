@@ -36,7 +36,7 @@ class CloseQuestion final : public QMessageBox {
 public:
     explicit CloseQuestion(QWidget* window)
         : QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"), {}, QMessageBox::NoButton,
-                      window, Sheet::flags()) {
+                      window, SheetFrame::flags()) {
         setAttribute(Qt::WA_DeleteOnClose);
         //: Answers “Stop the export and close?” with no.
         QPushButton* keep =
@@ -47,10 +47,18 @@ public:
     }
 
 protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        m_frame.shown(*this);
+    }
+
     void paintEvent(QPaintEvent* event) override {
         QMessageBox::paintEvent(event);
-        Sheet::paintFrame(*this);
+        m_frame.paint(*this);
     }
+
+private:
+    SheetFrame m_frame;
 };
 
 } // namespace

@@ -7,21 +7,34 @@
 #include <QPainter>
 #include <QWindow>
 
+#include <utility>
+
 namespace brisklet {
 
-Sheet::Sheet(QWidget* window) : QDialog(window, flags()) {
+void SheetFrame::paint(QDialog& dialog) {
+    verifyMainThread();
+    QPainter painter(&dialog);
+    painter.setPen(QPen(theme::secondary(dialog.palette()), 1));
+    painter.drawRect(QRectF(dialog.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    QWindow* window = dialog.windowHandle();
+    const auto place = std::exchange(m_place, std::nullopt);
+    if (place && window != nullptr && window->position() != *place)
+        QMetaObject::invokeMethod(
+            window, [window, place] { window->setPosition(*place); }, Qt::QueuedConnection);
+}
+
+Sheet::Sheet(QWidget* window) : QDialog(window, SheetFrame::flags()) {
     verifyMainThread();
 }
 
-void Sheet::paintFrame(QWidget& sheet) {
-    QPainter painter(&sheet);
-    painter.setPen(QPen(theme::secondary(sheet.palette()), 1));
-    painter.drawRect(QRectF(sheet.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+void Sheet::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    m_frame.shown(*this);
 }
 
 void Sheet::paintEvent(QPaintEvent* event) {
     QDialog::paintEvent(event);
-    paintFrame(*this);
+    m_frame.paint(*this);
 }
 
 void Sheet::mousePressEvent(QMouseEvent* event) {
