@@ -39,6 +39,7 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     : Sheet(window),
       m_title(new QLabel(tr("Exporting…"))),
       m_bar(new QProgressBar),
+      m_cancel(new QPushButton(tr("Cancel"))),
       // Never empty, so that the sheet does not grow when there is something to say.
       m_caption(new QLabel(QStringLiteral(" "))) {
     //: A title, a noun: the act of exporting.
@@ -48,9 +49,8 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     m_bar->setRange(0, kBarSteps);
     m_bar->setFixedWidth(kBarWidth);
     m_bar->setTextVisible(false);
-    auto* cancel = new QPushButton(tr("Cancel"));
-    cancel->setAutoDefault(false);
-    connect(cancel, &QPushButton::clicked, this, [model = std::move(state)] {
+    m_cancel->setAutoDefault(false);
+    connect(m_cancel, &QPushButton::clicked, this, [model = std::move(state)] {
         if (const auto alive = model.lock())
             alive->cancelExport();
     });
@@ -65,8 +65,8 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     progress->addWidget(m_bar, 0, Qt::AlignHCenter);
     progress->addWidget(m_caption, 0, Qt::AlignHCenter);
     stack->addLayout(progress);
-    stack->addWidget(cancel, 0, Qt::AlignHCenter);
-    cancel->setFocus();
+    stack->addWidget(m_cancel, 0, Qt::AlignHCenter);
+    m_cancel->setFocus();
     m_sinceStart.start();
     connect(&m_tick, &QTimer::timeout, this, &ExportProgressView::showRemaining);
     m_tick.start(kTick);
@@ -78,6 +78,18 @@ void ExportProgressView::showEvent(QShowEvent* event) {
     Sheet::showEvent(event);
     if (m_block == nullptr)
         m_block = new WindowBlock(*parentWidget()->window(), *this);
+}
+
+bool ExportProgressView::event(QEvent* event) {
+    // Beside a question whether to stop the export, a second answer would be in doubt; assistive
+    // programs press buttons of windows that wait for another, too.
+    if (event->type() == QEvent::WindowBlocked)
+        m_cancel->setEnabled(false);
+    if (event->type() == QEvent::WindowUnblocked) {
+        m_cancel->setEnabled(true);
+        m_cancel->setFocus();
+    }
+    return Sheet::event(event);
 }
 
 void ExportProgressView::closeEvent(QCloseEvent* event) {

@@ -10,6 +10,7 @@
 
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 namespace brisklet {
 
@@ -37,6 +38,7 @@ Q_SIGNALS:
     void quitRequested();
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -47,6 +49,7 @@ private:
 
     QLabel* m_title;
     QProgressBar* m_bar;
+    QPushButton* m_cancel;
     QLabel* m_caption;
     RemainingTime m_remaining;
     QElapsedTimer m_sinceStart;

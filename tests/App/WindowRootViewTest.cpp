@@ -204,6 +204,23 @@ TEST_F(WindowRootViewTest, namesTheAnswersAfterWhatBecomesOfTheExport) {
     EXPECT_TRUE(m_window->state()->exportProgress());
 }
 
+/// An assistive program can press what stands below a question.
+TEST_F(WindowRootViewTest, leavesOneAnswerOnlyBesideTheQuestion) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    QWidget* sheet = m_window->content().attachedSheet();
+    ASSERT_NE(sheet, nullptr);
+    const auto* cancel = sheet->findChild<QPushButton*>();
+    ASSERT_NE(cancel, nullptr);
+    EXPECT_TRUE(cancel->isEnabled());
+    m_window->close();
+    QMessageBox* question = visibleQuestion(*m_window);
+    ASSERT_NE(question, nullptr);
+    EXPECT_FALSE(cancel->isEnabled());
+    clickRole(*question, QMessageBox::RejectRole);
+    pumpPending();
+    EXPECT_TRUE(cancel->isEnabled());
+}
+
 /// The keyboard is with the sheet, which took the keys and did nothing.
 TEST_F(WindowRootViewTest, asksByTheKeysOfTheWindowWhileTheSheetHasTheKeyboard) {
     ASSERT_TRUE(startLongExport(*m_window));
