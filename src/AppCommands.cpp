@@ -151,6 +151,9 @@ void AppCommands::makeEditActions() {
         if (const auto state = m_focusedValues.editState())
             state->history().redo();
     });
+    // The names on the page of keys, whatever the next step is.
+    m_undo->setIconText(tr("Undo"));
+    m_redo->setIconText(tr("Redo"));
     // Holding the key down goes through the steps.
     m_undo->setAutoRepeat(true);
     m_redo->setAutoRepeat(true);

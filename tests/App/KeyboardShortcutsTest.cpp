@@ -56,6 +56,15 @@ TEST_F(KeyboardShortcutsTest, listEachCommandThatHasAKey) {
     EXPECT_EQ(keysOf(QStringLiteral("Close Video")), QStringLiteral("Esc, Ctrl+W"));
 }
 
+/// The page stays open while the next step changes.
+TEST_F(KeyboardShortcutsTest, nameUndoAndRedoApartFromTheNextStep) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(2)));
+    m_window->state()->rotateLeft();
+    EXPECT_EQ(keysOf(QStringLiteral("Undo Rotate")), QString());
+    EXPECT_EQ(keysOf(QStringLiteral("Undo")), QStringLiteral("Ctrl+Z"));
+    EXPECT_EQ(keysOf(QStringLiteral("Redo")), QStringLiteral("Ctrl+Shift+Z, Ctrl+Y"));
+}
+
 /// A shortcut without a name would stand there without a word.
 TEST_F(KeyboardShortcutsTest, nameEachKeyOfAControl) {
     const auto keys = m_window->findChildren<QShortcut*>();

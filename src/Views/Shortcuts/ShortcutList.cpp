@@ -11,9 +11,10 @@ namespace brisklet {
 
 namespace {
 
-/// Without the mnemonic, and the key that some titles carry after a tab.
+/// Without the mnemonic, and the key that some titles carry after a tab. A command whose title
+/// changes has its name as the text beside an icon.
 QString titleOf(const QAction& action) {
-    return action.text().section(u'\t', 0, 0).remove(u'&');
+    return action.iconText().section(u'\t', 0, 0).remove(u'&');
 }
 
 QString namesOf(const QList<QKeySequence>& keys) {
