@@ -10,9 +10,9 @@ namespace {
 
 /// What an export takes however short it is: decoders and encoders are opened, the file is checked
 /// and brought to disk. Seconds.
-constexpr double kConstantSeconds = 0.04;
+constexpr double kConstantSeconds = 0.006;
 /// What is lost until all stages work: up to so many seconds, of which short exports see a part.
-constexpr double kRampSeconds = 0.2;
+constexpr double kRampSeconds = 0.05;
 /// How much of the processors an export keeps busy.
 constexpr double kUtilisation = 0.92;
 

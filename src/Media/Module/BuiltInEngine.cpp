@@ -66,7 +66,10 @@ public:
     forecastExport(const Composition& composition,
                    const std::optional<VideoComposition>& videoComposition,
                    const EncoderSettings& settings, const std::stop_token& stop) const override {
-        return runTrial(composition, videoComposition, settings, stop);
+        auto forecast = runTrial(composition, videoComposition, settings, stop);
+        // Encoders need much for a moment; the window is at rest afterwards, for hours perhaps.
+        ::malloc_trim(0);
+        return forecast;
     }
 
     void removeLeftovers(const std::filesystem::path& output) const override {
