@@ -8,8 +8,8 @@ namespace brisklet {
 
 /// The look and the place of a dialog that is a sheet. Main thread.
 ///
-/// On X11 Qt may ask where the dialog is between the window manager's taking it into a frame and the
-/// frame's moving to its place, take the corner of the screen for its place, and never hear of
+/// On X11 Qt may ask where the dialog is between the window manager's taking it into a frame and
+/// the frame's moving to its place, take the corner of the screen for its place, and never hear of
 /// another: its popups would appear there, and an assistive program would click there.
 class SheetFrame final {
 public:
