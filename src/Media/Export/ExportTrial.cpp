@@ -26,9 +26,10 @@ constexpr double kBudget = 1.3;
 constexpr double kSoundEnd = 0.15;
 constexpr double kPicturesEnd = 1.2;
 
-/// Where the sound is tried, as fractions of the range, and for how long, in seconds.
+/// Where the sound is tried, as fractions of the range, and for how long, in seconds: long enough
+/// that what each place costs before its first sample, which an export pays once, hardly counts.
 constexpr std::array kSoundPlaces = {0.5, 0.1, 0.9, 0.3, 0.7};
-constexpr double kSoundSeconds = 0.4;
+constexpr double kSoundSeconds = 1;
 
 /// A stretch of the range that begins at that fraction of what is left beside it.
 TimeRange stretch(const TimeRange& range, double place, double seconds) {
@@ -82,6 +83,7 @@ private:
         m_figures.sound.bytes += std::llround(static_cast<double>(sound.bytes) * share);
         m_figures.sound.processorSeconds += sound.processorSeconds * share;
         m_figures.sound.seconds += sound.seconds;
+        m_figures.sound.tracks = static_cast<int>(m_composition.audioTracks.size());
         m_soundPackets = std::llround(static_cast<double>(packets) * share);
     }
 

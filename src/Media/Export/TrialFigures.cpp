@@ -53,7 +53,7 @@ double duration(const TrialFigures& figures) {
         pictures * (figures.decodeSeconds + figures.transformSeconds + figures.encodeSeconds) +
         soundSeconds;
     const double longestStage =
-        std::max(pictures * figures.transformSeconds / figures.makers, soundSeconds);
+        std::max(pictures * figures.transformSeconds / figures.makers, soundSeconds / sound.tracks);
     const double work = std::max(all / (figures.processors * kUtilisation), longestStage);
     return kConstantSeconds + kRampSeconds * (1 - std::exp(-work / kRampSeconds)) + work;
 }

@@ -15,8 +15,9 @@ struct TrialPlace {
     std::int64_t laterBytes = 0;
 };
 
-/// What was measured of the sound; all tracks together.
+/// What was measured of the sound; all tracks together, each of which has a thread of its own.
 struct TrialSound {
+    int tracks = 1;
     double seconds = 0;
     std::int64_t bytes = 0;
     double processorSeconds = 0;
