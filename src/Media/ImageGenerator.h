@@ -3,10 +3,21 @@
 #include "Media/Asset.h"
 #include "Media/Image.h"
 
+#include <cstddef>
+#include <exception>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <stop_token>
+#include <vector>
 
 namespace media {
+
+/// One of several stills: the picture, or why there is none.
+struct Still {
+    std::optional<TimedImage> picture;
+    std::exception_ptr failure;
+};
 
 /// Makes upright stills of an asset's first video track. Use from one thread at a time; every
 /// operation blocks for as long as decoding takes.
@@ -30,6 +41,13 @@ public:
     /// The still for `time`. Throws Error if no frame there can be decoded or the time is not
     /// numeric; Cancelled if `stop` is requested.
     [[nodiscard]] virtual TimedImage image(Time time, std::stop_token stop = {}) = 0;
+
+    /// The stills for `times`, as image() makes them, in the order of `times`. Several are made at
+    /// the same time where there are processors for it; ascending times cost least. `onStill` is
+    /// called after each, on any thread, by one at a time. Throws Cancelled if `stop` is requested.
+    [[nodiscard]] virtual std::vector<Still> images(const std::vector<Time>& times,
+                                                    const std::function<void()>& onStill,
+                                                    std::stop_token stop = {}) = 0;
 
 protected:
     ImageGenerator() = default;

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <exception>
 #include <optional>
+#include <vector>
 
 namespace brisklet::Thumbnailer {
 
@@ -56,14 +57,14 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
         const media::Time tolerance = media::Time::fromSeconds(
             std::min(kToleranceSeconds, duration / count / 2), media::kComparisonTimescale);
         generator->setTolerance(tolerance, tolerance);
-        for (int index = 0; index < count && !stop.stop_requested(); ++index) {
-            try {
-                const media::Time time = middleOfSlice(index, duration, count);
-                images.append(toQImage(generator->image(time, stop).image));
-            } catch (const std::exception&) {
-                // The strip goes on without this image: a damaged spot must not hide the rest.
-            }
-            lease->renew();
+        std::vector<media::Time> times;
+        for (int index = 0; index < count; ++index)
+            times.push_back(middleOfSlice(index, duration, count));
+        // A damaged spot must not hide the rest.
+        for (media::Still& still : generator->images(
+                 times, [&] { lease->renew(); }, stop)) {
+            if (still.picture)
+                images.append(toQImage(std::move(still.picture->image)));
         }
     } catch (const std::exception&) {
         // Without a generator there are no images; the timeline shows a placeholder.

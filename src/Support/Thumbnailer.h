@@ -15,7 +15,7 @@ namespace brisklet::Thumbnailer {
 /// `count` upright images, at most 120 pixels high, from the middles of `count` equal slices of
 /// `duration` (seconds), in time order. Each may show a frame up to half a second away. Images that
 /// cannot be made are left out; never throws. Works on a worker thread and resumes the caller on
-/// its own; a stop request ends it early with the images made so far. Strips are made one at a
+/// its own; a stop request ends it early, without images. Strips are made one at a
 /// time, the newest request first.
 QCoro::Task<QList<QImage>> filmstrip(const std::shared_ptr<const media::Asset>& asset,
                                      double duration, int count, const std::stop_token& stop = {});

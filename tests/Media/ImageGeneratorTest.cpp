@@ -69,6 +69,54 @@ TEST(ImageGenerator, staysWithinItsTolerance) {
     EXPECT_NEAR(generator.image(seconds(8.2)).time.seconds(), 8.2, 0.034);
 }
 
+// Long groups of pictures, so that a still is far behind its key frame; and one of a few pictures.
+TEST(ImageGenerator, makesSeveralStillsAsItMakesEach) {
+    for (const Fixture& fixture :
+         {makeFixture({.duration = 16, .groupOfPictures = 250}), makeFixture({.duration = 1}),
+          makeFixture({.container = "ts", .duration = 4})}) {
+        const double duration = fixture.frames.back().seconds;
+        std::vector<Time> times;
+        for (int i = 0; i < 12; ++i)
+            times.push_back(seconds((i + 0.5) * duration / 12));
+        DecodingImageGenerator generator(Asset::open(fixture.path));
+        generator.setMaximumSize(0, 120);
+        for (const double tolerance : {0.0, std::min(0.5, duration / 24)}) {
+            generator.setTolerance(seconds(tolerance), seconds(tolerance));
+            int calls = 0;
+            const std::vector<Still> stills = generator.images(times, [&] { ++calls; });
+            EXPECT_EQ(calls, 12);
+            ASSERT_EQ(stills.size(), times.size());
+            for (std::size_t i = 0; i < times.size(); ++i) {
+                ASSERT_TRUE(stills[i].picture);
+                const TimedImage& still = *stills[i].picture;
+                EXPECT_NEAR(still.time.seconds(), times[i].seconds(),
+                            std::max(tolerance + 0.001, 0.034));
+                EXPECT_EQ(still.image->height, 120);
+                ASSERT_TRUE(numberIn(*still.image));
+                const auto number = static_cast<std::size_t>(*numberIn(*still.image));
+                EXPECT_NEAR(fixture.frames.at(number).seconds, still.time.seconds(), 0.001);
+            }
+        }
+    }
+}
+
+TEST(ImageGenerator, saysOfEachStillWhyThereIsNone) {
+    DecodingImageGenerator generator(Asset::open(makeFixture({}).path));
+    const std::vector<Still> stills =
+        generator.images({seconds(1), Time::invalid(), seconds(2)}, {});
+    ASSERT_EQ(stills.size(), 3U);
+    EXPECT_TRUE(stills[0].picture);
+    EXPECT_TRUE(stills[2].picture);
+    EXPECT_FALSE(stills[1].picture);
+    EXPECT_EQ(errorOf([&] { std::rethrow_exception(stills[1].failure); }),
+              "There is no picture at this time.");
+    EXPECT_TRUE(generator.images({}, {}).empty());
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THROW(static_cast<void>(generator.images({seconds(1)}, {}, stop.get_token())),
+                 Cancelled);
+}
+
 TEST(ImageGenerator, fitsIntoItsMaximumSizeAndNeverEnlarges) {
     const Fixture fixture = makeFixture({});
     DecodingImageGenerator generator(Asset::open(fixture.path));

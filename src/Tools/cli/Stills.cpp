@@ -13,9 +13,12 @@
 
 #include <array>
 #include <cstdio>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace brisklet::cli {
 
@@ -46,6 +49,15 @@ QByteArray pngOf(media::ImagePtr image) {
     return bytes;
 }
 
+/// What the engine says of a still that it could not make; anything but its errors is passed on.
+std::string reasonOf(const std::exception_ptr& failure) {
+    try {
+        std::rethrow_exception(failure);
+    } catch (const media::Error& error) {
+        return localizedMessage(error).toStdString();
+    }
+}
+
 std::string stillName(int number) {
     std::array<char, 16> name = {};
     std::snprintf(name.data(), name.size(), "%02d.png", number);
@@ -70,23 +82,24 @@ void run(const FilmstripCommand& command, const std::stop_token& stop) {
     createDirectory(command.directory);
 
     const double duration = asset->duration().seconds();
+    std::vector<media::Time> requested;
+    for (int i = 0; i < command.count && duration > 0; ++i)
+        requested.push_back(timeOf((i + 0.5) * duration / command.count));
     QJsonArray times;
     //: A reason: it is about the video.
     std::string lastFailure = message(ToolText::tr("It has no length."));
-    for (int i = 0; i < command.count && duration > 0; ++i) {
-        const media::Time requested = timeOf((i + 0.5) * duration / command.count);
-        std::optional<media::TimedImage> still;
-        try {
-            still = generator->image(requested, stop);
-        } catch (const media::Error& error) {
+    std::vector<media::Still> stills = generator->images(requested, {}, stop);
+    for (std::size_t i = 0; i < stills.size(); ++i) {
+        std::optional<media::TimedImage>& picture = stills[i].picture;
+        if (!picture) {
             // As in the window, a damaged place costs only its own picture.
-            lastFailure = localizedMessage(error).toStdString();
+            lastFailure = reasonOf(stills[i].failure);
             continue;
         }
         const auto number = static_cast<int>(times.size());
-        writeFile(command.directory / stillName(number), pngOf(std::move(still->image)));
-        times.append(QJsonObject{{QStringLiteral("requested"), requested.seconds()},
-                                 {QStringLiteral("actual"), still->time.seconds()}});
+        writeFile(command.directory / stillName(number), pngOf(std::move(picture->image)));
+        times.append(QJsonObject{{QStringLiteral("requested"), requested[i].seconds()},
+                                 {QStringLiteral("actual"), picture->time.seconds()}});
     }
     if (times.isEmpty())
         throw CommandError(message(ToolText::tr("Couldn’t make a filmstrip of “%1”: %2"),
