@@ -88,7 +88,7 @@ void PlaybackState::replaceItem(std::shared_ptr<const PlayerItem> item, SteadyTi
     const auto tracks =
         m_item ? m_item->asset()->tracks(MediaType::video) : std::vector<AssetTrack>();
     m_pictureSize = tracks.empty() ? Size{1, 1} : orientedSize(tracks.front());
-    const double rate = tracks.empty() ? 0 : tracks.front().nominalFrameRate;
+    const auto rate = tracks.empty() ? 0.0 : static_cast<double>(tracks.front().nominalFrameRate);
     m_frameTicks = Ticks::kPerSecond / (rate > 0 ? rate : kUsualFrameRate);
     m_immediate.reset();
     m_seek.reset();
