@@ -91,9 +91,10 @@ std::vector<Still> DecodingImageGenerator::images(const std::vector<Time>& times
 int DecodingImageGenerator::generatorsFor(std::size_t count) const {
     const Size size = m_track.naturalSize;
     const auto pixels = static_cast<std::int64_t>(std::max(size.width * size.height, 1.0));
+    // One more than processors, since their parts are not of equal length.
     const auto wanted = std::min<std::int64_t>(kMostPixelsAtOnce / pixels, kMostGenerators);
     return static_cast<int>(
-        std::min<std::int64_t>({wanted, processorCount(), static_cast<std::int64_t>(count)}));
+        std::min<std::int64_t>({wanted, processorCount() + 1, static_cast<std::int64_t>(count)}));
 }
 
 std::unique_ptr<DecodingImageGenerator> DecodingImageGenerator::another(int threads) const {
