@@ -36,17 +36,20 @@ bool DragEscape::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT interrupted();
         return false;
     }
-    if ((type != QEvent::ShortcutOverride && type != QEvent::KeyPress) || !hasEscapeKey() ||
-        !isEscape(*static_cast<QKeyEvent*>(event)))
+    if ((type != QEvent::ShortcutOverride && type != QEvent::KeyPress) || !hasKeyboard())
+        return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (key.key() == Qt::Key_Shift)
         return false;
     event->accept();
-    if (const auto takeBack =
-            type == QEvent::KeyPress ? std::exchange(m_takeBack, {}) : std::function<void()>())
-        takeBack();
+    if (type == QEvent::KeyPress && isEscape(key)) {
+        if (const auto takeBack = std::exchange(m_takeBack, {}))
+            takeBack();
+    }
     return true;
 }
 
-bool DragEscape::hasEscapeKey() const {
+bool DragEscape::hasKeyboard() const {
     const QWidget* active = QApplication::activeWindow();
     return (active == nullptr || active->parentWidget() == nullptr) &&
            QApplication::activePopupWidget() == nullptr;

@@ -8,9 +8,9 @@ class QWidget;
 
 namespace brisklet {
 
-/// Makes the Escape key take back the drag of a view while the mouse button is held. The key then
-/// reaches neither the window, which it would close, nor its commands. Dialogs and menus keep the
-/// key. Main thread.
+/// Makes the Escape key take back the drag of a view while the mouse button is held. Other keys do
+/// nothing meanwhile: what they change would be a part of the drag. Only Shift goes on to the view.
+/// Dialogs and menus keep their keys. Main thread.
 ///
 ///     no drag ──begin──▶ drag ──Escape: takeBack──▶ held ──end──▶ no drag
 ///                         └──────────end──────────────────────────▲
@@ -36,7 +36,7 @@ Q_SIGNALS:
     void interrupted();
 
 private:
-    [[nodiscard]] bool hasEscapeKey() const;
+    [[nodiscard]] bool hasKeyboard() const;
 
     QWidget& m_view;
     std::function<void()> m_takeBack;

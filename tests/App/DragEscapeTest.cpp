@@ -5,11 +5,14 @@
 #include "Views/ContentView.h"
 #include "Views/Crop/CropOverlayView.h"
 #include "Views/ErrorAlert.h"
+#include "Views/GoToTimePanel.h"
 #include "Views/Timeline/TimelineStrip.h"
 
+#include <QApplication>
 #include <QPointer>
 #include <QPointingDevice>
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 
@@ -68,6 +71,29 @@ protected:
         expectAsBefore();
     }
 
+    /// Keys of commands, of controls, of the marker that has the focus and of a menu.
+    void expectNoKeyActsIn(const Pointer& pointer, const QPoint& from, const QPoint& to) {
+        pointer.press(from);
+        pointer.moveTo(to);
+        const Edit dragged = state().edit();
+        const double time = state().currentTime();
+        for (const QKeyCombination key : std::initializer_list<QKeyCombination>{
+                 Qt::Key_R, Qt::Key_K, Qt::Key_M, Qt::Key_BracketLeft, Qt::Key_BracketRight,
+                 Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Down,
+                 Qt::Key_PageUp, Qt::Key_Space, Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y,
+                 Qt::CTRL | Qt::Key_G, Qt::CTRL | Qt::Key_W, Qt::ALT | Qt::Key_C}) {
+            testsupport::clickKey(m_window->windowHandle(), key.key(), key.keyboardModifiers());
+            pumpPending();
+            ASSERT_TRUE(m_window && m_window->isVisible()) << key.key();
+            EXPECT_EQ(state().edit(), dragged) << key.key();
+            EXPECT_EQ(state().currentTime(), time) << key.key();
+            EXPECT_EQ(m_window->findChild<GoToTimePanel*>(), nullptr);
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        }
+        EXPECT_FALSE(state().isPlaying());
+        pointer.release(to);
+    }
+
     void expectClosedByEscape() {
         pressEscape();
         EXPECT_TRUE(pumpUntil([this] { return m_window.isNull(); }));
@@ -107,15 +133,22 @@ TEST_F(DragEscapeTest, putsAScrubbedPlayheadBack) {
     expectClosedByEscape();
 }
 
-TEST_F(DragEscapeTest, keepsWhatWasSetToThePlayheadWhileItWasScrubbed) {
-    m_timeline->press(at(4));
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_BracketLeft);
-    const double set = state().trimStart();
-    ASSERT_NEAR(set, 4, 0.05);
-    pressEscape();
-    EXPECT_EQ(state().currentTime(), 5);
-    EXPECT_EQ(state().trimStart(), set);
-    m_timeline->release(at(4));
+/// They merged into the step of the drag, so that undo took both back under its name.
+TEST_F(DragEscapeTest, letsNoOtherKeyActUntilTheMouseIsReleased) {
+    const media::Rect crop{0.25, 0.25, 0.5, 0.5};
+    state().setCropRect(crop);
+    pumpPending();
+    const QPoint middle = m_overlay->cropViewRect().center().toPoint();
+    expectNoKeyActsIn(*m_timeline, handle(EditMarker::trimStart), at(4));
+    expectNoKeyActsIn(*m_timeline, handle(EditMarker::trimEnd), at(7));
+    expectNoKeyActsIn(*m_timeline, at(6), at(5));
+    expectNoKeyActsIn(*m_crop, middle, middle + QPoint(30, 20));
+
+    // The drag of the crop, and nothing with it.
+    testsupport::clickKey(m_window->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(state().cropRect(), crop);
+    testsupport::clickKey(m_window->windowHandle(), Qt::Key_R);
+    EXPECT_EQ(state().rotation(), 270);
 }
 
 TEST_F(DragEscapeTest, goesOnPlayingWhereAHandlePausedIt) {
