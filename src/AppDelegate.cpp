@@ -14,6 +14,11 @@ void AppDelegate::applicationDidFinishLaunching() {
     QCoreApplication::instance()->installEventFilter(m_escapeMonitor);
 }
 
+void AppDelegate::exportEnded(QWidget& window) {
+    if (m_escapeMonitor != nullptr)
+        m_escapeMonitor->sheetGone(window);
+}
+
 void AppDelegate::open(const QList<QUrl>& files) {
     for (const QUrl& file : files)
         OpenBridge::open(file);

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QUrl>
 
+class QWidget;
+
 namespace brisklet {
 
 class EscapeMonitor;
@@ -20,6 +22,9 @@ public:
 
     /// Opens files from outside, in this order.
     static void open(const QList<QUrl>& files);
+
+    /// To be called when an export has ended, and its sheet over the window has gone.
+    void exportEnded(QWidget& window);
 
     static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
 

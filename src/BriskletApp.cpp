@@ -183,6 +183,10 @@ WindowRootView* BriskletApp::openWindow() {
                 if (isAsking && self && !self->state()->exportProgress())
                     quit();
             });
+    // Not after a cancellation: that is the user's own.
+    const auto exportEnded = [this, window] { m_delegate.exportEnded(*window); };
+    connect(window->state().get(), &EditState::exportFinished, window, exportEnded);
+    connect(window->state().get(), &EditState::exportFailed, window, exportEnded);
     connect(window, &WindowRootView::becameNeedless, this, [this, window] {
         if (windows().size() > 1 && window->state()->isEmpty())
             window->close();

@@ -18,6 +18,11 @@ bool hasSheet(const QWidget& window) {
     });
 }
 
+/// Such as the alert that follows a failed export.
+bool isDialogOf(const QWidget& window, const QWidget& dialog) {
+    return dialog.parentWidget() != nullptr && dialog.parentWidget()->window() == &window;
+}
+
 bool isClosable(const QWidget& window) {
     const Qt::WindowFlags flags = window.windowFlags();
     return !flags.testFlag(Qt::CustomizeWindowHint) || flags.testFlag(Qt::WindowCloseButtonHint);
@@ -25,14 +30,40 @@ bool isClosable(const QWidget& window) {
 
 } // namespace
 
+void EscapeMonitor::sheetGone(QWidget& window) {
+    m_uncovered = &window;
+    m_longestWait.setRemainingTime(QApplication::doubleClickInterval());
+}
+
 bool EscapeMonitor::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || !closesWindow(*static_cast<QKeyEvent*>(event)))
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if ((!isPress && event->type() != QEvent::ShortcutOverride) ||
+        !closesWindow(*static_cast<QKeyEvent*>(event)))
         return QObject::eventFilter(watched, event);
-    QWidget* window = windowToClose();
+    if (isMeantForSheet(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    QWidget* window = isPress ? windowToClose() : nullptr;
     if (window == nullptr)
         return false;
     window->close();
     return true;
+}
+
+bool EscapeMonitor::isMeantForSheet(const QKeyEvent& event) {
+    // Decided before a command takes the key.
+    if (event.type() != QEvent::ShortcutOverride)
+        return m_isHeldBack;
+    const QWidget* active = QApplication::activeWindow();
+    const bool isThere = m_uncovered && active != nullptr &&
+                         QApplication::activePopupWidget() == nullptr &&
+                         (active == m_uncovered || isDialogOf(*m_uncovered, *active));
+    if (isThere)
+        m_uncovered.clear();
+    const bool isInTime = isThere && !m_longestWait.hasExpired();
+    m_isHeldBack = isInTime || (m_isHeldBack && event.isAutoRepeat());
+    return m_isHeldBack;
 }
 
 bool EscapeMonitor::closesWindow(const QKeyEvent& event) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 class QKeyEvent;
-class QWidget;
 
 namespace brisklet {
 
@@ -16,11 +18,22 @@ class EscapeMonitor final : public QObject {
 public:
     using QObject::QObject;
 
+    /// To be called when the sheet over a window has gone by itself. The first press of the key
+    /// within the desktop's double-click interval was meant for the sheet, and does nothing.
+    void sheetGone(QWidget& window);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool isMeantForSheet(const QKeyEvent& event);
     static bool closesWindow(const QKeyEvent& event);
     static QWidget* windowToClose();
+
+    /// Whose sheet has gone, until the next press of the key in it.
+    QPointer<QWidget> m_uncovered;
+    QDeadlineTimer m_longestWait;
+    /// The key was meant for the sheet when it was pressed, and is held perhaps.
+    bool m_isHeldBack = false;
 };
 
 } // namespace brisklet
