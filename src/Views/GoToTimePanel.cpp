@@ -32,10 +32,26 @@ constexpr int kMessageLines = 2;
 /// A step counts in an int.
 constexpr qint64 kMostFrames = 1'000'000'000;
 
+/// Why a text is refused that is no entry.
+QString refusalOf(const QString& text) {
+    const auto withSign = TimeEntry::parse(u'+' + text.trimmed());
+    if (withSign && withSign->kind == TimeEntry::Kind::frameOffset)
+        //: Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.
+        return GoToTimePanel::tr(
+                   "Type +%1f to move by frames, or #%1 for the frame of that number.")
+            .arg(withSign->frames);
+    //: The letter “f” for frames is the same in all languages.
+    return GoToTimePanel::tr("This is no time. Type one such as 1:23.456, +10f or #2412.");
+}
+
+QString beforeTheStart() {
+    return GoToTimePanel::tr("The video starts at %1.").arg(exactTimelineLabel(0));
+}
+
 } // namespace
 
 GoToTimePanel::GoToTimePanel(std::shared_ptr<EditState> state, QWidget* window)
-    : QDialog(window),
+    : Sheet(window),
       m_state(std::move(state)),
       m_field(new QLineEdit(exactTimelineLabel(m_state->currentTime()))),
       m_message(new QLabel) {
@@ -86,37 +102,38 @@ void GoToTimePanel::go() {
 std::optional<QString> GoToTimePanel::moveTo(const QString& text) {
     const auto entry = TimeEntry::parse(text);
     if (!entry)
-        //: The letter “f” for frames is the same in all languages.
-        return tr("This is no time. Type one such as 1:23.456, +10f or #2412.");
+        return refusalOf(text);
     switch (entry->kind) {
     case TimeEntry::Kind::time:
-        if (entry->seconds > m_state->duration() + kRounding)
-            return tr("The video ends at %1.").arg(exactTimelineLabel(m_state->duration()));
-        m_state->moveMarker(EditMarker::playhead, entry->seconds);
-        return std::nullopt;
+        return moveToTime(entry->seconds);
     case TimeEntry::Kind::timeOffset:
-        m_state->moveMarker(EditMarker::playhead, m_state->currentTime() + entry->seconds);
-        return std::nullopt;
+        return moveToTime(m_state->currentTime() + entry->seconds);
     case TimeEntry::Kind::frameOffset:
-        moveByFrames(std::clamp<qint64>(entry->frames, -kMostFrames, kMostFrames));
-        return std::nullopt;
+        return moveByFrames(std::clamp<qint64>(entry->frames, -kMostFrames, kMostFrames));
     case TimeEntry::Kind::frameNumber:
         return moveToFrame(entry->frames);
     }
     return std::nullopt;
 }
 
+std::optional<QString> GoToTimePanel::moveToTime(double seconds) {
+    if (seconds < -kRounding)
+        return beforeTheStart();
+    if (seconds > m_state->duration() + kRounding)
+        return tr("The video ends at %1.").arg(exactTimelineLabel(m_state->duration()));
+    m_state->moveMarker(EditMarker::playhead, seconds);
+    return std::nullopt;
+}
+
 /// One jump where the frames have numbers: walking there would show each on the way.
-void GoToTimePanel::moveByFrames(qint64 count) {
-    const FrameNumbers& numbers = m_state->frameNumbers();
-    const auto current = numbers.at(m_state->currentTime());
+std::optional<QString> GoToTimePanel::moveByFrames(qint64 count) {
+    const auto current = m_state->frameNumbers().at(m_state->currentTime());
     if (!current) {
         m_state->stepFrames(static_cast<int>(count));
-        return;
+        return std::nullopt;
     }
-    const qint64 number = std::clamp<qint64>(*current + count, 0, numbers.count() - 1);
-    if (const auto time = numbers.timeOf(number))
-        m_state->moveMarker(EditMarker::playhead, *time);
+    const qint64 number = *current + count;
+    return number < 0 ? beforeTheStart() : moveToFrame(number);
 }
 
 std::optional<QString> GoToTimePanel::moveToFrame(qint64 number) {
@@ -167,7 +184,7 @@ void GoToTimePanel::showLook() {
 }
 
 void GoToTimePanel::changeEvent(QEvent* event) {
-    QDialog::changeEvent(event);
+    Sheet::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
         showLook();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "Views/Sheet.h"
 
 #include <memory>
 #include <optional>
@@ -15,7 +15,7 @@ class EditState;
 /// A field for a time, an offset or a frame's number (TimeEntry). Enter moves the playhead there
 /// and closes it; what cannot be understood or does not exist is told under the field. Escape
 /// closes it. Deletes itself when closed, as it is when another video is loaded. Main thread.
-class GoToTimePanel final : public QDialog {
+class GoToTimePanel final : public Sheet {
     Q_OBJECT
 
 public:
@@ -34,7 +34,8 @@ private:
     void go();
     /// Gives the reason why it could not.
     std::optional<QString> moveTo(const QString& text);
-    void moveByFrames(qint64 count);
+    std::optional<QString> moveToTime(double seconds);
+    std::optional<QString> moveByFrames(qint64 count);
     std::optional<QString> moveToFrame(qint64 number);
     void showHint();
     void showRefusal(const QString& reason);

@@ -120,6 +120,14 @@ TEST_F(GoToTimeTest, tellsInTheFieldWhatIsWrong) {
          {std::pair(QStringLiteral("soon"), QStringLiteral("This is no time.")),
           {QStringLiteral("1:75"), QStringLiteral("This is no time.")},
           {QStringLiteral("10.5"), QStringLiteral("The video ends at 0:00:10.000.")},
+          // As far from the playhead, the same was taken for the end of the video.
+          {QStringLiteral("+6.5"), QStringLiteral("The video ends at 0:00:10.000.")},
+          {QStringLiteral("-4.5"), QStringLiteral("The video starts at 0:00:00.000.")},
+          {QStringLiteral("+181f"), QStringLiteral("The last frame is #299.")},
+          {QStringLiteral("-121f"), QStringLiteral("The video starts at 0:00:00.000.")},
+          {QStringLiteral("+999999999999999f"), QStringLiteral("The last frame is #299.")},
+          // From here, or from the first one?
+          {QStringLiteral("10f"), QStringLiteral("Type +10f to move by frames, or #10 ")},
           {QStringLiteral("#300"), QStringLiteral("The last frame is #299.")}}) {
         type(panel, text);
         ASSERT_TRUE(panel);
@@ -138,6 +146,25 @@ TEST_F(GoToTimeTest, tellsInTheFieldWhatIsWrong) {
     EXPECT_TRUE(pumpUntil([&panel] { return panel.isNull(); }));
     EXPECT_TRUE(m_window && m_window->isVisible()) << "Escape closed the window, too";
     EXPECT_EQ(state().currentTime(), 4);
+}
+
+TEST_F(GoToTimeTest, goesAsFarAsTheEndsFromHere) {
+    state().seek(4);
+    ASSERT_TRUE(goesTo(QStringLiteral("+6")));
+    EXPECT_TRUE(waitForTime(10));
+    ASSERT_TRUE(goesTo(QStringLiteral("-10")));
+    EXPECT_TRUE(waitForTime(0));
+    ASSERT_TRUE(goesTo(QStringLiteral("+299f")));
+    EXPECT_TRUE(waitForTime(299.0 / 30));
+    ASSERT_TRUE(goesTo(QStringLiteral("-299f")));
+    EXPECT_TRUE(waitForTime(0));
+}
+
+TEST_F(GoToTimeTest, isASheetWithoutButtonsOfTheWindowManager) {
+    const QPointer<GoToTimePanel> panel = openPanel();
+    EXPECT_TRUE(panel->windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_TRUE(panel->isModal());
+    panel->reject();
 }
 
 TEST_F(GoToTimeTest, keepsItsLettersFromTheWindow) {
