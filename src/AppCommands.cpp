@@ -303,13 +303,15 @@ namespace {
 
 QCoro::Task<> showExport(std::weak_ptr<EditState> state, QDBusConnection bus, QUrl file) {
     auto showing = showInFileManager(bus, file);
-    const bool isShown = co_await showing;
+    const FolderShowing result = co_await showing;
     const auto alive = state.lock();
-    if (!isShown && alive) {
-        const auto folder = urlOf(pathOf(file).parent_path());
-        alive->setErrorMessage(
-            AppCommands::tr("The folder “%1” can’t be shown.").arg(displayName(folder)));
-    }
+    if (result == FolderShowing::shown || !alive)
+        co_return;
+    const QString reason =
+        result == FolderShowing::folderGone
+            ? AppCommands::tr("The folder “%1” is no longer there.")
+            : AppCommands::tr("There is no file manager to show the folder “%1”.");
+    alive->setErrorMessage(reason.arg(displayName(urlOf(pathOf(file).parent_path()))));
 }
 
 } // namespace

@@ -53,19 +53,20 @@ QFuture<bool> callFileManager(const QDBusConnection& bus, const QString& method,
 
 } // namespace
 
-QCoro::Task<bool> showInFileManager(QDBusConnection bus, QUrl file) {
+QCoro::Task<FolderShowing> showInFileManager(QDBusConnection bus, QUrl file) {
     verifyMainThread();
     const std::filesystem::path path = pathOf(file);
     auto looking = runOnWorker([path] { return find(path); });
     const Found found = co_await looking;
     if (found == Found::nothing)
-        co_return false;
+        co_return FolderShowing::folderGone;
     const QUrl folder = urlOf(path.parent_path());
     const QFuture<bool> showing = found == Found::file
                                       ? callFileManager(bus, QStringLiteral("ShowItems"), file)
                                       : callFileManager(bus, QStringLiteral("ShowFolders"), folder);
     const bool isShown = co_await showing;
-    co_return isShown || QDesktopServices::openUrl(folder);
+    co_return isShown || QDesktopServices::openUrl(folder) ? FolderShowing::shown
+                                                           : FolderShowing::noFileManager;
 }
 
 } // namespace brisklet

@@ -205,7 +205,24 @@ TEST_F(AppCommandsTest, showsTheLastExportInItsFolder) {
     std::filesystem::remove(folder);
     show->trigger();
     ASSERT_TRUE(waitForError());
-    EXPECT_EQ(state().errorMessage(), QStringLiteral("The folder “ex ports” can’t be shown."));
+    EXPECT_EQ(state().errorMessage(), QStringLiteral("The folder “ex ports” is no longer there."));
+}
+
+TEST_F(AppCommandsTest, saysWhyTheLastExportIsNotShown) {
+    const testsupport::PrivateBus bus;
+    if (!bus.isRunning())
+        GTEST_SKIP() << "dbus-daemon is not here";
+    m_commands.setBus(bus.connect());
+    ASSERT_TRUE(loadAndWait({.duration = 1}));
+    m_focusedValues.setEditState(m_state);
+    const testsupport::TemporaryFolder parent;
+    std::filesystem::create_directory(parent / "exports");
+    state().exportTo(urlOf(parent / "exports" / "out.mp4"));
+    ASSERT_TRUE(pumpUntil([this] { return state().lastExport().has_value(); }));
+    action("Show Last Export")->trigger();
+    ASSERT_TRUE(waitForError());
+    EXPECT_EQ(state().errorMessage(),
+              QStringLiteral("There is no file manager to show the folder “exports”."));
 }
 
 TEST_F(AppCommandsTest, asksForFilesThroughTheFocusedModel) {
