@@ -6,6 +6,7 @@
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPaintEvent>
 
@@ -35,6 +36,31 @@ protected:
     }
 };
 
+/// The picture only: the corners are nothing but paint.
+class VideoAreaAccessible final : public QAccessibleWidget {
+public:
+    explicit VideoAreaAccessible(VideoArea* area) : QAccessibleWidget(area), m_area(*area) {}
+
+    int childCount() const override { return 1; }
+
+    QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(&m_area.player()) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child != nullptr && child->object() == &m_area.player() ? 0 : -1;
+    }
+
+private:
+    /// Outlives its interface, which it owns.
+    VideoArea& m_area;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+    auto* area = qobject_cast<VideoArea*>(object);
+    return area != nullptr ? new VideoAreaAccessible(area) : nullptr;
+}
+
 /// The rectangle whose edges are the nearest whole points.
 QRect onWholePoints(const QRectF& rect) {
     const QPoint topLeft(qRound(rect.left()), qRound(rect.top()));
@@ -56,6 +82,8 @@ VideoArea::VideoArea(std::shared_ptr<EditState> state, QWidget* parent)
       m_state(std::move(state)),
       m_player(new PlayerContainerView(nullptr, this)),
       m_cropOverlay(new CropOverlayView(m_state, kCropHandleSize, parent)) {
+    // Once for the program: installing a factory that is there already does nothing.
+    QAccessible::installFactory(makeInterface);
     std::ranges::generate(m_corners, [this] { return new Corner(this); });
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 

@@ -19,6 +19,7 @@
 #include "Views/Timeline/TimelineView.h"
 #include "Views/VideoArea.h"
 
+#include <QAccessible>
 #include <QDragEnterEvent>
 #include <QDragLeaveEvent>
 #include <QDropEvent>
@@ -102,6 +103,16 @@ protected:
     Qt::DropAction m_dropAction = Qt::IgnoreAction;
     std::unique_ptr<ContentView> m_content = std::make_unique<ContentView>(m_state);
 };
+
+/// Screen readers met an element without a name in each round corner of the picture.
+TEST_F(ContentViewTest, offersNoPartOfThePictureThatIsOnlyPaint) {
+    auto* area = m_content->findChild<VideoArea*>();
+    QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(area);
+    ASSERT_EQ(picture->childCount(), 1);
+    EXPECT_EQ(picture->child(0)->object(), &area->player());
+    EXPECT_EQ(picture->indexOfChild(picture->child(0)), 0);
+    EXPECT_EQ(picture->child(1), nullptr);
+}
 
 /// The tabulator passed the trim start over.
 TEST_F(ContentViewTest, isTabbedThroughInReadingOrder) {

@@ -21,6 +21,8 @@ constexpr QSize kInitialSize(520, 440);
 void add(QTreeWidget& page, const ShortcutGroup& group) {
     auto* title = new QTreeWidgetItem(&page, {group.title});
     title->setFirstColumnSpanned(true);
+    // Assistive technology finds the second cell though it is spanned.
+    title->setData(1, Qt::AccessibleTextRole, group.title);
     title->setFont(0, theme::headlineFont(page.font()));
     for (const Shortcut& shortcut : group.shortcuts)
         new QTreeWidgetItem(title, {shortcut.effect, shortcut.keys});
@@ -47,7 +49,8 @@ QTreeWidget* makePage(const QList<ShortcutGroup>& groups) {
 } // namespace
 
 KeyboardShortcutsView::KeyboardShortcutsView(const QList<ShortcutGroup>& groups, QWidget* window)
-    : QDialog(window) {
+    : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint) {
     verifyMainThread();
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Keyboard Shortcuts"));
