@@ -377,8 +377,12 @@ Free software under the GNU General Public License, version 3 or later.</source>
         <translation>م&amp;ساعدة</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>لا يمكن عرض المجلد «%1».</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>المجلد «%1» لم يعد موجودًا.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>لا يوجد مدير ملفات لعرض المجلد «%1».</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>وقت، أو عدد إطارات من هنا: ‎1:23.456، ‎+10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>اكتب ‎+%1f للانتقال بعدد من الإطارات، أو ‎#%1 للإطار الذي يحمل هذا الرقم.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>يبدأ الفيديو عند %1.</translation>
     </message>
 </context>
 <context>

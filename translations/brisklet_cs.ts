@@ -377,8 +377,12 @@ Svobodný software pod licencí GNU General Public License, verze 3 nebo nověj�
         <translation>&amp;Nápověda</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Složku „%1“ nelze zobrazit.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>Složka „%1“ už neexistuje.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Není tu žádný správce souborů, který by složku „%1“ zobrazil.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Čas nebo počet snímků odsud: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Zadejte +%1f pro posun o snímky, nebo #%1 pro snímek s tímto číslem.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Video začíná v čase %1.</translation>
     </message>
 </context>
 <context>

@@ -377,8 +377,12 @@ Freie Software unter der GNU General Public License, Version 3 oder neuer.</tran
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Der Ordner „%1“ kann nicht angezeigt werden.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>Den Ordner „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Es gibt keine Dateiverwaltung, die den Ordner „%1“ anzeigen könnte.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Ein Zeitpunkt oder Einzelbilder von hier aus: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Geben Sie +%1f ein, um Einzelbilder weiterzugehen, oder #%1 für das Einzelbild mit dieser Nummer.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Das Video beginnt bei %1.</translation>
     </message>
 </context>
 <context>

@@ -375,7 +375,11 @@ Free software under the GNU General Public License, version 3 or later.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
+        <source>The folder “%1” is no longer there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -770,6 +774,15 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -377,8 +377,12 @@ Software libre bajo la Licencia Pública General de GNU, versión 3 o posterior.
         <translation>Ay&amp;uda</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>No se puede mostrar la carpeta «%1».</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>La carpeta «%1» ya no existe.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>No hay ningún gestor de archivos que pueda mostrar la carpeta «%1».</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Un tiempo, o fotogramas desde aquí: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Escriba +%1f para avanzar fotogramas, o #%1 para el fotograma de ese número.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>El vídeo empieza en %1.</translation>
     </message>
 </context>
 <context>

@@ -377,8 +377,12 @@ Logiciel libre sous licence publique générale GNU (GPL), version 3 ou ultérie
         <translation>Aid&amp;e</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Impossible d’afficher le dossier «&#x202f;%1&#x202f;».</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» n’existe plus.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Aucun gestionnaire de fichiers ne peut afficher le dossier «&#x202f;%1&#x202f;».</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Un temps ou un nombre d’images à partir d’ici&#xa0;: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Saisissez +%1f pour avancer d’autant d’images, ou #%1 pour l’image de ce numéro.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>La vidéo commence à %1.</translation>
     </message>
 </context>
 <context>

@@ -377,8 +377,12 @@ Software libero con licenza GNU General Public License, versione 3 o successiva.
         <translation>&amp;Aiuto</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Impossibile mostrare la cartella «%1».</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>La cartella «%1» non esiste più.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Non c’è alcun gestore di file che possa mostrare la cartella «%1».</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Un tempo, o fotogrammi da qui: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Digitare +%1f per spostarsi di fotogrammi, o #%1 per il fotogramma con quel numero.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Il video inizia a %1.</translation>
     </message>
 </context>
 <context>

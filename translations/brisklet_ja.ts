@@ -377,8 +377,12 @@ GNU General Public License バージョン 3 以降に基づくフリーソフ�
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>フォルダー「%1」を表示できません。</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>フォルダー「%1」はもうありません。</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>フォルダー「%1」を表示するファイルマネージャーがありません。</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>時間、またはここからのフレーム数: 1:23.456、+10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>フレーム数だけ進むには +%1f、その番号のフレームへ移動するには #%1 と入力してください。</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>動画の始まりは %1 です。</translation>
     </message>
 </context>
 <context>

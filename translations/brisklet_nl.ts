@@ -377,8 +377,12 @@ Vrije software onder de GNU General Public License, versie 3 of later.</translat
         <translation>&amp;Help</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>De map “%1” kan niet worden getoond.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>De map “%1” bestaat niet meer.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Er is geen bestandsbeheerder om de map “%1” te tonen.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Een tijd of een aantal frames vanaf hier: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Typ +%1f om frames verder te gaan, of #%1 voor het frame met dat nummer.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>De video begint op %1.</translation>
     </message>
 </context>
 <context>

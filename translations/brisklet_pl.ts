@@ -377,8 +377,12 @@ Wolne oprogramowanie na licencji GNU General Public License w wersji 3 lub nowsz
         <translation>Pomo&amp;c</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Nie można wyświetlić katalogu „%1”.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>Katalogu „%1” już nie ma.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Nie ma menedżera plików, który mógłby pokazać katalog „%1”.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Czas lub liczba klatek od tego miejsca: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Należy wpisać +%1f, aby przejść o klatki, lub #%1, aby przejść do klatki o tym numerze.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Wideo zaczyna się na %1.</translation>
     </message>
 </context>
 <context>

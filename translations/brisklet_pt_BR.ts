@@ -377,8 +377,12 @@ Software livre sob a Licença Pública Geral GNU, versão 3 ou posterior.</trans
         <translation>Aj&amp;uda</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Não foi possível mostrar a pasta “%1”.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>A pasta “%1” não existe mais.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Não há gerenciador de arquivos para mostrar a pasta “%1”.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Um tempo ou quadros a partir daqui: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Digite +%1f para avançar quadros ou #%1 para o quadro com esse número.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>O vídeo começa em %1.</translation>
     </message>
 </context>
 <context>

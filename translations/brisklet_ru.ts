@@ -377,8 +377,12 @@ Free software under the GNU General Public License, version 3 or later.</source>
         <translation>&amp;Справка</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Не удаётся показать папку «%1».</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>Папки «%1» больше нет.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Нет файлового менеджера, который мог бы показать папку «%1».</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Время или смещение в кадрах: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Введите +%1f, чтобы сместиться на кадры, или #%1 для кадра с этим номером.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Видео начинается на %1.</translation>
     </message>
 </context>
 <context>

@@ -377,8 +377,12 @@ Fri programvara under GNU General Public License, version 3 eller senare.</trans
         <translation>&amp;Hjälp</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>Mappen ”%1” kan inte visas.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>Mappen ”%1” finns inte längre.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>Det finns ingen filhanterare som kan visa mappen ”%1”.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>En tid eller bildrutor härifrån: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Skriv +%1f för att gå bildrutor framåt, eller #%1 för bildrutan med det numret.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Videon börjar vid %1.</translation>
     </message>
 </context>
 <context>

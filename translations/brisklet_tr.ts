@@ -377,8 +377,12 @@ GNU Genel Kamu Lisansı sürüm 3 veya sonrası altında özgür yazılım.</tra
         <translation>&amp;Yardım</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>“%1” klasörü gösterilemiyor.</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>“%1” klasörü artık yok.</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>“%1” klasörünü gösterecek bir dosya yöneticisi yok.</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>Zaman veya buradan itibaren kare sayısı: 1:23.456, +10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>Kare sayısı kadar ilerlemek için +%1f, o numaralı kare için #%1 yazın.</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>Videonun başladığı zaman: %1.</translation>
     </message>
 </context>
 <context>

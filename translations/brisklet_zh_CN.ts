@@ -377,8 +377,12 @@ Free software under the GNU General Public License, version 3 or later.</source>
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>The folder “%1” can’t be shown.</source>
-        <translation>无法显示文件夹“%1”。</translation>
+        <source>The folder “%1” is no longer there.</source>
+        <translation>文件夹“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>There is no file manager to show the folder “%1”.</source>
+        <translation>没有可以显示文件夹“%1”的文件管理器。</translation>
     </message>
 </context>
 <context>
@@ -779,6 +783,15 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
         <translation>时间或相对此处的帧数：1:23.456、+10f</translation>
+    </message>
+    <message>
+        <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
+        <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
+        <translation>输入 +%1f 可按帧移动，输入 #%1 可转到该编号的帧。</translation>
+    </message>
+    <message>
+        <source>The video starts at %1.</source>
+        <translation>视频从 %1 处开始。</translation>
     </message>
 </context>
 <context>
