@@ -56,6 +56,15 @@ TEST(Bench, stepTellsTheTimesOfSteps) {
                              number + R"(,"p95":)" + number + "\\}\n"));
 }
 
+TEST(Bench, holdTellsTheTimesOfStepsAfterTheFirstSecond) {
+    const ProcessResult result = bench({"hold", source(), "2", "-35", "--size", "320x180"});
+    EXPECT_EQ(result.exitStatus, 0) << result.errors;
+    const std::string number = kNumber;
+    EXPECT_THAT(result.output,
+                MatchesRegex(R"(\{"first":)" + number + R"(,"max":)" + number + R"(,"n":5,"p50":)" +
+                             number + R"(,"p95":)" + number + "\\}\n"));
+}
+
 TEST(Bench, dragTellsHowLongTheMainThreadWasBlocked) {
     const TemporaryFolder folder;
     const std::string times = folder / "times.json";

@@ -24,6 +24,17 @@ struct ScrubFigures {
     std::vector<double> seeks;
 };
 
+/// Steps that a held key asks for each second, as desktops repeat keys by default or faster.
+inline constexpr int kRepeatsPerSecond = 30;
+
+/// Milliseconds from when a step was asked for to when its frame was shown.
+struct HoldFigures {
+    /// The longest of the first second, in which nothing may be at hand yet after the jump.
+    double first = 0;
+    /// Those after it.
+    std::vector<double> steps;
+};
+
 struct DragFigures {
     /// How many exact frames were shown, and how many seeks there were.
     std::uint64_t exact = 0;
@@ -77,6 +88,10 @@ ScrubFigures scrub(const std::filesystem::path& source, const std::vector<double
 /// Steps a paused player `count` times by one frame (backward where negative), beginning at `from`
 /// seconds, and waits for each frame.
 ScrubFigures step(const std::filesystem::path& source, double from, int count, QSize size);
+
+/// Steps a paused player as an arrow key does that is held from right after a jump to `from`
+/// seconds: kRepeatsPerSecond, whether those before have arrived or not. More steps than that.
+HoldFigures hold(const std::filesystem::path& source, double from, int count, QSize size);
 
 /// Seeks the player of a window to one time after another, 60 each second, as a drag does.
 DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times);

@@ -4,6 +4,9 @@
 #include "Tools/bench/Benchmarks.h"
 #include "Tools/bench/Waiting.h"
 
+#include <QTimer>
+
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <memory>
@@ -14,6 +17,8 @@ namespace brisklet::bench {
 namespace {
 
 constexpr media::Time kExactly{0, media::kComparisonTimescale};
+
+constexpr std::chrono::microseconds kKeyRepeat(1'000'000 / kRepeatsPerSecond);
 
 /// Counts the frames it is shown.
 class CountingSink final : public media::VideoSink {
@@ -47,10 +52,6 @@ double seekTo(media::Player& player, double seconds) {
         throw BenchmarkError("A seek was given up.");
     return milliseconds(end - start);
 }
-
-} // namespace
-
-namespace {
 
 /// A paused player with a file, on its first frame.
 class PausedPlayer {
@@ -106,6 +107,32 @@ ScrubFigures step(const std::filesystem::path& source, double from, int count, Q
         figures.seeks.push_back(milliseconds(Clock::now() - start));
     }
     return figures;
+}
+
+HoldFigures hold(const std::filesystem::path& source, double from, int count, QSize size) {
+    PausedPlayer paused(source, size);
+    media::Player& player = paused.player();
+    seekTo(player, from);
+    const auto total = static_cast<std::size_t>(std::abs(count));
+    std::vector<Clock::time_point> asked;
+    std::vector<double> taken;
+    player.addPeriodicTimeObserver(media::Time{1, 30}, [&](media::Time) {
+        if (taken.size() < asked.size())
+            taken.push_back(milliseconds(Clock::now() - asked[taken.size()]));
+    });
+    const auto begin = Clock::now();
+    QTimer key;
+    key.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&key, &QTimer::timeout, &key, [&] {
+        while (asked.size() < total && Clock::now() >= begin + asked.size() * kKeyRepeat) {
+            asked.push_back(Clock::now());
+            player.step(count < 0 ? -1 : 1);
+        }
+    });
+    key.start(1);
+    waitUntil([&] { return taken.size() == total; });
+    const auto settled = taken.begin() + kRepeatsPerSecond;
+    return {.first = *std::max_element(taken.begin(), settled), .steps = {settled, taken.end()}};
 }
 
 } // namespace brisklet::bench

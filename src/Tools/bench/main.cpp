@@ -28,6 +28,7 @@ constexpr int kWrongUsage = 2;
 constexpr QSize kUsualSize(960, 540);
 constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [--size WxH]\n"
                                "       brisklet-bench step SOURCE SECONDS COUNT [--size WxH]\n"
+                               "       brisklet-bench hold SOURCE SECONDS COUNT [--size WxH]\n"
                                "       brisklet-bench drag SOURCE TIMES.json\n"
                                "       brisklet-bench windows TIMES.json SOURCE...\n"
                                "       brisklet-bench open SOURCE\n"
@@ -92,11 +93,10 @@ void print(const QJsonObject& figures) {
     std::puts(QJsonDocument(figures).toJson(QJsonDocument::Compact).constData());
 }
 
-void print(const ScrubFigures& figures) {
-    std::vector<double> sorted = figures.seeks;
+void print(double first, std::vector<double> sorted) {
     std::ranges::sort(sorted);
     print({{QStringLiteral("n"), static_cast<qint64>(sorted.size())},
-           {QStringLiteral("first"), figures.seeks.front()},
+           {QStringLiteral("first"), first},
            {QStringLiteral("p50"), percentile(sorted, 0.5)},
            {QStringLiteral("p95"), percentile(sorted, 0.95)},
            {QStringLiteral("max"), sorted.back()}});
@@ -113,17 +113,33 @@ QSize sizeAfter(const std::vector<std::string>& operands, std::size_t count,
 
 void runScrub(const std::vector<std::string>& operands) {
     const QSize size = sizeAfter(operands, 2, "scrub takes SOURCE TIMES.json [--size WxH]");
-    print(scrub(operands[0], readTimes(operands[1]), size));
+    const ScrubFigures figures = scrub(operands[0], readTimes(operands[1]), size);
+    print(figures.seeks.front(), figures.seeks);
+}
+
+/// How many frames to step, backward where negative.
+int parseCount(const std::string& text) {
+    int count = 0;
+    std::from_chars(text.data(), text.data() + text.size(), count);
+    return count;
 }
 
 void runStep(const std::vector<std::string>& operands) {
     const QSize size = sizeAfter(operands, 3, "step takes SOURCE SECONDS COUNT [--size WxH]");
-    int count = 0;
-    const std::string& text = operands[2];
-    std::from_chars(text.data(), text.data() + text.size(), count);
+    const int count = parseCount(operands[2]);
     if (count == 0)
         throw UsageError("COUNT needs a number other than 0");
-    print(step(operands[0], parseSeconds(operands[1]), count, size));
+    const ScrubFigures figures = step(operands[0], parseSeconds(operands[1]), count, size);
+    print(figures.seeks.front(), figures.seeks);
+}
+
+void runHold(const std::vector<std::string>& operands) {
+    const QSize size = sizeAfter(operands, 3, "hold takes SOURCE SECONDS COUNT [--size WxH]");
+    const int count = parseCount(operands[2]);
+    if (count >= -kRepeatsPerSecond && count <= kRepeatsPerSecond)
+        throw UsageError("COUNT needs more steps than those of the first second");
+    const HoldFigures figures = hold(operands[0], parseSeconds(operands[1]), count, size);
+    print(figures.first, figures.steps);
 }
 
 void runDrag(const std::vector<std::string>& operands) {
@@ -176,6 +192,8 @@ void runBenchmark(const std::string& name, const std::vector<std::string>& opera
         runScrub(operands);
     } else if (name == "step") {
         runStep(operands);
+    } else if (name == "hold") {
+        runHold(operands);
     } else if (name == "drag") {
         runDrag(operands);
     } else if (name == "windows") {
