@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Seeks a paused player with brisklet-bench and a paused mpv (hr-seek, over its IPC socket) to the
 # same exact positions of the same files, in turn: a drag back and forth, random positions, and
-# steps backward. Then drags at 60 Hz and prints how long the main thread was blocked, and the memory
-# used. Prints milliseconds and ratios. Needs mpv and python3.
+# steps backward. Then steps back over key frames as a held arrow key does, and beside it as fast as
+# mpv can; drags at 60 Hz and prints how long the main thread was blocked, and the memory used.
+# Prints milliseconds and ratios. Needs mpv and python3.
 #
 #     bench/scrub.sh [SOURCE...]      (default: four generated files)
 source "$(dirname "$0")/common.sh"
@@ -62,6 +63,8 @@ for source in "${sources[@]}"; do
     against drag
     against random
     printf '  step back       %s\n' "$("$bin/brisklet-bench" step "$source" 9 -60 2>/dev/null)"
+    printf '  left held       %s\n' "$("$bin/brisklet-bench" hold "$source" 19 -540 2>/dev/null)"
+    printf '  mpv steps back  %s\n' "$("$root/bench/Scrub/mpv-seeks" "$source" back 9 20)"
     printf '  drag at 60 Hz   %s\n' "$("$bin/brisklet-bench" drag "$source" "$scratch/drag.json" 2>/dev/null)"
     echo
 done
