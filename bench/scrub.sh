@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Seeks a paused player with brisklet-bench and a paused mpv (hr-seek, over its IPC socket) to the
-# same exact positions of the same files, in turn: a drag back and forth, random positions, and
-# steps backward. Then steps back over key frames as a held arrow key does, and beside it as fast as
+# same exact positions of the same files, in turn: a drag back and forth, and random positions, with
+# how long brisklet takes to the first picture that stands in for the exact one ("glance"); those far
+# apart in a minute as well. Then steps back over key frames as a held arrow key does, and beside it as fast as
 # mpv can; drags at 60 Hz and prints how long the main thread was blocked, and the memory used.
 # Prints milliseconds and ratios. Needs mpv and python3.
 #
@@ -27,6 +28,7 @@ intra() {
 times() { python3 -c "import json, math, random; random.seed(5); print(json.dumps($2))" >"$scratch/$1.json"; }
 times drag "[8 + 0.7 * math.sin(i / 18) for i in range(120)]"
 times random "[random.uniform(0, 19.5) for i in range(40)]"
+times far "[random.uniform(0, 59.5) for i in range(40)]"
 times one "[8]"
 
 # field NAME: of the line of JSON on standard input.
@@ -35,10 +37,10 @@ field() { python3 -c "import json, sys; print('%.2f' % json.load(sys.stdin)['$1'
 # against TIMES: runs both programs in turn; prints the medians of each figure and their ratios.
 against() {
     local -A ours=() theirs=()
-    local i name line
+    local i name line glances=(glanceP50 glanceP95)
     for ((i = 0; i < pairs; ++i)); do
         line=$("$bin/brisklet-bench" scrub "$source" "$scratch/$1.json" 2>/dev/null)
-        for name in first p50 p95 max; do ours[$name]+=" $(field "$name" <<<"$line")"; done
+        for name in first p50 p95 max "${glances[@]}"; do ours[$name]+=" $(field "$name" <<<"$line")"; done
         line=$("$root/bench/Scrub/mpv-seeks" "$source" "$scratch/$1.json")
         for name in first p50 p95 max; do theirs[$name]+=" $(field "$name" <<<"$line")"; done
     done
@@ -47,6 +49,10 @@ against() {
         local a=$(median ${ours[$name]}) b=$(median ${theirs[$name]})
         printf '  %-8s %-6s brisklet %9s ms   mpv %9s ms   ratio %s\n' \
             "$1" "$name" "$a" "$b" "$(ratio "$a" "$b")"
+    done
+    for name in "${glances[@]}"; do
+        # shellcheck disable=SC2086
+        printf '  %-8s %-9s brisklet %6s ms\n' "$1" "$name" "$(median ${ours[$name]})"
     done
 }
 
@@ -68,3 +74,8 @@ for source in "${sources[@]}"; do
     printf '  drag at 60 Hz   %s\n' "$("$bin/brisklet-bench" drag "$source" "$scratch/drag.json" 2>/dev/null)"
     echo
 done
+if (($# == 0)); then
+    source=$(minuteFile)
+    echo "$(basename "$source"):"
+    against far
+fi

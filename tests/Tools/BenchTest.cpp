@@ -42,7 +42,8 @@ TEST(Bench, scrubTellsTheTimesOfSeeks) {
         EXPECT_EQ(result.exitStatus, 0) << result.errors;
         const std::string number = kNumber;
         EXPECT_THAT(result.output,
-                    MatchesRegex(R"(\{"first":)" + number + R"(,"max":)" + number +
+                    MatchesRegex(R"(\{"first":)" + number + R"(,"glanceP50":)" + number +
+                                 R"(,"glanceP95":)" + number + R"(,"max":)" + number +
                                  R"(,"n":4,"p50":)" + number + R"(,"p95":)" + number + "\\}\n"));
     }
 }

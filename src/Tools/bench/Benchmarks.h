@@ -21,7 +21,10 @@ public:
 
 /// Milliseconds.
 struct ScrubFigures {
+    /// Until the exact frame was shown.
     std::vector<double> seeks;
+    /// Until any picture was shown, if only one that stands in; of seeks only.
+    std::vector<double> glances;
 };
 
 /// Steps that a held key asks for each second, as desktops repeat keys by default or faster.
@@ -80,8 +83,8 @@ struct ForecastFigures {
 /// All of these run the main event loop while they measure, need a QApplication, and throw
 /// BenchmarkError. Main thread.
 
-/// Seeks a paused player to each time (seconds) in turn and waits for each exact frame. `size` is
-/// that of the view in pixels.
+/// Seeks a paused player to each time (seconds) in turn and waits for each exact frame; one may
+/// stand in for it until then. `size` is that of the view in pixels.
 ScrubFigures scrub(const std::filesystem::path& source, const std::vector<double>& times,
                    QSize size);
 

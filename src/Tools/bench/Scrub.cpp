@@ -1,5 +1,6 @@
 #include "Media/Error.h"
 #include "Media/Player.h"
+#include "Media/Threading/Guarded.h"
 #include "Support/MainThread.h"
 #include "Tools/bench/Benchmarks.h"
 #include "Tools/bench/Waiting.h"
@@ -7,7 +8,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <atomic>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -20,18 +20,21 @@ constexpr media::Time kExactly{0, media::kComparisonTimescale};
 
 constexpr std::chrono::microseconds kKeyRepeat(1'000'000 / kRepeatsPerSecond);
 
-/// Counts the frames it is shown.
-class CountingSink final : public media::VideoSink {
+/// Notes when it was shown a frame first. Any thread.
+class FirstFrameSink final : public media::VideoSink {
 public:
     void present(const media::TimedImage& frame) override {
-        if (frame.image)
-            ++m_count;
+        const auto first = m_first.lock();
+        if (frame.image && !*first)
+            *first = Clock::now();
     }
 
-    [[nodiscard]] int count() const { return m_count; }
+    void forget() { m_first.lock()->reset(); }
+
+    [[nodiscard]] std::optional<Clock::time_point> first() { return *m_first.lock(); }
 
 private:
-    std::atomic<int> m_count = 0;
+    media::Guarded<std::optional<Clock::time_point>> m_first;
 };
 
 double milliseconds(Clock::duration duration) {
@@ -67,7 +70,7 @@ public:
             throw BenchmarkError(error.what());
         }
         seekTo(*m_player, 0);
-        waitUntil([&] { return m_sink.count() > 0; });
+        waitUntil([&] { return m_sink.first().has_value(); });
     }
 
     PausedPlayer(const PausedPlayer&) = delete;
@@ -77,8 +80,10 @@ public:
 
     media::Player& player() { return *m_player; }
 
+    FirstFrameSink& sink() { return m_sink; }
+
 private:
-    CountingSink m_sink;
+    FirstFrameSink m_sink;
     std::shared_ptr<media::Player> m_player;
 };
 
@@ -88,8 +93,14 @@ ScrubFigures scrub(const std::filesystem::path& source, const std::vector<double
                    QSize size) {
     PausedPlayer paused(source, size);
     ScrubFigures figures;
-    for (const double time : times)
+    for (const double time : times) {
+        paused.sink().forget();
+        const auto start = Clock::now();
         figures.seeks.push_back(seekTo(paused.player(), time));
+        // Without a picture a seek that finds none is done all the same.
+        const auto shown = paused.sink().first();
+        figures.glances.push_back(shown ? milliseconds(*shown - start) : figures.seeks.back());
+    }
     return figures;
 }
 

@@ -93,13 +93,13 @@ void print(const QJsonObject& figures) {
     std::puts(QJsonDocument(figures).toJson(QJsonDocument::Compact).constData());
 }
 
-void print(double first, std::vector<double> sorted) {
+QJsonObject summary(double first, std::vector<double> sorted) {
     std::ranges::sort(sorted);
-    print({{QStringLiteral("n"), static_cast<qint64>(sorted.size())},
-           {QStringLiteral("first"), first},
-           {QStringLiteral("p50"), percentile(sorted, 0.5)},
-           {QStringLiteral("p95"), percentile(sorted, 0.95)},
-           {QStringLiteral("max"), sorted.back()}});
+    return {{QStringLiteral("n"), static_cast<qint64>(sorted.size())},
+            {QStringLiteral("first"), first},
+            {QStringLiteral("p50"), percentile(sorted, 0.5)},
+            {QStringLiteral("p95"), percentile(sorted, 0.95)},
+            {QStringLiteral("max"), sorted.back()}};
 }
 
 /// The size of the view behind the first `count` operands.
@@ -113,8 +113,12 @@ QSize sizeAfter(const std::vector<std::string>& operands, std::size_t count,
 
 void runScrub(const std::vector<std::string>& operands) {
     const QSize size = sizeAfter(operands, 2, "scrub takes SOURCE TIMES.json [--size WxH]");
-    const ScrubFigures figures = scrub(operands[0], readTimes(operands[1]), size);
-    print(figures.seeks.front(), figures.seeks);
+    ScrubFigures figures = scrub(operands[0], readTimes(operands[1]), size);
+    QJsonObject line = summary(figures.seeks.front(), figures.seeks);
+    std::ranges::sort(figures.glances);
+    line[QStringLiteral("glanceP50")] = percentile(figures.glances, 0.5);
+    line[QStringLiteral("glanceP95")] = percentile(figures.glances, 0.95);
+    print(line);
 }
 
 /// How many frames to step, backward where negative.
@@ -130,7 +134,7 @@ void runStep(const std::vector<std::string>& operands) {
     if (count == 0)
         throw UsageError("COUNT needs a number other than 0");
     const ScrubFigures figures = step(operands[0], parseSeconds(operands[1]), count, size);
-    print(figures.seeks.front(), figures.seeks);
+    print(summary(figures.seeks.front(), figures.seeks));
 }
 
 void runHold(const std::vector<std::string>& operands) {
@@ -139,7 +143,7 @@ void runHold(const std::vector<std::string>& operands) {
     if (count >= -kRepeatsPerSecond && count <= kRepeatsPerSecond)
         throw UsageError("COUNT needs more steps than those of the first second");
     const HoldFigures figures = hold(operands[0], parseSeconds(operands[1]), count, size);
-    print(figures.first, figures.steps);
+    print(summary(figures.first, figures.steps));
 }
 
 void runDrag(const std::vector<std::string>& operands) {
