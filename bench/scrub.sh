@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Seeks a paused player with brisklet-bench and a paused mpv (hr-seek, over its IPC socket) to the
 # same exact positions of the same files, in turn: a drag back and forth, and random positions, with
-# how long brisklet takes to the first picture that stands in for the exact one ("glance"); those far
-# apart in a minute as well. Then steps back over key frames as a held arrow key does, and beside it as fast as
-# mpv can; drags at 60 Hz and prints how long the main thread was blocked, and the memory used.
-# Prints milliseconds and ratios. Needs mpv and python3.
+# how long brisklet takes to the first picture that may stand in for the exact one ("glance"). Then
+# steps back over key frames as a held arrow key does, and beside it as fast as mpv can; drags at
+# 60 Hz and prints how long the main thread was blocked, and the memory used. Prints milliseconds and
+# ratios. Needs mpv and python3.
 #
-#     bench/scrub.sh [SOURCE...]      (default: four generated files)
+#     bench/scrub.sh [SOURCE...]      (default: four generated files, and jumps far into a fifth)
 source "$(dirname "$0")/common.sh"
 export QT_QPA_PLATFORM=offscreen
 pairs=${BENCH_PAIRS:-3}

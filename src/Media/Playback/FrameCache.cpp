@@ -10,6 +10,9 @@ namespace {
 /// A frame this many times nearer to a point of interest than another to the playhead is worth as
 /// much.
 constexpr double kPointWeight = 4;
+/// The part of the bound that frames of single places may take: the rest is for the neighbourhood
+/// of the playhead.
+constexpr std::size_t kPartOfPlaces = 4;
 
 /// Only a number; nothing else depends on its order.
 std::atomic<std::size_t> cacheCount = 0;
@@ -48,6 +51,23 @@ const CachedFrame* FrameCache::State::at(Ticks ticks, ImageSize size) const {
     return frame && frame->size() == size ? frame : nullptr;
 }
 
+std::vector<Ticks> FrameCache::State::lasting(std::size_t mostBytes) const {
+    std::vector<Ticks> begins;
+    std::size_t sum = 0;
+    for (const auto& places : {points, placesOfRest}) {
+        for (const Ticks place : places) {
+            const CachedFrame* frame = at(place);
+            if (!frame || std::ranges::find(begins, frame->range.begin) != begins.end())
+                continue;
+            sum += frame->picture->byteCount();
+            if (sum > mostBytes)
+                return begins;
+            begins.push_back(frame->range.begin);
+        }
+    }
+    return begins;
+}
+
 FrameCache::Frames::iterator FrameCache::State::remove(Frames::iterator frame) {
     bytes -= frame->second.picture->byteCount();
     return frames.erase(frame);
@@ -60,6 +80,7 @@ void FrameCache::begin(const void* source) {
     state->bytes = 0;
     state->focus = Ticks();
     state->points.clear();
+    state->placesOfRest.clear();
     state->source = source;
 }
 
@@ -84,18 +105,24 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
     state->bytes += frame.picture->byteCount();
     state->frames.emplace(begin, std::move(frame));
     const std::size_t capacity = capacityBytes();
-    while (state->bytes > capacity && state->frames.size() > 1) {
+    std::vector<Ticks> lasting;
+    if (state->bytes > capacity)
+        lasting = state->lasting(capacity / kPartOfPlaces);
+    while (state->bytes > capacity) {
         auto farthest = state->frames.end();
         double distance = -1;
         for (auto it = state->frames.begin(); it != state->frames.end(); ++it) {
             // The first frame's beginning is endless; its end is as near.
             const double its = state->distanceTo(
                 it->first == Ticks::beginning() ? it->second.range.end : it->first);
-            if (it->first != begin && its > distance) {
+            if (it->first != begin && its > distance &&
+                std::ranges::find(lasting, it->first) == lasting.end()) {
                 distance = its;
                 farthest = it;
             }
         }
+        if (farthest == state->frames.end())
+            break;
         remove(farthest);
     }
 }
@@ -106,6 +133,18 @@ void FrameCache::setFocus(Ticks ticks) {
 
 void FrameCache::setPointsOfInterest(std::vector<Ticks> ticks) {
     m_state.lock()->points = std::move(ticks);
+}
+
+void FrameCache::addPlaceOfRest(Ticks ticks) {
+    const auto state = m_state.lock();
+    std::vector<Ticks>& places = state->placesOfRest;
+    const CachedFrame* frame = state->at(ticks);
+    std::erase_if(places, [&](Ticks place) {
+        return place == ticks || (frame && frame->range.holds(place));
+    });
+    places.insert(places.begin(), ticks);
+    if (places.size() > kPlacesOfRest)
+        places.pop_back();
 }
 
 std::vector<Ticks> FrameCache::pointsOfInterest() const {

@@ -32,13 +32,15 @@ struct CachedFrame {
 
 /// The frames of one player that were decoded lately, bounded in bytes. What goes first is what
 /// lies farthest from the playhead and from the few points of interest, of which each keeps a
-/// smaller neighbourhood. Frames of a size that is no longer wanted stay until they are replaced or
-/// go, since they are better than none. Usable from any thread.
+/// smaller neighbourhood; and the frame at each of those and of the last places of rest, as long as
+/// these take no more than a quarter of the bound. Frames of a size that is no longer wanted stay
+/// until they are replaced or go, since they are better than none. Usable from any thread.
 class FrameCache {
 public:
     static constexpr std::size_t kDefaultBytes = std::size_t{192} << 20;
     /// What the caches of all players together may hold; each takes an equal part at most.
     static constexpr std::size_t kBytesOfAll = std::size_t{800} << 20;
+    static constexpr std::size_t kPlacesOfRest = 5;
 
     explicit FrameCache(std::size_t capacityBytes = kDefaultBytes);
     FrameCache(const FrameCache&) = delete;
@@ -56,6 +58,9 @@ public:
     void setFocus(Ticks ticks);
     void setPointsOfInterest(std::vector<Ticks> ticks);
     [[nodiscard]] std::vector<Ticks> pointsOfInterest() const;
+
+    /// The playhead has rested at this tick. The last kPlacesOfRest of them count.
+    void addPlaceOfRest(Ticks ticks);
 
     /// The frame at `ticks` in this size.
     [[nodiscard]] std::optional<CachedFrame> find(Ticks ticks, ImageSize size) const;
@@ -83,10 +88,14 @@ private:
         std::size_t bytes = 0;
         Ticks focus;
         std::vector<Ticks> points;
+        /// The latest first.
+        std::vector<Ticks> placesOfRest;
 
         [[nodiscard]] double distanceTo(Ticks ticks) const;
         [[nodiscard]] const CachedFrame* at(Ticks ticks) const;
         [[nodiscard]] const CachedFrame* at(Ticks ticks, ImageSize size) const;
+        /// Where the frames begin that are not to go.
+        [[nodiscard]] std::vector<Ticks> lasting(std::size_t mostBytes) const;
         Frames::iterator remove(Frames::iterator frame);
     };
 

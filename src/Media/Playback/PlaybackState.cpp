@@ -16,6 +16,8 @@ constexpr milliseconds kPatience{50};
 /// Seeks that follow one another faster, and not farther apart (ticks), tell a direction.
 constexpr milliseconds kLongestPauseInDrag{500};
 constexpr double kFarthestInDrag = 3.0 * Ticks::kPerSecond;
+/// Where the picture has stood still for so long somebody may have looked at it.
+constexpr milliseconds kShortestRest{150};
 /// Frames per second of an item that does not say.
 constexpr double kUsualFrameRate = 25;
 
@@ -108,6 +110,7 @@ std::optional<std::uint64_t> PlaybackState::beginSeek(Time time, Time toleranceB
     const SeekTarget window{clampedTicks(target - toleranceBefore, m_duration),
                             clampedTicks(target + toleranceAfter, m_duration)};
     noteDirection(window, now);
+    noteRest(now);
     beginGeneration(target, window, now);
     return m_generation;
 }
@@ -117,6 +120,14 @@ void PlaybackState::noteDirection(SeekTarget target, SteadyTime now) {
     const bool isDrag = now - m_lastJump < kLongestPauseInDrag &&
                         distance(target.earliest, from) <= kFarthestInDrag;
     m_direction = !isDrag ? 0 : target.earliest < from ? -1 : 1;
+}
+
+/// The picture is about to move. Where it has rested it may be wanted again.
+void PlaybackState::noteRest(SteadyTime now) {
+    const bool isStill =
+        m_shown.image && !m_seek && m_steps.isEmpty() && !m_immediate && !isRunningWanted();
+    if (isStill && now - m_readySince >= kShortestRest)
+        m_cache.addPlaceOfRest(std::max(m_shown.time.ticks(), m_shown.range.begin));
 }
 
 /// Everything that holds for the generation before is void; the threads turn to the new one. A
@@ -140,9 +151,10 @@ void PlaybackState::beginGeneration(Time at, SeekTarget target, SteadyTime now) 
     m_deferred.wakes.decoding = true;
 }
 
-void PlaybackState::beginStep(int count) {
+void PlaybackState::beginStep(int count, SteadyTime now) {
     if (count == 0 || !m_item)
         return;
+    noteRest(now);
     m_hasEnded = false;
     m_steps.push(count);
     m_direction = count < 0 ? -1 : 1;
@@ -154,6 +166,7 @@ void PlaybackState::setPlaying(bool isPlaying, SteadyTime now) {
     if (m_isPlaying == isPlaying)
         return;
     const Time at = time(now);
+    noteRest(now);
     m_isPlaying = isPlaying;
     m_hasEnded = false;
     if (!isPlaying)

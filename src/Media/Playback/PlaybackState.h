@@ -67,7 +67,7 @@ public:
     std::optional<std::uint64_t> beginSeek(Time time, Time toleranceBefore, Time toleranceAfter,
                                            SteadyTime now);
     /// Moves by `count` frames from where the picture is by then; nothing without an item.
-    void beginStep(int count);
+    void beginStep(int count, SteadyTime now);
     void setPlaying(bool isPlaying, SteadyTime now);
     void setPreviewSize(PreviewSize size);
     /// Not while isDelivering().
@@ -178,6 +178,7 @@ private:
     void stopSound();
     void beginGeneration(Time at, SeekTarget target, SteadyTime now);
     void noteDirection(SeekTarget target, SteadyTime now);
+    void noteRest(SteadyTime now);
 
     bool chooseSeek(DecodeWork& work, const DecoderStatus& decoder);
     bool chooseStep(DecodeWork& work);
@@ -226,7 +227,7 @@ private:
     PlaybackClock m_clock;
     /// Changes whenever the clock is stopped or moved.
     std::uint64_t m_run = 0;
-    /// When the clock began to wait for the sound.
+    /// When the clock began to wait for the sound, or its picture to rest.
     SteadyTime m_readySince;
     /// The item played to its end, which the owner has not been told of yet.
     bool m_hasEnded = false;

@@ -86,7 +86,7 @@ void ThreadedPlayer::Private::finishSeek(std::uint64_t generation) {
 
 void ThreadedPlayer::Private::step(int count) {
     setPlaying(false);
-    state()->beginStep(count);
+    state()->beginStep(count, now());
 }
 
 void ThreadedPlayer::Private::setVideoSink(VideoSink* sink) {

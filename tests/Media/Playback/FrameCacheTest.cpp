@@ -115,6 +115,62 @@ TEST(FrameCache, keepsANeighbourhoodOfThePointsOfInterest) {
     EXPECT_THAT(heldOf(cache, 0, 600), testing::IsSupersetOf({0, 20, 40, 60, 80, 100}));
 }
 
+TEST(FrameCache, keepsTheFramesOfTheLastPlacesOfRest) {
+    FrameCache cache(40 * kFrameBytes);
+    cache.begin(&kSource);
+    const std::vector<std::int64_t> places{20'000, 40'000, 30'000, 60'000, 50'000};
+    cache.addPlaceOfRest(10'000_ticks);
+    for (const std::int64_t place : places) {
+        cache.setFocus(Ticks(place));
+        fill(cache, Ticks(place - 100), Ticks(place + 100));
+        cache.addPlaceOfRest(Ticks(place + 3));
+        // Twice in the same frame is one place.
+        cache.addPlaceOfRest(Ticks(place + 4));
+    }
+    cache.setFocus(0_ticks);
+    fill(cache, 0_ticks, 2000_ticks);
+    EXPECT_LE(cache.byteCount(), 40 * kFrameBytes);
+    for (const std::int64_t place : places)
+        EXPECT_THAT(heldOf(cache, place - 100, place + 100), testing::ElementsAre(place));
+    fill(cache, 70'000_ticks, 70'020_ticks);
+    cache.addPlaceOfRest(70'000_ticks);
+    fill(cache, 2000_ticks, 2100_ticks);
+    EXPECT_THAT(heldOf(cache, 20'000, 20'020), testing::IsEmpty()) << "five have followed it";
+    EXPECT_THAT(heldOf(cache, 40'000, 40'020), testing::SizeIs(1));
+    cache.begin(&kSource);
+    fill(cache, 40'000_ticks, 40'020_ticks);
+    fill(cache, 0_ticks, 2000_ticks);
+    EXPECT_THAT(heldOf(cache, 40'000, 40'020), testing::IsEmpty()) << "of the file before";
+}
+
+TEST(FrameCache, keepsTheFramesAtThePointsOfInterestHoweverFewItHolds) {
+    FrameCache cache(8 * kFrameBytes);
+    cache.begin(&kSource);
+    cache.setPointsOfInterest({2019_ticks, 5000_ticks});
+    fill(cache, 2000_ticks, 2020_ticks);
+    fill(cache, 5000_ticks, 5020_ticks);
+    cache.setFocus(100_ticks);
+    // None of them as far from the playhead as counts for a point so far behind its frame’s begin.
+    fill(cache, 40_ticks, 180_ticks);
+    EXPECT_THAT(heldOf(cache, 2000, 6000), testing::ElementsAre(2000, 5000));
+    EXPECT_EQ(cache.byteCount(), 8 * kFrameBytes);
+}
+
+TEST(FrameCache, leavesMostOfItsRoomToTheNeighbourhoodOfThePlayhead) {
+    FrameCache cache(8 * kFrameBytes);
+    cache.begin(&kSource);
+    for (int place = 1; place <= 5; ++place) {
+        const Ticks ticks(place * 10'000);
+        cache.setFocus(ticks);
+        fill(cache, ticks, ticks + kFrameLength);
+        cache.addPlaceOfRest(ticks);
+    }
+    cache.setFocus(0_ticks);
+    fill(cache, 0_ticks, 200_ticks);
+    EXPECT_THAT(heldOf(cache, 10'000, 60'000), testing::ElementsAre(40'000, 50'000));
+    EXPECT_EQ(heldOf(cache, 0, 200).size(), 6U);
+}
+
 TEST(FrameCache, keepsAFrameThatAloneIsBeyondItsBound) {
     FrameCache cache(100);
     cache.begin(&kSource);

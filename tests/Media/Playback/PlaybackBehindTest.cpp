@@ -115,7 +115,7 @@ TEST_F(PlaybackRules, showNoFrameOnAWayThatASeekOrStepHasEnded) {
     rig.now += 500ms;
     const DecodeWork work = rig.nextWork();
     rig.state.setPlaying(false, rig.now);
-    rig.state.beginStep(1);
+    rig.state.beginStep(1, rig.now);
     rig.takeShown();
     rig.state.lateFrameArrived(work, renderedFrame(rig.frameOf(9)), rig.now);
     rig.present();
@@ -225,7 +225,7 @@ TEST_F(PlaybackRules, stepBackFromAFrameThatIsKnownFromItsMiddleOn) {
     rig.present();
     rig.state.setPlaying(false, rig.now);
     rig.settle();
-    rig.state.beginStep(-1);
+    rig.state.beginStep(-1, rig.now);
     rig.pass(10ms);
     EXPECT_EQ(rig.shownFrame(), 14);
 }

@@ -57,7 +57,7 @@ RenderedFrame renderedFrame(const CachedFrame& frame) {
     return {std::make_shared<const media::Image>(std::move(image)), frame.time, frame.range, false};
 }
 
-PlaybackRig::PlaybackRig() {
+PlaybackRig::PlaybackRig(std::size_t cacheBytes) : cache(cacheBytes) {
     state.setPreviewSize({kFrameSize.width, kFrameSize.height});
     state.setSink(&m_sink);
     settle();

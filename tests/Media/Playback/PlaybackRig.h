@@ -23,7 +23,7 @@ class PlaybackRig {
 public:
     using SteadyTime = media::playback::SteadyTime;
 
-    PlaybackRig();
+    explicit PlaybackRig(std::size_t cacheBytes = media::playback::FrameCache::kDefaultBytes);
 
     /// Makes an item of so many frames the current one, and comes to rest with its first on show.
     void load(int frameCount);

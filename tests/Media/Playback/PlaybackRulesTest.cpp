@@ -78,12 +78,12 @@ TEST_F(PlaybackRules, runOnWithThePictureOnShowWhereASeekFailsWhilePlaying) {
 
 TEST_F(PlaybackRules, dropAStepOfManyFramesThatASeekOvertakes) {
     rig.load(1000);
-    rig.state.beginStep(200);
+    rig.state.beginStep(200, rig.now);
     rig.settle();
     rig.seek(7);
     rig.pass(500ms);
     EXPECT_EQ(rig.shownFrame(), 7);
-    rig.state.beginStep(1);
+    rig.state.beginStep(1, rig.now);
     rig.pass(100ms);
     EXPECT_EQ(rig.shownFrame(), 8) << "a later step begins anew";
 }
@@ -94,7 +94,7 @@ TEST_F(PlaybackRules, playOnFromWhereAStepWent) {
     rig.pass(500ms);
     rig.state.setPlaying(false, rig.now);
     rig.settle();
-    rig.state.beginStep(-10);
+    rig.state.beginStep(-10, rig.now);
     rig.pass(100ms);
     const int there = rig.shownFrame();
     rig.takeShown();
@@ -172,7 +172,7 @@ TEST_F(PlaybackRules, stepPastAFrameThatShowsLongerThanWasKnown) {
     rig.settle();
     ASSERT_EQ(rig.state.shown().range.end, 12010_ticks);
     rig.cache.begin(rig.item.get());
-    rig.state.beginStep(1);
+    rig.state.beginStep(1, rig.now);
     rig.pass(10ms);
     EXPECT_EQ(rig.shownFrame(), 601);
 }

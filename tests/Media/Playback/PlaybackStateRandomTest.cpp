@@ -75,7 +75,7 @@ private:
             return;
         case 6:
         case 7:
-            return state.beginStep(upTo(20) - 10);
+            return state.beginStep(upTo(20) - 10, m_rig.now);
         case 8:
         case 9:
             return state.setPlaying(true, m_rig.now);

@@ -45,7 +45,7 @@ TEST_F(PlaybackStateTest, showsTheFirstFrameOfAnItemAndDoesNotPlayIt) {
 TEST_F(PlaybackStateTest, hasNoTimeAndTakesNoSeekWithoutAnItem) {
     EXPECT_FALSE(rig.state.time(rig.now).isNumeric());
     EXPECT_FALSE(rig.state.beginSeek(timeOf(3), kNoTolerance, kNoTolerance, rig.now));
-    rig.state.beginStep(1);
+    rig.state.beginStep(1, rig.now);
     rig.settle();
     EXPECT_THAT(rig.events, IsEmpty());
 }
@@ -163,7 +163,7 @@ TEST_F(PlaybackStateTest, leavesEverythingAsItIsForAnInvalidTime) {
 TEST_F(PlaybackStateTest, stepsFromFrameToFrameAndStopsAtEitherEnd) {
     rig.load(5);
     for (const auto& [count, expected] : {std::pair{1, 1}, {3, 4}, {2, 4}, {-1, 3}, {-9, 0}}) {
-        rig.state.beginStep(count);
+        rig.state.beginStep(count, rig.now);
         rig.settle();
         EXPECT_EQ(rig.shownFrame(), expected) << "after " << count;
         EXPECT_EQ(rig.state.time(rig.now), timeOf(expected));
@@ -173,15 +173,15 @@ TEST_F(PlaybackStateTest, stepsFromFrameToFrameAndStopsAtEitherEnd) {
 TEST_F(PlaybackStateTest, stepsFromTheFrameOfASeekThatIsStillOnItsWay) {
     rig.load(300);
     rig.seek(150);
-    rig.state.beginStep(2);
-    rig.state.beginStep(-1);
+    rig.state.beginStep(2, rig.now);
+    rig.state.beginStep(-1, rig.now);
     rig.settle();
     EXPECT_EQ(rig.shownFrame(), 151);
 }
 
 TEST_F(PlaybackStateTest, dropsStepsThatASeekOvertakes) {
     rig.load(300);
-    rig.state.beginStep(100);
+    rig.state.beginStep(100, rig.now);
     rig.decode();
     rig.seek(7);
     rig.settle();
@@ -193,7 +193,7 @@ TEST_F(PlaybackStateTest, endsAStepBeforeAFrameThatDoesNotDecode) {
     rig.seek(50);
     rig.settle();
     rig.damaged = {80};
-    rig.state.beginStep(40);
+    rig.state.beginStep(40, rig.now);
     rig.settle();
     EXPECT_EQ(rig.shownFrame(), 79);
 }

@@ -134,7 +134,7 @@ TEST_F(SleepingThreads, answerASeekToWhereNothingDecodes) {
 TEST_F(SleepingThreads, showWhereAStepGoesWhetherItIsAtHandOrNot) {
     load(1000);
     for (const auto& [count, expected] : {std::pair{1, 1}, {900, 901}, {-1, 900}}) {
-        rig.state.beginStep(count);
+        rig.state.beginStep(count, rig.now);
         pass(1ms);
         EXPECT_EQ(rig.shownFrame(), expected);
         pass(2s);
@@ -144,7 +144,7 @@ TEST_F(SleepingThreads, showWhereAStepGoesWhetherItIsAtHandOrNot) {
 TEST_F(SleepingThreads, endAStepBeforeAFrameThatDoesNotDecode) {
     load(1000);
     rig.damaged = {600};
-    rig.state.beginStep(700);
+    rig.state.beginStep(700, rig.now);
     pass(1ms);
     EXPECT_EQ(rig.shownFrame(), 599);
 }
