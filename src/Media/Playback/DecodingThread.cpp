@@ -106,6 +106,7 @@ void DecodingThread::seek(const DecodeWork& work) {
                                  .completeFrom = work.completeFrom,
                                  .isUrgent = true,
                                  .isBackward = work.isBackward};
+    setOut(work);
     switch (m_source->advance(goal, work.previewSize, work.stop)) {
     case Outcome::onTheWay:
         return showProgress(work);
@@ -118,8 +119,21 @@ void DecodingThread::seek(const DecodeWork& work) {
     }
 }
 
+/// Where a seek begins, the state is told how long it may take.
+void DecodingThread::setOut(const DecodeWork& work) {
+    if (work.kind != DecodeWork::Kind::seek || work.generation == m_paceOf)
+        return;
+    m_paceOf = work.generation;
+    m_pace.begin(m_source->wayTo(work.target.earliest), now());
+    m_shared.lock()->expectArrival(work, m_pace.arrival());
+}
+
 /// Where the way to a target takes long, what lies on it is shown from time to time.
 void DecodingThread::showProgress(const DecodeWork& work) {
+    if (work.kind != DecodeWork::Kind::seek)
+        return;
+    m_pace.pass(m_source->passingTicks(), now());
+    m_shared.lock()->expectArrival(work, m_pace.arrival());
     if (m_shared.lock()->wantsSubstitute(now())) {
         auto frame = m_source->passing(work.previewSize);
         m_shared.lock()->substituteArrived(work, std::move(frame), now());

@@ -2,9 +2,11 @@
 
 #include "Media/Playback/DecodeWork.h"
 #include "Media/Playback/DecoderBudget.h"
+#include "Media/Playback/DecodingPace.h"
 #include "Media/Playback/FrameSource.h"
 #include "Media/Playback/SharedPlayback.h"
 
+#include <cstdint>
 #include <memory>
 #include <stop_token>
 
@@ -24,6 +26,7 @@ private:
     void open(const DecodeWork& work);
     void seek(const DecodeWork& work);
     void seekNear(const DecodeWork& work);
+    void setOut(const DecodeWork& work);
     void showProgress(const DecodeWork& work);
     void decodeAhead(const DecodeWork& work);
     void showLateFrame(const DecodeWork& work);
@@ -36,6 +39,9 @@ private:
     std::shared_ptr<const PlayerItem> m_item;
     /// null where there is no picture, or none that can be decoded.
     std::unique_ptr<FrameSource> m_source;
+    DecodingPace m_pace;
+    /// The seek that it is on its way for.
+    std::uint64_t m_paceOf = 0;
 };
 
 } // namespace media::playback

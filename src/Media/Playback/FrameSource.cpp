@@ -75,6 +75,13 @@ void FrameSource::releaseDecoder() {
     m_budget.release();
 }
 
+DecodingPace::Way FrameSource::wayTo(Ticks ticks) const {
+    if (!m_reader)
+        return {.target = ticks};
+    const VideoReader::Start start = m_reader->startOfWayTo(ticks);
+    return {.target = ticks, .start = start.ticks, .isContinued = start.isHere};
+}
+
 FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
                                           const std::stop_token& stop) {
     // What is too late to be rendered is decoded all the same, for what follows it.
@@ -92,6 +99,13 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
                            .shortestLeap = goal.shortestLeap},
                           stop);
         m_goal = goal.ticks;
+    }
+    const bool isFirst = m_hasMoved && !m_unfinished;
+    // The first picture of a way can be shown before it is known how long it lasts.
+    if (goal.isUrgent && isFirst && readOn(stop) &&
+        m_unfinished->knownEnd.value_or(m_unfinished->ticks + Ticks(1)) <= goal.ticks) {
+        m_passing = Decoded{m_unfinished, {m_unfinished->ticks, goal.ticks}, false};
+        return Outcome::onTheWay;
     }
     std::optional<Decoded> decoded = decode(goal, stop);
     if (!decoded) {
@@ -127,18 +141,25 @@ bool FrameSource::arriveAtKept(Ticks ticks, PreviewSize size) {
     return true;
 }
 
+/// Whether there is a frame whose end is to be found out; decodes the next where there was none.
+bool FrameSource::readOn(const std::stop_token& stop) {
+    if (m_unfinished)
+        return true;
+    std::optional<DecodedFrame> frame = reader().next(stop);
+    if (!frame) {
+        m_position = Ticks::forever();
+        return false;
+    }
+    m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
+    m_budget.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
+    ++m_decodedCount;
+    return true;
+}
+
 std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
                                                         const std::stop_token& stop) {
-    if (!m_unfinished) {
-        std::optional<DecodedFrame> frame = reader().next(stop);
-        if (!frame) {
-            m_position = Ticks::forever();
-            return std::nullopt;
-        }
-        m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
-        m_budget.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
-        ++m_decodedCount;
-    }
+    if (!readOn(stop))
+        return std::nullopt;
     const Ticks ticks = m_unfinished->ticks;
     const Ticks end = endOf(*m_unfinished, goal.ticks, stop);
     Decoded decoded{std::exchange(m_unfinished, nullptr), {ticks, end}, true};

@@ -2,6 +2,7 @@
 
 #include "Media/Pictures/PictureRenderer.h"
 #include "Media/Playback/DecoderBudget.h"
+#include "Media/Playback/DecodingPace.h"
 #include "Media/Playback/FrameCache.h"
 #include "Media/Playback/PreviewSize.h"
 #include "Media/Player.h"
@@ -60,6 +61,8 @@ public:
     /// Whether the item has a picture at all.
     [[nodiscard]] bool hasPicture() const { return m_renderer != nullptr; }
 
+    /// The way that advance() would take to the frame at `ticks`, without moving.
+    [[nodiscard]] DecodingPace::Way wayTo(Ticks ticks) const;
     /// Decodes one frame on the way to the goal. A goal that lies ahead in the run of decoding that
     /// is under way goes on with it, any other begins anew at a key frame. Throws Cancelled when
     /// stopped (call it again to go on), Error when reading fails.
@@ -106,6 +109,7 @@ private:
 
     VideoReader& reader();
     bool arriveAtKept(Ticks ticks, PreviewSize size);
+    bool readOn(const std::stop_token& stop);
     std::optional<Decoded> decode(const Goal& goal, const std::stop_token& stop);
     Ticks endOf(const DecodedFrame& frame, Ticks goal, const std::stop_token& stop);
     void pass(Decoded decoded, const Goal& goal, PreviewSize size);

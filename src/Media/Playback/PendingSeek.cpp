@@ -17,6 +17,14 @@ constexpr milliseconds kHeadStart{10};
 
 } // namespace
 
+SteadyTime PendingSeek::substituteAt() const {
+    return m_isExpectedSoon ? std::max(m_patience.usual, m_patience.latest) : m_patience.usual;
+}
+
+void PendingSeek::expectArrival(std::optional<SteadyTime> at) {
+    m_isExpectedSoon = at && *at < m_patience.latest;
+}
+
 void PendingSeek::settleOn(Ticks ticks) {
     m_target = SeekTarget::exactly(ticks);
 }
@@ -30,7 +38,7 @@ std::optional<CachedFrame> PendingSeek::find(const FrameCache& cache, ImageSize 
 
 std::optional<CachedFrame> PendingSeek::findSubstitute(const FrameCache& cache,
                                                        const RenderedFrame& shown, SteadyTime now) {
-    if (now < m_substituteAt)
+    if (now < substituteAt())
         return std::nullopt;
     const Ticks sought = m_target.earliest;
     const auto distanceOf = [sought](const CachedFrame& frame) {
@@ -41,17 +49,17 @@ std::optional<CachedFrame> PendingSeek::findSubstitute(const FrameCache& cache,
         best = *m_passed;
     const bool isNearer =
         best && (!shown.image || distanceOf(*best) < distance(shown.time.ticks(), sought));
-    m_substituteAt = now + (isNearer ? kSubstituteInterval : kNextLook);
+    m_patience.usual = now + (isNearer ? kSubstituteInterval : kNextLook);
     return isNearer ? best : std::nullopt;
 }
 
 bool PendingSeek::isSubstituteDue(SteadyTime now) const {
-    return now + kHeadStart >= m_substituteAt;
+    return now + kHeadStart >= substituteAt();
 }
 
 void PendingSeek::setPassedFrame(std::shared_ptr<const CachedFrame> frame, SteadyTime now) {
     m_passed = std::move(frame);
-    m_substituteAt = std::min(m_substituteAt, now);
+    m_patience.usual = std::min(m_patience.usual, now);
 }
 
 } // namespace media::playback

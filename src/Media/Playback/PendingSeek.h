@@ -14,13 +14,26 @@ namespace media::playback {
 /// the caller gives the moments, and locks.
 class PendingSeek {
 public:
-    /// Until `substituteAt` the frame on show stays, then something nearer may stand in.
-    PendingSeek(SeekTarget target, SteadyTime substituteAt)
-        : m_target(target), m_substituteAt(substituteAt) {}
+    /// How long the frame on show stays.
+    struct Patience {
+        /// From then on something nearer may stand in, unless the frame sought is expected before
+        /// `latest`.
+        SteadyTime usual;
+        SteadyTime latest;
+    };
+
+    PendingSeek(SeekTarget target, const Patience& patience)
+        : m_target(target), m_patience(patience) {}
 
     [[nodiscard]] const SeekTarget& target() const { return m_target; }
 
-    [[nodiscard]] SteadyTime substituteAt() const { return m_substituteAt; }
+    /// What is left of it, for a seek that takes the place of this one.
+    [[nodiscard]] const Patience& patience() const { return m_patience; }
+
+    /// When something nearer may stand in next.
+    [[nodiscard]] SteadyTime substituteAt() const;
+    /// When the frame sought is likely to come; none where that is not known.
+    void expectArrival(std::optional<SteadyTime> at);
 
     /// The frame was not in the cache when decoding looked.
     [[nodiscard]] bool needsDecoding() const { return m_needsDecoding; }
@@ -37,7 +50,8 @@ public:
     [[nodiscard]] std::optional<CachedFrame> find(const FrameCache& cache, ImageSize size) const;
 
     /// What is nearer to the frame sought than the one on show; none before its time, or without
-    /// such a frame.
+    /// such a frame. Whether a cut lies between the two is not known, so what lies further away
+    /// than the frame on show never stands in.
     std::optional<CachedFrame> findSubstitute(const FrameCache& cache, const RenderedFrame& shown,
                                               SteadyTime now);
 
@@ -50,7 +64,8 @@ private:
     SeekTarget m_target;
     bool m_isExactRequest = m_target.isExact();
     bool m_needsDecoding = false;
-    SteadyTime m_substituteAt;
+    Patience m_patience;
+    bool m_isExpectedSoon = false;
     std::shared_ptr<const CachedFrame> m_passed;
 };
 

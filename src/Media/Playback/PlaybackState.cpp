@@ -11,8 +11,10 @@ using std::chrono::milliseconds;
 
 /// Stands in for a duration that is not known: ten years.
 constexpr Time kUnknownDuration{std::int64_t{315'360'000} * Ticks::kPerSecond, Ticks::kPerSecond};
-/// How long a seek may take before something else is shown meanwhile.
+/// How long a seek may take before something else is shown meanwhile: that is there soon enough to
+/// be taken for the answer, and does not flash up where the frame itself comes little later.
 constexpr milliseconds kPatience{50};
+constexpr milliseconds kLongestPatience{80};
 /// Seeks that follow one another faster, and not farther apart (ticks), tell a direction.
 constexpr milliseconds kLongestPauseInDrag{500};
 constexpr double kFarthestInDrag = 3.0 * Ticks::kPerSecond;
@@ -135,7 +137,8 @@ void PlaybackState::noteRest(SteadyTime now) {
 void PlaybackState::beginGeneration(Time at, SeekTarget target, SteadyTime now) {
     ++m_generation;
     ++m_readAheadVersion;
-    m_seek.emplace(target, m_seek ? m_seek->substituteAt() : now + kPatience);
+    m_seek.emplace(target, m_seek ? m_seek->patience()
+                                  : PendingSeek::Patience{now + kPatience, now + kLongestPatience});
     m_steps.clear();
     m_queue.dropFrames();
     m_immediate.reset();

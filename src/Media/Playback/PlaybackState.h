@@ -129,6 +129,8 @@ public:
     void lateFrameArrived(const DecodeWork& work, RenderedFrame frame, SteadyTime now);
     /// There is no frame at the target that decodes.
     void frameFailed(const DecodeWork& work, SteadyTime now);
+    /// seek: when the frame at the target is likely to come, as far as is known.
+    void expectArrival(const DecodeWork& work, std::optional<SteadyTime> at);
     /// Whether a frame that a seek passes should be given to substituteArrived().
     [[nodiscard]] bool wantsSubstitute(SteadyTime now) const;
     void substituteArrived(const DecodeWork& work, std::shared_ptr<const CachedFrame> frame,

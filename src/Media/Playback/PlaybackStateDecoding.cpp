@@ -299,6 +299,11 @@ void PlaybackState::endJumpWithoutPicture(SteadyTime now) {
     m_deferred.wakes.presenting = true;
 }
 
+void PlaybackState::expectArrival(const DecodeWork& work, std::optional<SteadyTime> at) {
+    if (isCurrent(work) && m_seek)
+        m_seek->expectArrival(at);
+}
+
 bool PlaybackState::wantsSubstitute(SteadyTime now) const {
     return m_seek && m_seek->isSubstituteDue(now);
 }

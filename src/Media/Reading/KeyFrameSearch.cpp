@@ -21,14 +21,14 @@ KeyFrameSearch::KeyFrameSearch(int streamIndex, const TrackClock& clock, ffmpeg:
                                DecodingRun& run)
     : m_streamIndex(streamIndex), m_clock(clock), m_demuxer(demuxer), m_run(run) {}
 
-/// The dts of the last key frame that the container's index knows at or before `ticks`.
-std::optional<ffmpeg::Timestamp> KeyFrameSearch::keyFrameBefore(Ticks ticks) const {
-    return m_demuxer.keyFrameBefore(m_streamIndex, m_clock.timestampAt(ticks));
+std::optional<Ticks> KeyFrameSearch::keyFrameBefore(Ticks ticks) const {
+    const auto dts = m_demuxer.keyFrameBefore(m_streamIndex, m_clock.timestampAt(ticks));
+    return dts ? std::optional(m_clock.ticksAt(*dts)) : std::nullopt;
 }
 
 bool KeyFrameSearch::hasKeyFrameWithin(Ticks earliest, Ticks latest) const {
     const auto key = keyFrameBefore(latest);
-    return key && m_clock.ticksAt(*key) >= earliest;
+    return key && *key >= earliest;
 }
 
 bool KeyFrameSearch::isReachedByDecodingOn(Ticks ticks, Ticks shortestLeap) const {
@@ -45,7 +45,7 @@ bool KeyFrameSearch::isReachedByDecodingOn(Ticks ticks, Ticks shortestLeap) cons
     const auto key = m_demuxer.statesPresentationTimes() ? keyFrameBefore(ticks) : std::nullopt;
     const auto lastDts = m_run.feed().lastDts();
     if (key && lastDts)
-        return m_clock.ticksAt(*key) <= m_clock.ticksAt(*lastDts) + shortestLeap;
+        return *key <= m_clock.ticksAt(*lastDts) + shortestLeap;
     return ticks - last <= kNear;
 }
 

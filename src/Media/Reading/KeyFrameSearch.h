@@ -15,6 +15,9 @@ public:
     KeyFrameSearch(int streamIndex, const TrackClock& clock, ffmpeg::Demuxer& demuxer,
                    DecodingRun& run);
 
+    /// When the last key frame is decoded that the container's index knows at or before `ticks`.
+    [[nodiscard]] std::optional<Ticks> keyFrameBefore(Ticks ticks) const;
+
     /// Whether the container's index knows a key frame that is decoded between the two (both
     /// included).
     [[nodiscard]] bool hasKeyFrameWithin(Ticks earliest, Ticks latest) const;
@@ -42,7 +45,6 @@ private:
 
     enum class Landing { refused, inTime, tooLate };
 
-    [[nodiscard]] std::optional<ffmpeg::Timestamp> keyFrameBefore(Ticks ticks) const;
     Landing land(const Attempt& attempt, const std::stop_token& stop);
     bool landBySteppingBack(Ticks ticks, Ticks latest, const std::stop_token& stop);
     void landAsLateAsPossible(Attempt inTime, const std::stop_token& stop);

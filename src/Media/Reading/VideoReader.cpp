@@ -64,6 +64,12 @@ public:
         beginAt(begin, begin, stop);
     }
 
+    [[nodiscard]] Start startOfWayTo(Ticks target) const {
+        if (m_search.isReachedByDecodingOn(target, {}))
+            return {m_run.nextTicks(), true};
+        return {m_search.keyFrameBefore(target), false};
+    }
+
     [[nodiscard]] bool isCompleteFrom(Ticks ticks) const {
         return m_run.skipPolicy().isCompleteFrom(ticks);
     }
@@ -162,6 +168,10 @@ void VideoReader::seek(Ticks ticks, const std::stop_token& stop) {
 
 void VideoReader::approach(const Approach& way, const std::stop_token& stop) {
     d->approach(way, stop);
+}
+
+VideoReader::Start VideoReader::startOfWayTo(Ticks target) const {
+    return d->startOfWayTo(target);
 }
 
 bool VideoReader::isCompleteFrom(Ticks ticks) const {

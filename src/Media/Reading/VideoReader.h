@@ -74,6 +74,18 @@ public:
         Ticks shortestLeap;
     };
 
+    /// Where an approach() to a target would begin.
+    struct Start {
+        /// The first frame given out begins there, or a little later; none where the container
+        /// does not tell.
+        std::optional<Ticks> ticks;
+        /// The reader is there.
+        bool isHere = false;
+    };
+
+    /// Looks it up without moving.
+    [[nodiscard]] Start startOfWayTo(Ticks target) const;
+
     /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
     /// frame at the target or one before it, from which the others follow.
     void approach(const Approach& way, const std::stop_token& stop = {});
