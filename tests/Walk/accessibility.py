@@ -58,6 +58,10 @@ class Element:
         """What stands in a field."""
         return Atspi.Text.get_text(self.node, 0, Atspi.Text.get_character_count(self.node))
 
+    def write(self, text):
+        """Puts a text into a field in place of the one that is there."""
+        Atspi.EditableText.set_text_contents(self.node, text)
+
     @property
     def states(self):
         return {state.value_nick for state in self.node.get_state_set().get_states()}

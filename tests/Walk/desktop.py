@@ -131,6 +131,14 @@ class Desktop:
         name = "_NET_SUPPORTING_WM_CHECK"
         wait_for("window manager", lambda: "window id" in self._ask_root(name))
 
+    def start_file_manager(self):
+        """Gives the process, which says on a line of its own what it is to show."""
+        process = self.start(
+            "/usr/bin/python3", HERE / "file_manager.py", stdout=subprocess.PIPE, text=True
+        )
+        assert process.stdout.readline().strip() == "ready"
+        return process
+
     def _ask_root(self, atom):
         answer = subprocess.run(["xprop", "-root", atom], capture_output=True, text=True)
         return answer.stdout
