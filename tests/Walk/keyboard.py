@@ -14,7 +14,7 @@ from program import (
 )
 
 OPERATED = {"push button", "check box", "slider", "text", "image"}
-CONTROLS = OPERATED | {"menu item", "progress bar", "label"}
+CONTROLS = OPERATED | {"menu item", "progress bar", "label", "tree item", "table cell"}
 # In the order in which one reads the window.
 TAB_ORDER = ["Crop", "Trim start", "Playhead", "Trim end", "Play", "Mute", "Rotate left",
              "Remove crop", "Export MP4…"]
@@ -115,6 +115,41 @@ class Keyboard:
         self.press("Prior", "bracketright")
         self.program.wait_for_value("Trim end", 2, 1e-3)
 
+    def undo_and_redo(self):
+        before = self.program.slider("Trim end")
+        self.press("ctrl+z")
+        wait_for("undone step", lambda: self.program.slider("Trim end") != before)
+        self.press("alt+e")
+        wait_for("entry to redo", lambda: self._menu_item("Redo Trim End"))
+        # The menu, and the bar that has the keyboard then.
+        self.press("Escape", "Escape")
+        self.press("ctrl+shift+z")
+        self.program.wait_for_value("Trim end", before, 0)
+
+    def go_to_time(self):
+        self.press("ctrl+g")
+        self.wait_for_focus("text", "Go to Time")
+        self.list_elements("field for a time")
+        self.program.hand.type("10f")
+        self.press("Return")
+        self.program.wait_for_label("Type +10f")
+        self.wait_for_focus("text", "Go to Time")
+        expect(self.tree.focused().description.startswith("Type +10f"), "the field says so, too")
+        self.program.keep_picture("refused-time")
+        self.program.hand.type("1.5")
+        self.press("Return")
+        self.tree.wait_gone("dialog", "Go to Time")
+        self.program.wait_for_value("Playhead", 1.5, 1e-3)
+
+    def read_keys(self):
+        self.press("ctrl+question")
+        self.tree.wait("dialog", "Keyboard Shortcuts")
+        wait_for("keyboard in the page", lambda: self._focused_name() == "Keyboard Shortcuts")
+        self.list_elements("page of keys")
+        self.program.keep_picture("keys")
+        self.press("Escape")
+        self.tree.wait_gone("dialog", "Keyboard Shortcuts")
+
     def crop(self):
         self.focus("Crop")
         x, y, width, height = self.program.crop()
@@ -155,6 +190,9 @@ class Keyboard:
         self.press("Down")
         self.tree.wait("popup menu", "Export options")
         self.list_elements("export menu")
+        # What will come out, which is no entry to choose.
+        line = self.tree.wait("menu item", "00:01.0 · ")
+        expect("enabled" not in line.states, f"{line} is only there to be read")
         self.press("Down", "Down", "Return")
         self.tree.wait("push button", "Export MOV…")
 
@@ -174,8 +212,20 @@ class Keyboard:
         expect_near(float(report["format"]["duration"]), seconds, 0.05, "the duration")
         expect(stream(report, "audio") is None, "the file is silent")
 
+    def show_last_export(self, file_manager):
+        self.press("alt+f")
+        wait_for("open menu", lambda: self._menu_item("Show Last Export"))
+        for _ in range(10):
+            if self._focused_name() == "Show Last Export":
+                break
+            self.press("Down")
+        self.press("Return")
+        shown = file_manager.stdout.readline().strip()
+        expect(shown.endswith("/keys.mov"), f"the file manager shows {shown}")
+
     def look_at_menus(self):
-        for menu, first in (("f", "New Window"), ("c", "Set Trim Start"), ("b", "About")):
+        for menu, first in (("f", "New Window"), ("e", "Undo"), ("c", "Set Trim Start"),
+                            ("g", "Go to Time"), ("h", "Keyboard Shortcuts"), ("b", "About")):
             self.press("alt+" + menu)
             wait_for("open menu", lambda: self._menu_item(first))
             self.list_elements(f"menu of Alt+{menu}")
@@ -201,6 +251,11 @@ class Keyboard:
         # The sheet does not go by this.
         self.press("Escape")
         expect(self.program.has_label("Exporting…"), "the sheet stays")
+        self.press("ctrl+w")
+        self.wait_for_focus("push button", "Keep Exporting")
+        self.press("Return")
+        self.tree.wait_gone("push button", "Keep Exporting")
+        self.wait_for_focus("push button", "Cancel")
         self.press("space")
         self.tree.wait_gone("label", "Exporting…")
         expect(not output.exists(), "a cancelled export leaves nothing")
@@ -220,14 +275,18 @@ class Keyboard:
         expect(self.program.wait_for_end() == 0, "the program ends well with its last window")
 
 
-def work(keyboard, small, long, notes):
+def work(keyboard, small, long, notes, file_manager):
     keyboard.open(small)
     keyboard.go_through_tab_order()
     keyboard.trim()
+    keyboard.undo_and_redo()
+    keyboard.go_to_time()
+    keyboard.read_keys()
     keyboard.crop()
     keyboard.play_and_mute()
     keyboard.choose_format()
     keyboard.export()
+    keyboard.show_last_export(file_manager)
     keyboard.look_at_menus()
     keyboard.cancel(long)
     keyboard.meet_alert(notes)
@@ -249,7 +308,7 @@ def main():
         notes.write_text("Buy milk.\n" * 40)
         keyboard = Keyboard(Program(place, sys.argv[1], pictures=pictures), folder)
         try:
-            work(keyboard, small, long, notes)
+            work(keyboard, small, long, notes, place.start_file_manager())
         except BaseException:
             keyboard.program.keep_picture("failed")
             raise
