@@ -135,6 +135,8 @@ class Precision:
         expect(self.tree.find("slider", "Playhead"), "the window is still there")
         self.go_to("#14501")
         self.program.wait_for_value("Playhead", 14501 / RATE, 1e-3)
+        # After the move it stands there for a moment only; under the pointer it stays.
+        self.hand.move(*self.tree.wait("slider", "Playhead").center)
         self.wait_for_readout("#14501")
         self.go_to("+5f")
         self.program.wait_for_value("Playhead", 14506 / RATE, 1e-3)
