@@ -2,68 +2,25 @@
 
 #include "Models/EditState.h"
 #include "Views/Painting/DeviceGrid.h"
-#include "Views/Painting/Symbols.h"
 #include "Views/Painting/Theme.h"
 #include "Views/Timeline/TimelineMarker.h"
+#include "Views/Timeline/TimelinePainting.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <utility>
 
 namespace brisklet {
 
 namespace {
 
-constexpr QColor kYellow(0xff, 0xcc, 0x00);
-constexpr double kShadeOpacity = 0.55;
-constexpr double kFrameWidth = 2;
-constexpr double kCornerRadius = 6;
-constexpr double kShadowOpacity = 0.33;
-/// How far the playhead's shadow can be seen, points.
-constexpr double kShadowReach = 2;
-/// The standard deviation of a blur whose radius is one point.
-constexpr double kShadowDeviation = 0.75;
-constexpr double kSymbolOpacity = 0.6;
-/// The side of the square in which a handle's symbol is drawn, points: that of bold text of
-/// size 11.
-constexpr double kSymbolSide = 18;
-constexpr double kFocusWidth = 2;
 /// How long a filmstrip may take before the strip says that it is coming.
 constexpr std::chrono::seconds kUntilNotice(1);
-/// From the playhead to its focus ring, points.
-constexpr double kFocusDistance = 2;
-
-/// In the order in which their handles are painted.
-constexpr std::array kRangeEnds{EditMarker::trimStart, EditMarker::trimEnd};
-
-QColor blackOf(double opacity) {
-    return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
-}
-
-/// The visible part and a little around it, so that painting need not cope with the huge numbers
-/// that a damaged file can state.
-QRectF bounded(const QRectF& rect, const QRectF& strip) {
-    const double reach = 2 * strip.height();
-    return rect.intersected(strip.adjusted(-reach, 0, reach, 0));
-}
-
-QPainterPath handlePath(const QRectF& rect, EditMarker end) {
-    QPainterPath path;
-    path.addRoundedRect(rect, kCornerRadius, kCornerRadius);
-    // The corners on the side of the range are square.
-    QPainterPath inner;
-    const double left = end == EditMarker::trimStart ? rect.center().x() : rect.left();
-    inner.addRect(QRectF(left, rect.top(), rect.width() / 2, rect.height()));
-    return path.united(inner);
-}
-
 } // namespace
 
 TimelineStrip::TimelineStrip(std::shared_ptr<EditState> state, int stripHeight, int handleWidth,
@@ -157,20 +114,18 @@ void TimelineStrip::repaintDifference(const TimelineGeometry& before, const Time
         update();
         return;
     }
-    const auto repaint = [this](const QRectF& rect, double reach) {
+    const auto repaint = [this](const QRectF& rect, EditMarker marker) {
+        const double reach = TimelinePainting::reach(marker);
         const QRectF around = rect.adjusted(-reach, 0, reach, 0);
-        update(bounded(around, m_shown.strip()).toAlignedRect());
+        update(TimelinePainting::visible(around, m_shown).toAlignedRect());
     };
-    // One point more, since lines may be moved to the nearest pixels of the screen.
-    constexpr double kPlayheadReach = kShadowReach + kFocusDistance + kFocusWidth + 1;
-    constexpr double kHandleReach = kFrameWidth + 1;
     if (before.currentTime != now.currentTime) {
-        repaint(before.marker(EditMarker::playhead), kPlayheadReach);
-        repaint(now.marker(EditMarker::playhead), kPlayheadReach);
+        repaint(before.marker(EditMarker::playhead), EditMarker::playhead);
+        repaint(now.marker(EditMarker::playhead), EditMarker::playhead);
     }
-    for (const EditMarker end : kRangeEnds) {
+    for (const EditMarker end : {EditMarker::trimStart, EditMarker::trimEnd}) {
         if (before.marker(end) != now.marker(end))
-            repaint(before.marker(end).united(now.marker(end)), kHandleReach);
+            repaint(before.marker(end).united(now.marker(end)), end);
     }
 }
 
@@ -336,100 +291,29 @@ void TimelineStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const DeviceGrid grid(painter);
     const TimelineGeometry geometry = geometryNow();
     if (m_state->thumbnails().isEmpty())
-        painter.fillRect(grid.rect(geometry.filmstrip()), theme::quaternary(palette()));
+        painter.fillRect(DeviceGrid(painter).rect(geometry.filmstrip()),
+                         theme::quaternary(palette()));
     else
         m_filmstrip.paint(painter, geometry, m_state->thumbnails());
     if (m_showsNotice)
         paintNotice(painter);
-    paintShades(painter, grid);
-    paintRangeFrame(painter, grid);
-    paintPlayhead(painter, grid);
-    for (const EditMarker end : kRangeEnds)
-        paintHandle(painter, grid, end);
-    paintFocus(painter, grid);
+    TimelinePainting(painter, geometry, palette()).paint(focusedMarker());
+}
+
+std::optional<EditMarker> TimelineStrip::focusedMarker() const {
+    for (const TimelineMarker* each : m_markers) {
+        if (each->isFocusShown())
+            return each->marker();
+    }
+    return std::nullopt;
 }
 
 void TimelineStrip::paintNotice(QPainter& painter) const {
     painter.setFont(theme::captionFont(font()));
     painter.setPen(theme::primary(palette()));
     painter.drawText(geometryNow().filmstrip(), Qt::AlignCenter, tr("Making the filmstrip…"));
-    painter.setPen(Qt::NoPen);
-}
-
-void TimelineStrip::paintShades(QPainter& painter, const DeviceGrid& grid) const {
-    const TimelineGeometry geometry = geometryNow();
-    for (const QRectF& shade : {geometry.leftShade(), geometry.rightShade()})
-        painter.fillRect(grid.rect(bounded(shade, geometry.strip())), blackOf(kShadeOpacity));
-}
-
-void TimelineStrip::paintRangeFrame(QPainter& painter, const DeviceGrid& grid) const {
-    const TimelineGeometry geometry = geometryNow();
-    const QRectF frame = grid.rect(bounded(geometry.rangeFrame(), geometry.strip()));
-    const double line = grid.thickness(kFrameWidth);
-    QPainterPath border;
-    border.setFillRule(Qt::OddEvenFill);
-    border.addRect(frame);
-    if (frame.width() > 2 * line)
-        border.addRect(frame.adjusted(line, line, -line, -line));
-    painter.fillPath(border, kYellow);
-}
-
-void TimelineStrip::paintPlayhead(QPainter& painter, const DeviceGrid& grid) const {
-    const TimelineGeometry geometry = geometryNow();
-    const QRectF wanted = bounded(geometry.marker(EditMarker::playhead), geometry.strip());
-    if (wanted.isEmpty())
-        return;
-    const QRectF bar(grid.x(wanted.x()), 0, grid.thickness(wanted.width()), wanted.height());
-    const double pixel = grid.pixel();
-    // How much of a blurred bar falls at a distance beside it (Gaussian blur).
-    const auto share = [&](double distance) {
-        const double scale = kShadowDeviation * std::sqrt(2.0);
-        return (std::erf((distance + bar.width()) / scale) - std::erf(distance / scale)) / 2;
-    };
-    for (double distance = 0; distance < kShadowReach; distance += pixel) {
-        const QColor color = blackOf(kShadowOpacity * share(distance + pixel / 2));
-        painter.fillRect(QRectF(bar.left() - distance - pixel, 0, pixel, bar.height()), color);
-        painter.fillRect(QRectF(bar.right() + distance, 0, pixel, bar.height()), color);
-    }
-    painter.fillRect(bar, Qt::white);
-}
-
-void TimelineStrip::paintHandle(QPainter& painter, const DeviceGrid& grid, EditMarker end) const {
-    const TimelineGeometry geometry = geometryNow();
-    const QRectF handle = geometry.marker(end);
-    if (!handle.intersects(geometry.strip()))
-        return;
-    const QRectF rect(grid.x(handle.x()), 0, grid.thickness(handle.width()), handle.height());
-    QPainterPath path = handlePath(rect, end);
-    if (!geometry.strip().contains(rect)) {
-        QPainterPath strip;
-        strip.addRoundedRect(geometry.strip(), kCornerRadius, kCornerRadius);
-        path = path.intersected(strip);
-    }
-    painter.fillPath(path, kYellow);
-    QRectF symbol(0, 0, kSymbolSide, kSymbolSide);
-    symbol.moveCenter(rect.center());
-    paintSymbol(painter, end == EditMarker::trimStart ? Symbol::chevronLeft : Symbol::chevronRight,
-                symbol, blackOf(kSymbolOpacity));
-}
-
-void TimelineStrip::paintFocus(QPainter& painter, const DeviceGrid& grid) const {
-    const auto focused = std::find_if(m_markers.begin(), m_markers.end(),
-                                      [](auto* marker) { return marker->isFocusShown(); });
-    if (focused == m_markers.end())
-        return;
-    const TimelineGeometry geometry = geometryNow();
-    const double line = grid.thickness(kFocusWidth);
-    const EditMarker marker = (*focused)->marker();
-    const double reach = marker == EditMarker::playhead ? kFocusDistance + line : 0;
-    const QRectF rect = grid.rect(geometry.marker(marker)).adjusted(-reach, 0, reach, 0);
-    const QRectF middle = rect.adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(theme::accentFill(palette()), line));
-    painter.drawRoundedRect(middle, kCornerRadius - line / 2, kCornerRadius - line / 2);
     painter.setPen(Qt::NoPen);
 }
 

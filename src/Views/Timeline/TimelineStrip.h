@@ -18,7 +18,6 @@
 
 namespace brisklet {
 
-class DeviceGrid;
 class EditState;
 class TimelineMarker;
 
@@ -80,11 +79,7 @@ private:
 
     void followThumbnails();
     void paintNotice(QPainter& painter) const;
-    void paintShades(QPainter& painter, const DeviceGrid& grid) const;
-    void paintRangeFrame(QPainter& painter, const DeviceGrid& grid) const;
-    void paintPlayhead(QPainter& painter, const DeviceGrid& grid) const;
-    void paintHandle(QPainter& painter, const DeviceGrid& grid, EditMarker end) const;
-    void paintFocus(QPainter& painter, const DeviceGrid& grid) const;
+    [[nodiscard]] std::optional<EditMarker> focusedMarker() const;
 
     std::shared_ptr<EditState> m_state;
     int m_stripHeight;
