@@ -11,6 +11,7 @@
 #include "Support/QuickAction/QuickAction.h"
 #include "Views/GoToTimePanel.h"
 #include "Views/Shortcuts/KeyboardShortcutsView.h"
+#include "Views/Shortcuts/ShortcutList.h"
 #include "Views/WindowKeys.h"
 
 #include <QAction>
@@ -55,14 +56,10 @@ StepTitles titlesOf(EditStep step) {
     return {};
 }
 
-/// In text that runs from right to left a bracket would be shown as the opposite one.
+/// With the key's name, where the menu would not show it as it is.
 QString withKeyAsItIs(const QString& title, const QKeySequence& key) {
-    const bool isMirrored =
-        key == QKeySequence(Qt::Key_BracketLeft) || key == QKeySequence(Qt::Key_BracketRight);
-    if (!isMirrored || !QGuiApplication::isRightToLeft())
-        return title;
-    constexpr QChar kLeftToRightOverride(0x202d);
-    return title + u'\t' + kLeftToRightOverride + key.toString(QKeySequence::NativeText);
+    const QString name = nameOf(key);
+    return name == key.toString(QKeySequence::NativeText) ? title : title + u'\t' + name;
 }
 
 } // namespace

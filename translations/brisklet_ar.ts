@@ -545,6 +545,19 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop, reached by Tab</source>
         <translation>منطقة الاقتصاص، بالمفتاح Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>مفاتيح الأسهم</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift مع هذه المفاتيح</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>عشرة أضعاف المسافة</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
         <source>Crop, reached by Tab</source>
         <translation>Ořez, dostupný klávesou Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Klávesy se šipkami</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift s těmito klávesami</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Desetkrát dále</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

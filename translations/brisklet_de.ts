@@ -545,6 +545,19 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
         <source>Crop, reached by Tab</source>
         <translation>Bildausschnitt, über die Tab-Taste</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Umschalt mit diesen Tasten</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Zehnmal so weit</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

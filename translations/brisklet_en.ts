@@ -537,6 +537,19 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop, reached by Tab</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
         <source>Crop, reached by Tab</source>
         <translation>Recorte, accesible con Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Teclas de flecha</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Mayús con estas teclas</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Diez veces más lejos</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
         <source>Crop, reached by Tab</source>
         <translation>Recadrage, accessible avec Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Touches fléchées</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Maj avec ces touches</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Dix fois plus loin</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
         <source>Crop, reached by Tab</source>
         <translation>Ritaglio, raggiungibile con Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Tasti freccia</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Maiusc con questi tasti</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Dieci volte più lontano</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

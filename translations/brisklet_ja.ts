@@ -545,6 +545,19 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop, reached by Tab</source>
         <translation>切り抜き枠 (Tab で移動)</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>矢印キー</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>これらのキーと Shift</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>10 倍移動</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

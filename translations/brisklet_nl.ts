@@ -545,6 +545,19 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
         <source>Crop, reached by Tab</source>
         <translation>Uitsnede, via Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Pijltoetsen</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift met deze toetsen</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Tien keer zo ver</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
         <source>Crop, reached by Tab</source>
         <translation>Ramka kadru, dostępna przez Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Klawisze strzałek</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift z tymi klawiszami</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Dziesięć razy dalej</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

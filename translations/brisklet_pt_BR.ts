@@ -545,6 +545,19 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
         <source>Crop, reached by Tab</source>
         <translation>Recorte, acessado com Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Teclas de seta</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift com estas teclas</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Dez vezes mais longe</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop, reached by Tab</source>
         <translation>Рамка кадрирования, переход по Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Клавиши со стрелками</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift с этими клавишами</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>В десять раз дальше</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
         <source>Crop, reached by Tab</source>
         <translation>Beskärning, nås med Tabb</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Piltangenter</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Skift med dessa tangenter</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Tio gånger så långt</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

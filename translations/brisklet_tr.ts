@@ -545,6 +545,19 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
         <source>Crop, reached by Tab</source>
         <translation>Kırpma alanı, Tab ile ulaşılır</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Ok tuşları</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Bu tuşlarla Shift</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>On kat daha uzağa</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

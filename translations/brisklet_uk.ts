@@ -545,6 +545,19 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop, reached by Tab</source>
         <translation>Рамка кадрування, перехід за Tab</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>Клавіші зі стрілками</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift із цими клавішами</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>Удесятеро далі</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

@@ -545,6 +545,19 @@ Trims videos. Each VIDEO opens in a window of its own.
         <source>Crop, reached by Tab</source>
         <translation>裁剪框（按 Tab 到达）</translation>
     </message>
+    <message>
+        <source>Arrow keys</source>
+        <extracomment>“Ctrl+” or “Alt+” may stand before it.</extracomment>
+        <translation>方向键</translation>
+    </message>
+    <message>
+        <source>Shift with these keys</source>
+        <translation>Shift 加上述按键</translation>
+    </message>
+    <message>
+        <source>Ten times as far</source>
+        <translation>移动十倍距离</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::DesktopApplication</name>

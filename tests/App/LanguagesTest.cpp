@@ -9,12 +9,14 @@
 #include "Views/Controls/ExportButton.h"
 #include "Views/Controls/FlatButton.h"
 #include "Views/EditorView.h"
+#include "Views/Shortcuts/KeyboardShortcutsView.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -22,6 +24,8 @@
 #include <QRegularExpression>
 #include <QToolButton>
 #include <QTranslator>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 #include <gmock/gmock.h>
 
@@ -55,6 +59,26 @@ bool isForAll(const QString& text) {
     return !letters.match(text).hasMatch() || names.match(text).hasMatch();
 }
 
+/// Keys, whose names are Qt's.
+bool areKeys(const QString& text) {
+    static const QString key = QStringLiteral(
+        "((Ctrl|Alt|Shift)\\+)*(Esc|Tab|Space|Home|End|Left|Right|Up|Down|PgUp|PgDown|F4|.)");
+    static const QRegularExpression names(QStringLiteral("^%1(, %1)*$").arg(key));
+    return names.match(text).hasMatch();
+}
+
+/// What a page of keys says, without the keys.
+QStringList textsOf(const QTreeWidget& page) {
+    QStringList texts;
+    for (QTreeWidgetItemIterator item(const_cast<QTreeWidget*>(&page)); *item; ++item) {
+        texts << (*item)->text(0);
+        const QString keys = (*item)->text(1);
+        if (!areKeys(keys))
+            texts << keys.section(u'+', -1);
+    }
+    return texts;
+}
+
 /// All that a widget tells people by itself, on the screen or through a screen reader.
 QStringList textsOf(const QWidget& widget) {
     QStringList texts{widget.accessibleName(), widget.accessibleDescription(), widget.toolTip()};
@@ -66,6 +90,8 @@ QStringList textsOf(const QWidget& widget) {
         texts << button->text();
     if (const auto* menu = qobject_cast<const QMenu*>(&widget))
         texts << menu->title();
+    if (const auto* page = qobject_cast<const QTreeWidget*>(&widget))
+        texts << textsOf(*page);
     for (const QAction* action : widget.actions())
         texts << action->text();
     return texts;
@@ -116,6 +142,16 @@ QString describe(const QWidget& widget) {
            QString::fromLatin1(widget.metaObject()->className());
 }
 
+/// Whether a column is narrower than its texts, or all of them wider than the page.
+bool isCut(const QTreeWidget& page) {
+    const QAbstractItemView& columns = page;
+    for (int column = 0; column < page.columnCount(); ++column) {
+        if (page.columnWidth(column) < columns.sizeHintForColumn(column))
+            return true;
+    }
+    return page.header()->length() > page.viewport()->width();
+}
+
 /// What is cut, covers something else, or lies outside the window.
 QStringList misplacedOf(QWidget& face) {
     QStringList found;
@@ -123,6 +159,10 @@ QStringList misplacedOf(QWidget& face) {
     for (QWidget* widget : withChildren(face)) {
         if (widget->isVisibleTo(&face) && widget->window() == face.window() && isText(*widget))
             texts << widget;
+    }
+    for (const auto* page : face.findChildren<QTreeWidget*>()) {
+        if (isCut(*page))
+            found << QStringLiteral("cut: ") + describe(*page);
     }
     for (QWidget* widget : texts) {
         if (!hasRoom(*widget))
@@ -148,7 +188,8 @@ protected:
 
     void speak(const QString& language) {
         if (language == QLatin1String(kPseudo)) {
-            m_pseudo = std::make_unique<PseudoLanguage>();
+            m_pseudo = std::make_unique<PseudoLanguage>(
+                QStringLiteral(BRISKLET_SOURCE_DIR "/translations/brisklet_en.ts"));
             return;
         }
         // English has none but for plural forms.
@@ -182,6 +223,7 @@ protected:
         ExportSettings::shared().setResolution(ExportResolution::original);
         lookAtMenus(*window, look);
         lookAtAbout(*window, look);
+        lookAtKeys(*window, look);
         lookAtPanels(*window, look);
         lookAtExport(*window, look);
     }
@@ -211,6 +253,13 @@ private:
     void lookAtAbout(WindowRootView& window, const Look& look) {
         window.findChild<QMenuBar*>()->actions().first()->menu()->actions().first()->trigger();
         lookAt("about", visibleDialog(window), look);
+        visibleDialog(window)->close();
+        pumpPending();
+    }
+
+    void lookAtKeys(WindowRootView& window, const Look& look) {
+        KeyboardShortcutsView::openFor(window);
+        lookAt("page of keys", visibleDialog(window), look);
         visibleDialog(window)->close();
         pumpPending();
     }
@@ -370,7 +419,7 @@ protected:
 TEST_F(RightToLeft, showsBracketsAsTheKeysHaveThem) {
     for (const QAction* action : openWindow()->findChildren<QAction*>()) {
         if (action->shortcut() == QKeySequence(Qt::Key_BracketLeft)) {
-            EXPECT_TRUE(action->text().endsWith(QStringLiteral("\t\u202d[")));
+            EXPECT_TRUE(action->text().endsWith(QStringLiteral("\t\u202d[\u202c")));
         }
     }
 }

@@ -9,8 +9,8 @@
 namespace testsupport {
 
 /// Locales of other decimal signs, other digits and other rules for capitals than English.
-inline constexpr auto kForeignLocales = {"de_DE.UTF-8", "fr_FR.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8",
-                                         "fa_IR.UTF-8"};
+inline constexpr auto kForeignLocales = {"de_DE.UTF-8", "fr_FR.UTF-8", "tr_TR.UTF-8",
+                                         "ar_EG.UTF-8", "fa_IR.UTF-8", "ja_JP.UTF-8"};
 
 /// Whether the machine has the locale.
 inline bool isInstalled(const char* locale) {

@@ -111,7 +111,8 @@ TEST_P(ToolLocale, knowsTheFormatOfANameInAnyCase) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Foreign, ToolLocale,
-                         testing::Values("de_DE.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8"),
+                         testing::Values("de_DE.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8",
+                                         "ja_JP.UTF-8"),
                          [](const auto& locale) { return std::string(locale.param).substr(0, 5); });
 
 } // namespace

@@ -1,18 +1,28 @@
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QCoreApplication>
+#include <QFile>
+#include <QSet>
 #include <QString>
 #include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <utility>
 
 namespace testsupport {
 
 /// A language that is made of the English one: in angle quotes, with accents, and sixty per cent
 /// longer. Whatever is shown without quotes cannot be translated, and what is cut does not fit.
-/// For as long as it lives all new texts are in it, Qt's own too.
+/// For as long as it lives all new texts are in it, Qt's own too; but none of ours that translators
+/// do not get to see, since it is not in the template of the catalogues.
 class PseudoLanguage final : public QTranslator {
 public:
-    PseudoLanguage() { QCoreApplication::installTranslator(this); }
+    /// `pathOfTemplate` is that of brisklet_en.ts.
+    explicit PseudoLanguage(const QString& pathOfTemplate) : m_known(textsIn(pathOfTemplate)) {
+        QCoreApplication::installTranslator(this);
+    }
 
     ~PseudoLanguage() override { QCoreApplication::removeTranslator(this); }
 
@@ -24,6 +34,8 @@ public:
         const QByteArrayView where(context);
         const QString source = QString::fromUtf8(text);
         if (where == "QShortcut" || source == u"QT_LAYOUT_DIRECTION" || source.isEmpty())
+            return {};
+        if (where.startsWith("brisklet::") && !m_known.contains({where.toByteArray(), source}))
             return {};
         QString result;
         for (qsizetype i = 0; i < source.size(); ++i) {
@@ -41,12 +53,34 @@ public:
     }
 
 private:
+    /// Contexts, each with a text.
+    using Texts = QSet<std::pair<QByteArray, QString>>;
+
+    static Texts textsIn(const QString& path) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("%s is missing", qPrintable(path));
+        QXmlStreamReader reader(&file);
+        Texts texts;
+        QByteArray context;
+        while (!reader.atEnd()) {
+            reader.readNext();
+            if (reader.isStartElement() && reader.name() == u"name")
+                context = reader.readElementText().toUtf8();
+            else if (reader.isStartElement() && reader.name() == u"source")
+                texts.insert({context, reader.readElementText()});
+        }
+        return texts;
+    }
+
     static QChar accented(QChar letter, bool isPlaceholder) {
         static const QString kPlain = QStringLiteral("AEIOUaeiouncCyN");
         static const QString kAccented = QStringLiteral("ÀÉÎÕÜàéîõüñçÇýÑ");
         const qsizetype at = isPlaceholder ? -1 : kPlain.indexOf(letter);
         return at < 0 ? letter : kAccented[at];
     }
+
+    const Texts m_known;
 };
 
 } // namespace testsupport

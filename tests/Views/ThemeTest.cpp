@@ -5,6 +5,7 @@
 #include "Views/Painting/TabularText.h"
 
 #include <QApplication>
+#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 
@@ -68,6 +69,35 @@ TEST(TabularText, givesEveryDigitTheSameWidth) {
     const qreal width = tabular::width(QStringLiteral("11:11.1"), font);
     for (const QString& text : {QStringLiteral("00:00.0"), QStringLiteral("48:26.7")})
         EXPECT_DOUBLE_EQ(tabular::width(text, font), width);
+}
+
+QImage paintedIn(Qt::LayoutDirection direction, const QString& text) {
+    QImage image(200, 40, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setLayoutDirection(direction);
+    tabular::paint(painter, QPointF(5, 25), text, QApplication::font());
+    return image;
+}
+
+// In Arabic "0:04.000 · #7" had its "#" behind the time.
+TEST(TabularText, hasTheSameOrderOfNumbersInEveryLayout) {
+    const QString text = QStringLiteral("0:04.000 · #7");
+    EXPECT_EQ(paintedIn(Qt::RightToLeft, text), paintedIn(Qt::LeftToRight, text));
+}
+
+TEST(TabularText, putsANumberBehindAWordThatIsWrittenFromRightToLeft) {
+    const QString text = QStringLiteral("النطاق 0:04");
+    QImage whole(200, 40, QImage::Format_RGB32);
+    whole.fill(Qt::white);
+    QPainter painter(&whole);
+    painter.setFont(QApplication::font());
+    painter.setLayoutDirection(Qt::RightToLeft);
+    painter.drawText(QPointF(5, 25), text);
+    painter.end();
+    EXPECT_EQ(paintedIn(Qt::RightToLeft, text), whole);
+    EXPECT_EQ(tabular::width(text, QApplication::font()),
+              QFontMetricsF(QApplication::font()).horizontalAdvance(text));
 }
 
 TEST(ControlLabels, nameTheCropInWholePixels) {

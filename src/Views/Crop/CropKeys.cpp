@@ -13,8 +13,6 @@ namespace {
 constexpr double kStep = 1;
 constexpr double kShiftStep = 10;
 
-constexpr auto kContext = "brisklet::CropOverlayView";
-
 /// What the arrow keys change with these modifiers held.
 struct Part {
     Qt::KeyboardModifiers modifiers;
@@ -60,16 +58,20 @@ std::optional<CropKey> CropKey::of(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 QList<Shortcut> CropKey::shortcuts() {
-    const QString arrows = QCoreApplication::translate(kContext, "Arrow keys");
+    // The contexts are literals, since lupdate sees no others.
+    //: “Ctrl+” or “Alt+” may stand before it.
+    const QString arrows = QCoreApplication::translate("brisklet::CropOverlayView", "Arrow keys");
     QList<Shortcut> shortcuts;
     for (const Part& part : kParts) {
         // "Ctrl+", in the words of the desktop.
         const QString held = QKeySequence(static_cast<int>(part.modifiers.toInt()))
                                  .toString(QKeySequence::NativeText);
-        shortcuts << Shortcut{held + arrows, QCoreApplication::translate(kContext, part.effect)};
+        shortcuts << Shortcut{
+            held + arrows, QCoreApplication::translate("brisklet::CropOverlayView", part.effect)};
     }
-    shortcuts << Shortcut{QCoreApplication::translate(kContext, "Shift with these keys"),
-                          QCoreApplication::translate(kContext, "Ten times as far")};
+    shortcuts << Shortcut{
+        QCoreApplication::translate("brisklet::CropOverlayView", "Shift with these keys"),
+        QCoreApplication::translate("brisklet::CropOverlayView", "Ten times as far")};
     return shortcuts;
 }
 

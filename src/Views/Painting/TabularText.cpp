@@ -41,15 +41,31 @@ qreal layOut(const QString& text, const QFontMetricsF& metrics, Place place) {
     return x;
 }
 
+/// Whether letters of it run from right to left. Its parts then have other places than their order.
+bool hasRightToLeft(const QString& text) {
+    return std::ranges::any_of(text, [](QChar letter) {
+        return letter.direction() == QChar::DirR || letter.direction() == QChar::DirAL;
+    });
+}
+
 } // namespace
 
 qreal width(const QString& text, const QFont& font) {
+    if (hasRightToLeft(text))
+        return QFontMetricsF(font).horizontalAdvance(text);
     return layOut(text, QFontMetricsF(font), [](const QString&, qreal, qreal) {});
 }
 
 void paint(QPainter& painter, const QPointF& origin, const QString& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     painter.setFont(font);
+    if (hasRightToLeft(text)) {
+        painter.setLayoutDirection(Qt::RightToLeft);
+        painter.drawText(origin, text);
+        return;
+    }
+    // The order of times and numbers is the same in every language.
+    painter.setLayoutDirection(Qt::LeftToRight);
     layOut(text, metrics, [&](const QString& part, qreal x, qreal cell) {
         const qreal inset = (cell - metrics.horizontalAdvance(part)) / 2;
         painter.drawText(origin + QPointF(x + inset, 0), part);

@@ -6,16 +6,20 @@
 #include "Views/WindowKeys.h"
 
 #include <QDialogButtonBox>
+#include <QFontMetrics>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace brisklet {
 
 namespace {
 
-/// Fits beside or over the smallest window.
+/// Fits beside or over the smallest window; wider where the texts are.
 constexpr QSize kInitialSize(520, 440);
 
 void add(QTreeWidget& page, const ShortcutGroup& group) {
@@ -26,6 +30,18 @@ void add(QTreeWidget& page, const ShortcutGroup& group) {
     title->setFont(0, theme::headlineFont(page.font()));
     for (const Shortcut& shortcut : group.shortcuts)
         new QTreeWidgetItem(title, {shortcut.effect, shortcut.keys});
+}
+
+/// Of the longest text of each column, or the longest title if that is longer.
+int widthOfTexts(const QTreeWidget& page) {
+    const QAbstractItemView& columns = page;
+    int width = columns.sizeHintForColumn(0) + columns.sizeHintForColumn(1);
+    for (int index = 0; index < page.topLevelItemCount(); ++index) {
+        const QTreeWidgetItem& title = *page.topLevelItem(index);
+        const QFontMetrics metrics(title.font(0));
+        width = std::max(width, metrics.horizontalAdvance(title.text(0) + QStringLiteral("MM")));
+    }
+    return width;
 }
 
 QTreeWidget* makePage(const QList<ShortcutGroup>& groups) {
@@ -54,12 +70,15 @@ KeyboardShortcutsView::KeyboardShortcutsView(const QList<ShortcutGroup>& groups,
     verifyMainThread();
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Keyboard Shortcuts"));
-    resize(kInitialSize);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* stack = new QVBoxLayout(this);
-    stack->addWidget(makePage(groups));
+    QTreeWidget* page = makePage(groups);
+    stack->addWidget(page);
     stack->addWidget(buttons);
+    const int around = stack->contentsMargins().left() + stack->contentsMargins().right() +
+                       2 * page->frameWidth() + page->verticalScrollBar()->sizeHint().width();
+    resize(std::max(kInitialSize.width(), widthOfTexts(*page) + around), kInitialSize.height());
     new QShortcut(kCloseKey, this, this, &QDialog::reject);
 }
 

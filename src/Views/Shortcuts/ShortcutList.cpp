@@ -2,8 +2,10 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QWidget>
 
@@ -11,16 +13,18 @@ namespace brisklet {
 
 namespace {
 
-/// Without the mnemonic, and the key that some titles carry after a tab. A command whose title
-/// changes has its name as the text beside an icon.
+/// Without the mnemonic, which some scripts have in brackets, and the key that some titles carry
+/// after a tab. A command whose title changes has its name as the text beside an icon, which Qt
+/// gives without “&”.
 QString titleOf(const QAction& action) {
-    return action.iconText().section(u'\t', 0, 0).remove(u'&');
+    static const QRegularExpression inBrackets(QStringLiteral("\\(\\w\\)$"));
+    return action.iconText().section(u'\t', 0, 0).remove(inBrackets);
 }
 
 QString namesOf(const QList<QKeySequence>& keys) {
     QStringList names;
     for (const QKeySequence& key : keys)
-        names << key.toString(QKeySequence::NativeText);
+        names << nameOf(key);
     return names.join(QStringLiteral(", "));
 }
 
@@ -57,6 +61,15 @@ void appendControls(QList<ShortcutGroup>& groups, const QWidget& window) {
 }
 
 } // namespace
+
+QString nameOf(const QKeySequence& key) {
+    const QString name = key.toString(QKeySequence::NativeText);
+    if (!QGuiApplication::isRightToLeft() || name.isEmpty() || name.back().isLetterOrNumber())
+        return name;
+    constexpr QChar kLeftToRightOverride(0x202d);
+    constexpr QChar kEndOfOverride(0x202c);
+    return kLeftToRightOverride + name + kEndOfOverride;
+}
 
 QList<ShortcutGroup> shortcutsOf(const QWidget& window) {
     QList<ShortcutGroup> groups;
