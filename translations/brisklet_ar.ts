@@ -840,6 +840,52 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>تعذّر العثور على الخادم «%1».</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>يرفض الخادم «%1» الاتصال.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>انقطع الاتصال بـ «%1».</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>يحيل الخادم «%1» من عنوان إلى آخر بلا نهاية.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>يجيب الخادم «%1» بخطأ (الحالة %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>فشل الاتصال بـ «%1» (التفاصيل: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>شهادته تخص خادمًا آخر</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>شهادته منتهية الصلاحية أو لم تصبح صالحة بعد</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>شهادته غير موثوق بها</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>تعذّر التحقق من شهادته (التفاصيل: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

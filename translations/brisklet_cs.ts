@@ -840,6 +840,52 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>Server „%1“ nelze najít.</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>Server „%1“ nepřijímá připojení.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>Připojení k „%1“ bylo přerušeno.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>Server „%1“ přesměrovává donekonečna.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>Server „%1“ odpovídá chybou (stav %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>Připojení k „%1“ selhalo (podrobnosti: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>jeho certifikát patří jinému serveru</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>jeho certifikát vypršel nebo ještě neplatí</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>jeho certifikát není důvěryhodný</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>jeho certifikát nelze ověřit (podrobnosti: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

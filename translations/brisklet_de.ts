@@ -840,6 +840,52 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>Der Server „%1“ ist nicht zu finden.</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>Der Server „%1“ nimmt keine Verbindung an.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>Die Verbindung zu „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>Der Server „%1“ leitet endlos weiter.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>Der Server „%1“ antwortet mit einem Fehler (Status %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>Die Verbindung zu „%1“ ist gescheitert (Details: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>das Zertifikat gehört zu einem anderen Server</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>das Zertifikat ist abgelaufen oder noch nicht gültig</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>dem Zertifikat wird nicht vertraut</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>das Zertifikat lässt sich nicht prüfen (Details: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

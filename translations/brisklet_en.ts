@@ -832,6 +832,52 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

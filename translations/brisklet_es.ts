@@ -840,6 +840,52 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>No se encuentra el servidor «%1».</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>El servidor «%1» no acepta la conexión.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>Se ha interrumpido la conexión con «%1».</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>El servidor «%1» redirige sin fin.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>El servidor «%1» responde con un error (estado %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>Ha fallado la conexión con «%1» (detalles: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>su certificado es de otro servidor</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>su certificado ha caducado o aún no es válido</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>su certificado no es de confianza</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>su certificado no se puede comprobar (detalles: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

@@ -840,6 +840,52 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>Le serveur «&#x202f;%1&#x202f;» est introuvable.</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>Le serveur «&#x202f;%1&#x202f;» n’accepte pas la connexion.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>La connexion à «&#x202f;%1&#x202f;» a été interrompue.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>Le serveur «&#x202f;%1&#x202f;» redirige sans fin.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>Le serveur «&#x202f;%1&#x202f;» répond par une erreur (état %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>La connexion à «&#x202f;%1&#x202f;» a échoué (détails&#xa0;: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>son certificat est celui d’un autre serveur</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>son certificat a expiré ou n’est pas encore valide</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>son certificat n’est pas digne de confiance</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>son certificat ne peut pas être vérifié (détails&#xa0;: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

@@ -840,6 +840,52 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>Impossibile trovare il server «%1».</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>Il server «%1» non accetta la connessione.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>La connessione a «%1» è stata interrotta.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>Il server «%1» reindirizza all’infinito.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>Il server «%1» risponde con un errore (stato %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>La connessione a «%1» non è riuscita (dettagli: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>il suo certificato è di un altro server</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>il suo certificato è scaduto o non è ancora valido</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>il suo certificato non è attendibile</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>impossibile verificare il suo certificato (dettagli: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

@@ -840,6 +840,52 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>サーバー「%1」が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>サーバー「%1」が接続を受け付けません。</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>「%1」への接続が切断されました。</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>サーバー「%1」の転送が終わりません。</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>サーバー「%1」がエラーを返しました (ステータス %2)。</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>「%1」に接続できませんでした (詳細: %2)。</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>証明書が別のサーバーのものです</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>証明書の有効期限が切れているか、まだ有効になっていません</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>証明書が信頼されていません</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>証明書を検証できません (詳細: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

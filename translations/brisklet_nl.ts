@@ -840,6 +840,52 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>De server “%1” is niet te vinden.</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>De server “%1” accepteert geen verbinding.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>De verbinding met “%1” werd verbroken.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>De server “%1” blijft eindeloos doorverwijzen.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>De server “%1” antwoordt met een fout (status %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>De verbinding met “%1” is mislukt (details: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>het certificaat is van een andere server</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>het certificaat is verlopen of nog niet geldig</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>het certificaat wordt niet vertrouwd</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>het certificaat kan niet worden gecontroleerd (details: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

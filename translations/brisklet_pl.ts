@@ -840,6 +840,52 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>Nie można znaleźć serwera „%1”.</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>Serwer „%1” nie przyjmuje połączenia.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>Połączenie z „%1” zostało przerwane.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>Serwer „%1” przekierowuje bez końca.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>Serwer „%1” odpowiada błędem (status %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>Połączenie z „%1” nie powiodło się (szczegóły: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>certyfikat należy do innego serwera</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>certyfikat wygasł lub nie jest jeszcze ważny</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>certyfikat nie jest zaufany</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>nie można sprawdzić certyfikatu (szczegóły: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

@@ -840,6 +840,52 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     </message>
 </context>
 <context>
+    <name>brisklet::NetworkFailure</name>
+    <message>
+        <source>The server “%1” can’t be found.</source>
+        <extracomment>%1: a server’s name. So it is in the following texts.</extracomment>
+        <translation>“%1” sunucusu bulunamadı.</translation>
+    </message>
+    <message>
+        <source>The server “%1” accepts no connection.</source>
+        <translation>“%1” sunucusu bağlantıyı kabul etmiyor.</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” was broken off.</source>
+        <translation>“%1” ile bağlantı kesildi.</translation>
+    </message>
+    <message>
+        <source>The server “%1” redirects without end.</source>
+        <translation>“%1” sunucusu durmadan yönlendiriyor.</translation>
+    </message>
+    <message>
+        <source>The server “%1” answers with an error (status %2).</source>
+        <extracomment>%2: a number, such as 404.</extracomment>
+        <translation>“%1” sunucusu hatayla yanıt veriyor (durum %2).</translation>
+    </message>
+    <message>
+        <source>The connection to “%1” failed (details: %2).</source>
+        <translation>“%1” ile bağlantı kurulamadı (ayrıntılar: %2).</translation>
+    </message>
+    <message>
+        <source>its certificate is for another server</source>
+        <extracomment>What is wrong with a server, behind a colon. So it is in the following texts.</extracomment>
+        <translation>sertifikası başka bir sunucuya ait</translation>
+    </message>
+    <message>
+        <source>its certificate has expired or isn’t valid yet</source>
+        <translation>sertifikasının süresi dolmuş veya henüz başlamamış</translation>
+    </message>
+    <message>
+        <source>its certificate isn’t trusted</source>
+        <translation>sertifikasına güvenilmiyor</translation>
+    </message>
+    <message>
+        <source>its certificate can’t be verified (details: %1)</source>
+        <translation>sertifikası doğrulanamıyor (ayrıntılar: %1)</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::QuickAction</name>
     <message>
         <source>“%1” couldn’t be made: %2</source>

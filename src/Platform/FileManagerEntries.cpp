@@ -214,7 +214,7 @@ void write(const fs::path& path, const QByteArray& content, bool isExecutable) {
                            file.write(content) == content.size() &&
                            file.setPermissions(permissions) && file.commit();
     if (!isWritten)
-        failToWrite(path, file.errorString());
+        failToWrite(path, localizedReason(file));
 }
 
 /// Removes a file, and its parent folders as far as they are empty then.

@@ -9,6 +9,9 @@ namespace brisklet {
 
 namespace {
 
+/// EHWPOISON of Linux.
+constexpr int kLastErrorNumber = 133;
+
 std::string sentence(const media::Failure& failure) {
     std::vector<std::string> arguments = failure.arguments;
     if (failure.cause)
@@ -28,6 +31,16 @@ QString localizedMessage(const std::exception& error) {
 
 QString localizedReason(const std::error_code& error) {
     return QString::fromStdString(sentence(media::reasonOf(error.value())));
+}
+
+QString localizedReason(const QIODevice& file) {
+    const QString text = file.errorString();
+    // Qt keeps only the system's words for its number.
+    for (int code = 1; code <= kLastErrorNumber; ++code) {
+        if (qt_error_string(code) == text)
+            return localizedReason(std::error_code(code, std::generic_category()));
+    }
+    return QString::fromStdString(sentence({media::ErrorKind::otherReason, {text.toStdString()}}));
 }
 
 } // namespace brisklet

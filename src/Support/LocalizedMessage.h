@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 
+#include <QIODevice>
 #include <QString>
 
 #include <exception>
@@ -15,5 +16,8 @@ QString localizedMessage(const std::exception& error);
 
 /// Why the system refused something, to be put after a colon, without a full stop. Any thread.
 QString localizedReason(const std::error_code& error);
+
+/// The same for what failed last on a file. Any thread.
+QString localizedReason(const QIODevice& file);
 
 } // namespace brisklet

@@ -1,5 +1,7 @@
 #include "Platform/Updater/Download.h"
 
+#include "Platform/Updater/NetworkFailure.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 
 #include <QCoreApplication>
@@ -16,6 +18,8 @@ namespace brisklet {
 namespace {
 
 constexpr int kMostRedirections = 5;
+/// The status of an answer that has the file.
+constexpr int kWholeFile = 200;
 
 bool isThisMachine(const QString& host) {
     return host == u"localhost" || QHostAddress(host).isLoopback();
@@ -83,7 +87,7 @@ void Download::start(QNetworkAccessManager& network) {
     connect(m_reply, &QNetworkReply::finished, this, &Download::complete);
     // Only kept for the error message: the errors are not ignored, and the connection fails.
     connect(m_reply, &QNetworkReply::sslErrors, this,
-            [this](const QList<QSslError>& errors) { m_distrust = errors.value(0).errorString(); });
+            [this](const QList<QSslError>& errors) { m_distrust = distrust(errors.value(0)); });
 }
 
 void Download::follow(const QUrl& target) {
@@ -100,13 +104,13 @@ void Download::take() {
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QByteArray bytes = m_reply->readAll();
     // The body of a redirection or an error is not part of the file.
-    if (status != 200)
+    if (status != kWholeFile)
         return;
     m_received += bytes.size();
     if (m_received > m_limits.most)
         finish(tr("The server sends more than it should."));
     else if (m_into.write(bytes) != bytes.size())
-        finish(tr("The download can’t be stored: %1").arg(m_into.errorString()));
+        finish(tr("The download can’t be stored: %1").arg(localizedReason(m_into)));
     else
         Q_EMIT progressed(m_received);
 }
@@ -115,7 +119,9 @@ void Download::complete() {
     take();
     if (m_isFinished)
         return;
-    if (m_reply->error() != QNetworkReply::NoError)
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    // In Qt 6.4 one redirection too many is no error.
+    if (m_reply->error() != QNetworkReply::NoError || status != kWholeFile)
         finish(networkFailure());
     else
         finish({});
@@ -123,7 +129,7 @@ void Download::complete() {
 
 QString Download::networkFailure() const {
     if (m_distrust.isEmpty())
-        return m_reply->errorString();
+        return brisklet::networkFailure(*m_reply);
     return tr("The connection to “%1” isn’t secure: %2.").arg(m_reply->url().host(), m_distrust);
 }
 

@@ -1,5 +1,6 @@
 #include "Platform/Updater/PackageFile.h"
 
+#include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 
 #include <QDir>
@@ -9,6 +10,7 @@
 #include <cstdio>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace brisklet {
@@ -79,7 +81,7 @@ bool PackageFile::flush() {
     while (::fsync(m_file.handle()) != 0) {
         if (errno == EINTR)
             continue;
-        m_reason = qt_error_string(errno);
+        m_reason = localizedReason(std::error_code(errno, std::generic_category()));
         return false;
     }
     return true;
@@ -93,7 +95,7 @@ bool PackageFile::keep() {
     const bool isKept = std::rename(QFile::encodeName(m_file.fileName()).constData(),
                                     QFile::encodeName(m_path).constData()) == 0;
     if (!isKept) {
-        m_reason = qt_error_string(errno);
+        m_reason = localizedReason(std::error_code(errno, std::generic_category()));
         m_file.remove();
     }
     ::close(second);
@@ -102,7 +104,7 @@ bool PackageFile::keep() {
 
 QString PackageFile::failure() const {
     return tr("The update can’t be stored: %1")
-        .arg(m_reason.isEmpty() ? m_file.errorString() : m_reason);
+        .arg(m_reason.isEmpty() ? localizedReason(m_file) : m_reason);
 }
 
 void removeOldPackages(const QString& folder, const QDateTime& now) {

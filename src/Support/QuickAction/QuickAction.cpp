@@ -37,7 +37,7 @@ void writeText(const fs::path& path, const QString& text) {
     QSaveFile file{QFile::decodeName(path.string().c_str())};
     const QByteArray bytes = text.toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        fail(QuickAction::tr("“%1” couldn’t be written: %2"), path, file.errorString());
+        fail(QuickAction::tr("“%1” couldn’t be written: %2"), path, localizedReason(file));
 }
 
 /// The program's own icon in the bundle's format; empty if it is not installed.
