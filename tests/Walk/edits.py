@@ -134,6 +134,9 @@ def export(program, path, wanted):
     program.hand.press("ctrl+e")
     program.answer_panel("Export", path)
     wait_for("exported file", path.exists)
+    program.tree.wait_gone("label", "Exporting…")
+    # Escape would be meant for the sheet until then.
+    time.sleep(1)
     report = probe(path)
     video = stream(report, "video")
     start, end, (_, _, width, height), is_muted = wanted

@@ -86,6 +86,7 @@ void DecodingThread::perform(const DecodeWork& work) {
 
 void DecodingThread::open(const DecodeWork& work) {
     m_source.reset();
+    m_pace = {};
     m_item = work.item;
     if (!m_item)
         return;
