@@ -50,6 +50,9 @@ ExportProgressView::ExportProgressView(std::weak_ptr<EditState> state, QWidget* 
     m_bar->setFixedWidth(kBarWidth);
     m_bar->setTextVisible(false);
     m_cancel->setAutoDefault(false);
+    QSizePolicy policy = m_cancel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_cancel->setSizePolicy(policy);
     connect(m_cancel, &QPushButton::clicked, this, [model = std::move(state)] {
         if (const auto alive = model.lock())
             alive->cancelExport();
@@ -81,12 +84,12 @@ void ExportProgressView::showEvent(QShowEvent* event) {
 }
 
 bool ExportProgressView::event(QEvent* event) {
-    // Beside a question whether to stop the export, a second answer would be in doubt; assistive
-    // programs press buttons of windows that wait for another, too.
+    // Below a question whether to stop the export there is no other answer; assistive programs
+    // press buttons of windows that wait for another, too.
     if (event->type() == QEvent::WindowBlocked)
-        m_cancel->setEnabled(false);
+        m_cancel->hide();
     if (event->type() == QEvent::WindowUnblocked) {
-        m_cancel->setEnabled(true);
+        m_cancel->show();
         m_cancel->setFocus();
     }
     return Sheet::event(event);

@@ -211,14 +211,14 @@ TEST_F(WindowRootViewTest, leavesOneAnswerOnlyBesideTheQuestion) {
     ASSERT_NE(sheet, nullptr);
     const auto* cancel = sheet->findChild<QPushButton*>();
     ASSERT_NE(cancel, nullptr);
-    EXPECT_TRUE(cancel->isEnabled());
+    EXPECT_TRUE(cancel->isVisible());
     m_window->close();
     QMessageBox* question = visibleQuestion(*m_window);
     ASSERT_NE(question, nullptr);
-    EXPECT_FALSE(cancel->isEnabled());
+    EXPECT_FALSE(cancel->isVisible());
     clickRole(*question, QMessageBox::RejectRole);
     pumpPending();
-    EXPECT_TRUE(cancel->isEnabled());
+    EXPECT_TRUE(cancel->isVisible());
 }
 
 /// The keyboard is with the sheet, which took the keys and did nothing.
