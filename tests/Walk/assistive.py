@@ -9,7 +9,9 @@ import sys
 from pathlib import Path
 
 from desktop import Desktop, wait_for
-from program import Program, expect, expect_near, make_video, probe, repeat_video, require_tools
+from program import (
+    FORECAST_DEADLINE, Program, expect, expect_near, make_video, probe, repeat_video, require_tools
+)
 
 SECONDS = 10
 ENTRIES = ("menu item", "check menu item")
@@ -73,7 +75,7 @@ class Assistant:
             description = self.tree.wait("push button", "Export MP4…").description
             return description.splitlines()[0] if "about" in description else None
 
-        said = wait_for("forecast", whole)
+        said = wait_for("forecast", whole, FORECAST_DEADLINE)
         expect(said.startswith("00:08.0 · 320 × 180 · about "), f"the forecast is \"{said}\"")
         expect(self._entry(said) is not None, f"the menu says \"{said}\", too")
 

@@ -12,7 +12,7 @@ import sys
 from pathlib import Path
 
 from desktop import Desktop, wait_for
-from program import SKIPPED, Program, expect, expect_near, probe, require_tools
+from program import FORECAST_DEADLINE, SKIPPED, Program, expect, expect_near, probe, require_tools
 
 MEGABYTE = 1_000_000
 SECONDS = 12
@@ -78,7 +78,7 @@ class Space:
             button = self.tree.find("push button", "Export MP4…")
             return button and re.search(r"about ([\d.]+) MB", button.description)
 
-        return float(wait_for("forecast", known)[1]) * MEGABYTE
+        return float(wait_for("forecast", known, FORECAST_DEADLINE)[1]) * MEGABYTE
 
     def begin(self, name):
         output = self.disk.folder / name
