@@ -86,7 +86,8 @@ protected:
             pumpPending();
             ASSERT_TRUE(m_window && m_window->isVisible()) << key.key();
             EXPECT_EQ(state().edit(), dragged) << key.key();
-            // The player may round the time that the drag asked for; a key would move it by a frame.
+            // The player may round the time that the drag asked for; a key would move it by a
+            // frame.
             EXPECT_NEAR(state().currentTime(), time, 1.0 / 600) << key.key();
             EXPECT_EQ(m_window->findChild<GoToTimePanel*>(), nullptr);
             EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
