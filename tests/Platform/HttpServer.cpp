@@ -2,6 +2,7 @@
 
 #include <QSslSocket>
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace testsupport {
 
@@ -43,6 +44,10 @@ void HttpServer::answer(QTcpSocket* socket) {
     const QString path = QString::fromLatin1(request[1]);
     const HttpAnswer answer =
         answers.value(path, {.body = "There is no such file.", .status = "404 Not Found"});
+    if (answer.raw) {
+        sendRaw(socket, answer);
+        return;
+    }
     socket->write("HTTP/1.1 " + answer.status + "\r\nConnection: close\r\n" + answer.headers);
     if (answer.isEndless || answer.isSilent) {
         socket->write("\r\n");
@@ -59,6 +64,18 @@ void HttpServer::answer(QTcpSocket* socket) {
     socket->write("Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n\r\n" +
                   answer.body);
     socket->disconnectFromHost();
+}
+
+void HttpServer::sendRaw(QTcpSocket* socket, const HttpAnswer& answer) {
+    const qsizetype piece = answer.piece > 0 ? answer.piece : answer.raw->size();
+    socket->write(answer.raw->left(piece));
+    if (piece < answer.raw->size()) {
+        HttpAnswer rest = answer;
+        rest.raw = answer.raw->mid(piece);
+        QTimer::singleShot(0, socket, [socket, rest] { sendRaw(socket, rest); });
+    } else if (!answer.staysOpen) {
+        socket->disconnectFromHost();
+    }
 }
 
 } // namespace testsupport

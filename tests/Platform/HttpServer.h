@@ -21,6 +21,12 @@ struct HttpAnswer {
     bool isEndless = false;
     /// Headers are sent, and then nothing.
     bool isSilent = false;
+    /// Everything that is sent, as it is, instead of all the above.
+    std::optional<QByteArray> raw;
+    /// How many bytes of `raw` are sent at a time; 0 for all of them.
+    qsizetype piece = 0;
+    /// Whether the connection stays open after `raw`.
+    bool staysOpen = false;
 };
 
 /// A web server on this machine, for one test. Answers from the event loop.
@@ -42,6 +48,7 @@ protected:
 private:
     void serve();
     void answer(QTcpSocket* socket);
+    static void sendRaw(QTcpSocket* socket, const HttpAnswer& answer);
 };
 
 } // namespace testsupport

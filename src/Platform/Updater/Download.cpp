@@ -44,9 +44,7 @@ Download::Download(QNetworkAccessManager& network, const QUrl& url, QIODevice& i
                 start(*manager);
         },
         Qt::QueuedConnection);
-    if (limits.duration)
-        QTimer::singleShot(*limits.duration, this,
-                           [this] { finish(tr("The server took too long.")); });
+    QTimer::singleShot(limits.duration, this, [this] { finish(tr("The server took too long.")); });
 }
 
 Download::~Download() {
@@ -99,7 +97,8 @@ void Download::follow(const QUrl& target) {
 }
 
 void Download::take() {
-    if (m_isFinished)
+    // A reply that was given up is closed.
+    if (m_isFinished || !m_reply->isOpen())
         return;
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QByteArray bytes = m_reply->readAll();

@@ -8,7 +8,6 @@
 
 #include <chrono>
 #include <memory>
-#include <optional>
 
 class QNetworkAccessManager;
 
@@ -27,10 +26,10 @@ public:
     struct Limits {
         /// Bytes; one more is a failure.
         qint64 most = 0;
-        /// For the whole download; none for no limit while data arrives.
-        std::optional<std::chrono::milliseconds> duration;
+        /// For the whole download.
+        std::chrono::milliseconds duration{};
         /// The longest wait without any data.
-        std::chrono::milliseconds silence = std::chrono::seconds(30);
+        std::chrono::milliseconds silence{};
     };
 
     /// Starts at the next turn of the event loop. `into` is open for writing and outlives this.

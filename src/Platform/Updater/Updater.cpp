@@ -20,8 +20,9 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr qint64 kLongestFeed = qint64{1024} * 1024;
-constexpr auto kFeedDuration = 60s;
 constexpr qint64 kLongestPackage = qint64{1024} * 1024 * 1024;
+/// That of a slow modem: a server that sends more slowly is not waited for.
+constexpr qint64 kSlowestBytesPerSecond = 2048;
 constexpr qint64 kSecondsADay = qint64{24} * 60 * 60;
 /// How often the clock is compared: a single timer for a day would not count the time asleep.
 constexpr auto kClockInterval = 1h;
@@ -139,9 +140,11 @@ void Updater::check(Mode mode) {
 }
 
 void Updater::startDownload(const QUrl& url, QIODevice& into, qint64 most, bool isFeed) {
-    Download::Limits limits{.most = most};
-    if (isFeed)
-        limits.duration = kFeedDuration;
+    std::chrono::milliseconds duration = m_configuration.longestWait;
+    if (!isFeed)
+        duration += std::chrono::seconds(most / kSlowestBytesPerSecond);
+    const Download::Limits limits{
+        .most = most, .duration = duration, .silence = m_configuration.longestSilence};
     m_download = new Download(network(), url, into, limits, this);
     if (isFeed) {
         connect(m_download, &Download::finished, this, &Updater::feedArrived);

@@ -34,6 +34,10 @@ struct UpdaterConfiguration {
     std::shared_ptr<QSettings> settings;
     /// From the program's start to the first check, long after the window is shown.
     std::chrono::milliseconds firstLook{10'000};
+    /// The longest that a feed may take; a package may take the time of the slowest line besides.
+    std::chrono::milliseconds longestWait{60'000};
+    /// The longest wait for a server that says nothing.
+    std::chrono::milliseconds longestSilence{30'000};
 };
 
 /// Looks for a newer release of the program in its feed, on command and once a day, offers it,
