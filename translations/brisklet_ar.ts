@@ -800,7 +800,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>اكتب ‎+%1f للانتقال بعدد من الإطارات، أو ‎#%1 للإطار الذي يحمل هذا الرقم.</translation>
+        <translation>اكتب ‎+%1f للانتقال بهذا العدد من الإطارات، أو ‎#%1 للإطار الذي يحمل هذا الرقم.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

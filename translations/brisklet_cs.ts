@@ -800,7 +800,7 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Zadejte +%1f pro posun o snímky, nebo #%1 pro snímek s tímto číslem.</translation>
+        <translation>Zadejte +%1f pro posun o tolik snímků, nebo #%1 pro snímek s tímto číslem.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

@@ -800,7 +800,7 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Geben Sie +%1f ein, um Einzelbilder weiterzugehen, oder #%1 für das Einzelbild mit dieser Nummer.</translation>
+        <translation>Geben Sie +%1f ein, um so viele Einzelbilder weiterzugehen, oder #%1 für das Einzelbild mit dieser Nummer.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

@@ -800,7 +800,7 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Escriba +%1f para avanzar fotogramas, o #%1 para el fotograma de ese número.</translation>
+        <translation>Escriba +%1f para avanzar esa cantidad de fotogramas, o #%1 para el fotograma de ese número.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

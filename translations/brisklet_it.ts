@@ -800,7 +800,7 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Digitare +%1f per spostarsi di fotogrammi, o #%1 per il fotogramma con quel numero.</translation>
+        <translation>Digitare +%1f per spostarsi di altrettanti fotogrammi, o #%1 per il fotogramma con quel numero.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

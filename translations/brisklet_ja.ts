@@ -856,7 +856,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>The server “%1” redirects without end.</source>
-        <translation>サーバー「%1」の転送が終わりません。</translation>
+        <translation>サーバー「%1」がリダイレクトを繰り返しています。</translation>
     </message>
     <message>
         <source>The server “%1” answers with an error (status %2).</source>

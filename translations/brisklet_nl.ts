@@ -800,7 +800,7 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Typ +%1f om frames verder te gaan, of #%1 voor het frame met dat nummer.</translation>
+        <translation>Typ +%1f om zoveel frames verder te gaan, of #%1 voor het frame met dat nummer.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

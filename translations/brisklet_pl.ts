@@ -800,7 +800,7 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Należy wpisać +%1f, aby przejść o klatki, lub #%1, aby przejść do klatki o tym numerze.</translation>
+        <translation>Należy wpisać +%1f, aby przejść o tyle klatek, lub #%1, aby przejść do klatki o tym numerze.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

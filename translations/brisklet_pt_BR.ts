@@ -800,7 +800,7 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Digite +%1f para avançar quadros ou #%1 para o quadro com esse número.</translation>
+        <translation>Digite +%1f para avançar essa quantidade de quadros ou #%1 para o quadro com esse número.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

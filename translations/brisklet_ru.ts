@@ -800,7 +800,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Введите +%1f, чтобы сместиться на кадры, или #%1 для кадра с этим номером.</translation>
+        <translation>Введите +%1f, чтобы сместиться на столько кадров, или #%1 для кадра с этим номером.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

@@ -800,7 +800,7 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Skriv +%1f för att gå bildrutor framåt, eller #%1 för bildrutan med det numret.</translation>
+        <translation>Skriv +%1f för att gå så många bildrutor framåt, eller #%1 för bildrutan med det numret.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>

@@ -800,7 +800,7 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>
         <extracomment>Somebody typed “10f”: %1 is 10. The letter “f” for frames is the same in all languages.</extracomment>
-        <translation>Введіть +%1f, щоб зсунутися на кадри, або #%1 для кадру з цим номером.</translation>
+        <translation>Введіть +%1f, щоб зсунутися на стільки кадрів, або #%1 для кадру з цим номером.</translation>
     </message>
     <message>
         <source>The video starts at %1.</source>
