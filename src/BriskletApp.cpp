@@ -12,6 +12,7 @@
 #include "Platform/Updater/Updater.h"
 #include "Platform/Updater/UpdaterSettings.h"
 #include "Support/OpenBridge.h"
+#include "Support/Workers.h"
 #include "Views/ContentView.h"
 #include "WindowRootView.h"
 
@@ -20,6 +21,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <malloc.h>
 #include <optional>
 #include <utility>
 
@@ -28,6 +30,9 @@ namespace brisklet {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// Each gets a window; more come from a mistake, or from a program that means no good.
+constexpr qsizetype kMostFilesAtOnce = 50;
 
 /// The one under which the program is released; only that one looks for updates by itself.
 QString releasedApplicationId() {
@@ -39,6 +44,9 @@ constexpr auto kLongestWaitForBusCall = 5s;
 
 /// From the start until kept edits are looked for: the first window does not wait for the disk.
 constexpr auto kKeptEditsDelay = 150ms;
+
+/// By then the threads of a video that was closed have usually ended.
+constexpr auto kMemoryReturnDelay = 2s;
 
 /// Wayland gives the keyboard to a window only against the token of the start that asks for it. Qt
 /// takes it from here when a window is activated next. On X11 the launcher is told that its start
@@ -68,6 +76,11 @@ BriskletApp::BriskletApp(const QString& applicationId, UpdaterConfiguration upda
     connect(&m_termination, &TerminationSignals::requested, this, &BriskletApp::terminate);
     m_busCall.setSingleShot(true);
     connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
+    m_memoryReturn.setSingleShot(true);
+    m_memoryReturn.setInterval(kMemoryReturnDelay);
+    // The C library keeps what is freed, for each thread that there was: hundreds of megabytes
+    // after some large videos.
+    connect(&m_memoryReturn, &QTimer::timeout, this, [] { startWorker([] { ::malloc_trim(0); }); });
 }
 
 BriskletApp::~BriskletApp() {
@@ -145,8 +158,9 @@ void BriskletApp::launch(const QList<QUrl>& files, DesktopApplication* session,
     }
     // No window can be requested yet, so the files wait for the first one, which takes the first
     // file and requests the next window.
-    AppDelegate::open(files);
+    AppDelegate::open(files.first(std::min(files.size(), kMostFilesAtOnce)));
     WindowRootView* window = openWindow();
+    sayWhatIsLeftOut(files);
     // Also when the program was started from a terminal, whose window has the keyboard.
     QMetaObject::invokeMethod(window, &QWidget::activateWindow, Qt::QueuedConnection);
 }
@@ -192,6 +206,9 @@ WindowRootView* BriskletApp::openWindow() {
             window->close();
     });
     keepEditsOf(window);
+    const auto giveBack = [this] { m_memoryReturn.start(); };
+    connect(window->state().get(), &EditState::videoURLChanged, this, giveBack);
+    connect(window, &QObject::destroyed, this, giveBack);
     if (m_exportMonitor != nullptr) {
         m_exportMonitor->watch(window);
         window->setRemoteFiles(std::make_shared<DesktopMounts>(m_session->bus()));
@@ -291,11 +308,19 @@ void BriskletApp::open(const QList<QUrl>& files, const QVariantMap& platformData
         if (!window->state()->isEmpty())
             taken << window;
     }
-    AppDelegate::open(files);
+    AppDelegate::open(files.first(std::min(files.size(), kMostFilesAtOnce)));
+    sayWhatIsLeftOut(files);
     for (WindowRootView* window : windows()) {
         if (!window->state()->isEmpty() && !taken.contains(window))
             window->bringToFront();
     }
+}
+
+void BriskletApp::sayWhatIsLeftOut(const QList<QUrl>& files) {
+    if (files.size() > kMostFilesAtOnce)
+        windows().last()->state()->setErrorMessage(
+            //: Said in the window of the last of them; the others are left out.
+            tr("At most %1 videos are opened at once.").arg(kMostFilesAtOnce));
 }
 
 void BriskletApp::activate(const QVariantMap& platformData) {

@@ -91,6 +91,8 @@ private:
     /// From here on the open bridge opens windows; before, files wait for one.
     void openWindowsOnRequest();
     void open(const QList<QUrl>& files, const QVariantMap& platformData);
+    /// In the window opened last, where there are more files than are opened.
+    void sayWhatIsLeftOut(const QList<QUrl>& files);
     void activate(const QVariantMap& platformData);
     void activateAction(const QString& action, const QVariantMap& platformData);
     void lastWindowClosed();
@@ -106,6 +108,8 @@ private:
     ExportMonitor* m_exportMonitor = nullptr;
     /// Runs while a start by the bus waits for the call that says what for.
     QTimer m_busCall;
+    /// Runs from the end of a video until what it left is given back.
+    QTimer m_memoryReturn;
     QList<QPointer<WindowRootView>> m_windows;
     /// Where the user has the question of quit() before them.
     QPointer<WindowRootView> m_askedToQuit;

@@ -386,6 +386,14 @@ Svobodný software pod licencí GNU General Public License, verze 3 nebo nověj�
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>Najednou se otevírá nejvýše tento počet videí: %1.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

@@ -386,6 +386,14 @@ Freie Software unter der GNU General Public License, Version 3 oder neuer.</tran
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>Es werden höchstens %1 Videos auf einmal geöffnet.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

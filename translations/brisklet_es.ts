@@ -386,6 +386,14 @@ Software libre bajo la Licencia Pública General de GNU, versión 3 o posterior.
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>Se abren como máximo %1 vídeos a la vez.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

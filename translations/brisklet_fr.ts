@@ -386,6 +386,14 @@ Logiciel libre sous licence publique générale GNU (GPL), version 3 ou ultérie
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>%1 vidéos au plus sont ouvertes à la fois.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

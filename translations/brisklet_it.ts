@@ -386,6 +386,14 @@ Software libero con licenza GNU General Public License, versione 3 o successiva.
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>Si aprono al massimo %1 video alla volta.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

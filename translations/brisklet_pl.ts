@@ -386,6 +386,14 @@ Wolne oprogramowanie na licencji GNU General Public License w wersji 3 lub nowsz
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>Naraz otwiera się najwyżej tyle filmów: %1.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

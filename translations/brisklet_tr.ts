@@ -386,6 +386,14 @@ GNU Genel Kamu Lisansı sürüm 3 veya sonrası altında özgür yazılım.</tra
     </message>
 </context>
 <context>
+    <name>brisklet::BriskletApp</name>
+    <message>
+        <source>At most %1 videos are opened at once.</source>
+        <extracomment>Said in the window of the last of them; the others are left out.</extracomment>
+        <translation>Tek seferde en çok %1 video açılır.</translation>
+    </message>
+</context>
+<context>
     <name>brisklet::CommandLine</name>
     <message>
         <source>Usage: brisklet [VIDEO...]

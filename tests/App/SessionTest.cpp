@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QTimer>
 
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -43,6 +45,17 @@ protected:
     bool handsOver(const QStringList& arguments, const QString& folder = QStringLiteral("/")) {
         const OtherStart start(environmentOn(m_bus, {}), arguments, folder);
         return pumpUntil([&start] { return start.hasEnded(); }) && start.exitCode() == 0;
+    }
+
+    /// What the program answers to a call from elsewhere.
+    QDBusMessage call(const QString& method, const QVariantList& arguments) {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            BriskletApp::sessionName(), QStringLiteral("/com/quorvan/brisklet"),
+            QStringLiteral("org.freedesktop.Application"), method);
+        message.setArguments(arguments);
+        const QDBusPendingCall pending = m_bus.connect().asyncCall(message);
+        EXPECT_TRUE(pumpUntil([&pending] { return pending.isFinished(); }));
+        return pending.reply();
     }
 
     bool showsVideos(qsizetype count) {
@@ -221,6 +234,67 @@ public:
 private:
     std::function<void()> m_handOver;
 };
+
+// Each file gets a window: a mistaken or hostile caller could fill the memory with them.
+TEST_F(SessionTest, opensSomeOfTenThousandFilesAndSaysSo) {
+    QStringList uris;
+    for (int number = 0; number < 10'000; ++number)
+        uris << QStringLiteral("file:///nowhere/%1%0A<b>.mp4").arg(number);
+    EXPECT_EQ(call(QStringLiteral("Open"), {uris, QVariantMap()}).type(),
+              QDBusMessage::ReplyMessage);
+    EXPECT_EQ(m_app->windows().size(), 50);
+    bool isSaid = false;
+    for (const WindowRootView* window : m_app->windows())
+        isSaid = isSaid || window->state()->errorMessage() ==
+                               QStringLiteral("At most 50 videos are opened at once.");
+    EXPECT_TRUE(isSaid);
+}
+
+TEST_F(SessionTest, refusesCallsOfWrongTypes) {
+    const QVariantMap data;
+    const QString text = QStringLiteral("a\n<b>b</b>");
+    for (const char* method : {"Activate", "Open", "ActivateAction", "Explode"}) {
+        for (const QVariantList& arguments :
+             {QVariantList{}, QVariantList{7}, QVariantList{text, text},
+              QVariantList{QStringList{text}, text}, QVariantList{data, data},
+              QVariantList{text, data, QVariantList()},
+              QVariantList{QVariantList{1, text}, data}}) {
+            const bool isActivation = QByteArrayView(method) == "Activate" &&
+                                      arguments.value(0).toMap() == data && !arguments.isEmpty() &&
+                                      arguments[0].typeId() == QMetaType::QVariantMap;
+            if (isActivation)
+                continue;
+            EXPECT_EQ(call(QString::fromLatin1(method), arguments).type(),
+                      QDBusMessage::ErrorMessage)
+                << method << " " << arguments.size();
+        }
+    }
+    EXPECT_EQ(m_app->windows().size(), 1);
+}
+
+TEST_F(SessionTest, saysWhatIsWrongWithStrangeFiles) {
+    std::ofstream(m_folder / "closed.mp4") << "no video";
+    const QString own = QString::fromLatin1(urlOf(m_folder.path()).toEncoded());
+    for (const QString& uri :
+         {QStringLiteral("file:///root/other%20person.mp4"), QStringLiteral("file:///dev/null"),
+          QStringLiteral("file:///a%00b%0Ac%1B%5B31m.mp4"), QStringLiteral("file://<b>x</b>/&amp;"),
+          QStringLiteral("javascript:alert(1)"), QStringLiteral("file:///<b>x</b>%0A&amp;.mp4"),
+          own + QStringLiteral("/closed.mp4"), own, QStringLiteral("::"),
+          QStringLiteral("x").repeated(100'000)}) {
+        SCOPED_TRACE(uri.left(60).toStdString());
+        WindowRootView* window = m_app->windows().first();
+        EXPECT_EQ(call(QStringLiteral("Open"), {QStringList{uri}, QVariantMap()}).type(),
+                  QDBusMessage::ReplyMessage);
+        ASSERT_TRUE(pumpUntil([&] { return window->state()->errorMessage().has_value(); }));
+        for (const auto* label : window->findChildren<QLabel*>()) {
+            const bool isName = label->text().contains(u'“');
+            EXPECT_TRUE(!isName || label->textFormat() == Qt::PlainText);
+        }
+        window->state()->clearErrorMessage();
+        testsupport::pumpPending();
+        ASSERT_EQ(m_app->windows().size(), 1);
+    }
+}
 
 // A file was lost when the empty window it went into was being closed at that very moment.
 TEST_F(SessionTest, opensAWindowForAFileThatArrivesWhileTheLastEmptyOneCloses) {
