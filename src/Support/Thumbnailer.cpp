@@ -27,7 +27,7 @@ constexpr std::chrono::seconds kLeaseDuration(10);
 /// Strips made in parallel would all be ready only at the end. Never destroyed: workers may still
 /// run when the process exits.
 NewestFirstLock& stripLock() {
-    static NewestFirstLock* const lock = new NewestFirstLock(kLeaseDuration);
+    static auto* const lock = new NewestFirstLock(kLeaseDuration);
     return *lock;
 }
 
@@ -58,6 +58,7 @@ QList<QImage> makeFilmstrip(const std::shared_ptr<const media::Asset>& asset, do
             std::min(kToleranceSeconds, duration / count / 2), media::kComparisonTimescale);
         generator->setTolerance(tolerance, tolerance);
         std::vector<media::Time> times;
+        times.reserve(static_cast<std::size_t>(count));
         for (int index = 0; index < count; ++index)
             times.push_back(middleOfSlice(index, duration, count));
         // A damaged spot must not hide the rest.

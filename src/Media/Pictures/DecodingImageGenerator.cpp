@@ -73,6 +73,7 @@ std::vector<Still> DecodingImageGenerator::images(const std::vector<Time>& times
     // each other, and its threads run dry at each.
     const int threads = std::max(1, processorCount() / count);
     std::vector<std::unique_ptr<DecodingImageGenerator>> generators;
+    generators.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         generators.push_back(another(threads));
     {
