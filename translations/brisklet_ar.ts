@@ -799,11 +799,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>A time, frames from here, or a frame: 1:23.456, +10f, #2412</source>
-        <translation>وقت، أو عدد إطارات من هنا، أو رقم إطار: ‎1:23.456، ‎+10f، ‎#2412</translation>
+        <translation>وقت، أو عدد إطارات من هنا، أو رقم إطار: ‎1:23.456،‏ ‎+10f،‏ ‎#2412</translation>
     </message>
     <message>
         <source>A time, or frames from here: 1:23.456, +10f</source>
-        <translation>وقت، أو عدد إطارات من هنا: ‎1:23.456، ‎+10f</translation>
+        <translation>وقت، أو عدد إطارات من هنا: ‎1:23.456،‏ ‎+10f</translation>
     </message>
     <message>
         <source>Type +%1f to move by frames, or #%1 for the frame of that number.</source>

@@ -22,6 +22,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTextLayout>
 #include <QToolButton>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -422,6 +423,27 @@ TEST_F(RightToLeft, showsBracketsAsTheKeysHaveThem) {
             EXPECT_TRUE(action->text().endsWith(QStringLiteral("\t\u202d[\u202c")));
         }
     }
+}
+
+// In Arabic the examples of Go to Time stood in the reverse order of what they are examples of.
+TEST_F(RightToLeft, listsExamplesInTheOrderOfReading) {
+    const QString text =
+        translatedInto(QStringLiteral("ar"), "brisklet::GoToTimePanel",
+                       "A time, frames from here, or a frame: 1:23.456, +10f, #2412");
+    QTextLayout layout(text, QApplication::font());
+    layout.setTextOption(QTextOption(Qt::AlignRight));
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    const auto middle = [&](const QString& part) {
+        const int begin = static_cast<int>(text.indexOf(part));
+        EXPECT_GE(begin, 0) << text.toStdString();
+        return line.cursorToX(begin + static_cast<int>(part.size()) / 2);
+    };
+    EXPECT_GT(middle(QStringLiteral("1:23.456")), middle(QStringLiteral("+10f")));
+    EXPECT_GT(middle(QStringLiteral("+10f")), middle(QStringLiteral("#2412")));
+    // A sign stays before its number.
+    EXPECT_LT(line.cursorToX(static_cast<int>(text.indexOf(u'#'))), middle(QStringLiteral("2412")));
 }
 
 TEST_F(RightToLeft, mirrorsTheControls) {
