@@ -7,6 +7,7 @@
 #include "Platform/Updater/Updater.h"
 #include "Support/FileUrl.h"
 #include "Support/LocalizedMessage.h"
+#include "Support/MainThread.h"
 #include "Support/PlaybackSettings.h"
 #include "Support/QuickAction/QuickAction.h"
 #include "Views/GoToTimePanel.h"
@@ -214,6 +215,7 @@ void AppCommands::addGo(const QString& title, const QKeySequence& key, void (*go
 }
 
 void AppCommands::fill(QMenuBar& menuBar) {
+    verifyMainThread();
     m_menuBar = &menuBar;
     //: The name of the program; only the place of the accelerator is yours.
     QMenu* application = menuBar.addMenu(tr("&Brisklet"));
@@ -241,6 +243,7 @@ void AppCommands::fill(QMenuBar& menuBar) {
 }
 
 void AppCommands::setReopenEnabled(bool enabled) {
+    verifyMainThread();
     m_reopen->setEnabled(enabled);
 }
 

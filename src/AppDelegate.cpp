@@ -1,6 +1,7 @@
 #include "AppDelegate.h"
 
 #include "EscapeMonitor.h"
+#include "Support/MainThread.h"
 #include "Support/OpenBridge.h"
 
 #include <QCoreApplication>
@@ -8,6 +9,7 @@
 namespace brisklet {
 
 void AppDelegate::applicationDidFinishLaunching() {
+    verifyMainThread();
     if (m_escapeMonitor != nullptr)
         return;
     m_escapeMonitor = new EscapeMonitor(this);
@@ -15,11 +17,13 @@ void AppDelegate::applicationDidFinishLaunching() {
 }
 
 void AppDelegate::exportEnded(QWidget& window) {
+    verifyMainThread();
     if (m_escapeMonitor != nullptr)
         m_escapeMonitor->sheetGone(window);
 }
 
 void AppDelegate::open(const QList<QUrl>& files) {
+    verifyMainThread();
     for (const QUrl& file : files)
         OpenBridge::open(file);
 }

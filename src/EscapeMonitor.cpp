@@ -1,5 +1,7 @@
 #include "EscapeMonitor.h"
 
+#include "Support/MainThread.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
@@ -31,6 +33,7 @@ bool isClosable(const QWidget& window) {
 } // namespace
 
 void EscapeMonitor::sheetGone(QWidget& window) {
+    verifyMainThread();
     m_uncovered = &window;
     m_longestWait.setRemainingTime(QApplication::doubleClickInterval());
 }

@@ -2,6 +2,7 @@
 
 #include "Models/EditState.h"
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 #include "WindowRootView.h"
 
 #include <QApplication>
@@ -24,6 +25,7 @@ ExportMonitor::ExportMonitor(QDBusConnection bus, QObject* parent)
     : QObject(parent), m_inhibitor(bus), m_notifications(bus), m_progress(bus) {}
 
 void ExportMonitor::watch(WindowRootView* window) {
+    verifyMainThread();
     m_windows.append(window);
     const EditState* state = window->state().get();
     connect(state, &EditState::exportProgressChanged, this, &ExportMonitor::update);

@@ -5,6 +5,7 @@
 #include "Models/EditState.h"
 #include "Platform/FileDialogPanels.h"
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 #include "Support/OpenBridge.h"
 #include "Views/ContentView.h"
 #include "Views/Sheet.h"
@@ -69,6 +70,7 @@ WindowRootView::WindowRootView(Updater& updater, FocusedValues& focusedValues, Q
       m_state(std::make_shared<EditState>()),
       m_commands(new AppCommands(updater, m_ownValues, this)),
       m_content(new ContentView(m_state)) {
+    verifyMainThread();
     setAttribute(Qt::WA_DeleteOnClose);
     setMinimumSize(kSmallestSize);
     resize(kInitialSize);
@@ -116,6 +118,7 @@ void WindowRootView::setReopenEnabled(bool enabled) {
 }
 
 void WindowRootView::bringToFront() {
+    verifyMainThread();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -123,6 +126,7 @@ void WindowRootView::bringToFront() {
 }
 
 void WindowRootView::closeNow() {
+    verifyMainThread();
     m_closesAfterExport = true;
     m_state->cancelExport();
     if (!m_state->exportProgress())
@@ -217,10 +221,12 @@ bool WindowRootView::isAskingToClose() const {
 }
 
 void WindowRootView::agreeToStop() {
+    verifyMainThread();
     m_hasAgreedToStop = m_state->exportProgress().has_value();
 }
 
 void WindowRootView::askToClose(int exportCount, std::function<void(CloseAnswer)> answered) {
+    verifyMainThread();
     m_closeAnswered = std::move(answered);
     bringToFront();
     showCloseQuestion(exportCount);

@@ -1,5 +1,6 @@
 #include "Export/ExportSettings.h"
 
+#include "Support/MainThread.h"
 #include "Support/Preferences.h"
 
 #include <QCoreApplication>
@@ -54,11 +55,13 @@ ExportSettings::ExportSettings()
                        .value_or(ExportResolution::original)) {}
 
 void ExportSettings::setFormat(ExportFormat format) {
+    verifyMainThread();
     m_format = format;
     storePreference(*m_preferences, formatKey(), rawValue(format));
 }
 
 void ExportSettings::setResolution(ExportResolution resolution) {
+    verifyMainThread();
     m_resolution = resolution;
     storePreference(*m_preferences, resolutionKey(), rawValue(resolution));
 }

@@ -2,6 +2,7 @@
 
 #include "Support/FileNames.h"
 #include "Support/FileUrl.h"
+#include "Support/MainThread.h"
 #include "Support/Workers.h"
 
 #include <cmath>
@@ -48,6 +49,7 @@ LoadedVideo loadVideo(const std::filesystem::path& path, const std::stop_token& 
 }
 
 void openVideoAhead(const QUrl& url) {
+    verifyMainThread();
     VideoAhead ahead{.url = url, .video = {}, .stop = {}};
     const auto task = std::make_shared<std::packaged_task<LoadedVideo()>>(
         [path = pathOf(url), stop = ahead.stop.get_token()] { return loadVideo(path, stop); });

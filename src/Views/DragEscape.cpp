@@ -1,5 +1,7 @@
 #include "Views/DragEscape.h"
 
+#include "Support/MainThread.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -16,15 +18,24 @@ bool isEscape(const QKeyEvent& event) {
     return event.key() == Qt::Key_Escape && !(event.modifiers() & kOther);
 }
 
+/// Whether keys go to an editor window: no dialog and no menu has them.
+bool hasEditorKeyboard() {
+    const QWidget* active = QApplication::activeWindow();
+    return (active == nullptr || active->parentWidget() == nullptr) &&
+           QApplication::activePopupWidget() == nullptr;
+}
+
 } // namespace
 
 void DragEscape::begin(std::function<void()> takeBack) {
+    verifyMainThread();
     m_takeBack = std::move(takeBack);
     // The event filter that is installed last is called first.
     qApp->installEventFilter(this);
 }
 
 void DragEscape::end() {
+    verifyMainThread();
     m_takeBack = {};
     qApp->removeEventFilter(this);
 }
@@ -36,7 +47,7 @@ bool DragEscape::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT interrupted();
         return false;
     }
-    if ((type != QEvent::ShortcutOverride && type != QEvent::KeyPress) || !hasKeyboard())
+    if ((type != QEvent::ShortcutOverride && type != QEvent::KeyPress) || !hasEditorKeyboard())
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (key.key() == Qt::Key_Shift)
@@ -47,12 +58,6 @@ bool DragEscape::eventFilter(QObject* watched, QEvent* event) {
             takeBack();
     }
     return true;
-}
-
-bool DragEscape::hasKeyboard() const {
-    const QWidget* active = QApplication::activeWindow();
-    return (active == nullptr || active->parentWidget() == nullptr) &&
-           QApplication::activePopupWidget() == nullptr;
 }
 
 } // namespace brisklet

@@ -36,8 +36,6 @@ Q_SIGNALS:
     void interrupted();
 
 private:
-    [[nodiscard]] bool hasKeyboard() const;
-
     QWidget& m_view;
     std::function<void()> m_takeBack;
 };

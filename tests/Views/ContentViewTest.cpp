@@ -3,15 +3,12 @@
 #include "Models/EditStateFixture.h"
 #include "QtSupport/Pixels.h"
 #include "QtSupport/Pointer.h"
-#include "TestSupport/TemporaryFolder.h"
+#include "Views/ContentViewStage.h"
 #include "Views/Controls/ControlsView.h"
 #include "Views/Controls/ExportButton.h"
 #include "Views/Controls/FlatButton.h"
 #include "Views/Crop/CropOverlayView.h"
-#include "Views/DropZoneView.h"
 #include "Views/EditorView.h"
-#include "Views/ErrorAlert.h"
-#include "Views/ExportProgressView.h"
 #include "Views/PlayerContainerView.h"
 #include "Views/PlayerLayerView.h"
 #include "Views/Timeline/TimelineMarker.h"
@@ -20,19 +17,9 @@
 #include "Views/VideoArea.h"
 
 #include <QAccessible>
-#include <QDragEnterEvent>
-#include <QDragLeaveEvent>
-#include <QDropEvent>
-#include <QLabel>
-#include <QMimeData>
-#include <QPointer>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QTest>
 
 #include <cmath>
-#include <fstream>
-#include <memory>
 #include <vector>
 
 namespace brisklet {
@@ -41,67 +28,9 @@ namespace {
 using testsupport::pumpPending;
 using testsupport::pumpUntil;
 
-class ContentViewTest : public EditStateFixture {
+class ContentViewTest : public ContentViewStage {
 protected:
-    ContentViewTest() {
-        m_content->resize(960, 640);
-        m_content->show();
-        m_content->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m_content.get()));
-    }
-
-    ~ContentViewTest() override {
-        state().cancelExport();
-        pumpUntil([this] { return !state().exportProgress(); });
-    }
-
-    template<typename T>
-    T* shown() const {
-        for (T* child : m_content->findChildren<T*>()) {
-            if (child->isVisible())
-                return child;
-        }
-        return nullptr;
-    }
-
-    /// Drops as another program does: over the window first, then let go.
-    bool drop(const QMimeData& data) {
-        const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-        QDragEnterEvent enter({10, 10}, actions, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_content.get(), &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent drop({10, 10}, actions, &data, Qt::LeftButton, Qt::NoModifier);
-        drop.setDropAction(Qt::MoveAction);
-        QCoreApplication::sendEvent(m_content.get(), &drop);
-        m_dropAction = drop.dropAction();
-        return drop.isAccepted();
-    }
-
-    bool drop(const QList<QUrl>& urls) {
-        QMimeData data;
-        data.setUrls(urls);
-        return drop(data);
-    }
-
-    bool hasVideo(const std::filesystem::path& path) {
-        return pumpUntil([this, &path] { return state().videoURL() == urlOf(path); });
-    }
-
-    /// Starts an export that takes long enough to look at.
-    bool startLongExport() {
-        if (!loadAndWait(testsupport::Recipe{.duration = 30, .width = 640, .height = 480}))
-            return false;
-        state().exportTo(urlOf(m_folder / "out.mp4"));
-        return pumpUntil([this] { return shown<ExportProgressView>() != nullptr; });
-    }
-
     QRect areaOfPlayer() const { return shown<VideoArea>()->player().geometry(); }
-
-    testsupport::TemporaryFolder m_folder;
-    /// What the last drop told the other side to do with its file.
-    Qt::DropAction m_dropAction = Qt::IgnoreAction;
-    std::unique_ptr<ContentView> m_content = std::make_unique<ContentView>(m_state);
 };
 
 /// Screen readers met an element without a name in each round corner of the picture.
@@ -140,161 +69,6 @@ TEST_F(ContentViewTest, isTabbedThroughInReadingOrder) {
         QTest::keyClick(m_content->windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
         EXPECT_EQ(m_content->focusWidget(), order[index - 1]) << "back at " << index - 1;
     }
-}
-
-TEST_F(ContentViewTest, invitesADropUntilAVideoIsLoaded) {
-    EXPECT_NE(shown<DropZoneView>(), nullptr);
-    EXPECT_EQ(shown<EditorView>(), nullptr);
-    ASSERT_TRUE(loadAndWait(kTenSeconds));
-    EXPECT_EQ(shown<DropZoneView>(), nullptr);
-    EXPECT_NE(shown<EditorView>(), nullptr);
-}
-
-TEST_F(ContentViewTest, opensAVideoByTheButtonOfTheDropZone) {
-    const auto video = testsupport::makeFixture(kTenSeconds).path;
-    m_panels->toOpen = urlOf(video);
-    auto* button = shown<QPushButton>();
-    EXPECT_EQ(button->text(), QStringLiteral("Open Video…"));
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_TRUE(hasVideo(video));
-}
-
-TEST_F(ContentViewTest, loadsOnlyTheFirstOfThreeDroppedFiles) {
-    const auto first = testsupport::makeFixture({.duration = 10}).path;
-    const auto second = testsupport::makeFixture({.duration = 4}).path;
-    const auto third = testsupport::makeFixture({.duration = 2}).path;
-    EXPECT_TRUE(drop({urlOf(first), urlOf(second), urlOf(third)}));
-    ASSERT_TRUE(hasVideo(first));
-    ASSERT_TRUE(pumpUntil([this] { return !state().thumbnails().isEmpty(); }));
-    EXPECT_EQ(state().videoURL(), urlOf(first));
-}
-
-TEST_F(ContentViewTest, replacesTheVideoByADroppedOne) {
-    ASSERT_TRUE(loadAndWait(kTenSeconds));
-    const auto other = testsupport::makeFixture({.duration = 4}).path;
-    EXPECT_TRUE(drop({urlOf(other)}));
-    EXPECT_TRUE(hasVideo(other));
-}
-
-TEST_F(ContentViewTest, refusesADropOfNothing) {
-    EXPECT_FALSE(drop(QList<QUrl>()));
-    QMimeData text;
-    text.setText(QStringLiteral("not a file"));
-    EXPECT_FALSE(drop(text));
-}
-
-TEST_F(ContentViewTest, leavesTheDraggedFileWhereItIs) {
-    EXPECT_TRUE(drop({urlOf(testsupport::makeFixture(kTenSeconds).path)}));
-    EXPECT_EQ(m_dropAction, Qt::CopyAction);
-}
-
-TEST_F(ContentViewTest, lightsTheDropZoneUpWhileAFileIsOverIt) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.mov"))});
-    const auto* zone = shown<DropZoneView>();
-    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_content.get(), &enter);
-    EXPECT_TRUE(zone->isLit());
-    QDragLeaveEvent leave;
-    QCoreApplication::sendEvent(m_content.get(), &leave);
-    EXPECT_FALSE(zone->isLit());
-}
-
-TEST_F(ContentViewTest, loadsTheFileBehindATransferOfASandboxedProgram) {
-    const auto video = testsupport::makeFixture(kTenSeconds).path;
-    QMimeData data;
-    data.setData(QStringLiteral("application/vnd.portal.filetransfer"), QByteArray("4711\0", 5));
-    EXPECT_FALSE(drop(data)) << "nobody can say what the key stands for";
-    QByteArray asked;
-    m_content->setFileTransfer([&](const QByteArray& key, const auto& done) {
-        asked = key;
-        done({urlOf(video)});
-    });
-    EXPECT_TRUE(drop(data));
-    EXPECT_EQ(asked, "4711");
-    EXPECT_TRUE(hasVideo(video));
-}
-
-TEST_F(ContentViewTest, tellsThatADroppedTextIsNoVideoAndKeepsItsFace) {
-    const auto notes = m_folder / "notes.txt";
-    std::ofstream(notes) << "not a video";
-    EXPECT_TRUE(drop({urlOf(notes)}));
-    ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
-    const QPointer<ErrorAlert> alert = shown<ErrorAlert>();
-    EXPECT_EQ(alert->windowTitle(), QStringLiteral("Something Went Wrong"));
-    EXPECT_EQ(alert->message(), state().errorMessage());
-    EXPECT_TRUE(alert->message().startsWith(QStringLiteral("Couldn't open “notes.txt”: ")));
-    EXPECT_EQ(alert->windowModality(), Qt::WindowModal);
-    auto* button = alert->findChild<QPushButton*>();
-    EXPECT_EQ(button->text(), QStringLiteral("OK"));
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_TRUE(pumpUntil([&alert] { return !alert; }));
-    EXPECT_FALSE(state().errorMessage());
-    EXPECT_NE(shown<DropZoneView>(), nullptr);
-    EXPECT_FALSE(state().videoURL());
-}
-
-TEST_F(ContentViewTest, keepsTheVideoWhenAnotherFileCannotBeLoaded) {
-    ASSERT_TRUE(loadAndWait(kTenSeconds));
-    const auto before = state().videoURL();
-    drop({urlOf(m_folder / "missing.mov")});
-    ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
-    QTest::keyClick(shown<ErrorAlert>(), Qt::Key_Escape);
-    EXPECT_TRUE(pumpUntil([this] { return !state().errorMessage(); }));
-    EXPECT_NE(shown<EditorView>(), nullptr);
-    EXPECT_EQ(state().videoURL(), before);
-}
-
-/// The next message went into the dialog that was on its way out, and vanished with it.
-TEST_F(ContentViewTest, showsAFailureThatComesWhileAnAlertIsDismissed) {
-    state().setErrorMessage(QStringLiteral("First"));
-    const QPointer<ErrorAlert> first = shown<ErrorAlert>();
-    ASSERT_TRUE(first);
-    QTest::mouseClick(first->findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_FALSE(state().errorMessage());
-    state().setErrorMessage(QStringLiteral("Second"));
-    ASSERT_TRUE(pumpUntil([&first] { return !first; }));
-    pumpPending();
-    auto* second = shown<ErrorAlert>();
-    ASSERT_NE(second, nullptr);
-    EXPECT_EQ(second->message(), QStringLiteral("Second"));
-    EXPECT_EQ(m_content->attachedSheet(), second);
-    QTest::keyClick(second, Qt::Key_Escape);
-    EXPECT_TRUE(pumpUntil([this] { return !state().errorMessage(); }));
-    EXPECT_TRUE(pumpUntil([this] { return m_content->attachedSheet() == nullptr; }));
-}
-
-/// A file can fail before the window manager has found a place for its window. The alert was put
-/// over the place that the window would have had, where other windows are.
-TEST_F(ContentViewTest, waitsForThePlaceOfItsWindowBeforeItShowsAnAlert) {
-    m_content->hide();
-    ContentView content(m_state);
-    state().setErrorMessage(QStringLiteral("Message"));
-    EXPECT_EQ(content.attachedSheet(), nullptr);
-    content.show();
-    ASSERT_TRUE(pumpUntil([&content] {
-        const QWidget* alert = content.attachedSheet();
-        return alert != nullptr && alert->isVisible();
-    }));
-    state().clearErrorMessage();
-    EXPECT_TRUE(pumpUntil([&content] { return content.attachedSheet() == nullptr; }));
-}
-
-TEST_F(ContentViewTest, showsALongNameInAnAlertNoWiderThanTheOthers) {
-    state().load(urlOf(m_folder / (std::string(250, 'x') + ".mov")));
-    ASSERT_TRUE(pumpUntil([this] { return shown<ErrorAlert>() != nullptr; }));
-    EXPECT_LT(shown<ErrorAlert>()->width(), 480);
-    // And whole: it is broken into lines that fit.
-    int labels = 0;
-    for (const QLabel* label : shown<ErrorAlert>()->findChildren<QLabel*>()) {
-        const QRect room(0, 0, label->width(), 10000);
-        const QRect text = label->fontMetrics().boundingRect(
-            room, static_cast<int>(Qt::AlignHCenter) | Qt::TextWordWrap, label->text());
-        EXPECT_LE(text.width(), room.width()) << label->text().toStdString();
-        EXPECT_LE(text.height(), label->height()) << label->text().toStdString();
-        labels += label->text().isEmpty() ? 0 : 1;
-    }
-    EXPECT_EQ(labels, 2) << "the title and the message";
 }
 
 TEST_F(ContentViewTest, laysAPictureOfUnknownSizeOutAsSixteenByNine) {
@@ -426,103 +200,11 @@ TEST_F(ContentViewTest, showsThePictureOnBlackWithRoundCorners) {
             << point.x() << ' ' << point.y();
 }
 
-TEST_F(ContentViewTest, showsThatADroppedFileWouldBeTaken) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.mov"))});
-    const auto hover = [&] {
-        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_content.get(), &enter);
-    };
-    const auto leave = [&] {
-        QDragLeaveEvent event;
-        QCoreApplication::sendEvent(m_content.get(), &event);
-    };
-    const auto picture = [this] { return m_content->grab().toImage(); };
-    // Where the border of the drop zone runs, and where the frame around the editor does.
-    for (const int distance : {25, 4}) {
-        const QImage before = picture();
-        const qreal scale = before.devicePixelRatio();
-        const QPoint border(qRound(distance * scale), before.height() / 2 + 4);
-        hover();
-        const QImage over = picture();
-        EXPECT_NE(over.pixel(border), before.pixel(border)) << distance;
-        leave();
-        EXPECT_TRUE(picture() == before) << distance;
-        if (!state().videoURL()) {
-            ASSERT_TRUE(loadAndWait(kTenSeconds));
-        }
-    }
-}
-
-TEST_F(ContentViewTest, fillsTheBarOfAnExportWithItsProgress) {
-    ExportProgressView sheet(m_state, m_content.get());
-    const auto* bar = sheet.findChild<QProgressBar*>();
-    for (const double fraction : {0.0, 0.25, 0.5, 1.0}) {
-        sheet.setProgress(fraction);
-        EXPECT_EQ(bar->value() - bar->minimum(), fraction * (bar->maximum() - bar->minimum()));
-    }
-}
-
-TEST_F(ContentViewTest, saysHowMuchLongerAnExportTakes) {
-    ExportProgressView sheet(m_state, m_content.get());
-    const auto* bar = sheet.findChild<QProgressBar*>();
-    const QSize size = sheet.sizeHint();
-    sheet.setProgress(0.25);
-    EXPECT_EQ(bar->accessibleDescription(), QStringLiteral("25%"));
-    const auto caption = [&sheet] {
-        for (const QLabel* label : sheet.findChildren<QLabel*>()) {
-            if (label->text().startsWith(QStringLiteral("about ")))
-                return label->text();
-        }
-        return QString();
-    };
-    EXPECT_EQ(caption(), QString());
-    // By the clock, without further progress.
-    ASSERT_TRUE(pumpUntil([&] { return !caption().isEmpty(); }));
-    EXPECT_TRUE(caption().endsWith(QStringLiteral(" s left"))) << caption().toStdString();
-    EXPECT_EQ(bar->accessibleDescription(), QStringLiteral("25%, ") + caption());
-    EXPECT_EQ(sheet.sizeHint(), size);
-}
-
-TEST_F(ContentViewTest, keepsTheExportSheetUntilTheExportHasEnded) {
-    ASSERT_TRUE(startLongExport());
-    const QPointer<ExportProgressView> sheet = shown<ExportProgressView>();
-    EXPECT_EQ(m_content->attachedSheet(), sheet);
-    auto* bar = sheet->findChild<QProgressBar*>();
-    EXPECT_EQ(bar->width(), 260);
-    ASSERT_TRUE(pumpUntil([bar] { return bar->value() > 0; }));
-
-    QTest::keyClick(sheet, Qt::Key_Escape);
-    sheet->close();
-    QTest::mouseClick(m_content.get(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    pumpPending();
-    ASSERT_TRUE(sheet);
-    EXPECT_TRUE(sheet->isVisible());
-    EXPECT_TRUE(state().exportProgress());
-
-    auto* cancel = sheet->findChild<QPushButton*>();
-    EXPECT_EQ(cancel->text(), QStringLiteral("Cancel"));
-    QTest::mouseClick(cancel, Qt::LeftButton);
-    EXPECT_TRUE(pumpUntil([&sheet] { return !sheet; }));
-    EXPECT_FALSE(state().exportProgress());
-    EXPECT_EQ(m_content->attachedSheet(), nullptr);
-    EXPECT_EQ(shown<ErrorAlert>(), nullptr);
-    EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
-}
-
 TEST_F(ContentViewTest, givesTheKeyboardToNoControlBeforeTheUserDoes) {
     ASSERT_TRUE(loadAndWait(kTenSeconds));
     EXPECT_EQ(m_content->focusWidget(), shown<EditorView>());
     QTest::keyClick(m_content.get(), Qt::Key_R);
     EXPECT_EQ(state().rotation(), 270);
-}
-
-TEST_F(ContentViewTest, mayGoWhileItsVideoPlaysAndExports) {
-    ASSERT_TRUE(startLongExport());
-    m_content.reset();
-    EXPECT_TRUE(state().exportProgress());
-    state().togglePlayback();
-    pumpPending();
 }
 
 } // namespace

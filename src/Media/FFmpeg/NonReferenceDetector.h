@@ -22,7 +22,7 @@ enum class Discardable {
 
 /// Tells which packets of a stream hold nothing but non-reference pictures, on which no other
 /// depends. It goes by what the packets say, and takes them to be needed where they do not say it
-/// plainly. Use from one thread.
+/// plainly. Use from one thread at a time.
 class NonReferenceDetector final {
 public:
     explicit NonReferenceDetector(const AVCodecParameters& parameters);

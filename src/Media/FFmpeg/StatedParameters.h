@@ -14,7 +14,7 @@ bool statesParameters(const AVFormatContext& context);
 void completeParameters(AVStream& stream, const AVCodecContext& decoder);
 
 /// Decodes the beginning of each sound: how many channels it has, and at what rate, may differ from
-/// what the container says (HE-AAC). Use from one thread.
+/// what the container says (HE-AAC). Use from one thread at a time.
 class FirstSounds {
 public:
     /// `context` outlives it.

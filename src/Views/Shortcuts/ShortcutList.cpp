@@ -63,7 +63,7 @@ void appendControls(QList<ShortcutGroup>& groups, const QWidget& window) {
 } // namespace
 
 QString nameOf(const QKeySequence& key) {
-    const QString name = key.toString(QKeySequence::NativeText);
+    QString name = key.toString(QKeySequence::NativeText);
     if (!QGuiApplication::isRightToLeft() || name.isEmpty() || name.back().isLetterOrNumber())
         return name;
     constexpr QChar kLeftToRightOverride(0x202d);

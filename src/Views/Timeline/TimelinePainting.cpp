@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace brisklet {
 
@@ -50,8 +51,8 @@ QPainterPath handlePath(const QRectF& rect, EditMarker end) {
 } // namespace
 
 TimelinePainting::TimelinePainting(QPainter& painter, const TimelineGeometry& geometry,
-                                   const QPalette& palette)
-    : m_painter(painter), m_geometry(geometry), m_grid(painter), m_palette(palette) {}
+                                   QPalette palette)
+    : m_painter(painter), m_geometry(geometry), m_grid(painter), m_palette(std::move(palette)) {}
 
 void TimelinePainting::paint(std::optional<EditMarker> focused) {
     paintShades();

@@ -16,7 +16,7 @@ namespace brisklet {
 /// Paints the range and the markers over the filmstrip, on the pixels of the screen.
 class TimelinePainting final {
 public:
-    TimelinePainting(QPainter& painter, const TimelineGeometry& geometry, const QPalette& palette);
+    TimelinePainting(QPainter& painter, const TimelineGeometry& geometry, QPalette palette);
 
     /// `focused`: the marker around which the focus ring is, if any.
     void paint(std::optional<EditMarker> focused);
