@@ -35,9 +35,11 @@ QString asTitle(QString name) {
 /// stops the export.
 class CloseQuestion final : public QMessageBox {
 public:
-    explicit CloseQuestion(QWidget* window)
+    /// `sheet` may be null: the sheet over `window`.
+    CloseQuestion(QWidget* window, QWidget* sheet)
         : QMessageBox(QMessageBox::Question, QStringLiteral("Brisklet"), {}, QMessageBox::NoButton,
-                      window, SheetFrame::flags()) {
+                      sheet != nullptr ? sheet : window, SheetFrame::flags()),
+          m_sheet(sheet) {
         setAttribute(Qt::WA_DeleteOnClose);
         //: Answers “Stop the export and close?” with no.
         QPushButton* keep =
@@ -49,7 +51,10 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override {
+        growToSheet();
         QMessageBox::showEvent(event);
+        if (m_sheet != nullptr)
+            move(m_sheet->geometry().center() - rect().center());
         m_frame.shown(*this);
     }
 
@@ -59,6 +64,21 @@ protected:
     }
 
 private:
+    /// The frame of a sheet that was larger would stand around this one.
+    void growToSheet() {
+        if (m_sheet == nullptr)
+            return;
+        const QSize missing =
+            (m_sheet->size() - layout()->totalMinimumSize()).expandedTo(QSize(0, 0));
+        const QSize half = missing / 2;
+        layout()->setContentsMargins(layout()->contentsMargins() +
+                                     QMargins(half.width(), half.height(),
+                                              missing.width() - half.width(),
+                                              missing.height() - half.height()));
+    }
+
+    /// Its parent, if it is a sheet.
+    QWidget* m_sheet;
     SheetFrame m_frame;
 };
 
@@ -236,8 +256,7 @@ void WindowRootView::askToClose(int exportCount, std::function<void(CloseAnswer)
 
 void WindowRootView::showCloseQuestion(int exportCount) {
     if (!m_closeQuestion) {
-        QWidget* sheet = m_content->attachedSheet();
-        m_closeQuestion = new CloseQuestion(sheet != nullptr ? sheet : this);
+        m_closeQuestion = new CloseQuestion(this, m_content->attachedSheet());
         // Answered, it is about to be deleted: the next question needs a box of its own.
         connect(m_closeQuestion, &QMessageBox::accepted, this, [this] {
             m_closeQuestion.clear();
@@ -247,11 +266,12 @@ void WindowRootView::showCloseQuestion(int exportCount) {
             m_closeQuestion.clear();
             answer(CloseAnswer::declined);
         });
-        m_closeQuestion->open();
     }
     m_closeQuestion->setText(exportCount > 1
                                  ? tr("Stop %n exports and close?", nullptr, exportCount)
                                  : tr("Stop the export and close?"));
+    if (!m_closeQuestion->isVisible())
+        m_closeQuestion->open();
 }
 
 void WindowRootView::answer(CloseAnswer answer) {

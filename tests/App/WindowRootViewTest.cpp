@@ -184,6 +184,18 @@ TEST_F(WindowRootViewTest, asksBeforeItStopsAnExportToClose) {
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.path()));
 }
 
+/// The frame of the sheet stood around the smaller question, neither in its middle.
+TEST_F(WindowRootViewTest, coversTheSheetOfTheExportByTheQuestion) {
+    ASSERT_TRUE(startLongExport(*m_window));
+    m_window->close();
+    const QMessageBox* question = visibleQuestion(*m_window);
+    ASSERT_NE(question, nullptr);
+    pumpPending();
+    const QRect sheet = m_window->content().attachedSheet()->geometry();
+    EXPECT_TRUE(question->geometry().contains(sheet));
+    EXPECT_EQ(question->geometry().center(), sheet.center());
+}
+
 /// Both the sheet and the question over it had a "Cancel", one to stop the export, the other to
 /// keep it.
 TEST_F(WindowRootViewTest, namesTheAnswersAfterWhatBecomesOfTheExport) {
