@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
 
 extern "C" {
@@ -111,6 +112,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
     const std::optional<int> unit = hevcUnit(encoding);
     // Pictures that are too small for x265 are encoded by x264, which has 10 bits too.
     const bool isHevc = isDeep && unit;
+    auto tables = isHevc ? std::make_unique<EncoderTables>() : nullptr;
     CodecContextPtr context = makeContext(isHevc ? "libx265" : "libx264");
     context->width = encoding.width;
     context->height = encoding.height;
@@ -149,7 +151,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         }
         options.open("x264-params");
     }
-    return Encoder(std::move(context));
+    return Encoder(std::move(context), std::move(tables));
 }
 
 std::optional<Encoder> Encoder::forAudio(int sampleRate, const AVChannelLayout& layout) {

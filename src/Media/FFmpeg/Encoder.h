@@ -1,7 +1,9 @@
 #pragma once
 
+#include "Media/FFmpeg/EncoderTables.h"
 #include "Media/FFmpeg/Handles.h"
 
+#include <memory>
 #include <optional>
 
 namespace media {
@@ -40,6 +42,19 @@ public:
     /// AAC-LC at a transparent rate. None if the encoder does not know the channel layout.
     static std::optional<Encoder> forAudio(int sampleRate, const AVChannelLayout& layout);
 
+    Encoder(Encoder&&) = default;
+
+    /// Exchanges the two, so that the tables outlive the encoder that is replaced.
+    Encoder& operator=(Encoder&& other) noexcept {
+        m_context.swap(other.m_context);
+        m_tables.swap(other.m_tables);
+        return *this;
+    }
+
+    Encoder(const Encoder&) = delete;
+    Encoder& operator=(const Encoder&) = delete;
+    ~Encoder() = default;
+
     [[nodiscard]] AVCodecContext& context() { return *m_context; }
 
     /// Sends one frame; null starts draining. Throws Error.
@@ -48,8 +63,11 @@ public:
     bool receive(AVPacket& packet);
 
 private:
-    explicit Encoder(CodecContextPtr context) : m_context(std::move(context)) {}
+    explicit Encoder(CodecContextPtr context, std::unique_ptr<EncoderTables> tables = nullptr)
+        : m_tables(std::move(tables)), m_context(std::move(context)) {}
 
+    /// Of libx265 only; they outlive the encoder.
+    std::unique_ptr<EncoderTables> m_tables;
     CodecContextPtr m_context;
 };
 
