@@ -26,6 +26,7 @@ ExportMonitor::ExportMonitor(QDBusConnection bus, QObject* parent)
 
 void ExportMonitor::watch(WindowRootView* window) {
     verifyMainThread();
+    m_windows.removeAll(nullptr);
     m_windows.append(window);
     const EditState* state = window->state().get();
     connect(state, &EditState::exportProgressChanged, this, &ExportMonitor::update);
