@@ -11,6 +11,7 @@
 #include "Platform/Updater/UpdateDialogs.h"
 #include "Platform/Updater/Updater.h"
 #include "Platform/Updater/UpdaterSettings.h"
+#include "Support/MemoryReturn.h"
 #include "Support/OpenBridge.h"
 #include "Support/Workers.h"
 #include "Views/ContentView.h"
@@ -21,7 +22,6 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
-#include <malloc.h>
 #include <optional>
 #include <utility>
 
@@ -78,9 +78,7 @@ BriskletApp::BriskletApp(const QString& applicationId, UpdaterConfiguration upda
     connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
     m_memoryReturn.setSingleShot(true);
     m_memoryReturn.setInterval(kMemoryReturnDelay);
-    // The C library keeps what is freed, for each thread that there was: hundreds of megabytes
-    // after some large videos.
-    connect(&m_memoryReturn, &QTimer::timeout, this, [] { startWorker([] { ::malloc_trim(0); }); });
+    connect(&m_memoryReturn, &QTimer::timeout, this, [] { startWorker(&returnFreedMemory); });
 }
 
 BriskletApp::~BriskletApp() {
