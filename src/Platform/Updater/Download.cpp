@@ -18,8 +18,8 @@ namespace brisklet {
 namespace {
 
 constexpr int kMostRedirections = 5;
-/// The status of an answer that has the file.
-constexpr int kWholeFile = 200;
+/// Bytes in memory that have not been stored yet, however fast the server sends.
+constexpr qint64 kMostUnstored = 256LL * 1024;
 
 bool isThisMachine(const QString& host) {
     return host == u"localhost" || QHostAddress(host).isLoopback();
@@ -33,9 +33,9 @@ bool isSafeAddress(const QUrl& url) {
     return url.scheme() == u"https" || (url.scheme() == u"http" && isThisMachine(url.host()));
 }
 
-Download::Download(QNetworkAccessManager& network, const QUrl& url, QIODevice& into, Limits limits,
+Download::Download(QNetworkAccessManager& network, QUrl url, QIODevice& into, Limits limits,
                    QObject* parent)
-    : QObject(parent), m_url(url), m_into(into), m_limits(limits) {
+    : QObject(parent), m_url(std::move(url)), m_into(into), m_limits(limits) {
     verifyMainThread();
     QMetaObject::invokeMethod(
         this,
@@ -78,8 +78,7 @@ void Download::start(QNetworkAccessManager& network) {
                       QStringLiteral("Brisklet/") + QCoreApplication::applicationVersion());
     request.setTransferTimeout(static_cast<int>(m_limits.silence.count()));
     m_reply = network.get(request);
-    // Limits what is held in memory, however fast the server sends.
-    m_reply->setReadBufferSize(256 * 1024);
+    m_reply->setReadBufferSize(kMostUnstored);
     connect(m_reply, &QNetworkReply::redirected, this, &Download::follow);
     connect(m_reply, &QNetworkReply::readyRead, this, &Download::take);
     connect(m_reply, &QNetworkReply::finished, this, &Download::complete);

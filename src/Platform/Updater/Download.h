@@ -33,7 +33,7 @@ public:
     };
 
     /// Starts at the next turn of the event loop. `into` is open for writing and outlives this.
-    Download(QNetworkAccessManager& network, const QUrl& url, QIODevice& into, Limits limits,
+    Download(QNetworkAccessManager& network, QUrl url, QIODevice& into, Limits limits,
              QObject* parent = nullptr);
     ~Download() override;
 

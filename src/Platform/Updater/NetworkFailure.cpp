@@ -40,7 +40,6 @@ QString networkFailure(const QNetworkReply& reply) {
     }
     if (isRedirection(reply.error(), status))
         return NetworkFailure::tr("The server “%1” redirects without end.").arg(host);
-    constexpr int kWholeFile = 200;
     if (status != 0 && status != kWholeFile)
         //: %2: a number, such as 404.
         return NetworkFailure::tr("The server “%1” answers with an error (status %2).")

@@ -6,9 +6,12 @@
 
 namespace brisklet {
 
-/// Why a request failed, as a sentence for the user in the program's language. What has none of its
-/// own ends with Qt's words as details. For a finished
-/// reply with an error, or with another status than 200. Main thread.
+/// The HTTP status of an answer that has the whole file.
+inline constexpr int kWholeFile = 200;
+
+/// Why a request failed, as a sentence for the user in the program's language; a failure that has
+/// no sentence of its own ends with Qt's words as details. For a finished reply with an error, or
+/// with another status than kWholeFile. Main thread.
 QString networkFailure(const QNetworkReply& reply);
 
 /// What is wrong with a server's certificate, to be put after a colon, without a full stop. Main
