@@ -16,7 +16,9 @@
 #include <shared_mutex>
 #include <string_view>
 #include <sys/file.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 #include <utility>
 
@@ -172,6 +174,19 @@ int open64(const char* path, int flags, ...) {
     return openFile("open64", path, flags, mode);
 }
 
+ssize_t read(int descriptor, void* data, std::size_t size) {
+    SystemAnswer answer;
+    if (isAskedAbout(descriptor))
+        answer = ask({.kind = SystemCall::Kind::read,
+                      .descriptor = descriptor,
+                      .size = size,
+                      .offset = ::lseek(descriptor, 0, SEEK_CUR)});
+    return answered(answer, ssize_t{-1}, [&] {
+        return next<ssize_t(int, void*, std::size_t)>("read")(descriptor, data,
+                                                              std::min(size, answer.most));
+    });
+}
+
 ssize_t pread(int descriptor, void* data, std::size_t size, off_t offset) {
     return readFile("pread", descriptor, data, size, offset);
 }
@@ -200,6 +215,24 @@ ssize_t write(int descriptor, const void* data, std::size_t size) {
         return next<ssize_t(int, const void*, std::size_t)>("write")(descriptor, data,
                                                                      std::min(size, answer.most));
     });
+}
+
+void* mmap(void* address, std::size_t size, int protection, int flags, int descriptor,
+           off_t offset) noexcept {
+    SystemAnswer answer = ask(
+        {.kind = SystemCall::Kind::map, .descriptor = descriptor, .size = size, .offset = offset});
+    // Nobody unmaps what they were not told of.
+    answer.isDone = false;
+    // Not by name: looking names up may need memory.
+    return answered(answer, MAP_FAILED, [&] {
+        return reinterpret_cast<void*>(
+            ::syscall(SYS_mmap, address, size, protection, flags, descriptor, offset));
+    });
+}
+
+void* mmap64(void* address, std::size_t size, int protection, int flags, int descriptor,
+             off_t offset) noexcept {
+    return mmap(address, size, protection, flags, descriptor, offset);
 }
 
 int fsync(int descriptor) {

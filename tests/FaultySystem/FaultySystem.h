@@ -21,6 +21,8 @@ struct SystemCall {
         link,
         rename,
         unlink,
+        /// Of a file, or of memory where one asks the system itself.
+        map,
         startThread,
     };
 

@@ -232,19 +232,55 @@ TEST_F(UpdaterTest, leavesTheDownloadOfAnotherProgramAlone) {
 class UpdaterWithAFault : public UpdaterTest {
 protected:
     /// Installs while the call with that number fails; how many there were.
-    int installWithFaultAt(int number, int error) {
+    int installWithFaultAt(int number, const testsupport::SystemAnswer& answer) {
         const std::string folder = m_configuration.downloadFolder.toStdString();
         int calls = 0;
         testsupport::setSystemJudge([&](const testsupport::SystemCall& call) {
             const bool isFailing = pathOf(call).starts_with(folder) && calls++ == number;
-            return testsupport::SystemAnswer{.error = isFailing ? error : 0};
+            return isFailing ? answer : testsupport::SystemAnswer{};
         });
         install();
         testsupport::setSystemJudge({});
         return calls;
     }
 
+    /// After each fault the package is whole or gone; how many were told.
+    int faultsTold(std::initializer_list<testsupport::SystemAnswer> answers) {
+        const int calls = installWithFaultAt(-1, {});
+        EXPECT_TRUE(QFile::remove(m_driver.opened));
+        int told = 0;
+        for (const testsupport::SystemAnswer& answer : answers) {
+            for (int number = 0; number < calls; ++number) {
+                SCOPED_TRACE(testing::Message() << "call " << number << ", error " << answer.error);
+                m_driver.forget();
+                installWithFaultAt(number, answer);
+                m_driver.failure.isEmpty() ? expectWholePackage() : expectSentence();
+                told += m_driver.failure.isEmpty() ? 0 : 1;
+                EXPECT_EQ(
+                    QDir(m_configuration.downloadFolder).entryList(QDir::Files | QDir::Hidden),
+                    QStringList());
+            }
+        }
+        m_driver.forget();
+        install();
+        EXPECT_EQ(m_driver.failure, QString());
+        return told;
+    }
+
 private:
+    void expectWholePackage() const {
+        QFile package(m_driver.opened);
+        ASSERT_TRUE(package.open(QIODevice::ReadOnly));
+        EXPECT_EQ(package.readAll(), m_package);
+        ASSERT_TRUE(package.remove());
+    }
+
+    void expectSentence() const {
+        const QString& failure = m_driver.failure;
+        EXPECT_TRUE(failure.startsWith(QStringLiteral("The update c"))) << failure.toStdString();
+        EXPECT_FALSE(failure.contains(QStringLiteral("nknown"))) << failure.toStdString();
+    }
+
     static std::string pathOf(const testsupport::SystemCall& call) {
         if (call.descriptor < 0)
             return std::string(call.path);
@@ -255,31 +291,14 @@ private:
 };
 
 TEST_F(UpdaterWithAFault, installsTheWholePackageOrLeavesNothing) {
-    const int calls = installWithFaultAt(-1, 0);
-    ASSERT_TRUE(QFile::remove(m_driver.opened));
-    int failures = 0;
-    for (const int error : {ENOSPC, EIO, EINTR}) {
-        for (int number = 0; number < calls; ++number) {
-            m_driver.forget();
-            installWithFaultAt(number, error);
-            const QString failure = m_driver.failure;
-            SCOPED_TRACE(testing::Message() << "call " << number << ", error " << error);
-            if (failure.isEmpty()) {
-                QFile package(m_driver.opened);
-                ASSERT_TRUE(package.open(QIODevice::ReadOnly));
-                EXPECT_EQ(package.readAll(), m_package);
-                ASSERT_TRUE(package.remove());
-            } else {
-                ++failures;
-                EXPECT_TRUE(failure.startsWith(QStringLiteral("The update c")))
-                    << failure.toStdString();
-                EXPECT_FALSE(failure.contains(QStringLiteral("nknown"))) << failure.toStdString();
-            }
-            EXPECT_EQ(QDir(m_configuration.downloadFolder).entryList(QDir::Files | QDir::Hidden),
-                      QStringList());
-        }
-    }
-    EXPECT_GT(failures, 10);
+    EXPECT_GT(faultsTold({{.error = ENOSPC}, {.error = EIO, .isDone = true}}), 7);
+}
+
+/// The other faults.
+class ExhaustiveUpdaterWithAFault : public UpdaterWithAFault {};
+
+TEST_F(ExhaustiveUpdaterWithAFault, installsTheWholePackageOrLeavesNothing) {
+    EXPECT_GT(faultsTold({{.error = EDQUOT}, {.error = EIO}, {.error = EINTR}, {.most = 1}}), 10);
 }
 
 TEST_F(UpdaterTest, checksByItselfOnceADayAndOnlyWhenAllowed) {

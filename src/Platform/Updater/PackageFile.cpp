@@ -32,12 +32,12 @@ bool lock(const QFile& file) {
     return true;
 }
 
-/// Whether the open file is still the one of its name.
-bool isNamed(const QFile& file) {
+/// Whether the name is that of the open file.
+bool isNamed(int descriptor, const QString& name) {
     struct stat open = {};
     struct stat named = {};
-    return ::fstat(file.handle(), &open) == 0 &&
-           ::lstat(QFile::encodeName(file.fileName()).constData(), &named) == 0 &&
+    return ::fstat(descriptor, &open) == 0 &&
+           ::lstat(QFile::encodeName(name).constData(), &named) == 0 &&
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
@@ -67,7 +67,7 @@ bool PackageFile::create() {
             m_file.close();
             return false;
         }
-        if (isNamed(m_file))
+        if (isNamed(m_file.handle(), m_file.fileName()))
             return m_file.resize(0);
         // Before it was locked, another program completed or removed it.
         m_file.close();
@@ -92,10 +92,13 @@ bool PackageFile::keep() {
     const int second = ::dup(m_file.handle());
     // All is on disk: what closing it says is of no interest.
     m_file.close();
-    const bool isKept = std::rename(QFile::encodeName(m_file.fileName()).constData(),
-                                    QFile::encodeName(m_path).constData()) == 0;
+    const bool isRenamed = std::rename(QFile::encodeName(m_file.fileName()).constData(),
+                                       QFile::encodeName(m_path).constData()) == 0;
+    const std::error_code error(errno, std::generic_category());
+    // A disk across the network may have lost its answer only.
+    const bool isKept = isRenamed || isNamed(second, m_path);
     if (!isKept) {
-        m_reason = localizedReason(std::error_code(errno, std::generic_category()));
+        m_reason = localizedReason(error);
         m_file.remove();
     }
     ::close(second);

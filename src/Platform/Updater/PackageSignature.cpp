@@ -14,7 +14,8 @@ const unsigned char* bytesOf(const QByteArray& array) {
 
 } // namespace
 
-bool isSigned(QFile& package, const QByteArray& signature, const QByteArray& publicKey) {
+std::optional<bool> isSigned(QFile& package, const QByteArray& signature,
+                             const QByteArray& publicKey) {
     if (signature.size() != qsizetype{crypto_sign_BYTES} ||
         publicKey.size() != qsizetype{crypto_sign_PUBLICKEYBYTES} || sodium_init() < 0)
         return false;
@@ -22,8 +23,9 @@ bool isSigned(QFile& package, const QByteArray& signature, const QByteArray& pub
         return false;
     // Memory-mapped, so that the package does not have to fit into memory.
     const uchar* content = package.map(0, package.size());
-    return content != nullptr &&
-           crypto_sign_verify_detached(bytesOf(signature), content,
+    if (content == nullptr)
+        return std::nullopt;
+    return crypto_sign_verify_detached(bytesOf(signature), content,
                                        static_cast<unsigned long long>(package.size()),
                                        bytesOf(publicKey)) == 0;
 }

@@ -241,7 +241,10 @@ void Updater::packageArrived(const QString& failure) {
         fail(m_package->failure());
     else if (file.size() != m_item.length)
         fail(tr("The update is incomplete. It hasn’t been installed."));
-    else if (!isSigned(file, m_item.signature, m_configuration.publicKey))
+    else if (const auto isGenuine = isSigned(file, m_item.signature, m_configuration.publicKey);
+             !isGenuine)
+        fail(m_package->failure());
+    else if (!*isGenuine)
         fail(tr("The update isn’t genuine: its signature is wrong. It hasn’t been installed."));
     else
         openChecked();
