@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/FFmpeg/ContainerTraits.h"
+#include "Media/FFmpeg/OpeningTime.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -44,7 +45,7 @@ struct Demuxer::Io {
 
     static int read(void* opaque, std::uint8_t* buffer, int count) {
         auto& io = *static_cast<Io*>(opaque);
-        if (io.stop.stop_requested())
+        if (isStopped(opaque) != 0)
             return AVERROR_EXIT;
         const std::int64_t got = io.file->read(io.position, buffer, count);
         if (got == 0)
@@ -74,7 +75,8 @@ struct Demuxer::Io {
     }
 
     static int isStopped(void* opaque) {
-        return static_cast<Io*>(opaque)->stop.stop_requested() ? 1 : 0;
+        const bool isWanted = !static_cast<Io*>(opaque)->stop.stop_requested();
+        return isWanted && !OpeningTime::isUsedUp() ? 0 : 1;
     }
 };
 
@@ -120,12 +122,14 @@ Demuxer::Demuxer(std::shared_ptr<const SourceFile> file, const AVInputFormat* fo
     context->format_whitelist = av_strdup(kContainers);
     context->protocol_whitelist = av_strdup("file");
     const ClassicLocale classic;
+    const OpeningTime time;
     // On failure libav frees the context and sets it to null. No name is handed over: only content
     // counts.
     const int result = avformat_open_input(&context, "", format, nullptr);
     m_context.reset(context);
     if (stop.stop_requested())
         throw Cancelled();
+    OpeningTime::expectLeft();
     if (result < 0)
         checkSource();
     // The probing of formats that are not accepted ends in an argument error.
@@ -137,6 +141,7 @@ Demuxer::~Demuxer() = default;
 void Demuxer::findStreamInfo(const std::stop_token& stop) {
     const CallScope scope(*m_io, m_ioContext.get(), stop);
     const ClassicLocale classic;
+    const OpeningTime time;
     std::vector<AVDictionary*> options(m_context->nb_streams);
     for (AVDictionary*& each : options)
         av_dict_set_int(&each, "max_pixels", kMostPixels, 0);
@@ -145,6 +150,7 @@ void Demuxer::findStreamInfo(const std::stop_token& stop) {
         av_dict_free(&each);
     if (stop.stop_requested())
         throw Cancelled();
+    OpeningTime::expectLeft();
     check(result);
     m_hasStreamInfo = true;
 }
@@ -209,6 +215,7 @@ Demuxer::Status Demuxer::read(AVPacket& packet, const std::stop_token& stop) {
         }
         if (stop.stop_requested())
             throw Cancelled();
+        OpeningTime::expectLeft();
         checkSource();
         if (result == AVERROR_EOF || result == AVERROR_INVALIDDATA || m_ioContext->eof_reached) {
             if (result != AVERROR_INVALIDDATA || m_ioContext->eof_reached)

@@ -5,6 +5,7 @@
 #include "Media/FFmpeg/ContainerTraits.h"
 #include "Media/FFmpeg/Encryption.h"
 #include "Media/FFmpeg/LibavReleases.h"
+#include "Media/FFmpeg/OpeningTime.h"
 
 #include <algorithm>
 #include <utility>
@@ -84,9 +85,7 @@ FirstPicturesReader::FirstPicturesReader(Demuxer& demuxer, AVStream& stream, Kno
 
 FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
     m_thread.check();
-    lookAhead(stop);
-    if (!decodeAlone())
-        decodeInTurn(stop);
+    findPicture(stop);
     m_waiting.clear();
     if (!m_hasPicture)
         throw Error(ErrorKind::noPictureDecodable);
@@ -100,6 +99,13 @@ FirstPictures FirstPicturesReader::read(const std::stop_token& stop) {
             break;
     }
     return judged();
+}
+
+void FirstPicturesReader::findPicture(const std::stop_token& stop) {
+    const OpeningTime time;
+    lookAhead(stop);
+    if (!decodeAlone())
+        decodeInTurn(stop);
 }
 
 /// Sounds that begin much later are believed to be what the headers say.
@@ -158,6 +164,7 @@ bool FirstPicturesReader::isWholeFrame(const AVFrame& frame) const {
 void FirstPicturesReader::decodeInTurn(const std::stop_token& stop) {
     bool hasMore = true;
     while (hasMore && !m_hasPicture) {
+        OpeningTime::expectLeft();
         if (m_waiting.empty())
             hasMore = readPacket(stop);
         if (!m_waiting.empty()) {
@@ -170,6 +177,7 @@ void FirstPicturesReader::decodeInTurn(const std::stop_token& stop) {
 }
 
 void FirstPicturesReader::decode(const AVPacket* packet) {
+    const OpeningTime::Decoding decoding;
     m_decoder.send(packet);
     m_hasPicture = m_decoder.receive(*m_frame) == Decoder::Status::frame;
     if (m_hasPicture)

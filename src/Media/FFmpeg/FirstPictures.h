@@ -64,6 +64,7 @@ public:
 private:
     /// False at the end of the file.
     bool readPacket(const std::stop_token& stop);
+    void findPicture(const std::stop_token& stop);
     void lookAhead(const std::stop_token& stop);
     [[nodiscard]] bool knowsNext() const;
     bool decodeAlone();
