@@ -311,7 +311,7 @@ QCoro::Task<> showExport(std::weak_ptr<EditState> state, QDBusConnection bus, QU
         result == FolderShowing::folderGone
             ? AppCommands::tr("The folder “%1” is no longer there.")
             : AppCommands::tr("There is no file manager to show the folder “%1”.");
-    alive->setErrorMessage(reason.arg(displayName(urlOf(pathOf(file).parent_path()))));
+    alive->setErrorMessage(reason.arg(shownName(urlOf(pathOf(file).parent_path()))));
 }
 
 } // namespace

@@ -32,7 +32,7 @@ void ExportMonitor::watch(WindowRootView* window) {
     connect(state, &EditState::exportProgressChanged, this, &ExportMonitor::update);
     connect(state, &EditState::exportFinished, this,
             [this, window = QPointer(window)](const QUrl& file) {
-                announce(window, tr("Export finished"), displayName(file));
+                announce(window, tr("Export finished"), shownName(file));
             });
     connect(state, &EditState::exportFailed, this,
             [this, window = QPointer(window)](const QString& message) {

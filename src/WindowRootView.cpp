@@ -174,7 +174,7 @@ void WindowRootView::appear() {
 
 void WindowRootView::showTitle() {
     const auto& url = m_state->videoURL();
-    setWindowTitle(url ? asTitle(displayName(*url)) : QStringLiteral("Brisklet"));
+    setWindowTitle(url ? asTitle(shownName(*url)) : QStringLiteral("Brisklet"));
 }
 
 void WindowRootView::changeEvent(QEvent* event) {

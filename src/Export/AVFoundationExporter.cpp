@@ -116,7 +116,7 @@ std::shared_ptr<const media::Asset> AVFoundationExporter::source(const ExportReq
         // The message names the source, since other failures of an export are about the new file.
         std::throw_with_nested(
             media::Error(becauseOf(media::ErrorKind::sourceNotOpened, error.failure(),
-                                   {displayName(request.sourceURL).toStdString()})));
+                                   {shownName(request.sourceURL).toStdString()})));
     }
 }
 

@@ -57,13 +57,13 @@ QCoro::Task<> EditState::loadAsset(QUrl url, std::optional<KeptEdit> kept) {
             video = co_await opening;
         }
         if (!video.displaySize)
-            failure = tr("“%1” contains no video track.").arg(displayName(url));
+            failure = tr("“%1” contains no video track.").arg(shownName(url));
     } catch (const media::Cancelled&) {
         co_return;
     } catch (const std::exception& error) {
         //: %1: the file’s name; %2: the reason, a whole sentence.
         failure = (kept ? tr("Couldn’t reopen “%1”: %2") : tr("Couldn't open “%1”: %2"))
-                      .arg(displayName(url), localizedMessage(error));
+                      .arg(shownName(url), localizedMessage(error));
     }
     const auto self = weak.lock();
     if (!self)

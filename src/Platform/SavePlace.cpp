@@ -66,7 +66,7 @@ QCoro::Task<SavePlace> findSavePlace(std::shared_ptr<RemoteFiles> remoteFiles, Q
         if (taken.isSource)
             place.objection =
                 QObject::tr("“%1” is the video that is being edited. Choose another name.")
-                    .arg(displayName(place.file));
+                    .arg(shownName(place.file));
     } catch (const std::exception& error) {
         place.objection = localizedMessage(error);
     }

@@ -19,7 +19,23 @@ bool isInsideJoinedEmoji(const QString& text, qsizetype position) {
            (text[position] == kZeroWidthJoiner || text[position - 1] == kZeroWidthJoiner);
 }
 
+bool isExplicitDirection(QChar letter) {
+    return (letter >= QChar(0x202a) && letter <= QChar(0x202e)) ||
+           (letter >= QChar(0x2066) && letter <= QChar(0x2069));
+}
+
+bool actsOnText(QChar letter) {
+    const auto category = letter.category();
+    return category == QChar::Other_Control || category == QChar::Separator_Line ||
+           category == QChar::Separator_Paragraph || isExplicitDirection(letter);
+}
+
 } // namespace
+
+QString legible(QString text) {
+    std::ranges::replace_if(text, actsOnText, QChar(QChar::ReplacementCharacter));
+    return text;
+}
 
 int maxNameBytesIn(const std::filesystem::path& folder) {
     const long reported = ::pathconf(folder.c_str(), _PC_NAME_MAX);

@@ -1,5 +1,7 @@
 #include "Support/FileUrl.h"
 
+#include "Support/FileNames.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QStringDecoder>
@@ -89,13 +91,17 @@ QString notOnThisComputerMessage(const QUrl& url) {
     // Without a password that may stand in it.
     return QCoreApplication::translate(
                "brisklet::FileUrl", "“%1” is not on this computer, and no folder here leads to it.")
-        .arg(url.toDisplayString());
+        .arg(legible(url.toDisplayString()));
 }
 
 QString displayName(const QUrl& url) {
     const std::filesystem::path path = pathWithin(url);
     // A folder may well be given with a slash at its end.
     return textOf(path.has_filename() ? path.filename() : path.parent_path().filename());
+}
+
+QString shownName(const QUrl& url) {
+    return legible(displayName(url));
 }
 
 QString displayBaseName(const QUrl& url) {

@@ -34,9 +34,12 @@ std::filesystem::path pathOf(const QUrl& url);
 /// The sentence for the user that pathOf() throws.
 QString notOnThisComputerMessage(const QUrl& url);
 
-/// The last component of the path, extension included, as text for people: bytes that are not
-/// UTF-8 show as replacement characters.
+/// The last component of the path, extension included, as text: bytes that are not UTF-8 become
+/// replacement characters.
 QString displayName(const QUrl& url);
+
+/// displayName() for titles and sentences; see legible().
+QString shownName(const QUrl& url);
 
 /// displayName() without its extension. A leading full stop starts no
 /// extension.

@@ -1,5 +1,7 @@
 #include "Support/LocalizedMessage.h"
 
+#include "Support/FileNames.h"
+
 #include <QCoreApplication>
 
 #include <string>
@@ -16,6 +18,9 @@ std::string sentence(const media::Failure& failure) {
     std::vector<std::string> arguments = failure.arguments;
     if (failure.cause)
         arguments.push_back(sentence(*failure.cause));
+    // Names of files are among them.
+    for (std::string& argument : arguments)
+        argument = legible(QString::fromStdString(argument)).toStdString();
     const QString text =
         QCoreApplication::translate("media::Error", media::englishText(failure.kind));
     return media::filled(text.toStdString(), arguments);

@@ -4,10 +4,8 @@
 #include "QtSupport/Keys.h"
 #include "Views/Controls/ControlsView.h"
 #include "Views/Controls/FlatButton.h"
-#include "Views/ErrorAlert.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QDialog>
 #include <QMenuBar>
 #include <QPointer>
@@ -15,7 +13,6 @@
 #include <QWindow>
 
 #include <filesystem>
-#include <fstream>
 
 namespace brisklet {
 namespace {
@@ -62,33 +59,6 @@ TEST_F(WindowRootViewTest, isNamedAfterItsVideo) {
     ASSERT_TRUE(loadAndWait(*second, other));
     EXPECT_EQ(second->windowTitle(), displayName(other));
     EXPECT_EQ(m_window->windowTitle(), displayName(url));
-}
-
-// Qt has a placeholder of its own in titles, which vanished from the names of files.
-TEST_F(WindowRootViewTest, showsTheNameOfItsVideoToTheLetter) {
-    std::filesystem::create_directory(m_folder / "video");
-    for (const char* name : {"a[*]b.mp4", "a[*][*]b[*].mp4", "<b>x<b>&amp;.mp4"}) {
-        std::filesystem::copy_file(pathOf(video(1)), m_folder / "video" / name);
-        ASSERT_TRUE(loadAndWait(*m_window, urlOf(m_folder / "video" / name)));
-        // What the window manager gets.
-        EXPECT_TRUE(m_window->windowHandle()->title().startsWith(QString::fromLatin1(name)))
-            << m_window->windowHandle()->title().toStdString();
-        std::ofstream(m_folder / name) << "no video";
-        m_window->state()->load(urlOf(m_folder / name));
-        ASSERT_TRUE(pumpUntil([this] { return m_window->state()->errorMessage().has_value(); }));
-        const auto* alert = m_window->findChild<ErrorAlert*>();
-        ASSERT_NE(alert, nullptr);
-        int count = 0;
-        for (const auto* label : alert->findChildren<QLabel*>()) {
-            if (label->text().contains(QString::fromLatin1(name))) {
-                EXPECT_EQ(label->textFormat(), Qt::PlainText);
-                ++count;
-            }
-        }
-        EXPECT_EQ(count, 1);
-        m_window->state()->clearErrorMessage();
-        pumpPending();
-    }
 }
 
 TEST_F(WindowRootViewTest, publishesTheModelOfTheActiveWindow) {

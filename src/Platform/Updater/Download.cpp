@@ -1,6 +1,7 @@
 #include "Platform/Updater/Download.h"
 
 #include "Platform/Updater/NetworkFailure.h"
+#include "Support/FileNames.h"
 #include "Support/LocalizedMessage.h"
 #include "Support/MainThread.h"
 
@@ -65,7 +66,7 @@ void Download::cancel() {
 
 void Download::start(QNetworkAccessManager& network) {
     if (!isSafeAddress(m_url)) {
-        finish(tr("“%1” is not a secure address.").arg(m_url.toDisplayString()));
+        finish(tr("“%1” is not a secure address.").arg(legible(m_url.toDisplayString())));
         return;
     }
     QNetworkRequest request(m_url);
@@ -92,7 +93,7 @@ void Download::follow(const QUrl& target) {
         Q_EMIT m_reply->redirectAllowed();
     else
         finish(tr("The server leads to “%1”, which is not a secure address.")
-                   .arg(target.toDisplayString()));
+                   .arg(legible(target.toDisplayString())));
 }
 
 void Download::take() {

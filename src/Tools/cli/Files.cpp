@@ -32,7 +32,7 @@ std::string reasonText(int code) {
 } // namespace
 
 std::string shownName(const std::filesystem::path& path) {
-    return displayName(urlOf(path)).toStdString();
+    return brisklet::shownName(urlOf(path)).toStdString();
 }
 
 std::shared_ptr<const media::Asset> openSource(const std::filesystem::path& path,

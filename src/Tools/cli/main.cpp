@@ -1,4 +1,5 @@
 #include "Media/Error.h"
+#include "Support/FileNames.h"
 #include "Support/LocalizedMessage.h"
 #include "Support/TerminalLanguage.h"
 #include "Support/Workers.h"
@@ -23,10 +24,12 @@ constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 constexpr int kInterrupted = 130;
 
-/// A failure is reported in exactly one line, also if the text of a library has several.
+/// A failure is reported in exactly one line, also if the text of a library has several. What the
+/// user has typed says nothing to the terminal.
 void tell(std::string message) {
     std::ranges::replace(message, '\n', ' ');
-    std::fprintf(stderr, "%s\n", message.c_str());
+    const QString line = brisklet::legible(QString::fromStdString(message));
+    std::fprintf(stderr, "%s\n", line.toStdString().c_str());
 }
 
 int perform(const HelpCommand&) {
