@@ -1,6 +1,7 @@
 #include "AppCommands.h"
 
 #include "FocusedValues.h"
+#include "Media/Error.h"
 #include "Models/EditState.h"
 #include "Platform/FileManagerWindow.h"
 #include "Platform/QuickActionInstallation.h"
@@ -303,8 +304,16 @@ namespace {
 
 QCoro::Task<> showExport(std::weak_ptr<EditState> state, QDBusConnection bus, QUrl file) {
     auto showing = showInFileManager(bus, file);
-    const FolderShowing result = co_await showing;
+    FolderShowing result = FolderShowing::shown;
+    QString failure;
+    try {
+        result = co_await showing;
+    } catch (const media::Error& error) {
+        failure = localizedMessage(error);
+    }
     const auto alive = state.lock();
+    if (alive && !failure.isEmpty())
+        alive->setErrorMessage(failure);
     if (result == FolderShowing::shown || !alive)
         co_return;
     const QString reason =

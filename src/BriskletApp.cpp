@@ -1,6 +1,7 @@
 #include "BriskletApp.h"
 
 #include "ExportMonitor.h"
+#include "Media/Error.h"
 #include "Models/EditKeeper.h"
 #include "Models/EditState.h"
 #include "Platform/Appearance.h"
@@ -11,6 +12,7 @@
 #include "Platform/Updater/UpdateDialogs.h"
 #include "Platform/Updater/Updater.h"
 #include "Platform/Updater/UpdaterSettings.h"
+#include "Support/LocalizedMessage.h"
 #include "Support/MemoryReturn.h"
 #include "Support/OpenBridge.h"
 #include "Support/Workers.h"
@@ -78,7 +80,8 @@ BriskletApp::BriskletApp(const QString& applicationId, UpdaterConfiguration upda
     connect(&m_busCall, &QTimer::timeout, this, [this] { activate({}); });
     m_memoryReturn.setSingleShot(true);
     m_memoryReturn.setInterval(kMemoryReturnDelay);
-    connect(&m_memoryReturn, &QTimer::timeout, this, [] { startWorker(&returnFreedMemory); });
+    connect(&m_memoryReturn, &QTimer::timeout, this,
+            [] { static_cast<void>(runOnWorker(&returnFreedMemory)); });
 }
 
 BriskletApp::~BriskletApp() {
@@ -129,7 +132,13 @@ void BriskletApp::keepEditsOf(WindowRootView* window) {
 QCoro::Task<> BriskletApp::reopenLastEdit(QPointer<WindowRootView> asking) {
     const QPointer<BriskletApp> self = this;
     auto taking = m_keeper->takeLast();
-    const std::optional<KeptEdit> kept = co_await taking;
+    std::optional<KeptEdit> kept;
+    try {
+        kept = co_await taking;
+    } catch (const media::Error& error) {
+        if (asking)
+            asking->state()->setErrorMessage(localizedMessage(error));
+    }
     if (!self || !kept)
         co_return;
     if (windows().isEmpty()) {

@@ -52,6 +52,15 @@ std::unique_ptr<media::ExportSession> makeSession(media::Composition composition
     }
 }
 
+/// Lets go of a session on a thread of its own, or here where there is none.
+void leave(std::shared_ptr<media::ExportSession> session) {
+    try {
+        startWorker([session = std::move(session)] {});
+    } catch (const media::Error&) {
+        return;
+    }
+}
+
 } // namespace
 
 AVFoundationExporter::ExportError::ExportError(Kind kind)
@@ -84,7 +93,7 @@ void AVFoundationExporter::run(const ExportRequest& request,
         session->run(stop);
     } catch (const media::Cancelled&) {
         // Its encoders may be in the middle of a large picture; the caller need not wait for them.
-        startWorker([session = std::move(session)] {});
+        leave(std::move(session));
         throw;
     }
 }

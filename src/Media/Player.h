@@ -44,7 +44,8 @@ class Player {
 public:
     using Token = std::uint64_t;
 
-    /// Sounds on the system's default device. Throws Error if the engine can't be loaded.
+    /// Sounds on the system's default device. Throws Error if the engine can't be loaded, or if
+    /// the system has no memory or threads for it.
     static std::shared_ptr<Player> make(Executor executor);
 
     Player(const Player&) = delete;

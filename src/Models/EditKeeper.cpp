@@ -1,5 +1,6 @@
 #include "Models/EditKeeper.h"
 
+#include "Media/Error.h"
 #include "Models/EditState.h"
 #include "Support/MainThread.h"
 #include "Support/Workers.h"
@@ -126,13 +127,20 @@ void EditKeeper::save() {
 void EditKeeper::write() {
     if (!m_store->beginWrite())
         return;
-    startWorker([store = m_store, self = QPointer(this)] {
+    const auto work = [store = m_store, self = QPointer(this)] {
         store->write();
         postToMainThread([self] {
             if (self)
                 self->showCanReopen();
         });
-    });
+    };
+    try {
+        startWorker(work);
+    } catch (const media::Error&) {
+        // The system starts no more threads; an edit that waits for the disk is better than a lost
+        // one.
+        work();
+    }
 }
 
 void EditKeeper::refresh() {

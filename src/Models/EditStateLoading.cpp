@@ -58,6 +58,9 @@ QCoro::Task<> EditState::loadAsset(QUrl url, std::optional<KeptEdit> kept) {
         }
         if (!video.displaySize)
             failure = tr("“%1” contains no video track.").arg(shownName(url));
+        else if (const auto self = weak.lock())
+            // Made before anything of the video before is given up.
+            static_cast<void>(self->m_playerController.player());
     } catch (const media::Cancelled&) {
         co_return;
     } catch (const std::exception& error) {
@@ -84,7 +87,12 @@ QCoro::Task<> EditState::makeFilmstrip() {
     const std::weak_ptr<EditState> weak = weak_from_this();
     const std::stop_token stop = m_strip.get_token();
     auto strip = Thumbnailer::filmstrip(m_video.asset, m_duration, kThumbnailCount, stop);
-    const QList<QImage> images = co_await strip;
+    QList<QImage> images;
+    try {
+        images = co_await strip;
+    } catch (const media::Error&) {
+        // The system starts no more threads; the timeline shows a placeholder.
+    }
     const auto self = weak.lock();
     if (!self || stop.stop_requested())
         co_return;

@@ -1,5 +1,6 @@
 #include "Models/LoadedVideo.h"
 
+#include "Media/Error.h"
 #include "Support/FileNames.h"
 #include "Support/FileUrl.h"
 #include "Support/MainThread.h"
@@ -54,7 +55,12 @@ void openVideoAhead(const QUrl& url) {
     const auto task = std::make_shared<std::packaged_task<LoadedVideo()>>(
         [path = pathOf(url), stop = ahead.stop.get_token()] { return loadVideo(path, stop); });
     ahead.video = task->get_future().share();
-    startWorker([task] { (*task)(); });
+    try {
+        startWorker([task] { (*task)(); });
+    } catch (const media::Error&) {
+        // openVideo() begins anew, and tells if that fails too.
+        return;
+    }
     videoAhead() = std::move(ahead);
 }
 

@@ -18,7 +18,8 @@ public:
 
     /// Constant and never null. Created by the first call, because that loads the media engine,
     /// which an empty window does not need. Views that show the player may keep it as long as they
-    /// like. Throws media::Error if the engine cannot be loaded.
+    /// like. Throws media::Error if the engine cannot be loaded, or if the system has no memory or
+    /// threads for it; it may be asked again then.
     [[nodiscard]] const std::shared_ptr<media::Player>& player();
 
     /// Pauses and moves by `count` frames (negative: backward), then calls onTick at once: the

@@ -16,8 +16,8 @@
 
 namespace brisklet {
 
-/// Starts `work` on a thread of a pool at once: the pool grows as needed, so that a short job never
-/// waits for long ones.
+/// Starts `work` on a thread of its own at once, so that a short job never waits for long ones. It
+/// must not throw. Throws media::Error if the system starts no more threads. Any thread.
 void startWorker(std::function<void()> work);
 
 /// Blocks until every worker has ended; false if some still run at the limit. The program calls it
@@ -57,8 +57,8 @@ QCoro::Task<Result> await(std::shared_ptr<Outcome<Result>> outcome) {
 } // namespace detail
 
 /// Runs blocking work on a worker thread; the coroutine that awaits it resumes on the thread it
-/// came from, with the work's result or its exception. The work must be copyable, and should watch
-/// a stop token if it may take long.
+/// came from, with the work's result or its exception, or that of startWorker(). The work must be
+/// copyable, and should watch a stop token if it may take long.
 ///
 /// Await it through a name (`auto task = runOnWorker(…); co_await task;`), here as with every task
 /// whose arguments hold resources: g++ 12 destroys some temporaries of a co_await expression twice,
@@ -68,17 +68,22 @@ QCoro::Task<std::invoke_result_t<Work&>> runOnWorker(Work work) {
     using Result = std::invoke_result_t<Work&>;
     const auto outcome = std::make_shared<detail::Outcome<Result>>();
     outcome->promise.start();
-    startWorker([outcome, work = std::move(work)]() mutable {
-        try {
-            if constexpr (std::is_void_v<Result>)
-                work();
-            else
-                outcome->value.emplace(work());
-        } catch (...) {
-            outcome->error = std::current_exception();
-        }
+    try {
+        startWorker([outcome, work = std::move(work)]() mutable {
+            try {
+                if constexpr (std::is_void_v<Result>)
+                    work();
+                else
+                    outcome->value.emplace(work());
+            } catch (...) {
+                outcome->error = std::current_exception();
+            }
+            outcome->promise.finish();
+        });
+    } catch (...) {
+        outcome->error = std::current_exception();
         outcome->promise.finish();
-    });
+    }
     return detail::await<Result>(outcome);
 }
 

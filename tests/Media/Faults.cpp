@@ -59,6 +59,8 @@ std::vector<SystemCall::Kind> runWithFault(const FaultPlan& plan,
         constexpr int kUnnamed = O_TMPFILE;
         if (!plan.hasUnnamedFiles && (call.flags & kUnnamed) == kUnnamed)
             return SystemAnswer{.error = EOPNOTSUPP};
+        if (plan.kind && call.kind != *plan.kind)
+            return SystemAnswer{};
         const std::lock_guard lock(mutex);
         kinds.push_back(call.kind);
         return std::ssize(kinds) - 1 == plan.number ? plan.answer : SystemAnswer{};

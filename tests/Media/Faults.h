@@ -3,6 +3,7 @@
 #include "FaultySystem/FaultySystem.h"
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -22,6 +23,8 @@ std::vector<FaultKind> faultKinds();
 
 /// What goes wrong while something runs.
 struct FaultPlan {
+    /// Only calls of this kind are counted; without one, all.
+    std::optional<testsupport::SystemCall::Kind> kind;
     /// The number of the call that goes wrong, counted from 0; negative for none.
     long number = -1;
     testsupport::SystemAnswer answer;
@@ -29,7 +32,7 @@ struct FaultPlan {
     bool hasUnnamedFiles = true;
 };
 
-/// Runs `action` under a plan; the kinds of the calls that it has made, in their order. Exceptions
+/// Runs `action` under a plan; the kinds of the calls that were counted, in their order. Exceptions
 /// go through.
 std::vector<testsupport::SystemCall::Kind> runWithFault(const FaultPlan& plan,
                                                         const std::function<void()>& action);

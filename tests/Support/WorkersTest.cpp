@@ -1,5 +1,7 @@
 #include "Support/Workers.h"
 
+#include "FaultySystem/FaultySystem.h"
+#include "Media/Error.h"
 #include "QtSupport/EventPump.h"
 #include "Support/MainThread.h"
 
@@ -8,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <latch>
@@ -64,6 +67,22 @@ TEST(Workers, neverWaitBehindLongOnes) {
     }
     brisklet::waitForWorkers();
     EXPECT_EQ(done, kCount);
+}
+
+// Work whose thread the system did not start was never heard of again.
+TEST(Workers, areRefusedWithASentenceWhereThereIsNoThread) {
+    testsupport::setSystemJudge([](const testsupport::SystemCall& call) {
+        const bool isThread = call.kind == testsupport::SystemCall::Kind::startThread;
+        return testsupport::SystemAnswer{.error = isThread ? EAGAIN : 0};
+    });
+    bool hasRun = false;
+    EXPECT_THROW(brisklet::startWorker([&hasRun] { hasRun = true; }), media::Error);
+    EXPECT_THROW(testsupport::await(runOnWorker([&hasRun] { hasRun = true; })), media::Error);
+    testsupport::setSystemJudge({});
+    EXPECT_FALSE(hasRun);
+    EXPECT_TRUE(brisklet::waitForWorkers(std::chrono::milliseconds(0)));
+    testsupport::await(runOnWorker([&hasRun] { hasRun = true; }));
+    EXPECT_TRUE(hasRun);
 }
 
 TEST(Workers, areNotWaitedForWithoutEndWhereThereIsALimit) {

@@ -20,14 +20,25 @@ int Decoder::usualThreads() {
 Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads,
                  Sharing sharing) {
     silenceLog();
+    const int wanted = threads > 0 ? threads : usualThreads();
+    int result = open(parameters, timeBase, wanted, sharing);
+    // The system starts no more threads; this one can do without.
+    if (result == AVERROR(EAGAIN) && wanted > 1)
+        result = open(parameters, timeBase, 1, sharing);
+    check(result);
+}
+
+/// What libav answers.
+int Decoder::open(const AVCodecParameters& parameters, AVRational timeBase, int threads,
+                  Sharing sharing) {
     const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
     if (!codec)
-        check(AVERROR_DECODER_NOT_FOUND);
+        return AVERROR_DECODER_NOT_FOUND;
     m_context.reset(allocated(avcodec_alloc_context3(codec)));
     check(avcodec_parameters_to_context(m_context.get(), &parameters));
     m_context->pkt_timebase = timeBase;
     m_context->max_pixels = kMostPixels;
-    m_context->thread_count = threads > 0 ? threads : usualThreads();
+    m_context->thread_count = threads;
     if (sharing == Sharing::withinPictures) {
         m_context->thread_type = FF_THREAD_SLICE;
         // dav1d has threads of its own and goes by this; others would take it for the stream's own
@@ -39,7 +50,7 @@ Decoder::Decoder(const AVCodecParameters& parameters, AVRational timeBase, int t
     // What libav starts here would have the name of whichever thread that is.
     const ThreadName name(parameters.codec_type == AVMEDIA_TYPE_VIDEO ? "decode-video"
                                                                       : "decode-audio");
-    check(avcodec_open2(m_context.get(), codec, nullptr));
+    return avcodec_open2(m_context.get(), codec, nullptr);
 }
 
 void Decoder::send(const AVPacket* packet) {

@@ -21,7 +21,8 @@ public:
         withinPictures,
     };
 
-    /// `threads` 0: usualThreads(). Throws Error if there is no decoder or it does not open.
+    /// `threads` 0: usualThreads(); one where the system starts no more. Throws Error if there is
+    /// no decoder or it does not open.
     Decoder(const AVCodecParameters& parameters, AVRational timeBase, int threads = 0,
             Sharing sharing = Sharing::any);
 
@@ -43,6 +44,9 @@ public:
     [[nodiscard]] int errorCount() const { return m_errorCount; }
 
 private:
+    int open(const AVCodecParameters& parameters, AVRational timeBase, int threads,
+             Sharing sharing);
+
     CodecContextPtr m_context;
     int m_errorCount = 0;
 };

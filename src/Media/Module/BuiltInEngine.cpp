@@ -44,8 +44,10 @@ public:
     }
 
     [[nodiscard]] std::shared_ptr<Player> makePlayer(Executor executor) const override {
-        return std::make_shared<ThreadedPlayer>(std::move(executor),
-                                                std::make_unique<playback::CubebOutput>());
+        return tellingOfRefusals([&] {
+            return std::make_shared<ThreadedPlayer>(std::move(executor),
+                                                    std::make_unique<playback::CubebOutput>());
+        });
     }
 
     [[nodiscard]] std::unique_ptr<ImageGenerator>
@@ -66,7 +68,8 @@ public:
     forecastExport(const Composition& composition,
                    const std::optional<VideoComposition>& videoComposition,
                    const EncoderSettings& settings, const std::stop_token& stop) const override {
-        auto forecast = runTrial(composition, videoComposition, settings, stop);
+        auto forecast = tellingOfRefusals(
+            [&] { return runTrial(composition, videoComposition, settings, stop); });
         // Encoders need much for a moment; the window is at rest afterwards, for hours perhaps.
         ::malloc_trim(0);
         return forecast;

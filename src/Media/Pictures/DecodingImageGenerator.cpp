@@ -6,6 +6,7 @@
 #include "Media/Threading/ThreadName.h"
 
 #include <algorithm>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -78,11 +79,15 @@ std::vector<Still> DecodingImageGenerator::images(const std::vector<Time>& times
         generators.push_back(another(threads));
     {
         std::vector<std::jthread> helpers;
-        for (int i = 1; i < count; ++i) {
-            helpers.emplace_back([&, i] {
-                const ThreadName name("stills");
-                queue.work(*generators[static_cast<std::size_t>(i)], i, stop);
-            });
+        try {
+            for (int i = 1; i < count; ++i) {
+                helpers.emplace_back([&, i] {
+                    const ThreadName name("stills");
+                    queue.work(*generators[static_cast<std::size_t>(i)], i, stop);
+                });
+            }
+        } catch (const std::system_error&) {
+            // The system starts no more threads: those that there are make all stills.
         }
         queue.work(*generators.front(), 0, stop);
     }

@@ -16,16 +16,15 @@ constexpr std::chrono::milliseconds kLongestFarewell{500};
 } // namespace
 
 void PlayerThreads::start(const char* name, std::function<void(const std::stop_token&)> work) {
-    {
-        const std::lock_guard lock(m_mutex);
-        ++m_runningCount;
-    }
+    // Held so that the thread is counted before it can end.
+    const std::lock_guard lock(m_mutex);
     m_threads.emplace_back([this, work = std::move(work)](const std::stop_token& stop) {
         work(stop);
-        const std::lock_guard lock(m_mutex);
+        const std::lock_guard ending(m_mutex);
         --m_runningCount;
         m_hasEnded.notify_all();
     });
+    ++m_runningCount;
     pthread_setname_np(m_threads.back().native_handle(), name);
 }
 

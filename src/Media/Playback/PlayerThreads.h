@@ -20,7 +20,8 @@ public:
     PlayerThreads& operator=(const PlayerThreads&) = delete;
     ~PlayerThreads() = default;
 
-    /// `name` is what the system calls it, at most 15 characters.
+    /// `name` is what the system calls it, at most 15 characters. Throws std::system_error if the
+    /// system starts no more threads.
     void start(const char* name, std::function<void(const std::stop_token&)> work);
 
     void requestStop();
