@@ -113,6 +113,7 @@ class ExhaustiveExportWithAFault : public ExportWithAFault {};
 
 TEST_P(ExhaustiveExportWithAFault, losesNothing) {
     const auto kinds = calls();
+    RecordProperty("points", static_cast<int>(kinds.size()));
     for (long number = 0; number < std::ssize(kinds); ++number)
         EXPECT_EQ(complaintAfterFaultAt(number), "")
             << "call " << number << ", kind "

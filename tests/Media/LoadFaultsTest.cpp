@@ -39,6 +39,7 @@ protected:
 TEST_P(LoadWithAFault, opensOrSaysWhyNot) {
     const auto kinds = runWithFault({}, [this] { open(); });
     ASSERT_GT(kinds.size(), 3U);
+    RecordProperty("points", static_cast<int>(kinds.size()));
     for (long number = 0; number < std::ssize(kinds); ++number)
         EXPECT_EQ(complaintAfterFaultAt(number), "")
             << "call " << number << ", kind "

@@ -96,6 +96,7 @@ class ExhaustiveRefusedMemory : public RefusedMemory {};
 
 TEST_P(ExhaustiveRefusedMemory, endsAnExportWithASentence) {
     const long allocations = std::min(count(), 2000L);
+    RecordProperty("points", static_cast<int>(allocations));
     for (long number = 0; number < allocations; ++number)
         EXPECT_EQ(complaintAt(number), "") << "allocation " << number;
 }

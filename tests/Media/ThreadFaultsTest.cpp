@@ -30,6 +30,7 @@ void refuseEachThread(const std::function<void()>& action) {
     const FaultPlan none{.kind = SystemCall::Kind::startThread};
     const auto count = std::ssize(runWithFault(none, action));
     ASSERT_GT(count, 0);
+    testing::Test::RecordProperty("points", static_cast<int>(count));
     for (long number = 0; number < count; ++number) {
         SCOPED_TRACE(number);
         const Leftovers leftovers;

@@ -91,6 +91,7 @@ TEST_F(ThreadFaultsTest, aVideoThatGetsNoThreadsOpensTheNextTime) {
             renew();
         }
         EXPECT_GT(number, 3);
+        RecordProperty("points", number);
         renew();
     }
 }
@@ -113,6 +114,7 @@ TEST_F(ThreadFaultsTest, anExportThatGetsNoThreadsIsASentence) {
         std::filesystem::remove(output);
     }
     EXPECT_GT(number, 3);
+    RecordProperty("points", number);
     state().exportTo(urlOf(output));
     ASSERT_TRUE(pumpUntil([this] { return !state().exportProgress(); }));
     EXPECT_TRUE(std::filesystem::exists(output));

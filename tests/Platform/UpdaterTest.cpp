@@ -248,6 +248,7 @@ protected:
     int faultsTold(std::initializer_list<testsupport::SystemAnswer> answers) {
         const int calls = installWithFaultAt(-1, {});
         EXPECT_TRUE(QFile::remove(m_driver.opened));
+        RecordProperty("points", calls * static_cast<int>(answers.size()));
         int told = 0;
         for (const testsupport::SystemAnswer& answer : answers) {
             for (int number = 0; number < calls; ++number) {

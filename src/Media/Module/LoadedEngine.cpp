@@ -3,7 +3,9 @@
 #include "Media/Module/EngineModule.h"
 
 #include <dlfcn.h>
+#include <sys/mman.h>
 
+#include <cstddef>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -21,12 +23,25 @@ std::filesystem::path modulePath() {
     return program.parent_path() / BRISKLET_ENGINE_MODULE;
 }
 
+/// Whether the system has no room for what the engine's libraries take, mapped or not; measured.
+bool isMemoryShort() {
+    constexpr std::size_t kLibraryBytes = std::size_t{256} << 20;
+    void* const room =
+        ::mmap(nullptr, kLibraryBytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (room == MAP_FAILED)
+        return true;
+    ::munmap(room, kLibraryBytes);
+    return false;
+}
+
 const Engine& loadEngine() {
     // Bound as it is used: it has a hundred libraries behind it. Never unloaded.
     void* module = ::dlopen(modulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (module == nullptr) {
         // Which file of whose is missing helps whoever packaged it, not the person at the screen.
         std::fprintf(stderr, "%s\n", ::dlerror());
+        if (isMemoryShort())
+            throw Error(ErrorKind::notEnoughMemory);
         throw Error(ErrorKind::incompleteInstallation);
     }
     const auto* const interface = static_cast<const char*>(::dlsym(module, kEngineInterfaceName));

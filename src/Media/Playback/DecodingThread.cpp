@@ -95,13 +95,21 @@ void DecodingThread::open(const DecodeWork& work) {
         m_source = std::move(source);
 }
 
+/// An item that could not be opened for lack of memory or threads is opened when it is looked at
+/// again.
+bool DecodingThread::hasSource(const DecodeWork& work) {
+    if (!m_source)
+        open(work);
+    return m_source != nullptr;
+}
+
 /// What can't be decoded keeps the last picture on show.
 void DecodingThread::fail(const DecodeWork& work) {
     m_shared.lock()->frameFailed(work, now());
 }
 
 void DecodingThread::seek(const DecodeWork& work) {
-    if (!m_source)
+    if (!hasSource(work))
         return fail(work);
     const FrameSource::Goal goal{.ticks = work.target.earliest,
                                  .completeFrom = work.completeFrom,
@@ -142,7 +150,7 @@ void DecodingThread::showProgress(const DecodeWork& work) {
 }
 
 void DecodingThread::seekNear(const DecodeWork& work) {
-    if (!m_source)
+    if (!hasSource(work))
         return fail(work);
     const auto ticks = m_source->advanceNear(work.target.earliest, work.target.latest,
                                              work.previewSize, work.stop);

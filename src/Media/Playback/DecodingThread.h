@@ -24,6 +24,7 @@ private:
     [[nodiscard]] DecoderStatus status();
     void perform(const DecodeWork& work);
     void open(const DecodeWork& work);
+    bool hasSource(const DecodeWork& work);
     void seek(const DecodeWork& work);
     void seekNear(const DecodeWork& work);
     void setOut(const DecodeWork& work);

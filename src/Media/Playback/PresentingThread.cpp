@@ -1,5 +1,6 @@
 #include "Media/Playback/PresentingThread.h"
 
+#include <exception>
 #include <utility>
 
 namespace media::playback {
@@ -8,6 +9,15 @@ namespace {
 
 SteadyTime now() {
     return std::chrono::steady_clock::now();
+}
+
+/// Where there is no memory for the picture, the last one stays on show.
+RenderedFrame renderedOrNothing(const CachedFrame& frame) {
+    try {
+        return render(frame);
+    } catch (const std::exception&) {
+        return {nullptr, frame.time, frame.range, false};
+    }
 }
 
 } // namespace
@@ -27,7 +37,7 @@ Presentation PresentingThread::perform(const SteadyTime& until, const std::stop_
 }
 
 Presentation PresentingThread::perform(const FrameToShow& frame, const std::stop_token& /*stop*/) {
-    RenderedFrame rendered = render(frame.frame);
+    RenderedFrame rendered = renderedOrNothing(frame.frame);
     return m_shared.lock()->frameRendered(frame, std::move(rendered), now());
 }
 
