@@ -2,6 +2,7 @@
 
 #include "OtherStart.h"
 #include "QtSupport/PrivateBus.h"
+#include "TestSupport/SlowDisk.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -276,11 +277,11 @@ TEST_F(SessionTest, saysWhatIsWrongWithStrangeFiles) {
     std::ofstream(m_folder / "closed.mp4") << "no video";
     const QString own = QString::fromLatin1(urlOf(m_folder.path()).toEncoded());
     for (const QString& uri :
-         {QStringLiteral("file:///home/somebody%20else/video.mp4"), QStringLiteral("file:///dev/null"),
-          QStringLiteral("file:///a%00b%0Ac%1B%5B31m.mp4"), QStringLiteral("file://<b>x</b>/&amp;"),
-          QStringLiteral("javascript:alert(1)"), QStringLiteral("file:///<b>x</b>%0A&amp;.mp4"),
-          own + QStringLiteral("/closed.mp4"), own, QStringLiteral("::"),
-          QStringLiteral("x").repeated(100'000)}) {
+         {QStringLiteral("file:///home/somebody%20else/video.mp4"),
+          QStringLiteral("file:///dev/null"), QStringLiteral("file:///a%00b%0Ac%1B%5B31m.mp4"),
+          QStringLiteral("file://<b>x</b>/&amp;"), QStringLiteral("javascript:alert(1)"),
+          QStringLiteral("file:///<b>x</b>%0A&amp;.mp4"), own + QStringLiteral("/closed.mp4"), own,
+          QStringLiteral("::"), QStringLiteral("x").repeated(100'000)}) {
         SCOPED_TRACE(uri.left(60).toStdString());
         WindowRootView* window = m_app->windows().first();
         EXPECT_EQ(call(QStringLiteral("Open"), {QStringList{uri}, QVariantMap()}).type(),
@@ -294,6 +295,24 @@ TEST_F(SessionTest, saysWhatIsWrongWithStrangeFiles) {
         testsupport::pumpPending();
         ASSERT_EQ(m_app->windows().size(), 1);
     }
+}
+
+TEST_F(SessionTest, saysThatAFileMayNotBeRead) {
+    const testsupport::SlowDisk disk(1'000'000);
+    if (!disk.isThere())
+        GTEST_SKIP() << "no file system of our own can be mounted here";
+    const QUrl file = urlOf(disk.holding(pathOf(video(1))));
+    disk.setPrivate(true);
+    EXPECT_EQ(call(QStringLiteral("Open"),
+                   {QStringList{QString::fromLatin1(file.toEncoded())}, QVariantMap()})
+                  .type(),
+              QDBusMessage::ReplyMessage);
+    const auto state = m_app->windows().first()->state();
+    ASSERT_TRUE(pumpUntil([&state] { return state->errorMessage().has_value(); }));
+    EXPECT_EQ(*state->errorMessage(),
+              QStringLiteral("Couldn't open “%1”: You don’t have permission to read this file.")
+                  .arg(displayName(file)));
+    EXPECT_EQ(m_app->windows().size(), 1);
 }
 
 // A file was lost when the empty window it went into was being closed at that very moment.

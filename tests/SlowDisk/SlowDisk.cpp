@@ -4,8 +4,9 @@
 //     slow-disk FOLDER MOUNT-POINT BYTES-PER-SECOND
 //
 // While FOLDER holds a file named "stalled", reading waits, and FOLDER gets a file "awaited"; while
-// it holds one named "broken", reading fails. Whoever waits can be killed. Ends, and unmounts, with
-// the process that started it.
+// it holds one named "broken", reading fails; while it holds one named "private", nothing on it may
+// be looked at or opened, by no user. Whoever waits can be killed. Ends, and unmounts, with the
+// process that started it.
 #define FUSE_USE_VERSION 31
 #include <fuse.h>
 
@@ -45,11 +46,18 @@ int answer(int result) {
     return result == 0 ? 0 : -errno;
 }
 
+bool isPrivate(const char* path) {
+    return path != nullptr && std::string(path) != "/" &&
+           std::filesystem::exists(folder / "private");
+}
+
 int descriptorOf(const fuse_file_info* file) {
     return static_cast<int>(file->fh);
 }
 
 int status(const char* path, struct stat* result, fuse_file_info* file) {
+    if (isPrivate(path))
+        return -EACCES;
     return answer(file ? ::fstat(descriptorOf(file), result)
                        : ::lstat(behind(path).c_str(), result));
 }
@@ -74,6 +82,8 @@ int openAs(const char* path, fuse_file_info* file, int flags, mode_t mode) {
 }
 
 int open(const char* path, fuse_file_info* file) {
+    if (isPrivate(path))
+        return -EACCES;
     return openAs(path, file, file->flags & O_ACCMODE, 0);
 }
 

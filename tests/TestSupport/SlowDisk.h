@@ -39,6 +39,9 @@ public:
     /// Whether reading from it fails.
     void setBroken(bool isBroken) const { setFlag("broken", isBroken); }
 
+    /// Whether nobody may look at what is on it, not even the administrator.
+    void setPrivate(bool isPrivate) const { setFlag("private", isPrivate); }
+
 private:
     void setFlag(const char* name, bool isSet) const;
 
