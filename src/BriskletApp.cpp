@@ -2,6 +2,7 @@
 
 #include "ExportMonitor.h"
 #include "Media/Error.h"
+#include "Media/MemoryReturn.h"
 #include "Models/EditKeeper.h"
 #include "Models/EditState.h"
 #include "Platform/Appearance.h"
@@ -13,7 +14,6 @@
 #include "Platform/Updater/Updater.h"
 #include "Platform/Updater/UpdaterSettings.h"
 #include "Support/LocalizedMessage.h"
-#include "Support/MemoryReturn.h"
 #include "Support/OpenBridge.h"
 #include "Support/Workers.h"
 #include "Views/ContentView.h"
@@ -81,7 +81,7 @@ BriskletApp::BriskletApp(const QString& applicationId, UpdaterConfiguration upda
     m_memoryReturn.setSingleShot(true);
     m_memoryReturn.setInterval(kMemoryReturnDelay);
     connect(&m_memoryReturn, &QTimer::timeout, this,
-            [] { static_cast<void>(runOnWorker(&returnFreedMemory)); });
+            [] { static_cast<void>(runOnWorker(&media::returnFreedMemory)); });
 }
 
 BriskletApp::~BriskletApp() {

@@ -5,6 +5,7 @@
 #include "Media/Export/StagedExportSession.h"
 #include "Media/Export/WriteError.h"
 #include "Media/FFmpeg/Bounds.h"
+#include "Media/MemoryReturn.h"
 #include "Media/Pictures/DecodingImageGenerator.h"
 #include "Media/Playback/CubebOutput.h"
 #include "Media/Playback/ThreadedPlayer.h"
@@ -71,7 +72,7 @@ public:
         auto forecast = tellingOfRefusals(
             [&] { return runTrial(composition, videoComposition, settings, stop); });
         // Encoders need much for a moment; the window is at rest afterwards, for hours perhaps.
-        ::malloc_trim(0);
+        returnFreedMemory();
         return forecast;
     }
 

@@ -1,4 +1,4 @@
-#include "Support/MemoryReturn.h"
+#include "Media/MemoryReturn.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 
 /// An empty window grew by two megabytes at a time while nothing happened: the kernel joined pages
 /// that had been given back with the few that were in use.
-namespace brisklet {
+namespace media {
 namespace {
 
 constexpr std::size_t kBytes = 8 * 1024 * 1024;
@@ -71,4 +71,4 @@ TEST(MemoryReturnTest, leavesWhatIsInUse) {
 }
 
 } // namespace
-} // namespace brisklet
+} // namespace media

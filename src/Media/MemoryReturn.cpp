@@ -1,4 +1,4 @@
-#include "Support/MemoryReturn.h"
+#include "Media/MemoryReturn.h"
 
 #include <charconv>
 #include <cstdint>
@@ -8,7 +8,7 @@
 #include <string_view>
 #include <sys/mman.h>
 
-namespace brisklet {
+namespace media {
 
 namespace {
 
@@ -54,4 +54,4 @@ void returnFreedMemory() {
     keepPagesSmall();
 }
 
-} // namespace brisklet
+} // namespace media
