@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QFuture>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <QPromise>
 #include <QStandardPaths>
 
@@ -80,7 +81,12 @@ QFuture<Answer> ask(QFileDialog* dialog) {
         const QList<QUrl> urls = dialog->selectedUrls();
         answer(result == QDialog::Accepted && !urls.isEmpty() ? Answer(urls.first()) : Answer());
     });
-    QObject::connect(dialog, &QObject::destroyed, [answer] { answer({}); });
+    QObject::connect(dialog, &QObject::destroyed, [answer] {
+        answer({});
+        // Each of Qt’s own dialogs has icons of its own, whose pictures nothing asks for again:
+        // they would fill the cache.
+        QPixmapCache::clear();
+    });
     QFuture<Answer> future = promise->future();
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPixmapCache>
+#include <QPointer>
 #include <QTimer>
 
 #include <filesystem>
@@ -79,6 +81,19 @@ TEST_F(ExportPanelTest, refusesTheVideoThatIsEditedAndComesAgain) {
     }
     EXPECT_EQ(std::filesystem::file_size(m_folder / "clip.mp4"),
               std::filesystem::file_size(pathOf(video(1))));
+}
+
+// Each panel left the pictures of its icons in Qt’s cache, up to ten megabytes of them.
+TEST_F(ExportPanelTest, leavesNoPicturesOfItsIcons) {
+    const QString key = QStringLiteral("kept before the panel is closed");
+    m_window->state()->presentExportPanel();
+    const QPointer<QFileDialog> panel = waitForPanel();
+    ASSERT_NE(panel, nullptr);
+    ASSERT_TRUE(QPixmapCache::insert(key, QPixmap(16, 16)));
+    panel->reject();
+    ASSERT_TRUE(pumpUntil([&] { return !panel; }));
+    QPixmap found;
+    EXPECT_FALSE(QPixmapCache::find(key, &found));
 }
 
 TEST_F(ExportPanelTest, replacesAnotherFileOnceItIsConfirmed) {
