@@ -156,7 +156,8 @@ void EditStore::apply(const Changes& changes, Records& records) const {
 void EditStore::dropOldest(Records& records) const {
     std::size_t count = 0;
     const auto isTooOld = [&](const KeptRecord& record) {
-        return isClosed(record) && ++count > kMostClosed;
+        // All windows of a program that crashed are left at once: none of them drives another out.
+        return record.session == 0 && ++count > kMostClosed;
     };
     Records kept;
     std::copy_if(records.rbegin(), records.rend(), std::back_inserter(kept),

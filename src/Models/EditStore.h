@@ -27,7 +27,7 @@ namespace brisklet {
 /// Any thread. keep() and remove() only note what is to be done; what touches the disk says so.
 class EditStore final {
 public:
-    /// How many closed edits are kept.
+    /// How many edits are kept that were closed; beside them all that a crash left.
     static constexpr std::size_t kMostClosed = 10;
 
     enum class Place { open, closed };

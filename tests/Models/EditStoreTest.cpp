@@ -128,6 +128,17 @@ TEST_F(EditStoreTest, takesWhatAProgramLeftThatEndedWithoutClosing) {
     EXPECT_EQ(takenId(*open()), 0U) << "open in the other one now";
 }
 
+TEST_F(EditStoreTest, losesNothingOfAProgramThatEndedWithMoreWindowsThanClosedEditsAreKept) {
+    auto crashed = open();
+    for (std::uint64_t id = 1; id <= 12; ++id)
+        put(*crashed, edit(id), Place::open);
+    crashed.reset();
+    const auto store = open();
+    for (const std::uint64_t id : {101U, 102U})
+        put(*store, edit(id), Place::closed);
+    EXPECT_THAT(idsOnDisk(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 101, 102));
+}
+
 TEST_F(EditStoreTest, triesEditsThatFailedLastAndOpenOnesNever) {
     const auto store = open();
     for (const std::uint64_t id : {1U, 2U, 3U})
