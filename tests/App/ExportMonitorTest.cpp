@@ -1,6 +1,7 @@
 #include "AppFixture.h"
 
 #include "FakeDesktop.h"
+#include "OddNames.h"
 #include "Platform/SleepInhibitor.h"
 #include "QtSupport/PrivateBus.h"
 
@@ -185,6 +186,22 @@ TEST_F(ExportMonitorTest, announcesTheEndInAWindowThatIsNotActive) {
         Q_EMIT m_desktop->notifications.ActionInvoked(7, QStringLiteral("default"));
         return QApplication::activeWindow() == m_window;
     }));
+}
+
+TEST_F(ExportMonitorTest, announcesNamesOfFilesToTheLetter) {
+    ASSERT_TRUE(loadAndWait(*m_window, video(1)));
+    const QStringList& texts = m_desktop->notifications.texts;
+    for (const std::string& name : testsupport::oddNames()) {
+        SCOPED_TRACE(name);
+        const auto count = texts.size();
+        const QUrl file = urlOf(m_folder / name);
+        m_window->state()->exportTo(file);
+        ASSERT_TRUE(testsupport::showActive(*m_other));
+        ASSERT_TRUE(waitForEnd());
+        ASSERT_TRUE(pumpUntil([&] { return texts.size() > count; }))
+            << m_window->state()->errorMessage().value_or(QString()).toStdString();
+        EXPECT_EQ(texts.last(), shownName(file).toHtmlEscaped());
+    }
 }
 
 TEST_F(ExportMonitorTest, announcesAFailureToo) {
