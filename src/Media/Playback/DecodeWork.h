@@ -76,6 +76,8 @@ struct DecodeWork {
     Ticks completeFrom;
     /// seek, step: what lies before the target will likely be asked for next.
     bool isBackward = false;
+    /// readAhead: where the frames from the target on end, if those at the end are wanted first.
+    std::optional<Ticks> endBehind;
     /// queue.
     std::optional<CachedFrame> frame;
 };

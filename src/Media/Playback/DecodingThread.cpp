@@ -197,6 +197,8 @@ void DecodingThread::advance(const DecodeWork& work) {
     FrameSource::Goal goal{.ticks = ticks, .completeFrom = ticks};
     if (isPositioning)
         goal.lateUntil = work.target.earliest;
+    if (work.endBehind)
+        goal = m_source->goalNearEnd({ticks, *work.endBehind});
     switch (m_source->advance(goal, work.previewSize, work.stop)) {
     case Outcome::onTheWay:
         return;

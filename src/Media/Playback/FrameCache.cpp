@@ -10,6 +10,8 @@ namespace {
 /// A frame this many times nearer to a point of interest than another to the playhead is worth as
 /// much.
 constexpr double kPointWeight = 4;
+/// The same of a frame that a playhead moving backward has left behind.
+constexpr double kLeftBehindWeight = 4;
 /// The part of the bound that frames of single places may take: the rest is for the neighbourhood
 /// of the playhead.
 constexpr std::size_t kPartOfPlaces = 4;
@@ -33,6 +35,8 @@ std::size_t FrameCache::capacityBytes() const {
 
 double FrameCache::State::distanceTo(Ticks ticks) const {
     double least = distance(ticks, focus);
+    if (isBackward && ticks > focus)
+        least *= kLeftBehindWeight;
     for (const Ticks point : points)
         least = std::min(least, kPointWeight * distance(ticks, point));
     return least;
@@ -79,6 +83,7 @@ void FrameCache::begin(const void* source) {
     std::swap(state->frames, forgotten);
     state->bytes = 0;
     state->focus = Ticks();
+    state->isBackward = false;
     state->points.clear();
     state->placesOfRest.clear();
     state->source = source;
@@ -127,8 +132,10 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
     }
 }
 
-void FrameCache::setFocus(Ticks ticks) {
-    m_state.lock()->focus = ticks;
+void FrameCache::setFocus(Ticks ticks, int direction) {
+    const auto state = m_state.lock();
+    state->focus = ticks;
+    state->isBackward = direction < 0;
 }
 
 void FrameCache::setPointsOfInterest(std::vector<Ticks> ticks) {

@@ -32,9 +32,10 @@ struct CachedFrame {
 
 /// The frames of one player that were decoded lately, bounded in bytes. What goes first is what
 /// lies farthest from the playhead and from the few points of interest, of which each keeps a
-/// smaller neighbourhood; and the frame at each of those and of the last places of rest, as long as
-/// these take no more than a quarter of the bound. Frames of a size that is no longer wanted stay
-/// until they are replaced or go, since they are better than none. Usable from any thread.
+/// smaller neighbourhood, as the playhead does of what a movement backward leaves behind; and the
+/// frame at each of those and of the last places of rest, as long as these take no more than a
+/// quarter of the bound. Frames of a size that is no longer wanted stay until they are replaced or
+/// go, since they are better than none. Usable from any thread.
 class FrameCache {
 public:
     static constexpr std::size_t kDefaultBytes = std::size_t{192} << 20;
@@ -54,8 +55,9 @@ public:
     /// The frame itself stays even if it alone is beyond the bound.
     void insert(const void* source, CachedFrame frame);
 
-    /// The playhead, and where it is likely to go.
-    void setFocus(Ticks ticks);
+    /// The playhead, and where it is likely to go. `direction` is less than 0 where it moves
+    /// backward: then the frames after it are worth less.
+    void setFocus(Ticks ticks, int direction = 0);
     void setPointsOfInterest(std::vector<Ticks> ticks);
     [[nodiscard]] std::vector<Ticks> pointsOfInterest() const;
 
@@ -87,6 +89,7 @@ private:
         Frames frames;
         std::size_t bytes = 0;
         Ticks focus;
+        bool isBackward = false;
         std::vector<Ticks> points;
         /// The latest first.
         std::vector<Ticks> placesOfRest;

@@ -19,6 +19,9 @@ constexpr std::size_t kPassedBytes = std::size_t{48} << 20;
 /// How far behind a goal it is looked for where its frame ends, if nothing decodes there.
 constexpr Ticks kFarthestEnd{Ticks::kPerSecond / 2};
 
+/// How much later than it is decoded a key frame may be shown.
+constexpr Ticks kLongestReorder{Ticks::kPerSecond / 5};
+
 /// How many frames before one are worth decoding, when the next ones will be those.
 constexpr Ticks kBackward{Ticks::kPerSecond * 3 / 10};
 
@@ -80,6 +83,13 @@ DecodingPace::Way FrameSource::wayTo(Ticks ticks) const {
         return {.target = ticks};
     const VideoReader::Start start = m_reader->startOfWayTo(ticks);
     return {.target = ticks, .start = start.ticks, .isContinued = start.isHere};
+}
+
+FrameSource::Goal FrameSource::goalNearEnd(TickRange range) {
+    const auto key = reader().keyFrameBefore(range.end - kLongestReorder - kLongestReorder);
+    if (!key || *key <= range.begin)
+        return {.ticks = range.begin, .completeFrom = range.begin};
+    return {.ticks = *key + kLongestReorder, .completeFrom = *key};
 }
 
 FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,

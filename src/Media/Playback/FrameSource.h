@@ -63,6 +63,9 @@ public:
 
     /// The way that advance() would take to the frame at `ticks`, without moving.
     [[nodiscard]] DecodingPace::Way wayTo(Ticks ticks) const;
+    /// The goal to begin with where the frames of `range` are wanted, those at its end first: the
+    /// frames from the last key frame on, as far as the container tells where that is.
+    [[nodiscard]] Goal goalNearEnd(TickRange range);
     /// Decodes one frame on the way to the goal. A goal that lies ahead in the run of decoding that
     /// is under way goes on with it, any other begins anew at a key frame. Throws Cancelled when
     /// stopped (call it again to go on), Error when reading fails.

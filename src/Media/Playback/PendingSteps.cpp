@@ -26,7 +26,7 @@ std::optional<CachedFrame> PendingSteps::advance(FrameCache& cache, ImageSize si
             const std::optional<Ticks> ticks = next(walk);
             if (!ticks)
                 break;
-            cache.setFocus(*ticks);
+            cache.setFocus(*ticks, walk.framesLeft);
             auto frame = cache.find(*ticks, size);
             if (!frame)
                 return std::nullopt;

@@ -148,7 +148,7 @@ void PlaybackState::beginGeneration(Time at, SeekTarget target, SteadyTime now) 
     m_isFallingBehind = true;
     m_hasEnded = false;
     m_observers.forgetPending();
-    m_cache.setFocus(target.earliest);
+    m_cache.setFocus(target.earliest, m_direction);
     holdClock(at, now);
     stopSound();
     m_deferred.wakes.decoding = true;

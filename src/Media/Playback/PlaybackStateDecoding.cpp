@@ -176,6 +176,7 @@ bool PlaybackState::chooseIdle(DecodeWork& work, const DecoderStatus& decoder, S
         if (const std::optional<Ticks> ticks = m_readAhead.next()) {
             work.kind = DecodeWork::Kind::readAhead;
             work.target = SeekTarget::exactly(*ticks);
+            work.endBehind = m_readAhead.endBehind();
             return true;
         }
     }

@@ -8,7 +8,8 @@ namespace {
 
 constexpr double kLongestReach = 2.0 * Ticks::kPerSecond;
 /// Around the playhead one reach ahead and two behind are kept, around each of two points of
-/// interest three quarters of one: no more than the cache can hold with room to spare.
+/// interest three quarters of one: no more than the cache can hold with room to spare. Where the
+/// playhead moves backward it is half a reach ahead and three and a half behind.
 constexpr double kReachesInCache = 6;
 /// A range so far away from where the playhead has gone is given up.
 constexpr Ticks kFarAway{4 * Ticks::kPerSecond};
@@ -21,6 +22,12 @@ struct Neighbourhood {
     const Surroundings& surroundings;
     Ticks reach;
 
+    [[nodiscard]] bool isBackward() const { return surroundings.direction < 0; }
+
+    [[nodiscard]] Ticks reaches(double count) const {
+        return Ticks(static_cast<std::int64_t>(count * static_cast<double>(reach.count())));
+    }
+
     [[nodiscard]] std::optional<TickRange> between(Ticks first, Ticks last) const {
         first = std::max(first, Ticks(0));
         last = std::min(last, surroundings.last);
@@ -29,19 +36,22 @@ struct Neighbourhood {
     }
 
     [[nodiscard]] std::optional<TickRange> ahead() const {
-        return between(surroundings.focus, surroundings.focus + reach);
+        return between(surroundings.focus, surroundings.focus + reaches(isBackward() ? 0.5 : 1));
     }
 
-    /// Getting there costs the way from a key frame: so it is done rarely, and then for more.
+    /// Getting there costs the way from a key frame: so it is done rarely, and then for more; and
+    /// early where the playhead moves there, since the frames that it comes to first come last.
     [[nodiscard]] std::optional<TickRange> behind() const {
         const Ticks known = cache.coveredFrom(surroundings.focus, surroundings.size);
-        if (known <= std::max(surroundings.focus - reach, Ticks(0)))
+        const Ticks least = surroundings.focus - reaches(isBackward() ? 2 : 1);
+        if (known <= std::max(least, Ticks(0)))
             return std::nullopt;
-        return TickRange{std::max(surroundings.focus - reach - reach, Ticks(0)), known};
+        const Ticks most = surroundings.focus - reaches(isBackward() ? 3.5 : 2);
+        return TickRange{std::max(most, Ticks(0)), known};
     }
 
     [[nodiscard]] std::optional<TickRange> around(Ticks point) const {
-        return between(point - Ticks(reach.count() / 4), point + Ticks(reach.count() / 2));
+        return between(point - reaches(0.25), point + reaches(0.5));
     }
 };
 
@@ -61,7 +71,7 @@ std::optional<TickRange> framesToReadAhead(const FrameCache& cache,
     if (static_cast<double>(reach) < 4 * surroundings.frameTicks)
         return std::nullopt;
     const Neighbourhood neighbourhood{cache, surroundings, Ticks(reach)};
-    const bool isBackward = surroundings.direction < 0;
+    const bool isBackward = neighbourhood.isBackward();
     if (const auto first = isBackward ? neighbourhood.behind() : neighbourhood.ahead())
         return first;
     if (const auto second = isBackward ? neighbourhood.ahead() : neighbourhood.behind())
@@ -103,6 +113,11 @@ std::optional<Ticks> ReadAhead::next() {
         return std::nullopt;
     }
     return m_range->begin;
+}
+
+std::optional<Ticks> ReadAhead::endBehind() const {
+    const bool isBehind = m_range && m_range->begin < m_surroundings.focus;
+    return isBehind ? std::optional(m_range->end) : std::nullopt;
 }
 
 void ReadAhead::arrive(Ticks end) {

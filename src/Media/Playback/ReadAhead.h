@@ -47,6 +47,10 @@ public:
     /// The tick of the frame to decode next; none when there is nothing left to do.
     std::optional<Ticks> next();
 
+    /// After next(): where the frames end that are to be decoded from there on, if they lie before
+    /// the playhead. Then those at the end are wanted first.
+    [[nodiscard]] std::optional<Ticks> endBehind() const;
+
     /// Nothing is left to do for the state of things, as far as is known.
     [[nodiscard]] bool isDone() const { return m_framesLeft <= 0; }
 

@@ -70,6 +70,10 @@ public:
         return {m_search.keyFrameBefore(target), false};
     }
 
+    [[nodiscard]] std::optional<Ticks> keyFrameBefore(Ticks ticks) const {
+        return m_search.keyFrameBefore(ticks);
+    }
+
     [[nodiscard]] bool isCompleteFrom(Ticks ticks) const {
         return m_run.skipPolicy().isCompleteFrom(ticks);
     }
@@ -172,6 +176,10 @@ void VideoReader::approach(const Approach& way, const std::stop_token& stop) {
 
 VideoReader::Start VideoReader::startOfWayTo(Ticks target) const {
     return d->startOfWayTo(target);
+}
+
+std::optional<Ticks> VideoReader::keyFrameBefore(Ticks ticks) const {
+    return d->keyFrameBefore(ticks);
 }
 
 bool VideoReader::isCompleteFrom(Ticks ticks) const {

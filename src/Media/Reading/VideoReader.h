@@ -86,6 +86,10 @@ public:
     /// Looks it up without moving.
     [[nodiscard]] Start startOfWayTo(Ticks target) const;
 
+    /// When the last key frame is decoded that the container's index knows at or before `ticks`: it
+    /// is shown then, or a little later. Looks it up without moving.
+    [[nodiscard]] std::optional<Ticks> keyFrameBefore(Ticks ticks) const;
+
     /// Begins a seek() that the caller completes by reading on: moves so that next() returns the
     /// frame at the target or one before it, from which the others follow.
     void approach(const Approach& way, const std::stop_token& stop = {});

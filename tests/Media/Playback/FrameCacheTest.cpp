@@ -103,6 +103,18 @@ TEST(FrameCache, letsGoOfWhatLiesFarthestFromThePlayhead) {
     EXPECT_LE(cache.byteCount(), 10 * kFrameBytes);
 }
 
+TEST(FrameCache, keepsLessOfWhatAMovementBackwardHasLeftBehind) {
+    FrameCache cache(20 * kFrameBytes);
+    cache.begin(&kSource);
+    cache.setFocus(2000_ticks, -1);
+    fillCache(cache, &kSource, 1600_ticks, 2400_ticks);
+    EXPECT_LE(cache.coveredFrom(2000_ticks, kFrameSize), 1700_ticks);
+    EXPECT_LE(cache.coveredUntil(2000_ticks, kFrameSize), 2100_ticks);
+    cache.setFocus(2000_ticks);
+    fillCache(cache, &kSource, 1600_ticks, 2400_ticks);
+    EXPECT_GE(cache.coveredUntil(2000_ticks, kFrameSize), 2180_ticks);
+}
+
 TEST(FrameCache, keepsANeighbourhoodOfThePointsOfInterest) {
     FrameCache cache(16 * kFrameBytes);
     cache.begin(&kSource);

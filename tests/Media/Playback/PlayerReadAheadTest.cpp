@@ -1,6 +1,7 @@
 #include "PlayerStage.h"
 
 #include "Media/ExportFixture.h"
+#include "Media/Playback/FrameSource.h"
 #include "Media/Threading/ProcessorDemand.h"
 #include "TestSupport/TemporaryFolder.h"
 
@@ -9,6 +10,7 @@
 /// What a player decodes before anybody asks for it, and when it does not.
 namespace {
 
+using media::Ticks;
 using media::Time;
 using testsupport::Fixture;
 using testsupport::makeFixture;
@@ -34,6 +36,29 @@ TEST(PlayerReadAhead, readsAheadOfAJumpAndAroundThePointsOfInterest) {
     for (const Time time : {Time{6000, 600}, Time{6100, 600}, Time{300, 600}})
         ASSERT_TRUE(stage.seekAndWait(time));
     EXPECT_EQ(stage.player->statistics().fromCache, fromCache + 3);
+}
+
+// A step back over a key frame took as long as decoding the whole group before it: where frames
+// behind the playhead are read, those that it comes to first came last.
+TEST(PlayerReadAhead, beginsBehindThePlayheadAtTheLastKeyFrame) {
+    const Fixture fixture = longGroups();
+    media::playback::FrameCache cache;
+    const auto item = std::make_shared<media::PlayerItem>(media::Asset::open(fixture.path));
+    cache.begin(item.get());
+    media::playback::DecoderBudget budget([] {});
+    media::playback::FrameSource source(cache, budget, item);
+    const media::playback::PreviewSize size{640, 480};
+    constexpr Ticks kKeyFrame(5000);
+    const auto goal = source.goalNearEnd({Ticks(2400), Ticks(6400)});
+    while (source.advance(goal, size, {}) == media::playback::FrameSource::Outcome::onTheWay)
+        ASSERT_LT(source.passingTicks(), Ticks(6400));
+    const auto frame = cache.find(kKeyFrame, cache.nearest(kKeyFrame)->size());
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->range.begin, kKeyFrame);
+    EXPECT_GE(cache.coveredUntil(kKeyFrame, frame->size()), source.arrivedEnd())
+        << "every frame on the way is kept";
+    EXPECT_LT(source.takeDecodedCount(), 20U) << "nothing of the group before";
+    EXPECT_EQ(source.goalNearEnd({Ticks(2400), kKeyFrame}).ticks, Ticks(2400));
 }
 
 TEST(PlayerReadAhead, restsWhileAnExportRunsAndGoesOnAfterwards) {

@@ -26,10 +26,36 @@ TEST(ReadAhead, readsAheadInTheDirectionOfTheMovementFirst) {
     Surroundings surroundings{
         .focus = 3040_ticks, .direction = 1, .last = 9000_ticks, .size = kFrameSize};
     EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{3100_ticks, 4241_ticks}));
-    surroundings.direction = -1;
+    fill(cache, 3100_ticks, 4260_ticks);
     EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{640_ticks, 3000_ticks}));
-    fill(cache, 640_ticks, 3000_ticks);
-    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{3100_ticks, 4241_ticks}));
+}
+
+TEST(ReadAhead, readsFartherBackWhereThePlayheadMovesBackward) {
+    FrameCache cache;
+    cache.begin(&kSource);
+    fill(cache, 6000_ticks, 6100_ticks);
+    const Surroundings surroundings{
+        .focus = 6040_ticks, .direction = -1, .last = 9000_ticks, .size = kFrameSize};
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{1840_ticks, 6000_ticks}));
+    fill(cache, 3640_ticks, 6000_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{6100_ticks, 6641_ticks}))
+        << "with two reaches left it is not time yet";
+}
+
+TEST(ReadAhead, asksForNoMoreThanTheCacheHoldsOfAPlayheadThatMovesBackward) {
+    FrameCache cache(60 * kFrameBytes);
+    cache.begin(&kSource);
+    cache.setPointsOfInterest({0_ticks, 9000_ticks});
+    for (Ticks focus(8000); focus > 1000_ticks; focus = focus - 20_ticks) {
+        cache.setFocus(focus, -1);
+        const Surroundings surroundings{
+            .focus = focus, .direction = -1, .last = 9000_ticks, .size = kFrameSize};
+        int rounds = 0;
+        while (const auto range = framesToReadAhead(cache, surroundings)) {
+            fill(cache, Ticks(range->begin.count() / 20 * 20), range->end);
+            ASSERT_LE(++rounds, 5) << "it never has enough at " << focus.count();
+        }
+    }
 }
 
 TEST(ReadAhead, looksAfterThePointsOfInterestLastAndEndsWhenAllIsThere) {
