@@ -7,7 +7,10 @@ import time
 from pathlib import Path
 
 # Name and unit: memory in MB, the others are counts.
-QUANTITIES = {"rss": "MB", "pss": "MB", "threads": "", "descriptors": ""}
+QUANTITIES = {"rss": "MB", "anonymous": "MB", "threads": "", "descriptors": ""}
+# Those that may not grow. Anonymous memory is the part of the resident that is not in a file: it
+# tells what the program holds from what the system keeps of its libraries.
+BOUNDED = ("rss", "threads", "descriptors")
 INTERVAL = 5.0
 
 WIDTH, HEIGHT, MARGIN, GAP = 900, 150, 70, 34
@@ -20,7 +23,7 @@ def usage_of(pid):
     kilobytes = {line.split(":")[0]: int(line.split()[1]) for line in lines}
     return {
         "rss": kilobytes["Rss"] / 1000,
-        "pss": kilobytes["Pss"] / 1000,
+        "anonymous": kilobytes["Anonymous"] / 1000,
         "threads": len(os.listdir(process / "task")),
         "descriptors": len(os.listdir(process / "fd")),
     }
