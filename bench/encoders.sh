@@ -62,7 +62,7 @@ hevcDefault=psy-rd=0:deblock=2,2:aq-mode=1:aq-strength=0.3
 hevc=(medium:18 "superfast:14.8:$hevcDefault" "superfast:14.8:$hevcDefault:ctu=16"
     superfast:15:psy-rd=0:deblock=2,2 superfast:15.5:psy-rd=0:deblock=1,1:aq-mode=1:aq-strength=0.7
     "superfast:14.8:$hevcDefault:min-cu-size=16" "superfast:14.8:$hevcDefault:signhide=0"
-    "superfast:14.8:$hevcDefault:level-idc=51:vbv-maxrate=40000:vbv-bufsize=40000:hrd=1")
+    "superfast:14.8:$hevcDefault:level-idc=51:vbv-maxrate=40000:vbv-bufsize=40000:const-vbv=1:hrd=1")
 
 printMachine
 noise=(-f lavfi -i "testsrc2=size=1920x1080:rate=30,noise=alls=10:allf=t")

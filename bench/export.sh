@@ -13,7 +13,7 @@ ours264=(-c:v libx264 -preset superfast -x264-params "$parameters264" -crf)
 handBrake264=(-e x264 --encoder-preset superfast -x "$parameters264" -q)
 crf264=17.1
 crf264Reduced=16.1
-parameters265=psy-rd=0:deblock=2,2:aq-mode=1:aq-strength=0.3:level-idc=51:vbv-maxrate=40000:vbv-bufsize=40000
+parameters265=psy-rd=0:deblock=2,2:aq-mode=1:aq-strength=0.3:level-idc=51:vbv-maxrate=40000:vbv-bufsize=40000:const-vbv=1
 crf265=14.8
 ours265=(-c:v libx265 -preset superfast -x265-params "log-level=none:$parameters265" -tag:v hvc1
     -crf "$crf265")

@@ -124,7 +124,7 @@ TEST_F(EncoderSettingsTest, standInTheStreamAsTheyWereAskedFor) {
                 AllOf(HasSubstr(" psy-rd=0.00 "), HasSubstr(" deblock=2:2 "), HasSubstr(" ctu=32 "),
                       HasSubstr(" aq-mode=1 "), HasSubstr(" aq-strength=0.30 "),
                       HasSubstr(" crf=14.8 "), HasSubstr(" vbv-maxrate=20000 "),
-                      HasSubstr(" vbv-bufsize=20000 ")));
+                      HasSubstr(" vbv-bufsize=20000 "), HasSubstr(" const-vbv ")));
 }
 
 TEST_F(EncoderSettingsTest, areTheSameInAProcessWithDecimalCommas) {

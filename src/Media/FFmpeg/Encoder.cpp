@@ -66,6 +66,8 @@ void addLevel(EncoderOptions& options, const HevcLevel& level, bool hasConstantR
     options.add({"level-idc", level.number});
     options.add({"vbv-maxrate", level.kilobitsPerSecond});
     options.add({"vbv-bufsize", level.kilobitsPerSecond});
+    // Without it the bytes depend on how far the encoder's threads have come, of any footage.
+    options.add({"const-vbv", 1});
     // The buffer's model counts in pictures of equal duration.
     options.add({"hrd", hasConstantRate ? 1 : 0});
 }
