@@ -13,9 +13,9 @@ ours264=(-c:v libx264 -preset superfast -x264-params "$parameters264" -crf)
 handBrake264=(-e x264 --encoder-preset superfast -x "$parameters264" -q)
 crf264=17.1
 crf264Reduced=16.1
-parameters265=psy-rd=0:deblock=2,2:aq-mode=1:aq-strength=0.3:level-idc=51:vbv-maxrate=40000:vbv-bufsize=40000:const-vbv=1
-crf265=14.8
-ours265=(-c:v libx265 -preset superfast -x265-params "log-level=none:$parameters265" -tag:v hvc1
+parameters265=psy-rd=0:deblock=2,2:ctu=16
+crf265=11
+ours265=(-c:v libx265 -preset ultrafast -x265-params "log-level=none:$parameters265" -tag:v hvc1
     -crf "$crf265")
 aim264=(-c:v libx264 -preset medium -crf 16)
 aim265=(-c:v libx265 -preset medium -crf 18 -x265-params log-level=none -tag:v hvc1)
@@ -99,7 +99,7 @@ smaller() {
 deepColour() {
     source=$(generated deep-minute.mp4 deep) filter=null options=()
     ours=("${ours265[@]}") aim=("${aim265[@]}")
-    handBrakeOptions=(-e x265_10bit --encoder-preset superfast -x "$parameters265" -q "$crf265")
+    handBrakeOptions=(-e x265_10bit --encoder-preset ultrafast -x "$parameters265" -q "$crf265")
     handBrakePicture=(--crop-mode none)
     runCase "1080p 10-bit HEVC as it is"
 }

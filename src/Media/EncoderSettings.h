@@ -73,15 +73,12 @@ struct EncoderSettings {
     /// preset falls further behind slower ones.
     double h264ReducedCrf = 16.1;
     /// HEVC Main 10 for deeper or HDR sources (libx265).
-    EncoderPreset hevcPreset = EncoderPreset::superfast;
+    EncoderPreset hevcPreset = EncoderPreset::ultrafast;
     /// What differs from the preset:
     ///  - psy-rd: off, since it trades likeness to the source for an impression of detail.
     ///  - deblock: stronger, which is nearer to the source.
-    ///  - aq-mode, aq-strength: a little adaptive quantisation by the variance of blocks, so that
-    ///    grain takes fewer bits and what is smooth gets more.
-    EncoderParameters hevcParameters = {
-        {"psy-rd", 0}, {"deblock", std::pair(2, 2)}, {"aq-mode", 1}, {"aq-strength", 0.3}};
-    double hevcCrf = 14.8;
+    EncoderParameters hevcParameters = {{"psy-rd", 0}, {"deblock", std::pair(2, 2)}};
+    double hevcCrf = 11;
 };
 
 } // namespace media

@@ -207,7 +207,7 @@ TEST(AVFoundationExporter, asksForTheSameHighestQualityOfDeepPicturesInBothForma
         EXPECT_EQ(probe(folder / name).streamsOf("video").at(0).text("codec_name"), "hevc");
         const std::string settings = encoderSettings(folder / name, "options: ");
         for (const char* each :
-             {" rc=crf ", " crf=14.8 ", " psy-rd=0.00 ", " deblock=2:2 ", " aq-mode=1 "})
+             {" rc=crf ", " crf=11.0 ", " psy-rd=0.00 ", " deblock=2:2 ", " ctu=16 "})
             EXPECT_THAT(settings, testing::HasSubstr(each)) << name;
     }
 }

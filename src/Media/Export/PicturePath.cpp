@@ -69,7 +69,6 @@ void PicturePath::openEncoder(const ffmpeg::SourceTrack& track, const EncoderSet
         encoding.height = videoComposition->renderHeight;
         const Time frame = videoComposition->frameDuration;
         encoding.frameRate = {frame.timescale, static_cast<int>(frame.value)};
-        encoding.hasConstantRate = true;
         m_making.toCanvas = videoComposition->transform;
         encoding.isReduced = std::abs(m_making.toCanvas.determinant()) < kReducedArea;
     } else {

@@ -4,7 +4,6 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/FFmpeg/EncoderOptions.h"
-#include "Media/FFmpeg/HevcLevel.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
@@ -32,6 +31,12 @@ constexpr std::int64_t kAacMostBitsPerSample = 5;
 /// pictures with a side shorter than a coding tree unit.
 constexpr int kHevcUsualUnit = 32;
 constexpr int kHevcSmallUnit = 16;
+/// From level 5 on HEVC does not allow coding tree units of 16 × 16 (Rec. ITU-T H.265, A.4.1).
+/// These are the limits of level 4.1 (tables A.8 and A.9): luma samples per picture, the longest
+/// side, luma samples per second.
+constexpr double kHevcLevel41Pixels = 2'228'224;
+constexpr int kHevcLevel41Side = 4222;
+constexpr double kHevcLevel41PixelRate = 133'693'440;
 
 void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
     context.color_primaries = source.color_primaries;
@@ -51,25 +56,26 @@ void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
         context.color_range = AVCOL_RANGE_JPEG;
 }
 
-/// The size of the coding tree units; none if the picture is too small for HEVC. The usual one
-/// wherever there is room for it, since higher levels allow no smaller one.
-std::optional<int> hevcUnit(const VideoEncoding& encoding, const std::optional<HevcLevel>& level) {
-    const int shortest = std::min(encoding.width, encoding.height);
-    if (shortest >= kHevcUsualUnit)
-        return kHevcUsualUnit;
-    const bool mayBeSmall = level && level->allowsSmallUnits;
-    return mayBeSmall && shortest >= kHevcSmallUnit ? std::optional(kHevcSmallUnit) : std::nullopt;
+/// A side rounded up to whole coding units, which is what x265 encodes.
+int codedSide(int side) {
+    return (side + kHevcSmallUnit - 1) / kHevcSmallUnit * kHevcSmallUnit;
 }
 
-/// States a level and keeps to what its decoders can buffer.
-void addLevel(EncoderOptions& options, const HevcLevel& level, bool hasConstantRate) {
-    options.add({"level-idc", level.number});
-    options.add({"vbv-maxrate", level.kilobitsPerSecond});
-    options.add({"vbv-bufsize", level.kilobitsPerSecond});
-    // Without it the bytes depend on how far the encoder's threads have come, of any footage.
-    options.add({"const-vbv", 1});
-    // The buffer's model counts in pictures of equal duration.
-    options.add({"hrd", hasConstantRate ? 1 : 0});
+/// Whether HEVC allows small coding tree units for pictures of this size and rate.
+bool canTakeSmallUnits(const VideoEncoding& encoding) {
+    const int width = codedSide(encoding.width);
+    const int height = codedSide(encoding.height);
+    const double pixels = static_cast<double>(width) * height;
+    return pixels <= kHevcLevel41Pixels && std::max(width, height) <= kHevcLevel41Side &&
+           pixels * av_q2d(encoding.frameRate) <= kHevcLevel41PixelRate;
+}
+
+/// The size of the coding tree units; none if the picture is too small for HEVC. The smaller size
+/// wherever it is allowed: at this quality larger units are nearly always split, and trying them
+/// takes a tenth to a quarter of the encoder's time.
+std::optional<int> hevcUnit(const VideoEncoding& encoding) {
+    const int unit = canTakeSmallUnits(encoding) ? kHevcSmallUnit : kHevcUsualUnit;
+    return std::min(encoding.width, encoding.height) < unit ? std::nullopt : std::optional(unit);
 }
 
 CodecContextPtr makeContext(const char* encoderName) {
@@ -103,9 +109,7 @@ int aacSampleRate(int sampleRate) {
 Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encoding,
                           const EncoderSettings& settings) {
     const bool isDeep = needsDeepColor(track);
-    const std::optional<HevcLevel> level =
-        hevcLevel(encoding.width, encoding.height, av_q2d(encoding.frameRate));
-    const std::optional<int> unit = hevcUnit(encoding, level);
+    const std::optional<int> unit = hevcUnit(encoding);
     // Pictures that are too small for x265 are encoded by x264, which has 10 bits too.
     const bool isHevc = isDeep && unit;
     auto tables = isHevc ? std::make_unique<EncoderTables>() : nullptr;
@@ -130,8 +134,6 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         options.add({"log-level", "none"});
         options.addAll(settings.hevcParameters);
         options.add({"ctu", *unit});
-        if (level)
-            addLevel(options, *level, encoding.hasConstantRate);
         if (encoding.threads > 0)
             options.add({"pools", encoding.threads});
         options.addAll(x265Parameters(track.dynamicRange));

@@ -21,8 +21,6 @@ struct VideoEncoding {
     AVRational timeBase{1, 600};
     /// The average, for the encoder's rate control and level; frames may come at any time.
     AVRational frameRate{30, 1};
-    /// Whether they come at that rate without exception.
-    bool hasConstantRate = false;
     AVRational sampleAspectRatio{1, 1};
     AVFieldOrder fieldOrder = AV_FIELD_PROGRESSIVE;
     /// Whether the pictures are scaled down, which asks for a lower rate factor.
