@@ -1,19 +1,27 @@
 #include "Application.h"
 #include "Support/LeakCheck.h"
+#include "Support/Workers.h"
 
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <clocale>
 #include <cstdio>
 
 namespace {
 
-/// No window outlives the application, so that one that is forgotten is found to be a leak.
+/// A worker that waits for a disk of a test that does not answer may take longer.
+constexpr std::chrono::seconds kLongestWait(3);
+
+/// No window outlives the application, so that one that is forgotten is found to be a leak. Workers
+/// end before it, as in the program.
 int runTests(int argc, char** argv) {
     const brisklet::Application application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    static_cast<void>(brisklet::waitForWorkers(kLongestWait));
+    return status;
 }
 
 /// Takes on the locale that the tests are to run in, if one is asked for. False where the machine
