@@ -15,9 +15,8 @@ class Application final : public QApplication {
 public:
     Application(int& argc, char** argv) : QApplication(argc, argv) {
         // The desktop's plugins, some of which set the locale once more, have been loaded by now.
-        // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread reads numbers but under a
-        // locale of its own.
-        std::setlocale(LC_NUMERIC, "C");
+        // Another thread reads numbers only under a locale of its own.
+        std::setlocale(LC_NUMERIC, "C"); // NOLINT(concurrency-mt-unsafe)
     }
 };
 

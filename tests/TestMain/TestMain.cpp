@@ -31,6 +31,7 @@ bool takeOnLocale() {
     if (locale.isEmpty())
         return true;
     qputenv("LC_ALL", locale);
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): there is no other thread yet.
     return std::setlocale(LC_ALL, "") != nullptr;
 }
 
