@@ -70,7 +70,7 @@ QCoro::Task<> AVFoundationExporter::exportVideo(ExportRequest request,
                                                 ExportProgressHandler onProgress,
                                                 std::stop_token stop) const {
     return runOnWorker([request, onProgress, stop] {
-        media::tellingOfRefusals([&] { run(request, onProgress, stop); });
+        media::withRefusalsAsErrors([&] { run(request, onProgress, stop); });
     });
 }
 

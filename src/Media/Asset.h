@@ -44,7 +44,7 @@ struct AssetTrack {
     /// Video: turns the natural picture upright; from the container's display matrix, identity
     /// without one. y grows downward.
     AffineTransform preferredTransform;
-    /// Video: frames per second; 0 if unknown. Single precision, as in the file's own terms.
+    /// Video: frames per second; 0 if unknown. `float` is precise enough for a nominal rate.
     float nominalFrameRate = 0;
     /// Video: the distance from each frame to the next, and how many there are, where the
     /// container's index proves that all distances are the same; otherwise invalid and 0.

@@ -127,10 +127,10 @@ constexpr std::array kSentences{
     Sentence{
         ErrorKind::writeProtected,
         QT_TRANSLATE_NOOP("media::Error", "The disk with the folder “%1” is write-protected.")},
-    Sentence{ErrorKind::nameIsAFolders,
+    Sentence{ErrorKind::destinationIsFolder,
              QT_TRANSLATE_NOOP("media::Error", "A folder has the name of the new file.")},
     Sentence{
-        ErrorKind::nameIsNoRegularFiles,
+        ErrorKind::destinationIsNoRegularFile,
         QT_TRANSLATE_NOOP("media::Error",
                           "Something that is not a regular file has the name of the new file.")},
     Sentence{ErrorKind::newNameTooLong,
@@ -161,7 +161,7 @@ constexpr std::array kSentences{
     Sentence{ErrorKind::updatedMeanwhile,
              QT_TRANSLATE_NOOP("media::Error", "Brisklet has been updated. Start it again.")},
     //: %1: a reason, which stands alone or after a colon. Only the full stop is yours.
-    Sentence{ErrorKind::reasonAlone, QT_TRANSLATE_NOOP("media::Error", "%1.")},
+    Sentence{ErrorKind::reasonOnly, QT_TRANSLATE_NOOP("media::Error", "%1.")},
     //: A reason after a colon, as the system words it; so are the following.
     Sentence{ErrorKind::permissionDenied, QT_TRANSLATE_NOOP("media::Error", "Permission denied")},
     Sentence{ErrorKind::notPermitted, QT_TRANSLATE_NOOP("media::Error", "Operation not permitted")},

@@ -57,8 +57,8 @@ enum class ErrorKind {
     folderMissing,       ///< Its name.
     noPermissionToWrite, ///< The folder's name.
     writeProtected,      ///< The folder's name.
-    nameIsAFolders,
-    nameIsNoRegularFiles,
+    destinationIsFolder,
+    destinationIsNoRegularFile,
     newNameTooLong,
     diskErrorWhileWriting,
     newFileNotWritten, ///< Has a cause.
@@ -74,7 +74,7 @@ enum class ErrorKind {
     updatedMeanwhile,
 
     // Reasons, which stand after a colon: without a full stop, but for the first.
-    reasonAlone, ///< Has a cause, which is the whole sentence.
+    reasonOnly, ///< Has a cause, which is the whole sentence.
     permissionDenied,
     notPermitted,
     noSuchFile,
@@ -103,8 +103,7 @@ enum class ErrorKind {
 /// What went wrong, and with what.
 struct Failure {
     ErrorKind kind;
-    /// For %1, %2 … of the sentence: names and the like, with the bytes that they have, text or
-    /// not.
+    /// For %1, %2 … of the sentence: names and the like, as raw bytes, which need not be UTF-8.
     std::vector<std::string> arguments = {};
     /// Stands in for the argument after the last.
     std::shared_ptr<const Failure> cause = nullptr;

@@ -12,14 +12,15 @@ namespace media {
 
 enum class FileType { mpeg4, quickTimeMovie };
 
-/// Turns a composition into a file: demux → decode → transform → encode → mux, each stage on its
-/// own thread with bounded queues between them.
+/// Turns a composition into a file: demux → decode → transform → encode → mux. Each stage has a
+/// thread of its own, transforming several, with bounded queues between them.
 ///
 ///     waiting ──run()──▶ exporting ──▶ completed | failed | cancelled
 ///
-/// The file is written under a hidden temporary name beside the destination, flushed to disk and
-/// renamed onto it when it is complete; an older file at the destination is replaced in that same
-/// step. On failure and on cancellation the temporary file is removed.
+/// The file is written in the destination's folder, without a name where the file system can do
+/// that, else under a hidden one; when it is complete it is flushed to disk and given its name,
+/// which replaces an older file in the same step. On failure and on cancellation nothing of it
+/// stays behind.
 class ExportSession {
 public:
     enum class State { waiting, exporting, completed, failed, cancelled };

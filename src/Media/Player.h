@@ -80,10 +80,11 @@ public:
     virtual void setMuted(bool muted) = 0;
     [[nodiscard]] virtual bool isMuted() const = 0;
 
-    /// The sink must outlive the player or be taken away first; null for none. `pixelWidth` ×
-    /// `pixelHeight` is the size of the view in device pixels: frames are delivered scaled to fit
-    /// into it, never enlarged; 0 × 0 asks for full size. A paused player delivers its frame again.
+    /// The sink must outlive the player or be taken away first; null for none. A paused player
+    /// delivers its frame again.
     virtual void setVideoSink(VideoSink* sink) = 0;
+    /// The size of the view in device pixels: frames are delivered scaled to fit into it, never
+    /// enlarged; 0 × 0 asks for full size. A paused player delivers its frame again.
     virtual void setPreviewSize(int pixelWidth, int pixelHeight) = 0;
 
     /// Times of the current item that are likely to be gone to, such as the ends of a selection:
@@ -97,9 +98,9 @@ public:
     virtual void removeTimeObserver(Token token) = 0;
     /// Called after every change of rate(), with the new rate.
     virtual void setRateHandler(std::function<void(float rate)> handler) = 0;
-    /// Called when an item has played to its end, after the time observers have got the end time
-    /// and the rate handler the rate of 0, in this order: whoever stops before the end by the time
-    /// still knows that it played. The argument is that item.
+    /// Called when an item has played to its end, with that item. The order is: the time observers
+    /// with the end time, the rate handler with 0, then this one. So an observer that pauses at a
+    /// time just before the end still finds a rate() of 1.
     virtual void
     setEndHandler(std::function<void(const std::shared_ptr<const PlayerItem>&)> handler) = 0;
 

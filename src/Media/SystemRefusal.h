@@ -7,10 +7,10 @@
 
 namespace media {
 
-/// Calls `work` and hands back its result. If the system has no more memory or threads for it, that
-/// is an Error; other exceptions go through.
+/// Calls `work` and returns its result. Throws an Error if the system refuses it memory or a
+/// thread; other exceptions go through.
 template<typename Work>
-decltype(auto) tellingOfRefusals(Work work) {
+decltype(auto) withRefusalsAsErrors(Work work) {
     try {
         return work();
     } catch (const std::bad_alloc&) {

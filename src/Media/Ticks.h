@@ -7,10 +7,10 @@
 namespace media {
 
 /// A moment on an asset's time line, or a length of it, in whole ticks of 1/600 s: the unit in
-/// which frames are chosen. A stream's own timestamps and exact times
-/// (Time) are other types, and become ticks by name only. A value type, usable on any thread.
+/// which frames are chosen. A stream's own timestamps and exact times (Time) are other types, which
+/// only named functions convert. A value type, usable on any thread.
 ///
-/// The two endless moments stay what they are whatever is added to them; other sums stop at them.
+/// beginning() and forever() are minus and plus infinity; the arithmetic saturates at them.
 class Ticks {
 public:
     constexpr Ticks() = default;
@@ -19,9 +19,10 @@ public:
 
     static constexpr std::int64_t kPerSecond = 600;
 
-    /// Before every other moment, and after every other.
+    /// Minus infinity.
     static constexpr Ticks beginning() { return Ticks(std::numeric_limits<std::int64_t>::min()); }
 
+    /// Plus infinity.
     static constexpr Ticks forever() { return Ticks(std::numeric_limits<std::int64_t>::max()); }
 
     [[nodiscard]] constexpr std::int64_t count() const { return m_count; }
@@ -50,7 +51,7 @@ public:
         return b.m_count > 0 ? beginning() : forever();
     }
 
-    /// Lengths only: an endless moment has no multiples. Stops at the endless ones as well.
+    /// For lengths, not for the infinities.
     friend constexpr Ticks operator*(std::int64_t factor, Ticks length) {
         std::int64_t product = 0;
         if (!__builtin_mul_overflow(factor, length.m_count, &product))

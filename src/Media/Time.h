@@ -8,8 +8,8 @@
 
 namespace media {
 
-/// The timescale at which times are compared to choose frames: 1/600 s is a whole number of ticks
-/// for 24, 25, 30, 50 and 60 frames a second.
+/// The timescale at which times are compared to choose frames, in ticks per second: a frame lasts a
+/// whole number of ticks at 24, 25, 30, 50 and 60 frames a second.
 inline constexpr std::int32_t kComparisonTimescale{Ticks::kPerSecond};
 
 /// A rational time: `value` / `timescale` seconds. A value type, usable on any thread.

@@ -86,11 +86,10 @@ public:
     /// The fraction done, 0 to 1, of the running export; none while none runs.
     [[nodiscard]] std::optional<double> exportProgress() const { return m_exportProgress.value(); }
 
-    /// What an export of the edit as it is now would ask for, but for the output; none without a
-    /// video.
+    /// The request that an export would make now, without an output; none without a video.
     [[nodiscard]] std::optional<ExportRequest> plannedExport() const;
 
-    /// What an export of the edit as it is now would come to, if that is known.
+    /// The estimated size and duration of an export of the edit as it is now, if known.
     [[nodiscard]] const std::optional<media::ExportForecast>& exportForecast() const {
         return m_exportForecast.value();
     }
@@ -127,7 +126,7 @@ public:
     /// KeptEdit::id of the edit; 0 while the window is empty.
     [[nodiscard]] std::uint64_t editId() const { return m_editId; }
 
-    /// These three store any value; the operations below keep to the rules.
+    /// These three store any value unchecked; the operations below keep to the rules.
     void setTrimStart(double seconds);
     void setTrimEnd(double seconds);
     void setCropRect(const std::optional<media::Rect>& cropRect);

@@ -79,7 +79,7 @@ void EditStore::write() {
     update([](Records&) {});
 }
 
-std::optional<KeptEdit> EditStore::takeLast(const Ids& without, const Ids& ratherNot) {
+std::optional<KeptEdit> EditStore::takeLast(const Ids& without, const Ids& lastResort) {
     std::optional<KeptEdit> taken;
     update([&](Records& records) {
         const auto find = [&](const Ids& others) {
@@ -88,7 +88,7 @@ std::optional<KeptEdit> EditStore::takeLast(const Ids& without, const Ids& rathe
                 return isClosed(record) && !without.contains(id) && !others.contains(id);
             });
         };
-        auto found = find(ratherNot);
+        auto found = find(lastResort);
         if (found == records.rend())
             found = find({});
         if (found == records.rend())

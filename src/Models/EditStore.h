@@ -45,8 +45,8 @@ public:
     void keep(const KeptEdit& edit, Place place);
     void remove(std::uint64_t id);
 
-    /// Whether somebody has to call write() for what was noted: false if somebody is about to. So a
-    /// disk that does not answer keeps two threads at most.
+    /// After a change: returns true if the caller must call write() on some thread, false if a
+    /// call is coming already. So a disk that does not answer holds up two threads at most.
     [[nodiscard]] bool beginWrite() { return !m_isWriteComing.exchange(true); }
 
     /// Makes the changes noted so far, also on a disk that loses its power now. Blocks. Changes
@@ -54,9 +54,9 @@ public:
     void write();
 
     /// Makes the changes, and takes the latest closed edit, which is open in this program from then
-    /// on; none if there is none. Never one of `without`, and one of `ratherNot` only if there is
-    /// no other. Blocks.
-    std::optional<KeptEdit> takeLast(const Ids& without, const Ids& ratherNot);
+    /// on; none if there is none. Never one of `without`, and one of `lastResort` only if there
+    /// is no other. Blocks.
+    std::optional<KeptEdit> takeLast(const Ids& without, const Ids& lastResort);
 
     /// Whether there was a closed edit when the disk was last looked at; before that, false.
     [[nodiscard]] bool hasClosed() const { return m_hasClosed.load(); }

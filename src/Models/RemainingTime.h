@@ -5,9 +5,9 @@
 
 namespace brisklet {
 
-/// Tells how much longer an operation takes, from how far it has come when. Steady rather than up
-/// to date: what it tells counts down by the clock, and leaves that course downward only if it is
-/// clearly too high, and upward only if it is far too low. Has no clock; one thread at a time.
+/// Estimates how much longer an operation takes, from its progress over time. The estimate is
+/// smoothed: it counts down with the clock, and is corrected downward only if it is clearly too
+/// high, upward only if it is far too low. Has no clock; one thread at a time.
 class RemainingTime final {
 public:
     /// The fraction done, 0 to 1, so many seconds after the beginning. Neither decreases.

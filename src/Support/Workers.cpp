@@ -91,7 +91,7 @@ Workers& workers() {
 } // namespace
 
 void startWorker(std::function<void()> work) {
-    media::tellingOfRefusals([&work] { workers().start(std::move(work)); });
+    media::withRefusalsAsErrors([&work] { workers().start(std::move(work)); });
 }
 
 bool waitForWorkers(std::optional<std::chrono::milliseconds> limit) {

@@ -63,8 +63,8 @@ protected:
         return ids;
     }
 
-    static std::uint64_t takenId(EditStore& store, const EditStore::Ids& ratherNot = {}) {
-        const auto taken = store.takeLast({}, ratherNot);
+    static std::uint64_t takenId(EditStore& store, const EditStore::Ids& lastResort = {}) {
+        const auto taken = store.takeLast({}, lastResort);
         return taken ? taken->id : 0;
     }
 

@@ -37,7 +37,7 @@ std::filesystem::path checked(std::filesystem::path destination) {
     } else if (S_ISDIR(status.st_mode)) {
         throwWriteError(EISDIR, destination);
     } else if (!S_ISREG(status.st_mode)) {
-        throw Error(ErrorKind::nameIsNoRegularFiles);
+        throw Error(ErrorKind::destinationIsNoRegularFile);
     }
     return destination;
 }

@@ -33,7 +33,7 @@ void StagedExportSession::run(std::stop_token stop) {
     try {
         if (stop.stop_requested())
             throw Cancelled();
-        tellingOfRefusals([&] { exportFile(stop); });
+        withRefusalsAsErrors([&] { exportFile(stop); });
     } catch (const Cancelled&) {
         m_state = State::cancelled;
         throw;

@@ -38,7 +38,7 @@ void throwWriteError(int code, const std::filesystem::path& destination) {
     case EROFS:
         throw Error(ErrorKind::writeProtected, {folderNameOf(destination)});
     case EISDIR:
-        throw Error(ErrorKind::nameIsAFolders);
+        throw Error(ErrorKind::destinationIsFolder);
     case ENAMETOOLONG:
         throw Error(ErrorKind::newNameTooLong);
     case EIO:

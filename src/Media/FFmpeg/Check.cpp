@@ -59,7 +59,7 @@ Failure failureOf(int code) {
     case AVERROR(EIO):
         return {ErrorKind::diskError};
     default:
-        return becauseOf(ErrorKind::reasonAlone, libraryReasonOf(code));
+        return becauseOf(ErrorKind::reasonOnly, libraryReasonOf(code));
     }
 }
 

@@ -41,11 +41,11 @@ public:
 
     [[nodiscard]] std::shared_ptr<const Asset> openAsset(const std::filesystem::path& path,
                                                          std::stop_token stop) const override {
-        return tellingOfRefusals([&] { return OpenedAsset::open(path, stop); });
+        return withRefusalsAsErrors([&] { return OpenedAsset::open(path, stop); });
     }
 
     [[nodiscard]] std::shared_ptr<Player> makePlayer(Executor executor) const override {
-        return tellingOfRefusals([&] {
+        return withRefusalsAsErrors([&] {
             return std::make_shared<ThreadedPlayer>(std::move(executor),
                                                     std::make_unique<playback::CubebOutput>());
         });
@@ -59,7 +59,7 @@ public:
     [[nodiscard]] std::unique_ptr<ExportSession>
     makeExportSession(Composition composition, std::filesystem::path outputPath, FileType fileType,
                       EncoderSettings settings) const override {
-        return tellingOfRefusals([&] {
+        return withRefusalsAsErrors([&] {
             return std::make_unique<StagedExportSession>(
                 std::move(composition), std::move(outputPath), fileType, std::move(settings));
         });
@@ -69,7 +69,7 @@ public:
     forecastExport(const Composition& composition,
                    const std::optional<VideoComposition>& videoComposition,
                    const EncoderSettings& settings, const std::stop_token& stop) const override {
-        auto forecast = tellingOfRefusals(
+        auto forecast = withRefusalsAsErrors(
             [&] { return runTrial(composition, videoComposition, settings, stop); });
         // Encoders need much for a moment; the window is at rest afterwards, for hours perhaps.
         returnFreedMemory();

@@ -14,50 +14,51 @@
 
 namespace media::playback {
 
-/// What the decoding thread tells of itself when it asks for work.
+/// The decoding thread's state when it asks for work.
 struct DecoderStatus {
     /// The item that is open; null for none.
     const PlayerItem* item = nullptr;
     /// It has a picture that decodes.
     bool canDecode = false;
-    /// Frames that were decoded on the way to an urgent one wait to be put into the cache.
+    /// Frames that were decoded on the way to an urgent one are still to be rendered and cached.
     bool hasWaitingFrames = false;
-    /// The frame that decoding on would give begins there.
+    /// The start of the frame that the decoder gives next without seeking.
     Ticks position = Ticks::beginning();
     /// Other players need the memory that an idle decoder holds.
     bool isOverBudget = false;
-    /// Something needs all of the processor: nothing is to be decoded for later.
+    /// Other work needs the whole processor: nothing is to be read ahead.
     bool mustRest = false;
     /// Frames that the decoder gave out since it asked last.
     std::uint64_t decodedCount = 0;
 };
 
-/// What the decoding thread is to do next: one frame, or less.
+/// What the decoding thread is to do next. "Approach" is one frame decoded on the way to a target:
+/// after each the thread asks again, so that something more urgent never waits for long.
 struct DecodeWork {
     enum class Kind {
         /// Nothing until `until`, or until it is woken.
         wait,
         /// Open `item`, which may be none.
         open,
-        /// One frame nearer to the frame at `target`, which a seek waits for.
+        /// Approach the frame at `target`, which a seek waits for.
         seek,
-        /// The frame within `target` that costs least.
+        /// Decode the frame within `target` that costs least, for a seek with a tolerance.
         seekNear,
-        /// One frame nearer to the frame at `target`, which a step waits for.
+        /// Approach the frame at `target`, which a step waits for.
         step,
-        /// One frame nearer to the frame on show, in the size that is wanted now.
+        /// Approach the frame on show, in the size that is wanted now.
         redraw,
-        /// Render `frame`, which is to follow while playing.
+        /// Render the cached `frame`, the next one of playback.
         queue,
-        /// One frame nearer to the frame at `target`, which is to follow while playing.
+        /// Approach the frame at `target`, the next one of playback.
         decodeAhead,
-        /// One frame nearer to `target`, where the frames at hand end while playing.
+        /// Approach `target`, the end of the cached frames that playback goes through.
         positionDecoder,
-        /// Put one of the waiting frames into the cache.
+        /// Render one of the waiting frames into the cache.
         keepWaitingFrame,
-        /// One frame nearer to the frame at `target`, which nobody has asked for yet.
+        /// Approach the frame at `target`, which nobody has asked for yet.
         readAhead,
-        /// Give up the decoder.
+        /// Release the decoder, whose memory others need.
         releaseDecoder,
     };
 

@@ -7,9 +7,9 @@
 
 namespace media::playback {
 
-/// How long decoding takes from where it begins to where a seek goes, told from this way and the
-/// last ones: a decoder needs some time until it gives out its first frame, then about as long for
-/// each part of the item. A plain value: the caller gives the moments.
+/// Estimates when a seek's target comes out of the decoder, from this seek and the last ones: from
+/// the delay of the decoder's first frame, and from the time that decoding takes per tick of the
+/// item. A plain value: the caller gives the moments.
 class DecodingPace {
 public:
     struct Way {

@@ -196,7 +196,7 @@ void DecodingThread::advance(const DecodeWork& work) {
     const Ticks ticks = isPositioning ? work.target.earliest - Ticks(1) : work.target.earliest;
     FrameSource::Goal goal{.ticks = ticks, .completeFrom = ticks};
     if (isPositioning)
-        goal.lateUntil = work.target.earliest;
+        goal.skipRenderingUntil = work.target.earliest;
     if (work.endBehind)
         goal = m_source->goalNearEnd({ticks, *work.endBehind});
     switch (m_source->advance(goal, work.previewSize, work.stop)) {

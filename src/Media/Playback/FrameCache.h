@@ -30,12 +30,12 @@ struct CachedFrame {
     }
 };
 
-/// The frames of one player that were decoded lately, bounded in bytes. What goes first is what
-/// lies farthest from the playhead and from the few points of interest, of which each keeps a
-/// smaller neighbourhood, as the playhead does of what a movement backward leaves behind; and the
-/// frame at each of those and of the last places of rest, as long as these take no more than a
-/// quarter of the bound. Frames of a size that is no longer wanted stay until they are replaced or
-/// go, since they are better than none. Usable from any thread.
+/// The latest decoded frames of one player, bounded in bytes. Evicts the frame that is farthest
+/// from the playhead and the few points of interest; a point of interest counts for less than the
+/// playhead, and so does the side of the playhead that a movement backward leaves behind. The
+/// frames at the points of interest and at the last places of rest are not evicted, as long as they
+/// take no more than a quarter of the bound. Frames of a size that is no longer wanted stay until
+/// they are replaced or evicted, since they are better than none. Usable from any thread.
 class FrameCache {
 public:
     static constexpr std::size_t kDefaultBytes = std::size_t{192} << 20;

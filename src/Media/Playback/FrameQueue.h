@@ -41,7 +41,8 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_frames.empty(); }
 
-    /// Whether enough is ready to bridge what one frame takes longer to decode than another.
+    /// Whether another frame is wanted: fewer are ready than bridge the differences in the time
+    /// that frames take to decode.
     [[nodiscard]] bool hasRoom() const;
 
     struct DueFrame {

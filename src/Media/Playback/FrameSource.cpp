@@ -95,7 +95,7 @@ FrameSource::Goal FrameSource::goalNearEnd(TickRange range) {
 FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
                                           const std::stop_token& stop) {
     // What is too late to be rendered is decoded all the same, for what follows it.
-    if (goal.ticks >= goal.lateUntil && arriveAtKept(goal.ticks, size))
+    if (goal.ticks >= goal.skipRenderingUntil && arriveAtKept(goal.ticks, size))
         return Outcome::arrived;
     if (m_goal != goal.ticks) {
         m_goal.reset();
@@ -128,7 +128,7 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
     }
     m_goal.reset();
     m_arrivedEnd = decoded->range.end;
-    if (decoded->range.end <= goal.lateUntil)
+    if (decoded->range.end <= goal.skipRenderingUntil)
         return Outcome::late;
     keep(*decoded, size);
     m_arrived = std::move(decoded);

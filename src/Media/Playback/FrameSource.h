@@ -34,8 +34,9 @@ public:
         /// A key frame that lies no further than this beyond where decoding stands is no reason to
         /// begin anew there.
         Ticks shortestLeap;
-        /// A frame that ends at or before this tick need not be rendered: it is too late for it.
-        Ticks lateUntil = Ticks::beginning();
+        /// Frames that end at or before this tick are decoded but not rendered: it is too late for
+        /// them.
+        Ticks skipRenderingUntil = Ticks::beginning();
     };
 
     enum class Outcome {
@@ -85,7 +86,7 @@ public:
     /// After `onTheWay`: where the frame decoded last begins.
     [[nodiscard]] Ticks passingTicks() const { return m_passing->frame->ticks; }
 
-    /// The frame decoded last, whatever lies between it and the next; null without one.
+    /// The frame decoded last, even if it is not known where it ends; null without one.
     [[nodiscard]] std::shared_ptr<const CachedFrame> passing(PreviewSize size);
 
     /// Puts one of the frames that were passed on the way to an urgent goal into the cache; false

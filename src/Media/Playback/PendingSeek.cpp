@@ -18,11 +18,12 @@ constexpr milliseconds kHeadStart{10};
 } // namespace
 
 SteadyTime PendingSeek::substituteAt() const {
-    return m_isExpectedSoon ? std::max(m_patience.usual, m_patience.latest) : m_patience.usual;
+    return m_isExpectedSoon ? std::max(m_substituteTimes.earliest, m_substituteTimes.latest)
+                            : m_substituteTimes.earliest;
 }
 
 void PendingSeek::expectArrival(std::optional<SteadyTime> at) {
-    m_isExpectedSoon = at && *at < m_patience.latest;
+    m_isExpectedSoon = at && *at < m_substituteTimes.latest;
 }
 
 void PendingSeek::settleOn(Ticks ticks) {
@@ -49,7 +50,7 @@ std::optional<CachedFrame> PendingSeek::findSubstitute(const FrameCache& cache,
         best = *m_passed;
     const bool isNearer =
         best && (!shown.image || distanceOf(*best) < distance(shown.time.ticks(), sought));
-    m_patience.usual = now + (isNearer ? kSubstituteInterval : kNextLook);
+    m_substituteTimes.earliest = now + (isNearer ? kSubstituteInterval : kNextLook);
     return isNearer ? best : std::nullopt;
 }
 
@@ -59,7 +60,7 @@ bool PendingSeek::isSubstituteDue(SteadyTime now) const {
 
 void PendingSeek::setPassedFrame(std::shared_ptr<const CachedFrame> frame, SteadyTime now) {
     m_passed = std::move(frame);
-    m_patience.usual = std::min(m_patience.usual, now);
+    m_substituteTimes.earliest = std::min(m_substituteTimes.earliest, now);
 }
 
 } // namespace media::playback

@@ -14,23 +14,23 @@ namespace media::playback {
 /// the caller gives the moments, and locks.
 class PendingSeek {
 public:
-    /// How long the frame on show stays.
-    struct Patience {
-        /// From then on something nearer may stand in, unless the frame sought is expected before
-        /// `latest`.
-        SteadyTime usual;
+    /// When a substitute, a frame nearer to the one sought than the one on show, may be shown.
+    struct SubstituteTimes {
+        /// From then on, unless the frame sought is expected before `latest`.
+        SteadyTime earliest;
+        /// From then on in any case.
         SteadyTime latest;
     };
 
-    PendingSeek(SeekTarget target, const Patience& patience)
-        : m_target(target), m_patience(patience) {}
+    PendingSeek(SeekTarget target, const SubstituteTimes& substituteTimes)
+        : m_target(target), m_substituteTimes(substituteTimes) {}
 
     [[nodiscard]] const SeekTarget& target() const { return m_target; }
 
-    /// What is left of it, for a seek that takes the place of this one.
-    [[nodiscard]] const Patience& patience() const { return m_patience; }
+    /// For the seek that replaces this one: they count from the first seek that is not answered.
+    [[nodiscard]] const SubstituteTimes& substituteTimes() const { return m_substituteTimes; }
 
-    /// When something nearer may stand in next.
+    /// When the next substitute may be shown.
     [[nodiscard]] SteadyTime substituteAt() const;
     /// When the frame sought is likely to come; none where that is not known.
     void expectArrival(std::optional<SteadyTime> at);
@@ -49,22 +49,22 @@ public:
     /// The frame sought, where the cache has it.
     [[nodiscard]] std::optional<CachedFrame> find(const FrameCache& cache, ImageSize size) const;
 
-    /// What is nearer to the frame sought than the one on show; none before its time, or without
-    /// such a frame. Whether a cut lies between the two is not known, so what lies further away
-    /// than the frame on show never stands in.
+    /// The best substitute in the cache; none before its time, or where no frame is nearer than the
+    /// one on show. Where scenes are cut is not known: a frame further away than the one on show is
+    /// never a substitute.
     std::optional<CachedFrame> findSubstitute(const FrameCache& cache, const RenderedFrame& shown,
                                               SteadyTime now);
 
-    /// A frame that decoding passes may soon stand in: it is worth rendering.
+    /// A substitute may be shown soon: a frame that decoding passes is worth rendering.
     [[nodiscard]] bool isSubstituteDue(SteadyTime now) const;
-    /// Decoding has passed this frame on the way; it may stand in at once.
+    /// Decoding has passed this frame on the way: a substitute that may be shown at once.
     void setPassedFrame(std::shared_ptr<const CachedFrame> frame, SteadyTime now);
 
 private:
     SeekTarget m_target;
     bool m_isExactRequest = m_target.isExact();
     bool m_needsDecoding = false;
-    Patience m_patience;
+    SubstituteTimes m_substituteTimes;
     bool m_isExpectedSoon = false;
     std::shared_ptr<const CachedFrame> m_passed;
 };

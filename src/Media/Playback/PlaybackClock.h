@@ -34,8 +34,8 @@ public:
     void pause(SteadyTime now);
 
     /// The sound of the item's time `heard` left the device at `when`. Starts a standing clock
-    /// once that is past the time it stands at. A running one is set where it is more than
-    /// kSnapThreshold off and drawn over smoothly where it is less.
+    /// once that is past the time it stands at. A running one that is off by more than
+    /// kSnapThreshold is set at once; smaller errors are corrected gradually.
     void correct(Time heard, SteadyTime when);
 
     [[nodiscard]] bool isRunning() const { return m_isRunning; }

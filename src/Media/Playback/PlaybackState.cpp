@@ -13,8 +13,8 @@ using std::chrono::milliseconds;
 constexpr Time kUnknownDuration{std::int64_t{315'360'000} * Ticks::kPerSecond, Ticks::kPerSecond};
 /// How long a seek may take before something else is shown meanwhile: that is there soon enough to
 /// be taken for the answer, and does not flash up where the frame itself comes little later.
-constexpr milliseconds kPatience{50};
-constexpr milliseconds kLongestPatience{80};
+constexpr milliseconds kEarliestSubstitute{50};
+constexpr milliseconds kLatestSubstitute{80};
 /// Seeks that follow one another faster, and not farther apart (ticks), tell a direction.
 constexpr milliseconds kLongestPauseInDrag{500};
 constexpr double kFarthestInDrag = 3.0 * Ticks::kPerSecond;
@@ -137,8 +137,9 @@ void PlaybackState::noteRest(SteadyTime now) {
 void PlaybackState::beginGeneration(Time at, SeekTarget target, SteadyTime now) {
     ++m_generation;
     ++m_readAheadVersion;
-    m_seek.emplace(target, m_seek ? m_seek->patience()
-                                  : PendingSeek::Patience{now + kPatience, now + kLongestPatience});
+    m_seek.emplace(target, m_seek ? m_seek->substituteTimes()
+                                  : PendingSeek::SubstituteTimes{now + kEarliestSubstitute,
+                                                                 now + kLatestSubstitute});
     m_steps.clear();
     m_queue.dropFrames();
     m_immediate.reset();

@@ -46,7 +46,8 @@ struct DeferredWork {
 /// do next, do it, and report what came of it: one decodes frames into the cache, one hands them to
 /// the sink (at once after a jump, by the clock while playing), one sounds the samples and drives
 /// the clock. A jump is a seek, a step or a new item; each seek and each new item begins a new
-/// generation, and what was begun for an older one is void.
+/// generation. Results for an older one complete nothing; the frames decoded for it stay in the
+/// cache.
 ///
 /// A plain value without a thread, a lock or a clock of its own: the caller locks, and says what
 /// time it is. Moments never go back.

@@ -31,9 +31,9 @@ double framesInCache(const FrameCache& cache, ImageSize size);
 std::optional<TickRange> framesToReadAhead(const FrameCache& cache,
                                            const Surroundings& surroundings);
 
-/// Chooses the frames that are worth decoding before anybody asks for them, one after the other,
-/// and comes to an end in any case: what was read ahead for one state of things is bounded. A
-/// plain value: the caller locks.
+/// Chooses the frames that are worth decoding before anybody asks for them, one after the other.
+/// For the same surroundings and version it chooses a bounded number of frames, then stops. A plain
+/// value: the caller locks.
 class ReadAhead {
 public:
     explicit ReadAhead(const FrameCache& cache) : m_cache(cache) {}
@@ -41,7 +41,7 @@ public:
     /// Forgets all for a new item.
     void restart();
 
-    /// The state of things: a change of it, or of `version`, is worth looking around anew.
+    /// Begins anew if the surroundings or the version have changed.
     void update(std::uint64_t version, const Surroundings& surroundings);
 
     /// The tick of the frame to decode next; none when there is nothing left to do.
@@ -51,7 +51,7 @@ public:
     /// the playhead. Then those at the end are wanted first.
     [[nodiscard]] std::optional<Ticks> endBehind() const;
 
-    /// Nothing is left to do for the state of things, as far as is known.
+    /// Nothing is left to do for the present surroundings, as far as is known.
     [[nodiscard]] bool isDone() const { return m_framesLeft <= 0; }
 
     /// The frame at next() is in the cache; the one after it begins at `end`.

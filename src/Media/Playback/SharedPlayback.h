@@ -18,8 +18,9 @@ public:
     /// The threads that wait for the state to change.
     enum class Waiter { decoding, presenting, sound };
 
-    /// Holds the lock for as long as it lives. Belongs to one thread. When it goes, it wakes whom
-    /// the transitions made on it concern, and then, without the lock, does what else they leave.
+    /// Holds the lock for as long as it lives. Belongs to one thread. Its destructor wakes the
+    /// threads that the transitions concern, unlocks, then stops work that has become void and
+    /// frees old objects.
     class Access {
     public:
         Access(SharedPlayback& shared, std::unique_lock<std::mutex> lock);
@@ -52,7 +53,7 @@ public:
 
     void wake(Waiter waiter);
 
-    /// May be asked with the lock held, not the other way round.
+    /// Has a lock of its own, which is taken after the state's, never before it.
     [[nodiscard]] FrameCache& cache() { return m_cache; }
 
 private:

@@ -13,7 +13,7 @@ namespace media::playback {
 /// Carries decoded sound from one thread, the producer, to the device's, without a lock.
 ///
 /// What is queued is a *run*: samples that follow one another without a gap on the item's time
-/// line. begin() silences the output and starts a new, still silent run; play() lets it be heard.
+/// line. begin() silences the output and starts a new, still silent run; play() makes it audible.
 /// From its first frame on a run keeps to the device's count of frames: where samples are not there
 /// in time there is silence, and what comes too late is left out. So one pair of numbers, the
 /// device's frame and the run's first sample, ties the device's position to the item's time for as
@@ -33,7 +33,7 @@ public:
     std::size_t write(std::span<const float> samples);
     /// Frames queued and not yet pulled.
     [[nodiscard]] std::size_t queuedFrames() const;
-    /// Lets the run be heard, its first frame at the device's frame `at` (which may have passed:
+    /// Makes the run audible, its first frame at the device's frame `at` (which may have passed:
     /// then the run's beginning is left out), or as soon as possible where none is given. Once for
     /// each run.
     void play(std::optional<std::int64_t> at = std::nullopt);

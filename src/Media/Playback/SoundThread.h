@@ -12,13 +12,13 @@
 
 namespace media::playback {
 
-/// Sounds what a player plays, and drives its clock: by the position of the sound device where
-/// there is one, by the steady clock where there is none, where it fails or where the item is
-/// silent. Lives on one thread of its own, which owns the reader and the device and alone may be
-/// kept waiting by it.
+/// Plays the item's audio and drives the player's clock: by the position of the audio device, or by
+/// the steady clock where there is no device, where it fails or where the item is silent. Lives on
+/// one thread of its own, which owns the reader and the device; no other thread is ever blocked by
+/// the device.
 ///
 /// Each run of the clock is prepared (the reader is moved, the queue filled), placed (the
-/// queue is let be heard, once the picture is there) and then driven (each position heard corrects
+/// queue is made audible, once the picture is there) and then driven (each position heard corrects
 /// the clock). Where the clock runs already, because the device came late, a run is placed so
 /// that it falls in with the clock.
 class SoundThread {

@@ -18,14 +18,15 @@ public:
     void add(Player::Token token, Time interval, Time time);
     void remove(Player::Token token);
 
-    /// The clock has come to `time` by playing: whether that makes news for one that has none yet.
+    /// The clock has come to `time` by playing. Returns whether an observer without a pending call
+    /// gets one, for a boundary that was crossed.
     bool advanceTo(Time time);
-    /// The clock was moved to `time`, which all will be told of: boundaries after it are news.
+    /// The clock was moved to `time`. The caller tells all observers; boundaries count from there.
     void jumpTo(Time time);
-    /// What they have not been told of is void.
+    /// Drops the pending calls.
     void forgetPending();
 
-    /// The observers that have news; they have none from now on.
+    /// The observers with a pending call, which they no longer have then.
     std::vector<Player::Token> takePending();
 
     /// When a running clock comes to the next boundary of any; none without observers.
