@@ -40,10 +40,12 @@ def separate_mounts():
 
 
 def make_noisy_video(path):
-    """Of a size that hardly depends on the encoder's cleverness: 12 s in some 20 MB."""
+    """Of a size that hardly depends on the encoder's cleverness: 12 s in some 20 MB. A key frame
+    each second, so that a slow machine gets to each place of a trial as well."""
     command = ["ffmpeg", "-v", "error", "-nostdin", "-y", "-f", "lavfi",
                "-i", f"testsrc2=d={SECONDS}:s=1280x720:r=30,noise=alls=20:allf=t",
-               "-c:v", "libx264", "-preset", "ultrafast", "-b:v", "14M", "-pix_fmt", "yuv420p"]
+               "-c:v", "libx264", "-preset", "ultrafast", "-g", "30", "-b:v", "14M",
+               "-pix_fmt", "yuv420p"]
     subprocess.run([*command, str(path)], check=True)
     return path
 

@@ -92,9 +92,9 @@ private:
         CompositionTrack part = track;
         part.range = stretch(track.range, place, kSoundSeconds);
         AudioPipeline pipeline(m_composition, part, m_budget.token());
-        const double before = TrialBudget::processorTime();
+        const double before = m_budget.used();
         pipeline.run();
-        sound.processorSeconds += TrialBudget::processorTime() - before;
+        sound.processorSeconds += m_budget.used() - before;
         while (const auto packet = pipeline.output().packets.pop())
             sound.bytes += (*packet)->size;
         sound.seconds = part.range.duration().seconds();

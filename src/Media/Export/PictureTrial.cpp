@@ -38,19 +38,20 @@ PicturePath::Options oneThread() {
     return options;
 }
 
-/// Adds the processor time of its life to a sum.
+/// Adds the trial's processor time during its life to a sum.
 class Stopwatch {
 public:
-    explicit Stopwatch(double& sum) : m_sum(sum) {}
+    Stopwatch(const TrialBudget& budget, double& sum) : m_budget(budget), m_sum(sum) {}
 
     Stopwatch(const Stopwatch&) = delete;
     Stopwatch& operator=(const Stopwatch&) = delete;
 
-    ~Stopwatch() { m_sum += TrialBudget::processorTime() - m_start; }
+    ~Stopwatch() { m_sum += m_budget.used() - m_start; }
 
 private:
+    const TrialBudget& m_budget;
     double& m_sum;
-    double m_start = TrialBudget::processorTime();
+    double m_start = m_budget.used();
 };
 
 } // namespace
@@ -169,7 +170,7 @@ bool PictureTrial::tryNext() {
     const bool isFirst = current.pictures == 0;
     std::optional<ScheduledFrame> scheduled;
     {
-        const Stopwatch watch(isFirst ? ignored : m_decodeSeconds);
+        const Stopwatch watch(m_budget, isFirst ? ignored : m_decodeSeconds);
         scheduled = m_schedule->next(m_budget.token());
     }
     current.hasEnded = !scheduled;
@@ -177,7 +178,7 @@ bool PictureTrial::tryNext() {
         return false;
     m_decoded += isFirst ? 0 : 1;
     {
-        const Stopwatch watch(m_transformSeconds);
+        const Stopwatch watch(m_budget, m_transformSeconds);
         if (!scheduled->isRepeat || !m_shown)
             m_shown = m_maker.made(*scheduled);
     }
@@ -188,7 +189,7 @@ bool PictureTrial::tryNext() {
     current.end = frame->pts + scheduled->duration;
     ++current.pictures;
     {
-        const Stopwatch watch(m_encodeSeconds);
+        const Stopwatch watch(m_budget, m_encodeSeconds);
         m_path.encoder().send(frame.get());
     }
     receive();
@@ -204,7 +205,7 @@ bool PictureTrial::beginsTail(const ScheduledFrame& frame) {
 }
 
 void PictureTrial::receive() {
-    const Stopwatch watch(m_encodeSeconds);
+    const Stopwatch watch(m_budget, m_encodeSeconds);
     const ffmpeg::PacketPtr packet = ffmpeg::makePacket();
     while (!m_budget.token().stop_requested() && m_path.encoder().receive(*packet))
         m_packets[packet->pts] = packet->size;

@@ -4,7 +4,6 @@
 #include "Media/Threading/ProcessorDemand.h"
 
 #include <chrono>
-#include <ctime>
 
 namespace media {
 
@@ -18,13 +17,6 @@ constexpr std::chrono::milliseconds kWatchInterval(10);
 TrialBudget::TrialBudget(const std::stop_token& caller, double seconds)
     : m_caller(caller),
       m_watcher([this, seconds](const std::stop_token& ended) { watch(ended, seconds); }) {}
-
-double TrialBudget::processorTime() {
-    timespec time = {};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    constexpr double kNanosecond = 1e-9;
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * kNanosecond;
-}
 
 void TrialBudget::expectWanted() const {
     if (m_caller.stop_requested() || ProcessorDemand::isHigh())
