@@ -2,13 +2,18 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <dlfcn.h>
 #include <exception>
 #include <fstream>
 #include <sched.h>
 #include <stdexcept>
+#include <string_view>
 #include <sys/mount.h>
 #include <sys/wait.h>
 #include <system_error>
+#include <ucontext.h>
 #include <unistd.h>
 
 namespace testsupport {
@@ -73,7 +78,45 @@ bool separateMounts() {
            ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
+/// Where the processor was, or where it came from if it was sent to nowhere; null if unknown.
+const void* placeOfCrash([[maybe_unused]] const ucontext_t& context) {
+#if defined(__x86_64__)
+    const auto& registers = context.uc_mcontext.gregs;
+    if (registers[REG_RIP] != 0)
+        return reinterpret_cast<const void*>(registers[REG_RIP]);
+    return *reinterpret_cast<const void* const*>(registers[REG_RSP]);
+#elif defined(__aarch64__)
+    const auto& registers = context.uc_mcontext;
+    constexpr int kLinkRegister = 30;
+    return reinterpret_cast<const void*>(registers.pc != 0 ? registers.pc
+                                                           : registers.regs[kLinkRegister]);
+#else
+    return nullptr;
+#endif
+}
+
+void handleCrash(int signal, siginfo_t*, void* context) {
+    Dl_info library = {};
+    const void* place = placeOfCrash(*static_cast<const ucontext_t*>(context));
+    if (place && ::dladdr(place, &library) != 0 && library.dli_fname) {
+        const std::string_view path = library.dli_fname;
+        const std::string_view name = path.substr(path.rfind('/') + 1);
+        if (name.starts_with("libav") || name.starts_with("libsw"))
+            ::_exit(kCrashInLibav);
+    }
+    // Happens again on return, and ends the process.
+    std::signal(signal, SIG_DFL);
+}
+
 } // namespace
+
+void tellCrashesInLibav() {
+    struct sigaction action = {};
+    action.sa_sigaction = handleCrash;
+    action.sa_flags = SA_SIGINFO;
+    for (const int signal : {SIGSEGV, SIGFPE})
+        ::sigaction(signal, &action, nullptr);
+}
 
 std::string inChildProcess(const std::function<std::string()>& work) {
     std::array<int, 2> ends{};
