@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/HandOver.h"
+
 #include <QCoroFuture>
 #include <QCoroTask>
 #include <QCoroTimer>
@@ -48,6 +50,7 @@ QCoro::Task<Result> await(std::shared_ptr<Outcome<Result>> outcome) {
     // comes before the call that starts it has returned.
     co_await QCoro::sleepFor(std::chrono::milliseconds(0));
     co_await finished;
+    takeOver(outcome.get());
     if (outcome->error)
         std::rethrow_exception(std::exchange(outcome->error, nullptr));
     if constexpr (!std::is_void_v<Result>)
@@ -78,6 +81,7 @@ QCoro::Task<std::invoke_result_t<Work&>> runOnWorker(Work work) {
             } catch (...) {
                 outcome->error = std::current_exception();
             }
+            handOver(outcome.get());
             outcome->promise.finish();
         });
     } catch (...) {
