@@ -79,6 +79,7 @@ bool separateMounts() {
 }
 
 /// Where the processor was, or where it came from if it was sent to nowhere; null if unknown.
+// NOLINTBEGIN(performance-no-int-to-ptr): the registers are numbers.
 const void* placeOfCrash([[maybe_unused]] const ucontext_t& context) {
 #if defined(__x86_64__)
     const auto& registers = context.uc_mcontext.gregs;
@@ -94,6 +95,8 @@ const void* placeOfCrash([[maybe_unused]] const ucontext_t& context) {
     return nullptr;
 #endif
 }
+
+// NOLINTEND(performance-no-int-to-ptr)
 
 void handleCrash(int signal, siginfo_t*, void* context) {
     Dl_info library = {};
