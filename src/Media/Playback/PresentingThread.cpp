@@ -1,6 +1,9 @@
 #include "Media/Playback/PresentingThread.h"
 
+#include <chrono>
 #include <exception>
+#include <new>
+#include <thread>
 #include <utility>
 
 namespace media::playback {
@@ -17,6 +20,22 @@ RenderedFrame renderedOrNothing(const CachedFrame& frame) {
         return render(frame);
     } catch (const std::exception&) {
         return {nullptr, frame.time, frame.range, false};
+    }
+}
+
+/// Calls again after a moment while the system refuses memory: a frame or an event that were
+/// dropped would be missed for good. The call must have no effect when it throws.
+template<typename Call>
+void insist(const std::stop_token& stop, Call call) {
+    constexpr std::chrono::milliseconds kPause{10};
+    for (;;) {
+        try {
+            return call();
+        } catch (const std::bad_alloc&) {
+            if (stop.stop_requested())
+                return;
+            std::this_thread::sleep_for(kPause);
+        }
     }
 }
 
@@ -41,11 +60,11 @@ Presentation PresentingThread::perform(const FrameToShow& frame, const std::stop
     return m_shared.lock()->frameRendered(frame, std::move(rendered), now());
 }
 
-Presentation PresentingThread::perform(const Delivery& delivery, const std::stop_token& /*stop*/) {
+Presentation PresentingThread::perform(const Delivery& delivery, const std::stop_token& stop) {
     if (delivery.sink && delivery.picture)
-        delivery.sink->present(*delivery.picture);
+        insist(stop, [&] { delivery.sink->present(*delivery.picture); });
     for (const PlaybackEvent& event : delivery.events)
-        m_report(event);
+        insist(stop, [&] { m_report(event); });
     return m_shared.lock()->delivered(now());
 }
 
