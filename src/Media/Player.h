@@ -20,7 +20,8 @@ using Executor = std::function<void(std::function<void()>)>;
 class VideoSink {
 public:
     virtual ~VideoSink() = default;
-    /// Shows `frame`; an empty image means that there is nothing to show.
+    /// Shows `frame`; an empty image means that there is nothing to show. May throw std::bad_alloc,
+    /// and then gets the same frame again.
     virtual void present(const TimedImage& frame) = 0;
 };
 

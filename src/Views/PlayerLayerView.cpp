@@ -25,15 +25,14 @@ public:
     explicit Sink(PlayerLayerView& view) : m_view(view) {}
 
     void present(const media::TimedImage& frame) override {
-        bool isUpdateAsked = false;
-        {
-            const auto inbox = m_inbox.lock();
-            inbox->newest = frame.image;
-            isUpdateAsked = std::exchange(inbox->isUpdateAsked, true);
-        }
+        const auto inbox = m_inbox.lock();
+        inbox->newest = frame.image;
         // However many frames arrive before the main thread runs again, it takes only the newest.
-        if (!isUpdateAsked)
-            QMetaObject::invokeMethod(&m_view, &PlayerLayerView::takeFrame, Qt::QueuedConnection);
+        if (inbox->isUpdateAsked)
+            return;
+        // Noted only once it is done: if there is no memory for it, the frame comes again.
+        QMetaObject::invokeMethod(&m_view, &PlayerLayerView::takeFrame, Qt::QueuedConnection);
+        inbox->isUpdateAsked = true;
     }
 
     media::ImagePtr take() {

@@ -1,5 +1,6 @@
 #include "Views/PlayerLayerView.h"
 
+#include "FaultySystem/FaultySystem.h"
 #include "Media/Player.h"
 #include "Player/PlayerController.h"
 #include "QtSupport/EventPump.h"
@@ -14,6 +15,7 @@
 #include <array>
 #include <chrono>
 #include <memory>
+#include <new>
 
 namespace {
 
@@ -72,6 +74,22 @@ TEST(PlayerLayerView, showsEachPixelAsItCame) {
     const QImage image = painted(view);
     EXPECT_TRUE(showsAll(image, {10, 0}, 80, 60));
     EXPECT_EQ(view.videoRect(), QRectF(10, 0, 80, 60));
+}
+
+/// The player gives a frame again for which there was no memory.
+TEST(PlayerLayerView, showsAFrameThatWasGivenAgainAfterMemoryWasRefused) {
+    if (!testsupport::canRefuseAllocations())
+        GTEST_SKIP() << "the sanitizers have allocations of their own";
+    PlayerLayerView view;
+    view.resize(100, 60);
+    pumpPending();
+    const media::TimedImage frame = pattern(80, 60);
+    testsupport::refuseAllocation(testsupport::Allocations::ours, 0);
+    EXPECT_THROW(view.present(frame), std::bad_alloc);
+    testsupport::refuseAllocation(testsupport::Allocations::none, -1);
+    view.present(frame);
+    pumpPending();
+    EXPECT_TRUE(showsAll(painted(view), {10, 0}, 80, 60));
 }
 
 TEST(PlayerLayerView, showsEachPixelAsItCameOnADenseScreen) {

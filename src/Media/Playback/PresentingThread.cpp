@@ -24,7 +24,7 @@ RenderedFrame renderedOrNothing(const CachedFrame& frame) {
 }
 
 /// Calls again after a moment while the system refuses memory: a frame or an event that were
-/// dropped would be missed for good. The call must have no effect when it throws.
+/// dropped would be missed for good. The call must be able to be made again after it has thrown.
 template<typename Call>
 void insist(const std::stop_token& stop, Call call) {
     constexpr std::chrono::milliseconds kPause{10};

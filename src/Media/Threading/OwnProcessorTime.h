@@ -13,8 +13,8 @@ class OwnProcessorTime final {
 public:
     OwnProcessorTime();
 
-    /// Seconds since the making. Never decreases but by what a thread that does not count has used
-    /// between the last call and its end.
+    /// Seconds since the making. What a thread that does not count uses between the last call and
+    /// its end is counted after all.
     [[nodiscard]] double seconds() const;
 
 private:
