@@ -248,6 +248,9 @@ private:
     std::optional<ImmediateFrame> m_immediate;
     /// The frame of this generation has been handed on (or can't be had): the clock may run.
     bool m_isPictureReady = false;
+    /// The last frame that was made ready while playing was no less late than the one before, as
+    /// far as is known.
+    bool m_isFallingBehind = true;
     /// Those that follow while playing.
     FrameQueue m_queue;
     /// The tick to which decoding could not be brought.
@@ -256,8 +259,6 @@ private:
     /// How far the last frame that was made ready while playing was behind the clock; none since
     /// frames were left out.
     std::optional<Ticks> m_lateness;
-    /// That was no less than for the one before, as far as is known.
-    bool m_isFallingBehind = true;
     /// The tick of a frame that can't be had in the size wanted now.
     std::optional<Ticks> m_notRedrawn;
     /// Changes with what is worth reading ahead for.
