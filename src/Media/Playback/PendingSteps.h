@@ -4,6 +4,7 @@
 #include "Media/Playback/RenderedFrame.h"
 #include "Media/Ticks.h"
 
+#include <cstddef>
 #include <deque>
 #include <optional>
 
@@ -20,6 +21,8 @@ public:
     void clear();
 
     [[nodiscard]] bool isEmpty() const { return m_counts.empty(); }
+
+    [[nodiscard]] std::size_t count() const { return m_counts.size(); }
 
     /// Goes on from `shown` as far as the cache reaches: the frame that the first step leads to, or
     /// none while it waits for one that is missing, or when no step is left. Steps that lead

@@ -24,6 +24,10 @@ constexpr Ticks kMargin{Ticks::kPerSecond / 4};
 constexpr Ticks kBackwardMargin{2 * Ticks::kPerSecond};
 /// No more of the cache is taken for them.
 constexpr double kMarginOfCache = 0.25;
+/// Where more steps than these wait, as behind a held key, each way from a key frame has to do for
+/// as many of them as there is room for beside what is around the playhead.
+constexpr std::size_t kFewSteps = 8;
+constexpr double kMarginOfManySteps = 0.45;
 /// After a jump by itself nothing is read ahead for so long: more may be about to happen.
 constexpr milliseconds kRest{150};
 /// Between two looks whether the processor is free again.
@@ -90,9 +94,12 @@ bool PlaybackState::chooseStep(DecodeWork& work) {
 
 /// Frames from there on are kept on the way to `target`.
 Ticks PlaybackState::completeFrom(Ticks target) const {
-    const double room = framesInCache(m_cache, imageSize()) * m_frameTicks * kMarginOfCache;
-    const Ticks margin = std::min(m_direction < 0 ? kBackwardMargin : kMargin,
-                                  Ticks(static_cast<std::int64_t>(std::min(room, 1e9))));
+    const bool hasManySteps = m_direction < 0 && m_steps.count() > kFewSteps;
+    const double part = hasManySteps ? kMarginOfManySteps : kMarginOfCache;
+    const double room = framesInCache(m_cache, imageSize()) * m_frameTicks * part;
+    Ticks margin(static_cast<std::int64_t>(std::min(room, 1e9)));
+    if (!hasManySteps)
+        margin = std::min(margin, m_direction < 0 ? kBackwardMargin : kMargin);
     return target - std::min(margin, std::max(target, Ticks(0)));
 }
 

@@ -49,6 +49,27 @@ TEST_F(PlaybackRules, takeSeeksForADragOnlyWhenTheyFollowSoon) {
     EXPECT_FALSE(rig.nextWork().isBackward);
 }
 
+// Steps that wait, as behind a held key.
+
+TEST_F(PlaybackRules, keepMoreOnTheWayWhereManyStepsBackWait) {
+    const auto keptBefore = [this](int steps, int by) {
+        rig.load(1000);
+        rig.seek(500);
+        rig.settle();
+        rig.cache.begin(rig.item.get());
+        for (int i = 0; i < steps; ++i)
+            rig.state.beginStep(by, rig.now);
+        rig.present();
+        const DecodeWork work = rig.nextWork();
+        EXPECT_EQ(work.kind, Kind::step);
+        return work.target.earliest - work.completeFrom;
+    };
+    EXPECT_EQ(keptBefore(1, -1), Ticks(1200));
+    EXPECT_EQ(keptBefore(8, -1), Ticks(1200));
+    EXPECT_GT(keptBefore(9, -1), Ticks(2000));
+    EXPECT_EQ(keptBefore(9, 1), Ticks(150)) << "those lie before all that is asked for";
+}
+
 // Jumps.
 
 TEST_F(PlaybackRules, goWhereTheFrameOfASeekWithToleranceWasFound) {
