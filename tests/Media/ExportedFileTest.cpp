@@ -92,48 +92,6 @@ TEST_F(ExportedFile, encodesEightBitsAsH264AndMoreAsHevc) {
     }
 }
 
-/// The side of HEVC's coding tree units by a file's parameter sets; pixels.
-int codingTreeUnitOf(const std::filesystem::path& path) {
-    const std::string trace =
-        testsupport::runProcessOrThrow({"ffmpeg", "-v", "trace", "-i", path, "-map", "0:v", "-c",
-                                        "copy", "-bsf:v", "trace_headers", "-f", "null", "-"})
-            .errors;
-    const auto value = [&trace](const std::string& name) {
-        const std::size_t line = trace.find(' ' + name + ' ');
-        return std::stoi(trace.substr(trace.find('=', line) + 1));
-    };
-    return 1 << (3 + value("log2_min_luma_coding_block_size_minus3") +
-                 value("log2_diff_max_min_luma_coding_block_size"));
-}
-
-/// From level 5 on HEVC knows no coding tree units of 16 × 16.
-TEST_F(ExportedFile, takesSmallCodingTreeUnitsWhereHevcAllowsThem) {
-    constexpr int kLevel5 = 150;
-
-    struct {
-        const char* size;
-        const char* framesPerSecond;
-        bool isLevel5;
-    } const rows[] = {
-        {"1920x1080", "60", false}, {"1080x1920", "60", false},  {"1920x1080", "120", true},
-        {"2048x1152", "30", true},  {"1460x1524", "30", true}, // in whole units of 16 pixels
-        {"2048x1080", "60", false}, {"2048x1080", "60.1", true}, {"4208x128", "30", false},
-        {"4210x128", "30", true},   {"4320x40", "30", true}};
-
-    for (const auto& row : rows) {
-        const std::string size = row.size, rate = row.framesPerSecond;
-        SCOPED_TRACE(size + " at " + rate);
-        const auto source =
-            cachedMedia("level-" + size + "-" + rate + ".mkv",
-                        {"-f", "lavfi", "-i", "testsrc2=d=0.1:s=" + size + ":r=" + rate, "-c:v",
-                         "ffv1", "-pix_fmt", "yuv420p10le"});
-        const auto output = exported(source, 0, 0.1);
-        EXPECT_EQ(video(output).text("profile"), "Main 10");
-        EXPECT_EQ(video(output).number("level") >= kLevel5, row.isLevel5);
-        EXPECT_EQ(codingTreeUnitOf(output), row.isLevel5 ? 32 : 16);
-    }
-}
-
 TEST_F(ExportedFile, writesTheIndexBeforeTheMedia) {
     for (const FileType type : {FileType::mpeg4, FileType::quickTimeMovie}) {
         const auto output = exported(makeFixture({}).path, 0, 3, type);

@@ -4,6 +4,7 @@
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/FFmpeg/EncoderOptions.h"
+#include "Media/FFmpeg/HevcLevel.h"
 #include "Media/FFmpeg/SourceInfo.h"
 
 #include <algorithm>
@@ -31,12 +32,10 @@ constexpr std::int64_t kAacMostBitsPerSample = 5;
 /// pictures with a side shorter than a coding tree unit.
 constexpr int kHevcUsualUnit = 32;
 constexpr int kHevcSmallUnit = 16;
-/// From level 5 on HEVC does not allow coding tree units of 16 × 16 (Rec. ITU-T H.265, A.4.1).
-/// These are the limits of level 4.1 (tables A.8 and A.9): luma samples per picture, the longest
-/// side, luma samples per second.
-constexpr double kHevcLevel41Pixels = 2'228'224;
-constexpr int kHevcLevel41Side = 4222;
-constexpr double kHevcLevel41PixelRate = 133'693'440;
+
+/// How many pictures x265 encodes side by side. By itself it takes more on more processors, and
+/// other bytes come of that.
+constexpr int kHevcFrameThreads = 3;
 
 void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
     context.color_primaries = source.color_primaries;
@@ -56,25 +55,11 @@ void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
         context.color_range = AVCOL_RANGE_JPEG;
 }
 
-/// A side rounded up to whole coding units, which is what x265 encodes.
-int codedSide(int side) {
-    return (side + kHevcSmallUnit - 1) / kHevcSmallUnit * kHevcSmallUnit;
-}
-
-/// Whether HEVC allows small coding tree units for pictures of this size and rate.
-bool canTakeSmallUnits(const VideoEncoding& encoding) {
-    const int width = codedSide(encoding.width);
-    const int height = codedSide(encoding.height);
-    const double pixels = static_cast<double>(width) * height;
-    return pixels <= kHevcLevel41Pixels && std::max(width, height) <= kHevcLevel41Side &&
-           pixels * av_q2d(encoding.frameRate) <= kHevcLevel41PixelRate;
-}
-
 /// The size of the coding tree units; none if the picture is too small for HEVC. The smaller size
 /// wherever it is allowed: at this quality larger units are nearly always split, and trying them
 /// takes a tenth to a quarter of the encoder's time.
-std::optional<int> hevcUnit(const VideoEncoding& encoding) {
-    const int unit = canTakeSmallUnits(encoding) ? kHevcSmallUnit : kHevcUsualUnit;
+std::optional<int> hevcUnit(const VideoEncoding& encoding, const std::optional<HevcLevel>& level) {
+    const int unit = level && level->allowsSmallUnits ? kHevcSmallUnit : kHevcUsualUnit;
     return std::min(encoding.width, encoding.height) < unit ? std::nullopt : std::optional(unit);
 }
 
@@ -109,7 +94,9 @@ int aacSampleRate(int sampleRate) {
 Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encoding,
                           const EncoderSettings& settings) {
     const bool isDeep = needsDeepColor(track);
-    const std::optional<int> unit = hevcUnit(encoding);
+    const std::optional<HevcLevel> level =
+        hevcLevel(encoding.width, encoding.height, av_q2d(encoding.frameRate));
+    const std::optional<int> unit = hevcUnit(encoding, level);
     // Pictures that are too small for x265 are encoded by x264, which has 10 bits too.
     const bool isHevc = isDeep && unit;
     auto tables = isHevc ? std::make_unique<EncoderTables>() : nullptr;
@@ -136,8 +123,14 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         options.add({"ctu", *unit});
         if (encoding.threads > 0)
             options.add({"pools", encoding.threads});
+        options.add({"frame-threads", encoding.threads == 1 ? 1 : kHevcFrameThreads});
         options.addAll(x265Parameters(track.dynamicRange));
         options.open("x265-params");
+        // Asked for one, x265 bounds the bit rate, and then the bytes depend on its threads’
+        // timing.
+        if (level)
+            stateLevel({context->extradata, static_cast<std::size_t>(context->extradata_size)},
+                       *level);
     } else {
         options.setPreset(settings.h264Preset);
         options.setConstantRateFactor(encoding.isReduced ? settings.h264ReducedCrf
