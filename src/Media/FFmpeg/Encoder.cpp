@@ -33,9 +33,10 @@ constexpr std::int64_t kAacMostBitsPerSample = 5;
 constexpr int kHevcUsualUnit = 32;
 constexpr int kHevcSmallUnit = 16;
 
-/// How many pictures x265 encodes side by side. By itself it takes more on more processors, and
-/// other bytes come of that.
-constexpr int kHevcFrameThreads = 3;
+/// How many pictures x265 encodes side by side; the rows of each share the processors all the same.
+/// By itself it takes more on four processors and more, other bytes come of that, and with more
+/// than one they are not even the same each time (x265 3.5).
+constexpr int kHevcFrameThreads = 1;
 
 void copyColor(AVCodecContext& context, const AVCodecParameters& source) {
     context.color_primaries = source.color_primaries;
@@ -123,7 +124,7 @@ Encoder Encoder::forVideo(const SourceTrack& track, const VideoEncoding& encodin
         options.add({"ctu", *unit});
         if (encoding.threads > 0)
             options.add({"pools", encoding.threads});
-        options.add({"frame-threads", encoding.threads == 1 ? 1 : kHevcFrameThreads});
+        options.add({"frame-threads", kHevcFrameThreads});
         options.addAll(x265Parameters(track.dynamicRange));
         options.open("x265-params");
         // Asked for one, x265 bounds the bit rate, and then the bytes depend on its threads’
