@@ -6,6 +6,7 @@ looks which frames the exported files hold."""
 
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 from desktop import Desktop, wait_for
@@ -160,6 +161,8 @@ class Precision:
         self.program.answer_panel("Export", output)
         wait_for(f"file {name}", output.exists)
         self.tree.wait_gone("label", "Exporting…")
+        # Escape would be meant for the sheet until then.
+        time.sleep(1)
         return numbers_in(output)
 
     def close(self):
