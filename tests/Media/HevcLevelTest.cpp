@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -56,19 +57,23 @@ private:
 using HevcLevels = ExportTest;
 
 TEST_F(HevcLevels, areStatedBySizeAndRateOfThePicturesWithUnitsThatTheyAllow) {
-    struct {
+    struct Row {
         const char* size;
         const char* framesPerSecond;
         int level, isHighTier, unit;
-    } const rows[] = {{"320x240", "30", 41, 0, 16},    {"320x24", "30", 41, 0, 16},
-                      {"1280x720", "50", 41, 1, 16},   {"1080x1920", "60", 41, 1, 16},
-                      {"1920x1080", "120", 51, 1, 32}, {"2048x1080", "60.1", 51, 1, 32},
-                      {"2048x1152", "30", 51, 1, 32},  {"1460x1524", "30", 51, 1, 32},
-                      {"4208x128", "30", 41, 1, 16},   {"4320x40", "30", 51, 1, 32}};
+    };
+
+    const std::array rows = {
+        Row{"320x240", "30", 41, 0, 16},    Row{"320x24", "30", 41, 0, 16},
+        Row{"1280x720", "50", 41, 1, 16},   Row{"1080x1920", "60", 41, 1, 16},
+        Row{"1920x1080", "120", 51, 1, 32}, Row{"2048x1080", "60.1", 51, 1, 32},
+        Row{"2048x1152", "30", 51, 1, 32},  Row{"1460x1524", "30", 51, 1, 32},
+        Row{"4208x128", "30", 41, 1, 16},   Row{"4320x40", "30", 51, 1, 32}};
 
     for (const auto& row : rows) {
-        const std::string size = row.size, rate = row.framesPerSecond;
-        SCOPED_TRACE(size + " at " + rate);
+        const std::string size = row.size;
+        const std::string rate = row.framesPerSecond;
+        SCOPED_TRACE(testing::Message() << size << " at " << rate);
         const auto output = exported(movingPicture(size, rate), 0, 0.1);
         const auto video = probe(output).streamsOf("video").at(0);
         EXPECT_EQ(video.text("profile"), "Main 10");
