@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <stop_token>
 #include <string>
@@ -84,6 +85,12 @@ public:
     /// The tracks of one type in file order. Cover pictures and timed thumbnails are not among
     /// them.
     [[nodiscard]] virtual std::vector<AssetTrack> tracks(MediaType type) const = 0;
+
+    /// Calls `handler` once, on any thread, when the process that decodes this asset has ended
+    /// unexpectedly: no picture and no sound of it can be had any more. At once if that has
+    /// happened already; never for an asset that is decoded in this process. Replaces the one
+    /// before; empty: none, and after that returns the old one is not being called.
+    virtual void setLossHandler(std::function<void()> handler) const = 0;
 
 protected:
     Asset() = default;

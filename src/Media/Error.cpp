@@ -88,6 +88,8 @@ constexpr std::array kSentences{
     //: About a video that the sentence before has named. %1: the folder’s name.
     Sentence{ErrorKind::keptFileGone,
              QT_TRANSLATE_NOOP("media::Error", "It is no longer in the folder “%1”.")},
+    Sentence{ErrorKind::decoderStopped,
+             QT_TRANSLATE_NOOP("media::Error", "The video decoder has stopped unexpectedly.")},
     Sentence{ErrorKind::emptyRange,
              QT_TRANSLATE_NOOP("media::Error", "The range to export is empty.")},
     //: %1 and %2: sizes with their units, such as “46 MB”.
@@ -141,6 +143,9 @@ constexpr std::array kSentences{
     //: %1: the reason, a whole sentence.
     Sentence{ErrorKind::newFileNotWritten,
              QT_TRANSLATE_NOOP("media::Error", "The new file can’t be written: %1")},
+    Sentence{ErrorKind::encoderStopped,
+             QT_TRANSLATE_NOOP("media::Error", "The video encoder has stopped unexpectedly. "
+                                               "Nothing of the new file is left behind.")},
     Sentence{ErrorKind::notEnoughMemory,
              QT_TRANSLATE_NOOP("media::Error", "There is not enough memory.")},
     Sentence{ErrorKind::noMoreThreads,

@@ -40,6 +40,7 @@ enum class ErrorKind {
     keptFolderMissing, ///< The folder's name.
     keptNameTaken,
     keptFileGone, ///< Its folder's name.
+    decoderStopped,
 
     // Of an export.
     emptyRange,
@@ -62,6 +63,7 @@ enum class ErrorKind {
     newNameTooLong,
     diskErrorWhileWriting,
     newFileNotWritten, ///< Has a cause.
+    encoderStopped,
 
     // Of the machine.
     notEnoughMemory,

@@ -96,4 +96,7 @@ std::vector<AssetTrack> OpenedAsset::tracks(MediaType type) const {
     return result;
 }
 
+/// This process decodes it.
+void OpenedAsset::setLossHandler(std::function<void()> /*handler*/) const {}
+
 } // namespace media

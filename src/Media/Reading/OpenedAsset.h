@@ -37,6 +37,7 @@ public:
     [[nodiscard]] const std::filesystem::path& path() const override;
     [[nodiscard]] Time duration() const override;
     [[nodiscard]] std::vector<AssetTrack> tracks(MediaType type) const override;
+    void setLossHandler(std::function<void()> handler) const override;
 
     [[nodiscard]] const ffmpeg::SourceInfo& info() const { return *m_info; }
 

@@ -38,6 +38,8 @@ public:
         return {track};
     }
 
+    void setLossHandler(std::function<void()> /*handler*/) const override {}
+
 private:
     std::filesystem::path m_path;
     Time m_duration;
