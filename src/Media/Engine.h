@@ -41,6 +41,19 @@ public:
     virtual void removeLeftovers(const std::filesystem::path& output) const = 0;
 };
 
+/// Where decoders and encoders work.
+enum class EnginePlace {
+    /// In this process.
+    program,
+    /// In processes of their own: what crashes one of them harms nothing else.
+    helpers,
+};
+
+/// Which engine is to be loaded, before the first call of engine(); without it, that of this
+/// process. The environment variable BRISKLET_ENGINE (“program” or “helpers”) has the last word.
+/// Where no helpers can be started, this process stands in for them.
+void chooseEngine(EnginePlace place);
+
 /// The engine. The first call loads it, which takes some tens of milliseconds; calls meanwhile wait
 /// for that. Throws Error if it can't be loaded, or has other classes than this program knows.
 const Engine& engine();

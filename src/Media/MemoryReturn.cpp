@@ -49,6 +49,11 @@ void keepPagesSmall() {
 
 } // namespace
 
+void mapLargeBlocks() {
+    constexpr int kLargeBlockBytes = 1024 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, kLargeBlockBytes);
+}
+
 void returnFreedMemory() {
     ::malloc_trim(0);
     keepPagesSmall();

@@ -218,8 +218,8 @@ protected:
     /// Goes on with the first export, which another has tried to disturb.
     void expectFirstToEndWell() {
         const std::string text = "first";
-        EXPECT_EQ(m_first.write(reinterpret_cast<const std::uint8_t*>(text.data()),
-                                static_cast<std::int64_t>(text.size())),
+        EXPECT_EQ(m_first.writer().write(reinterpret_cast<const std::uint8_t*>(text.data()),
+                                         static_cast<std::int64_t>(text.size())),
                   0);
         m_first.commit();
         EXPECT_EQ(contentsOf(m_folder / "out.mp4"), text);

@@ -29,8 +29,8 @@ using testsupport::inChildProcess;
 using testsupport::TemporaryFolder;
 
 int append(OutputFile& file, const std::string& text) {
-    return file.write(reinterpret_cast<const std::uint8_t*>(text.data()),
-                      static_cast<std::int64_t>(text.size()));
+    return file.writer().write(reinterpret_cast<const std::uint8_t*>(text.data()),
+                               static_cast<std::int64_t>(text.size()));
 }
 
 void writeCompletely(const std::filesystem::path& path, const std::string& text) {
@@ -288,10 +288,10 @@ TEST(OutputFile, overwritesWhereItIsToldTo) {
     const TemporaryFolder folder;
     OutputFile file(folder / "a");
     EXPECT_EQ(append(file, "0123456789"), 0);
-    file.seek(2);
+    file.writer().seek(2);
     EXPECT_EQ(append(file, "ab"), 0);
-    EXPECT_EQ(file.position(), 4);
-    EXPECT_EQ(file.size(), 10);
+    EXPECT_EQ(file.writer().position(), 4);
+    EXPECT_EQ(file.writer().size(), 10);
     file.commit();
     EXPECT_EQ(contentsOf(folder / "a"), "01ab456789");
 }

@@ -8,20 +8,13 @@
 
 namespace media {
 
-void expectOtherFile(const ffmpeg::SourceFile& source, const std::filesystem::path& output) {
-    if (source.isSameFileAs(output))
-        throw Error(ErrorKind::exportOverItself);
-}
-
 ExportRun::ExportRun(const Composition& composition,
                      const std::optional<VideoComposition>& videoComposition,
-                     const EncoderSettings& settings, const std::filesystem::path& outputPath,
-                     FileType fileType)
+                     const EncoderSettings& settings, OutputWriter& file, FileType fileType)
     : m_duration(composition.videoTrack->range.duration()),
       m_source(OpenedAsset::of(composition.asset)),
-      m_outputPath(outputPath),
+      m_file(file),
       m_video(std::in_place, composition, videoComposition, settings, m_stop.get_token()),
-      m_file(outputPath),
       m_muxer(m_file, fileType, m_source->info(), composition.videoTrack->range),
       m_stages(m_stop) {
     // Nobody shows it.
@@ -67,12 +60,6 @@ void ExportRun::complete(const std::stop_token& stop) {
     m_sounds.clear();
     m_video.reset();
     proveExport(m_file.reader(), planned, stop);
-    // Much may have happened meanwhile, to the source and to its name.
-    m_source->file()->expectUnchanged();
-    expectOtherFile(*m_source->file(), m_outputPath);
-    if (stop.stop_requested())
-        throw Cancelled();
-    m_file.commit();
 }
 
 ExportPlan ExportRun::plan() const {
@@ -84,7 +71,6 @@ ExportPlan ExportRun::plan() const {
 
 void ExportRun::abandon() {
     m_stop.request_stop();
-    m_file.discard();
 }
 
 void ExportRun::muxStage(std::atomic<double>& progress) {

@@ -2,7 +2,7 @@
 
 #include "Media/Export/AudioPipeline.h"
 #include "Media/Export/ExportProof.h"
-#include "Media/Export/OutputFile.h"
+#include "Media/Export/OutputWriter.h"
 #include "Media/Export/Stages.h"
 #include "Media/Export/VideoPipeline.h"
 #include "Media/ExportSession.h"
@@ -18,26 +18,22 @@
 
 namespace media {
 
-/// Throws Error if `output` is the source itself: the same device and inode, links followed.
-void expectOtherFile(const ffmpeg::SourceFile& source, const std::filesystem::path& output);
-
-/// Everything that exists only while an export runs: the pipelines, the threads of their stages,
-/// the muxer and the unfinished file. Used by one thread, which runs the mux stage; the other
-/// stages run on threads of their own.
+/// What an export works with while it runs: the pipelines, the threads of their stages and the
+/// muxer. The new file’s name is not its business. Used by one thread, which runs the mux stage;
+/// the other stages run on threads of their own.
 class ExportRun {
 public:
-    /// Opens decoders, encoders and the temporary file. Throws Error.
+    /// Opens decoders and encoders; `file` outlives it. Throws Error; WriteRefusal, as all that
+    /// follows.
     ExportRun(const Composition& composition,
               const std::optional<VideoComposition>& videoComposition,
-              const EncoderSettings& settings, const std::filesystem::path& outputPath,
-              FileType fileType);
+              const EncoderSettings& settings, OutputWriter& file, FileType fileType);
 
     /// Runs all stages until the media are written, or until one fails or is stopped.
     void writeMedia(const std::stop_token& stop, std::atomic<double>& progress);
-    /// Waits for all stages, completes the file, proves it and gives it its name. Throws what went
-    /// wrong.
+    /// Waits for all stages, completes the file and proves it. Throws what went wrong.
     void complete(const std::stop_token& stop);
-    /// Removes the temporary file; the stages, told to stop, wind down by themselves.
+    /// The stages, told to stop, wind down by themselves.
     void abandon();
 
 private:
@@ -47,12 +43,11 @@ private:
 
     Time m_duration;
     std::shared_ptr<const OpenedAsset> m_source;
-    std::filesystem::path m_outputPath;
+    OutputWriter& m_file;
     // The stages' stop token goes to all that follows; their threads end before any of it.
     std::stop_source m_stop;
     std::optional<VideoPipeline> m_video;
     std::vector<std::unique_ptr<AudioPipeline>> m_sounds;
-    OutputFile m_file;
     ffmpeg::Muxer m_muxer;
     std::vector<PacketStream*> m_streams;
     Stages m_stages;

@@ -1,16 +1,11 @@
 #pragma once
 
+#include "Media/Export/OutputWriter.h"
 #include "Media/Export/TemporaryFile.h"
 
-#include <cstdint>
 #include <filesystem>
-#include <memory>
 
 namespace media {
-
-namespace ffmpeg {
-class SourceFile;
-}
 
 /// A file that appears under its final name only when it is complete.
 ///
@@ -27,26 +22,17 @@ public:
     OutputFile& operator=(const OutputFile&) = delete;
     ~OutputFile();
 
-    /// Writes at the current position; 0, or the errno of the failure.
-    int write(const std::uint8_t* data, std::int64_t count);
+    /// What writes its content in this process.
+    [[nodiscard]] OutputWriter& writer() { return m_writer; }
 
-    void seek(std::int64_t position) { m_position = position; }
-
-    [[nodiscard]] std::int64_t position() const { return m_position; }
-
-    [[nodiscard]] std::int64_t size() const { return m_size; }
-
-    /// Starts to write back to disk what is not there yet, so that commit() waits less.
-    void startFlush();
-
-    /// What has been written so far, opened for reading. Throws Error.
-    [[nodiscard]] std::shared_ptr<const ffmpeg::SourceFile> reader() const;
+    /// Another descriptor of it, to write its content elsewhere. Throws Error.
+    [[nodiscard]] Descriptor duplicate() const;
 
     /// Removes the temporary file at once and lets other exports have the destination. Whatever is
     /// written after that is lost.
     void discard();
 
-    /// Throws the Error for a failure of write().
+    /// Throws the Error for a failure to write, an errno.
     [[noreturn]] void throwError(int code) const;
 
     /// Throws Error if the data cannot be brought to disk or the file not be given its name.
@@ -55,9 +41,7 @@ public:
 private:
     std::filesystem::path m_destination;
     TemporaryFile m_file;
-    std::int64_t m_position = 0;
-    std::int64_t m_size = 0;
-    std::int64_t m_writebackEnd = 0;
+    OutputWriter m_writer;
 };
 
 } // namespace media

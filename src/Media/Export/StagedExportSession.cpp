@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/Export/ExportRun.h"
+#include "Media/Export/OutputFile.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/SystemRefusal.h"
 #include "Media/Threading/ProcessorDemand.h"
@@ -18,7 +19,7 @@ StagedExportSession::StagedExportSession(Composition composition, std::filesyste
       m_settings(std::move(settings)) {
     if (!m_composition.asset || !m_composition.videoTrack)
         throw Error(ErrorKind::nothingToExport);
-    expectOtherFile(*OpenedAsset::of(m_composition.asset)->file(), m_outputPath);
+    OpenedAsset::of(m_composition.asset)->file()->expectOtherFile(m_outputPath);
 }
 
 StagedExportSession::~StagedExportSession() = default;
@@ -46,12 +47,30 @@ void StagedExportSession::run(std::stop_token stop) {
 }
 
 void StagedExportSession::exportFile(const std::stop_token& stop) {
-    OpenedAsset::of(m_composition.asset)->file()->expectUnchanged();
+    const auto source = OpenedAsset::of(m_composition.asset)->file();
+    source->expectUnchanged();
+    auto file = std::make_unique<OutputFile>(m_outputPath);
+    try {
+        write(file, stop);
+    } catch (const WriteRefusal& refusal) {
+        file->throwError(refusal.code());
+    }
+    // Much may have happened meanwhile, to the source and to its name.
+    source->expectUnchanged();
+    source->expectOtherFile(m_outputPath);
+    if (stop.stop_requested())
+        throw Cancelled();
+    file->commit();
+}
+
+void StagedExportSession::write(std::unique_ptr<OutputFile>& file, const std::stop_token& stop) {
     auto run = std::make_unique<ExportRun>(m_composition, m_videoComposition, m_settings,
-                                           m_outputPath, m_fileType);
+                                           file->writer(), m_fileType);
     run->writeMedia(stop, m_progress);
     if (stop.stop_requested()) {
         run->abandon();
+        file->discard();
+        m_abandonedFile = std::move(file);
         m_abandoned = std::move(run);
         throw Cancelled();
     }

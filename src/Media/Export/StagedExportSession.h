@@ -9,6 +9,7 @@
 namespace media {
 
 class ExportRun;
+class OutputFile;
 
 /// The export session that the engine makes. Keeps what is to be exported until it is run; what
 /// exists only while it runs is an ExportRun.
@@ -28,6 +29,7 @@ public:
 
 private:
     void exportFile(const std::stop_token& stop);
+    void write(std::unique_ptr<OutputFile>& file, const std::stop_token& stop);
 
     // Of the thread that makes and runs the session.
     Composition m_composition;
@@ -40,7 +42,8 @@ private:
     std::atomic<double> m_progress = 0;
     std::atomic<State> m_state = State::waiting;
 
-    /// Of a run that was cancelled: its threads end soon, and are waited for in the destructor.
+    // Of a run that was cancelled: its threads end soon, and are waited for in the destructor.
+    std::unique_ptr<OutputFile> m_abandonedFile;
     std::unique_ptr<ExportRun> m_abandoned;
 };
 

@@ -1,7 +1,6 @@
 #include "Media/Export/WriteError.h"
 
 #include "Media/Error.h"
-#include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/FileName.h"
 
 #include <cerrno>
@@ -45,11 +44,13 @@ void throwWriteError(int code, const std::filesystem::path& destination) {
         throw Error(ErrorKind::diskErrorWhileWriting);
     case ENOSPC:
     case EDQUOT:
+        throw Error(ErrorKind::diskFull);
     case EFBIG:
+        throw Error(ErrorKind::fileTooLarge);
     case ENOMEM:
-        throw Error(ffmpeg::failureOf(-code));
+        throw Error(ErrorKind::notEnoughMemory);
     default:
-        throw Error(becauseOf(ErrorKind::newFileNotWritten, ffmpeg::failureOf(-code)));
+        throw Error(becauseOf(ErrorKind::newFileNotWritten, reasonOf(code)));
     }
 }
 

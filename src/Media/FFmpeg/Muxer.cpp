@@ -1,6 +1,6 @@
 #include "Media/FFmpeg/Muxer.h"
 
-#include "Media/Export/OutputFile.h"
+#include "Media/Export/OutputWriter.h"
 #include "Media/FFmpeg/Check.h"
 #include "Media/FFmpeg/ClassicLocale.h"
 #include "Media/FFmpeg/LibavReleases.h"
@@ -150,7 +150,7 @@ std::int64_t indexBytes(std::int64_t packets, std::int64_t streams) {
 }
 
 struct Muxer::Io {
-    OutputFile& file;
+    OutputWriter& file;
     /// errno of the first write that failed.
     int error = 0;
 
@@ -175,7 +175,7 @@ struct Muxer::Io {
     }
 };
 
-Muxer::Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range)
+Muxer::Muxer(OutputWriter& file, FileType type, const SourceInfo& info, const TimeRange& range)
     : m_type(type), m_info(info), m_range(range), m_io(new Io{file}) {
     silenceLog();
     auto* buffer = static_cast<unsigned char*>(allocated(av_malloc(kWriteBufferBytes)));
@@ -301,7 +301,7 @@ void Muxer::turnReservedRoomIntoFreeBox() {
 
 void Muxer::checkIo(int result) {
     if (m_io->error != 0)
-        m_io->file.throwError(m_io->error);
+        throw WriteRefusal(m_io->error);
     check(result);
 }
 

@@ -5,7 +5,7 @@
 #include "Media/FFmpeg/SourceInfo.h"
 
 namespace media {
-class OutputFile;
+class OutputWriter;
 }
 
 namespace media::ffmpeg {
@@ -19,7 +19,7 @@ class Muxer {
 public:
     /// Metadata, chapters and time code are those of `info`, cut to the range. `file` and `info`
     /// must outlive the muxer.
-    Muxer(OutputFile& file, FileType type, const SourceInfo& info, const TimeRange& range);
+    Muxer(OutputWriter& file, FileType type, const SourceInfo& info, const TimeRange& range);
     Muxer(const Muxer&) = delete;
     Muxer& operator=(const Muxer&) = delete;
     ~Muxer();
@@ -30,13 +30,15 @@ public:
                   const AffineTransform& transform = {});
 
     /// To be called once, when all streams are added. `expectedPackets`: of all streams together;
-    /// more are allowed, but then the index moves to the end of the file. Throws Error.
+    /// more are allowed, but then the index moves to the end of the file. Throws Error;
+    /// WriteRefusal.
     void writeHeader(std::int64_t expectedPackets);
 
-    /// Packets must come in decoding order over all streams; times in `timeBase`. Throws Error.
+    /// Packets must come in decoding order over all streams; times in `timeBase`. Throws Error;
+    /// WriteRefusal.
     void write(AVPacket& packet, int stream, AVRational timeBase);
 
-    /// Completes the file (not its name). Throws Error.
+    /// Completes the file (not its name). Throws Error; WriteRefusal.
     void finish();
 
 private:

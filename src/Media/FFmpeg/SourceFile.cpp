@@ -49,11 +49,17 @@ std::shared_ptr<const SourceFile> SourceFile::open(const std::filesystem::path& 
     Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!descriptor.isOpen())
         throwOpenError(errno);
+    return adopt(std::move(descriptor), path);
+}
+
+std::shared_ptr<const SourceFile> SourceFile::adopt(Descriptor descriptor,
+                                                    std::filesystem::path path) {
+    struct stat status = {};
     if (::fstat(descriptor.number(), &status) != 0 || !S_ISREG(status.st_mode))
         throw Error(ErrorKind::notARegularFile);
     if (status.st_size == 0)
         throw Error(ErrorKind::fileEmpty);
-    return std::make_shared<const SourceFile>(std::move(descriptor), path, status);
+    return std::make_shared<const SourceFile>(std::move(descriptor), std::move(path), status);
 }
 
 SourceFile::SourceFile(Descriptor descriptor, std::filesystem::path path, const struct stat& status)
@@ -65,6 +71,13 @@ SourceFile::SourceFile(Descriptor descriptor, std::filesystem::path path, const 
       m_openedMiddle(middle()) {}
 
 SourceFile::~SourceFile() = default;
+
+Descriptor SourceFile::duplicate() const {
+    Descriptor descriptor(::fcntl(m_descriptor.number(), F_DUPFD_CLOEXEC, 0));
+    if (!descriptor.isOpen())
+        throwOpenError(errno);
+    return descriptor;
+}
 
 std::int64_t SourceFile::size() const {
     struct stat status = {};
@@ -100,6 +113,11 @@ void SourceFile::expectUnchanged() const {
     // What cannot be read is told by whoever needs it.
     if (now.size() == m_openedMiddle.size() && now != m_openedMiddle)
         throw Error(ErrorKind::fileChanged, {shownName(m_path)});
+}
+
+void SourceFile::expectOtherFile(const std::filesystem::path& output) const {
+    if (isSameFileAs(output))
+        throw Error(ErrorKind::exportOverItself);
 }
 
 bool SourceFile::isSameFileAs(const std::filesystem::path& other) const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Media/FFmpeg/Descriptor.h"
-#include "Media/FFmpeg/Handles.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -20,12 +19,20 @@ public:
     /// Never blocks on pipes and devices: they are refused.
     static std::shared_ptr<const SourceFile> open(const std::filesystem::path& path);
 
+    /// Of a file that is open already; `path` is only what it is called. Throws Error if it is not
+    /// a regular file.
+    static std::shared_ptr<const SourceFile> adopt(Descriptor descriptor,
+                                                   std::filesystem::path path);
+
     SourceFile(Descriptor descriptor, std::filesystem::path path, const struct stat& status);
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
     ~SourceFile();
 
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
+    /// Another descriptor of it. Throws Error if there are too many.
+    [[nodiscard]] Descriptor duplicate() const;
 
     /// The size now, in bytes; it may change while the file is open.
     [[nodiscard]] std::int64_t size() const;
@@ -38,6 +45,9 @@ public:
                                     std::int64_t count) const;
     /// Whether `other` leads to this very file (device and inode, links followed).
     [[nodiscard]] bool isSameFileAs(const std::filesystem::path& other) const;
+
+    /// Throws Error if `output` leads to this very file.
+    void expectOtherFile(const std::filesystem::path& output) const;
 
     /// Throws Error if other content was written into the file since it was opened. Only its middle
     /// is looked at: recorders and taggers write at the beginning and at the end of a file whose

@@ -12,7 +12,6 @@
 #include "Media/Reading/OpenedAsset.h"
 #include "Media/SystemRefusal.h"
 
-#include <malloc.h>
 #include <utility>
 
 extern "C" {
@@ -23,11 +22,6 @@ namespace media {
 
 namespace {
 
-/// Blocks from this size on are mapped by themselves and given back to the system as soon as they
-/// are free. Without a fixed size glibc raises it to that of the largest picture seen so far, and
-/// freed pictures leave holes in its heaps. Bytes.
-constexpr int kMappedBlockBytes = 1024 * 1024;
-
 /// The largest block that libav may ask for: a picture of most pixels in 32 bits. A file of a few
 /// bytes can claim an index for which libav would fill gigabytes.
 constexpr std::size_t kMostBlockBytes = std::size_t{4} * ffmpeg::kMostPixels;
@@ -35,7 +29,7 @@ constexpr std::size_t kMostBlockBytes = std::size_t{4} * ffmpeg::kMostPixels;
 class BuiltInEngine final : public Engine {
 public:
     BuiltInEngine() {
-        ::mallopt(M_MMAP_THRESHOLD, kMappedBlockBytes);
+        mapLargeBlocks();
         ::av_max_alloc(kMostBlockBytes);
     }
 

@@ -5,8 +5,10 @@
 #include <dlfcn.h>
 #include <sys/mman.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -14,13 +16,24 @@ namespace media {
 
 namespace {
 
-/// The module stands at the same place beside every program, in the build tree and installed.
-std::filesystem::path modulePath() {
+std::atomic<EnginePlace> chosenPlace = EnginePlace::program;
+
+EnginePlace placeWanted() {
+    const char* const wanted = std::getenv("BRISKLET_ENGINE");
+    if (wanted && std::string_view(wanted) == "program")
+        return EnginePlace::program;
+    if (wanted && std::string_view(wanted) == "helpers")
+        return EnginePlace::helpers;
+    return chosenPlace;
+}
+
+/// The modules stand at the same place beside every program, in the build tree and installed.
+std::filesystem::path modulePath(const char* module) {
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
     if (error)
         throw Error(becauseOf(ErrorKind::engineNotFound, reasonOf(error.value())));
-    return program.parent_path() / BRISKLET_ENGINE_MODULE;
+    return program.parent_path() / BRISKLET_ENGINE_FOLDER / module;
 }
 
 /// Whether the system has no room for what the engine's libraries take, mapped or not; measured.
@@ -34,9 +47,9 @@ bool isMemoryShort() {
     return false;
 }
 
-const Engine& loadEngine() {
-    // Bound as it is used: it has a hundred libraries behind it. Never unloaded.
-    void* module = ::dlopen(modulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
+const Engine& loadModule(const char* name) {
+    // Bound as it is used: it may have a hundred libraries behind it. Never unloaded.
+    void* module = ::dlopen(modulePath(name).c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (module == nullptr) {
         // Which file of whose is missing helps whoever packaged it, not the person at the screen.
         std::fprintf(stderr, "%s\n", ::dlerror());
@@ -53,7 +66,22 @@ const Engine& loadEngine() {
     return *entry();
 }
 
+const Engine& loadEngine() {
+    if (placeWanted() == EnginePlace::helpers) {
+        try {
+            return loadModule("brisklet-helpers.so");
+        } catch (const Error& error) {
+            std::fprintf(stderr, "%s\n", error.what());
+        }
+    }
+    return loadModule("brisklet-media.so");
+}
+
 } // namespace
+
+void chooseEngine(EnginePlace place) {
+    chosenPlace = place;
+}
 
 const Engine& engine() {
     static const Engine& loaded = loadEngine();

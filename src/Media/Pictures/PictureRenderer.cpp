@@ -33,19 +33,6 @@ PreviewPicture::Kind kindOf(Family family) {
 
 } // namespace
 
-ImageSize fittedSize(Size natural, int maxWidth, int maxHeight) {
-    double scale = 1;
-    if (maxWidth > 0)
-        scale = std::min(scale, maxWidth / natural.width);
-    if (maxHeight > 0)
-        scale = std::min(scale, maxHeight / natural.height);
-    const auto side = [scale](double length, int limit) {
-        const int pixels = std::max(1, static_cast<int>(std::lround(length * scale)));
-        return limit > 0 ? std::min(pixels, limit) : pixels;
-    };
-    return {side(natural.width, maxWidth), side(natural.height, maxHeight)};
-}
-
 class PictureRenderer::Private {
 public:
     enum class Chroma { everywhere, asTheSource };

@@ -3,22 +3,12 @@
 #include "Media/Asset.h"
 #include "Media/FFmpeg/Handles.h"
 #include "Media/Image.h"
+#include "Media/Pictures/ImageSize.h"
 #include "Media/Pictures/PreviewPicture.h"
 
 #include <memory>
 
 namespace media {
-
-/// Width and height in pixels.
-struct ImageSize {
-    int width = 1;
-    int height = 1;
-    friend bool operator==(const ImageSize&, const ImageSize&) = default;
-};
-
-/// The size of an upright picture of `natural` size that is scaled to fit into maxWidth × maxHeight
-/// pixels (0 leaves a side free), never enlarged; at least 1 × 1.
-ImageSize fittedSize(Size natural, int maxWidth, int maxHeight);
 
 /// Turns decoded frames of one track into upright screen pictures: applies the colour matrix and
 /// range, maps PQ, HLG and wide gamuts to a standard screen, resamples to square pixels and

@@ -7,7 +7,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <span>
 
 namespace media {
 
@@ -45,6 +47,12 @@ public:
 
     /// For the maker. Grey has only the first; aligned for zimg.
     [[nodiscard]] std::array<pixels::Plane, 3> planes();
+
+    /// All planes one after another, as they lie in any picture of this format.
+    [[nodiscard]] std::span<const std::uint8_t> bytes() const { return m_bytes; }
+
+    /// For the maker.
+    [[nodiscard]] std::span<std::uint8_t> bytesToFill() { return m_bytes; }
 
     /// The picture in the screen's pixel format. Any thread; Helpers::shared() help with a large
     /// one.

@@ -1,7 +1,10 @@
 #include "Media/Playback/DecodingThread.h"
 
 #include "Media/Error.h"
+#include "Media/Playback/PlayableAsset.h"
 #include "Media/Threading/ProcessorDemand.h"
+
+#include <utility>
 
 namespace media::playback {
 
@@ -27,10 +30,12 @@ void DecodingThread::run(const std::stop_token& stop) {
     while (!stop.stop_requested()) {
         const DecoderStatus decoder = status();
         const DecodeWork work = m_shared.lock()->nextDecodeWork(decoder, now());
-        if (work.kind == DecodeWork::Kind::wait)
+        if (work.kind == DecodeWork::Kind::wait) {
             m_shared.wait(Waiter::decoding, stop, work.until);
-        else
-            perform(work);
+            continue;
+        }
+        perform(work);
+        account();
     }
 }
 
@@ -44,7 +49,7 @@ DecoderStatus DecodingThread::status() {
     status.canDecode = true;
     status.hasWaitingFrames = m_source->hasPassed();
     status.position = m_source->position();
-    status.decodedCount = m_source->takeDecodedCount();
+    status.decodedCount = std::exchange(m_decodedCount, 0);
     return status;
 }
 
@@ -74,6 +79,7 @@ void DecodingThread::perform(const DecodeWork& work) {
             return;
         case Kind::releaseDecoder:
             m_source->releaseDecoder();
+            m_budget.release();
             m_shared.lock()->decoderReleased();
             return;
         }
@@ -84,15 +90,26 @@ void DecodingThread::perform(const DecodeWork& work) {
     }
 }
 
+/// What the decoder has done and holds is put down, for all players’ budget too.
+void DecodingThread::account() {
+    const std::uint64_t count = m_source ? m_source->takeDecodedCount() : 0;
+    if (count == 0)
+        return;
+    m_decodedCount += count;
+    m_budget.use(m_source->decoderBytes());
+}
+
 void DecodingThread::open(const DecodeWork& work) {
     m_source.reset();
+    m_budget.release();
     m_pace = {};
     m_item = work.item;
     if (!m_item)
         return;
-    auto source = std::make_unique<FrameSource>(m_shared.cache(), m_budget, m_item);
-    if (source->hasPicture())
-        m_source = std::move(source);
+    m_source = PlayableAsset::of(m_item->asset())
+                   ->makeFrameSource([this, item = m_item.get()](CachedFrame frame) {
+                       m_shared.cache().insert(item, std::move(frame));
+                   });
 }
 
 /// An item that could not be opened for lack of memory or threads is opened when it is looked at

@@ -22,6 +22,7 @@ public:
 
 private:
     [[nodiscard]] DecoderStatus status();
+    void account();
     void perform(const DecodeWork& work);
     void open(const DecodeWork& work);
     bool hasSource(const DecodeWork& work);
@@ -40,6 +41,8 @@ private:
     std::shared_ptr<const PlayerItem> m_item;
     /// null where there is no picture, or none that can be decoded.
     std::unique_ptr<FrameSource> m_source;
+    /// Frames that the source gave out since the state was told of them.
+    std::uint64_t m_decodedCount = 0;
     DecodingPace m_pace;
     /// The seek that it is on its way for.
     std::uint64_t m_paceOf = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/Pictures/PictureRenderer.h"
+#include "Media/Pictures/ImageSize.h"
 #include "Media/Pictures/PreviewPicture.h"
 #include "Media/Threading/Guarded.h"
 #include "Media/Ticks.h"

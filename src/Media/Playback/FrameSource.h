@@ -1,23 +1,21 @@
 #pragma once
 
-#include "Media/Pictures/PictureRenderer.h"
-#include "Media/Playback/DecoderBudget.h"
 #include "Media/Playback/DecodingPace.h"
 #include "Media/Playback/FrameCache.h"
 #include "Media/Playback/PreviewSize.h"
-#include "Media/Player.h"
-#include "Media/Reading/VideoReader.h"
+#include "Media/Ticks.h"
 
-#include <deque>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stop_token>
-#include <utility>
 
 namespace media::playback {
 
-/// Decodes the frames of one item, one at a time, and puts them into the cache at preview size.
-/// Use from one thread.
+/// Decodes the frames of one asset's first video track, one at a time, at preview size. Each call
+/// throws Error when reading or decoding fails. Use from one thread.
 class FrameSource {
 public:
     /// Where decoding is to arrive.
@@ -50,100 +48,56 @@ public:
         nothing,
     };
 
-    /// Throws Error if the item has a picture that cannot be decoded. Cache and budget outlive
-    /// the source.
-    FrameSource(FrameCache& cache, DecoderBudget& budget, std::shared_ptr<const PlayerItem> item);
+    /// Takes the frames that are decoded, to keep them. Called within the calls below.
+    using Keep = std::function<void(CachedFrame)>;
+
+    FrameSource() = default;
     FrameSource(const FrameSource&) = delete;
     FrameSource& operator=(const FrameSource&) = delete;
-    ~FrameSource();
-
-    [[nodiscard]] const std::shared_ptr<const PlayerItem>& item() const { return m_item; }
-
-    /// Whether the item has a picture at all.
-    [[nodiscard]] bool hasPicture() const { return m_renderer != nullptr; }
+    virtual ~FrameSource() = default;
 
     /// The way that advance() would take to the frame at `ticks`, without moving.
-    [[nodiscard]] DecodingPace::Way wayTo(Ticks ticks) const;
+    [[nodiscard]] virtual DecodingPace::Way wayTo(Ticks ticks) = 0;
     /// The goal to begin with where the frames of `range` are wanted, those at its end first: the
     /// frames from the last key frame on, as far as the container tells where that is.
-    [[nodiscard]] Goal goalNearEnd(TickRange range);
+    [[nodiscard]] virtual Goal goalNearEnd(TickRange range) = 0;
     /// Decodes one frame on the way to the goal. A goal that lies ahead in the run of decoding that
     /// is under way goes on with it, any other begins anew at a key frame. Throws Cancelled when
-    /// stopped (call it again to go on), Error when reading fails.
-    Outcome advance(const Goal& goal, PreviewSize size, const std::stop_token& stop);
-    /// Decodes the frame from `earliest` to `latest` (both included) that costs least and puts it
-    /// into the cache; gives its place there.
-    std::optional<Ticks> advanceNear(Ticks earliest, Ticks latest, PreviewSize size,
-                                     const std::stop_token& stop);
+    /// stopped (call it again to go on).
+    virtual Outcome advance(const Goal& goal, PreviewSize size, const std::stop_token& stop) = 0;
+    /// Decodes the frame from `earliest` to `latest` (both included) that costs least, and has it
+    /// kept; gives its place.
+    virtual std::optional<Ticks> advanceNear(Ticks earliest, Ticks latest, PreviewSize size,
+                                             const std::stop_token& stop) = 0;
 
     /// After `arrived` or `late`: where the frame after that one begins.
-    [[nodiscard]] Ticks arrivedEnd() const { return m_arrivedEnd; }
+    [[nodiscard]] virtual Ticks arrivedEnd() const = 0;
 
     /// Where the next frame begins that advance() decodes without moving; beginning() where that is
     /// not known.
-    [[nodiscard]] Ticks position() const { return m_position; }
+    [[nodiscard]] virtual Ticks position() const = 0;
 
     /// After `onTheWay`: where the frame decoded last begins.
-    [[nodiscard]] Ticks passingTicks() const { return m_passing->frame->ticks; }
+    [[nodiscard]] virtual Ticks passingTicks() const = 0;
 
     /// The frame decoded last, even if it is not known where it ends; null without one.
-    [[nodiscard]] std::shared_ptr<const CachedFrame> passing(PreviewSize size);
+    [[nodiscard]] virtual std::shared_ptr<const CachedFrame> passing(PreviewSize size) = 0;
 
-    /// Puts one of the frames that were passed on the way to an urgent goal into the cache; false
-    /// where none is left.
-    bool keepOnePassed(PreviewSize size);
+    /// Has one of the frames kept that were passed on the way to an urgent goal, if there are any.
+    virtual void keepOnePassed(PreviewSize size) = 0;
 
-    /// Whether frames that were passed wait to be put into the cache.
-    [[nodiscard]] bool hasPassed() const { return !m_passed.empty(); }
+    /// Whether frames that were passed wait to be kept.
+    [[nodiscard]] virtual bool hasPassed() const = 0;
 
     /// Gives up the decoder and where it stands, until the next advance. The frame that was arrived
     /// at last can still be had in other sizes.
-    void releaseDecoder();
+    virtual void releaseDecoder() = 0;
 
     /// How many frames were decoded since this was last asked.
-    std::uint64_t takeDecodedCount() { return std::exchange(m_decodedCount, 0); }
+    [[nodiscard]] virtual std::uint64_t takeDecodedCount() = 0;
 
-private:
-    /// A decoded frame with its place.
-    struct Decoded {
-        std::shared_ptr<const DecodedFrame> frame;
-        TickRange range;
-        bool isComplete = false;
-    };
-
-    VideoReader& reader();
-    bool arriveAtKept(Ticks ticks, PreviewSize size);
-    bool readOn(const std::stop_token& stop);
-    std::optional<Decoded> decode(const Goal& goal, const std::stop_token& stop);
-    Ticks endOf(const DecodedFrame& frame, Ticks goal, const std::stop_token& stop);
-    void pass(Decoded decoded, const Goal& goal, PreviewSize size);
-    void keep(const Decoded& decoded, PreviewSize size);
-    [[nodiscard]] CachedFrame rendered(const Decoded& decoded, PreviewSize size);
-
-    FrameCache& m_cache;
-    DecoderBudget& m_budget;
-    std::shared_ptr<const PlayerItem> m_item;
-    Ticks m_firstTicks;
-    /// null after releaseDecoder(), and until more is wanted than the asset's first frame.
-    std::unique_ptr<VideoReader> m_reader;
-    std::unique_ptr<PictureRenderer> m_renderer;
-
-    /// What the reader is on its way to.
-    std::optional<Ticks> m_goal;
-    /// The next frame decoded is the first since the reader moved.
-    bool m_hasMoved = false;
-    /// Decoded, but its end was not found out yet.
-    std::shared_ptr<const DecodedFrame> m_unfinished;
-    Ticks m_position = Ticks::beginning();
-    Ticks m_arrivedEnd;
-
-    /// The frame that was arrived at last, in case that it is wanted in another size.
-    std::optional<Decoded> m_arrived;
-    std::optional<Decoded> m_passing;
-    /// Not rendered yet, in order.
-    std::deque<Decoded> m_passed;
-    std::size_t m_passedBytes = 0;
-    std::uint64_t m_decodedCount = 0;
+    /// About what the decoder holds, as of the frame decoded last, in bytes.
+    [[nodiscard]] virtual std::size_t decoderBytes() const = 0;
 };
 
 } // namespace media::playback

@@ -1,5 +1,7 @@
 #include "Media/Playback/PlayerPrivate.h"
 
+#include "Media/Playback/PlayableAsset.h"
+
 #include <chrono>
 #include <utility>
 
@@ -37,7 +39,11 @@ void ThreadedPlayer::Private::close() {
     *m_executor.lock() = nullptr;
     m_threads.requestStop();
     state()->stopWork();
-    m_threads.finish(shared_from_this());
+    const std::shared_ptr<const PlayerItem> item = state()->item();
+    m_threads.finish(shared_from_this(), [&item] {
+        if (item)
+            playback::PlayableAsset::of(item->asset())->abandon();
+    });
 }
 
 void ThreadedPlayer::Private::replaceCurrentItem(std::shared_ptr<const PlayerItem> item) {

@@ -33,11 +33,12 @@ void PlayerThreads::requestStop() {
         thread.request_stop();
 }
 
-void PlayerThreads::finish(std::shared_ptr<void> owner) {
+void PlayerThreads::finish(std::shared_ptr<void> owner, const std::function<void()>& abandon) {
     if (waitForAll()) {
         joinAll();
         return;
     }
+    abandon();
     try {
         std::thread([this, owner = std::move(owner)] { joinAll(); }).detach();
     } catch (const std::system_error&) {

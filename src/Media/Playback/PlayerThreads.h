@@ -25,9 +25,10 @@ public:
     void start(const char* name, std::function<void(const std::stop_token&)> work);
 
     void requestStop();
-    /// Ends the threads after requestStop(). Those that do not end soon are joined on a thread left
-    /// behind, which keeps `owner`, that all of them use, alive until then.
-    void finish(std::shared_ptr<void> owner);
+    /// Ends the threads after requestStop(). Where they do not end soon `abandon` is called, and
+    /// they are joined on a thread left behind, which keeps `owner`, that all of them use, alive
+    /// until then.
+    void finish(std::shared_ptr<void> owner, const std::function<void()>& abandon);
 
 private:
     bool waitForAll();

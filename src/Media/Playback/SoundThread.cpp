@@ -1,9 +1,9 @@
 #include "Media/Playback/SoundThread.h"
 
 #include "Media/Error.h"
+#include "Media/Playback/PlayableAsset.h"
 
 #include <algorithm>
-#include <span>
 
 namespace media::playback {
 
@@ -74,6 +74,7 @@ void SoundThread::beginRun() {
     if (!m_run.isWanted) {
         m_closeAt = m_run.lastEnd + kLinger;
         if (m_item != m_run.item) {
+            m_block = {};
             m_reader.reset();
             m_item.reset();
         }
@@ -122,15 +123,12 @@ void SoundThread::openReader() {
     if (m_item == m_run.item)
         return;
     m_item = m_run.item;
+    m_block = {};
     m_reader.reset();
-    const AudioReader::Format format{AV_SAMPLE_FMT_FLT, kOutputSampleRate, kOutputChannels};
-    for (const AssetTrack& track : m_item->asset()->tracks(MediaType::audio)) {
-        try {
-            m_reader = std::make_unique<AudioReader>(m_item->asset(), track, format);
-            return;
-        } catch (const std::exception&) {
-            // The next track may be one that can be decoded; without any the item is silent.
-        }
+    try {
+        m_reader = PlayableAsset::of(m_item->asset())->makeSoundReader();
+    } catch (const std::exception&) {
+        // Without sound the item is silent.
     }
 }
 
@@ -141,7 +139,7 @@ void SoundThread::prepare(Time at) {
     m_isPlaced = false;
     m_isDriving = false;
     m_isStale = false;
-    m_block.reset();
+    m_block = {};
     m_isAtEnd = false;
     if (!m_reader)
         return;
@@ -156,11 +154,9 @@ void SoundThread::prepare(Time at) {
 void SoundThread::fill() {
     try {
         while (!m_isAtEnd && m_queue.queuedFrames() < kQueuedFrames) {
-            if (!m_block) {
+            if (m_block.empty())
                 m_block = m_reader->next(m_run.stop);
-                m_blockOffset = 0;
-            }
-            if (!m_block)
+            if (m_block.empty())
                 m_isAtEnd = true;
             else if (!writeBlock())
                 return;
@@ -172,13 +168,8 @@ void SoundThread::fill() {
 
 /// Whether the whole block found room.
 bool SoundThread::writeBlock() {
-    const auto* samples = static_cast<const float*>(static_cast<const void*>(m_block->data[0]));
-    const std::span all(samples, static_cast<std::size_t>(m_block->nb_samples) * kOutputChannels);
-    m_blockOffset += m_queue.write(all.subspan(m_blockOffset)) * kOutputChannels;
-    if (m_blockOffset < all.size())
-        return false;
-    m_block.reset();
-    return true;
+    m_block = m_block.subspan(m_queue.write(m_block) * kOutputChannels);
+    return m_block.empty();
 }
 
 void SoundThread::place() {

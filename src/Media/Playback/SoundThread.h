@@ -3,11 +3,12 @@
 #include "Media/Playback/AudioOutput.h"
 #include "Media/Playback/SharedPlayback.h"
 #include "Media/Playback/SoundQueue.h"
+#include "Media/Playback/SoundReader.h"
 #include "Media/Playback/SoundRun.h"
-#include "Media/Reading/AudioReader.h"
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <stop_token>
 
 namespace media::playback {
@@ -62,9 +63,9 @@ private:
 
     std::shared_ptr<const PlayerItem> m_item;
     /// Null where the item has no sound that can be decoded.
-    std::unique_ptr<AudioReader> m_reader;
-    ffmpeg::FramePtr m_block;
-    std::size_t m_blockOffset = 0;
+    std::unique_ptr<SoundReader> m_reader;
+    /// What is left of the block read last; the reader’s.
+    std::span<const float> m_block;
     bool m_isAtEnd = false;
 
     /// The item's time of the queue's first frame.

@@ -6,6 +6,8 @@
 #include "Media/FFmpeg/Inspection.h"
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/FFmpeg/SourceInfo.h"
+#include "Media/Pictures/DecodingFrameSource.h"
+#include "Media/Reading/DecodingSoundReader.h"
 #include "Media/Reading/TrackClock.h"
 #include "Media/Reading/VideoReader.h"
 #include "Media/Threading/Verify.h"
@@ -47,7 +49,11 @@ std::shared_ptr<const DecodedFrame> placed(std::optional<ffmpeg::FirstFrame> fir
 
 std::shared_ptr<const OpenedAsset> OpenedAsset::open(const std::filesystem::path& path,
                                                      const std::stop_token& stop) {
-    auto file = ffmpeg::SourceFile::open(path);
+    return open(ffmpeg::SourceFile::open(path), stop);
+}
+
+std::shared_ptr<const OpenedAsset> OpenedAsset::open(std::shared_ptr<const ffmpeg::SourceFile> file,
+                                                     const std::stop_token& stop) {
     auto demuxer = openDemuxer(file, stop);
     ffmpeg::Inspected inspected = ffmpeg::inspect(*demuxer, *file, stop);
     auto info = std::make_unique<const ffmpeg::SourceInfo>(std::move(inspected.info));
@@ -98,5 +104,19 @@ std::vector<AssetTrack> OpenedAsset::tracks(MediaType type) const {
 
 /// This process decodes it.
 void OpenedAsset::setLossHandler(std::function<void()> /*handler*/) const {}
+
+std::unique_ptr<playback::FrameSource>
+OpenedAsset::makeFrameSource(playback::FrameSource::Keep keep) const {
+    if (tracks(MediaType::video).empty())
+        return nullptr;
+    return std::make_unique<playback::DecodingFrameSource>(shared_from_this(), std::move(keep));
+}
+
+/// A thread that a disk keeps waiting cannot be ended.
+void OpenedAsset::abandon() const {}
+
+std::unique_ptr<playback::SoundReader> OpenedAsset::makeSoundReader() const {
+    return playback::DecodingSoundReader::make(shared_from_this());
+}
 
 } // namespace media

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/Asset.h"
+#include "Media/Playback/PlayableAsset.h"
 #include "Media/Threading/Guarded.h"
 
 #include <memory>
@@ -18,10 +18,15 @@ class SourceFile;
 /// The asset that the engine makes: the open file, what was found out about it, and the demuxers
 /// that its readers borrow. Immutable, but for the pool, which guards itself, and the first frame;
 /// any thread.
-class OpenedAsset final : public Asset {
+class OpenedAsset final : public playback::PlayableAsset,
+                          public std::enable_shared_from_this<OpenedAsset> {
 public:
     /// As Asset::open().
     static std::shared_ptr<const OpenedAsset> open(const std::filesystem::path& path,
+                                                   const std::stop_token& stop = {});
+
+    /// The same with a file that is open already.
+    static std::shared_ptr<const OpenedAsset> open(std::shared_ptr<const ffmpeg::SourceFile> file,
                                                    const std::stop_token& stop = {});
 
     /// The engine's side of an asset, for its readers and exports: the only way to it. There are
@@ -38,6 +43,10 @@ public:
     [[nodiscard]] Time duration() const override;
     [[nodiscard]] std::vector<AssetTrack> tracks(MediaType type) const override;
     void setLossHandler(std::function<void()> handler) const override;
+    [[nodiscard]] std::unique_ptr<playback::FrameSource>
+    makeFrameSource(playback::FrameSource::Keep keep) const override;
+    [[nodiscard]] std::unique_ptr<playback::SoundReader> makeSoundReader() const override;
+    void abandon() const override;
 
     [[nodiscard]] const ffmpeg::SourceInfo& info() const { return *m_info; }
 

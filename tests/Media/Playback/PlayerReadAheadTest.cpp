@@ -1,7 +1,8 @@
 #include "PlayerStage.h"
 
 #include "Media/ExportFixture.h"
-#include "Media/Playback/FrameSource.h"
+#include "Media/Playback/FrameCache.h"
+#include "Media/Playback/PlayableAsset.h"
 #include "Media/Threading/ProcessorDemand.h"
 #include "TestSupport/TemporaryFolder.h"
 
@@ -43,22 +44,22 @@ TEST(PlayerReadAhead, readsAheadOfAJumpAndAroundThePointsOfInterest) {
 TEST(PlayerReadAhead, beginsBehindThePlayheadAtTheLastKeyFrame) {
     const Fixture fixture = longGroups();
     media::playback::FrameCache cache;
-    const auto item = std::make_shared<media::PlayerItem>(media::Asset::open(fixture.path));
-    cache.begin(item.get());
-    media::playback::DecoderBudget budget([] {});
-    media::playback::FrameSource source(cache, budget, item);
+    const auto asset = media::Asset::open(fixture.path);
+    cache.begin(asset.get());
+    const auto source = media::playback::PlayableAsset::of(asset)->makeFrameSource(
+        [&](media::playback::CachedFrame frame) { cache.insert(asset.get(), std::move(frame)); });
     const media::playback::PreviewSize size{640, 480};
     constexpr Ticks kKeyFrame(5000);
-    const auto goal = source.goalNearEnd({Ticks(2400), Ticks(6400)});
-    while (source.advance(goal, size, {}) == media::playback::FrameSource::Outcome::onTheWay)
-        ASSERT_LT(source.passingTicks(), Ticks(6400));
+    const auto goal = source->goalNearEnd({Ticks(2400), Ticks(6400)});
+    while (source->advance(goal, size, {}) == media::playback::FrameSource::Outcome::onTheWay)
+        ASSERT_LT(source->passingTicks(), Ticks(6400));
     const auto frame = cache.find(kKeyFrame, cache.nearest(kKeyFrame)->size());
     ASSERT_TRUE(frame);
     EXPECT_EQ(frame->range.begin, kKeyFrame);
-    EXPECT_GE(cache.coveredUntil(kKeyFrame, frame->size()), source.arrivedEnd())
+    EXPECT_GE(cache.coveredUntil(kKeyFrame, frame->size()), source->arrivedEnd())
         << "every frame on the way is kept";
-    EXPECT_LT(source.takeDecodedCount(), 20U) << "nothing of the group before";
-    EXPECT_EQ(source.goalNearEnd({Ticks(2400), kKeyFrame}).ticks, Ticks(2400));
+    EXPECT_LT(source->takeDecodedCount(), 20U) << "nothing of the group before";
+    EXPECT_EQ(source->goalNearEnd({Ticks(2400), kKeyFrame}).ticks, Ticks(2400));
 }
 
 TEST(PlayerReadAhead, restsWhileAnExportRunsAndGoesOnAfterwards) {

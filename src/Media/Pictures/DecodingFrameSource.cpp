@@ -1,4 +1,4 @@
-#include "Media/Playback/FrameSource.h"
+#include "Media/Pictures/DecodingFrameSource.h"
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/Decoder.h"
@@ -40,17 +40,12 @@ std::size_t byteCount(const AVFrame& frame) {
 
 } // namespace
 
-FrameSource::FrameSource(FrameCache& cache, DecoderBudget& budget,
-                         std::shared_ptr<const PlayerItem> item)
-    : m_cache(cache), m_budget(budget), m_item(std::move(item)) {
-    if (!m_item)
-        return;
-    const std::vector<AssetTrack> tracks = m_item->asset()->tracks(MediaType::video);
-    if (tracks.empty())
-        return;
-    m_firstTicks = tracks.front().startTime.ticks();
-    m_renderer = std::make_unique<PictureRenderer>(tracks.front());
-    if (auto first = OpenedAsset::of(m_item->asset())->takeFirstFrame()) {
+DecodingFrameSource::DecodingFrameSource(std::shared_ptr<const OpenedAsset> asset, Keep keep)
+    : m_asset(std::move(asset)),
+      m_track(m_asset->tracks(MediaType::video).front()),
+      m_keep(std::move(keep)),
+      m_renderer(m_track) {
+    if (auto first = m_asset->takeFirstFrame()) {
         const TickRange range{Ticks::beginning(), *first->knownEnd};
         m_arrived = Decoded{std::move(first), range, true};
     } else {
@@ -58,42 +53,37 @@ FrameSource::FrameSource(FrameCache& cache, DecoderBudget& budget,
     }
 }
 
-FrameSource::~FrameSource() {
-    m_budget.release();
-}
-
-VideoReader& FrameSource::reader() {
+VideoReader& DecodingFrameSource::reader() {
     if (!m_reader)
-        m_reader = std::make_unique<VideoReader>(m_item->asset(),
-                                                 m_item->asset()->tracks(MediaType::video).front());
+        m_reader = std::make_unique<VideoReader>(m_asset, m_track);
     return *m_reader;
 }
 
-void FrameSource::releaseDecoder() {
+void DecodingFrameSource::releaseDecoder() {
     m_goal.reset();
     m_unfinished.reset();
     m_passing.reset();
     m_position = Ticks::beginning();
     m_reader.reset();
-    m_budget.release();
+    m_decoderBytes = 0;
 }
 
-DecodingPace::Way FrameSource::wayTo(Ticks ticks) const {
+DecodingPace::Way DecodingFrameSource::wayTo(Ticks ticks) {
     if (!m_reader)
         return {.target = ticks};
     const VideoReader::Start start = m_reader->startOfWayTo(ticks);
     return {.target = ticks, .start = start.ticks, .isContinued = start.isHere};
 }
 
-FrameSource::Goal FrameSource::goalNearEnd(TickRange range) {
+DecodingFrameSource::Goal DecodingFrameSource::goalNearEnd(TickRange range) {
     const auto key = reader().keyFrameBefore(range.end - kLongestReorder - kLongestReorder);
     if (!key || *key <= range.begin)
         return {.ticks = range.begin, .completeFrom = range.begin};
     return {.ticks = *key + kLongestReorder, .completeFrom = *key};
 }
 
-FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
-                                          const std::stop_token& stop) {
+DecodingFrameSource::Outcome DecodingFrameSource::advance(const Goal& goal, PreviewSize size,
+                                                          const std::stop_token& stop) {
     // What is too late to be rendered is decoded all the same, for what follows it.
     if (goal.ticks >= goal.skipRenderingUntil && arriveAtKept(goal.ticks, size))
         return Outcome::arrived;
@@ -136,7 +126,7 @@ FrameSource::Outcome FrameSource::advance(const Goal& goal, PreviewSize size,
 }
 
 /// Whether the frame at `ticks` is one that only has to be rendered.
-bool FrameSource::arriveAtKept(Ticks ticks, PreviewSize size) {
+bool DecodingFrameSource::arriveAtKept(Ticks ticks, PreviewSize size) {
     const auto passed = std::ranges::find_if(
         m_passed, [ticks](const Decoded& decoded) { return decoded.range.holds(ticks); });
     if (passed != m_passed.end()) {
@@ -152,7 +142,7 @@ bool FrameSource::arriveAtKept(Ticks ticks, PreviewSize size) {
 }
 
 /// Whether there is a frame whose end is to be found out; decodes the next where there was none.
-bool FrameSource::readOn(const std::stop_token& stop) {
+bool DecodingFrameSource::readOn(const std::stop_token& stop) {
     if (m_unfinished)
         return true;
     std::optional<DecodedFrame> frame = reader().next(stop);
@@ -161,13 +151,13 @@ bool FrameSource::readOn(const std::stop_token& stop) {
         return false;
     }
     m_unfinished = std::make_shared<const DecodedFrame>(std::move(*frame));
-    m_budget.use(picturesOfDecoder() * byteCount(*m_unfinished->frame));
+    m_decoderBytes = picturesOfDecoder() * byteCount(*m_unfinished->frame);
     ++m_decodedCount;
     return true;
 }
 
-std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
-                                                        const std::stop_token& stop) {
+std::optional<DecodingFrameSource::Decoded>
+DecodingFrameSource::decode(const Goal& goal, const std::stop_token& stop) {
     if (!readOn(stop))
         return std::nullopt;
     const Ticks ticks = m_unfinished->ticks;
@@ -178,7 +168,7 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
     const bool isFirst = std::exchange(m_hasMoved, false);
     // Where nothing decodes before it the first frame stands for what was asked for; and where some
     // were left out after it that should have come later, it is known for that tick only.
-    if (ticks <= m_firstTicks)
+    if (ticks <= m_track.startTime.ticks())
         decoded.range.begin = Ticks::beginning();
     else if ((isFirst && ticks > goal.ticks) ||
              (!decoded.isComplete && goal.ticks < decoded.range.end))
@@ -188,7 +178,8 @@ std::optional<FrameSource::Decoded> FrameSource::decode(const Goal& goal,
 
 /// Where the frame after the one decoded last begins; where nothing decodes for long after the
 /// goal, until when at least it does not.
-Ticks FrameSource::endOf(const DecodedFrame& frame, Ticks goal, const std::stop_token& stop) {
+Ticks DecodingFrameSource::endOf(const DecodedFrame& frame, Ticks goal,
+                                 const std::stop_token& stop) {
     if (frame.knownEnd)
         return *frame.knownEnd;
     const Ticks from = goal == Ticks::forever() ? frame.ticks : std::max(frame.ticks, goal);
@@ -198,7 +189,7 @@ Ticks FrameSource::endOf(const DecodedFrame& frame, Ticks goal, const std::stop_
     return m_reader->hasEnded() ? Ticks::forever() : until + Ticks(1);
 }
 
-void FrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {
+void DecodingFrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {
     m_passing = decoded;
     if (!decoded.isComplete || decoded.range.end <= goal.completeFrom)
         return;
@@ -217,8 +208,9 @@ void FrameSource::pass(Decoded decoded, const Goal& goal, PreviewSize size) {
     }
 }
 
-std::optional<Ticks> FrameSource::advanceNear(Ticks earliest, Ticks latest, PreviewSize size,
-                                              const std::stop_token& stop) {
+std::optional<Ticks> DecodingFrameSource::advanceNear(Ticks earliest, Ticks latest,
+                                                      PreviewSize size,
+                                                      const std::stop_token& stop) {
     m_goal.reset();
     m_unfinished.reset();
     m_hasMoved = false;
@@ -237,7 +229,7 @@ std::optional<Ticks> FrameSource::advanceNear(Ticks earliest, Ticks latest, Prev
     return ticks;
 }
 
-std::shared_ptr<const CachedFrame> FrameSource::passing(PreviewSize size) {
+std::shared_ptr<const CachedFrame> DecodingFrameSource::passing(PreviewSize size) {
     if (!m_passing)
         return nullptr;
     auto frame = std::make_shared<CachedFrame>(rendered(*m_passing, size));
@@ -247,24 +239,23 @@ std::shared_ptr<const CachedFrame> FrameSource::passing(PreviewSize size) {
     return frame;
 }
 
-bool FrameSource::keepOnePassed(PreviewSize size) {
+void DecodingFrameSource::keepOnePassed(PreviewSize size) {
     if (m_passed.empty())
-        return false;
+        return;
     // The one that was passed last lies nearest to what was asked for.
     const Decoded nearest = std::move(m_passed.back());
     m_passed.pop_back();
     m_passedBytes -= byteCount(*nearest.frame->frame);
     keep(nearest, size);
-    return true;
 }
 
-void FrameSource::keep(const Decoded& decoded, PreviewSize size) {
-    m_cache.insert(m_item.get(), rendered(decoded, size));
+void DecodingFrameSource::keep(const Decoded& decoded, PreviewSize size) {
+    m_keep(rendered(decoded, size));
 }
 
-CachedFrame FrameSource::rendered(const Decoded& decoded, PreviewSize size) {
+CachedFrame DecodingFrameSource::rendered(const Decoded& decoded, PreviewSize size) {
     return {decoded.range, decoded.frame->time,
-            m_renderer->preview(*decoded.frame->frame, size.width, size.height)};
+            m_renderer.preview(*decoded.frame->frame, size.width, size.height)};
 }
 
 } // namespace media::playback

@@ -1,0 +1,139 @@
+#include "Media/Process/Client/RemoteExportSession.h"
+
+#include "Media/Error.h"
+#include "Media/Export/OutputFile.h"
+#include "Media/Process/Client/ForkServer.h"
+#include "Media/Process/Client/RemoteAsset.h"
+#include "Media/Process/Client/RemoteObject.h"
+#include "Media/Process/Wire/ExportMessages.h"
+#include "Media/SystemRefusal.h"
+#include "Media/Threading/ProcessorDemand.h"
+
+#include <functional>
+#include <utility>
+
+namespace media::process {
+
+namespace {
+
+void putSource(MessageWriter& writer, const Composition& composition) {
+    const auto& file = *RemoteAsset::of(composition.asset)->file();
+    writer.put(file.duplicate());
+    writer.put(std::string_view(file.path().native()));
+    writer.put(file.openedSize());
+}
+
+/// Has a helper of its own do one thing, and ends it when that is done or no more wanted. None if
+/// it ends by itself. Throws Error; Cancelled.
+template<typename Operation>
+std::optional<MessageReader> callOnce(ForkServer& server, ObjectKind kind, Operation operation,
+                                      MessageWriter arguments, const std::stop_token& stop,
+                                      const RemoteObject::Progress& progress = {}) {
+    const auto helper = server.fork();
+    RemoteObject remote(helper->makeObject(kind));
+    const std::stop_callback onStop(stop, [&] { helper->kill(); });
+    try {
+        return remote.call(operation, std::move(arguments), {}, progress);
+    } catch (const Error& error) {
+        if (stop.stop_requested())
+            throw Cancelled();
+        if (error.failure().kind != ErrorKind::decoderStopped)
+            throw;
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+RemoteExportSession::RemoteExportSession(ForkServer& server, Composition composition,
+                                         std::filesystem::path outputPath, FileType fileType,
+                                         EncoderSettings settings)
+    : m_server(server),
+      m_composition(std::move(composition)),
+      m_outputPath(std::move(outputPath)),
+      m_fileType(fileType),
+      m_settings(std::move(settings)) {
+    if (!m_composition.asset || !m_composition.videoTrack)
+        throw Error(ErrorKind::nothingToExport);
+    RemoteAsset::of(m_composition.asset)->file()->expectOtherFile(m_outputPath);
+}
+
+void RemoteExportSession::setVideoComposition(std::optional<VideoComposition> videoComposition) {
+    m_videoComposition = std::move(videoComposition);
+}
+
+void RemoteExportSession::run(std::stop_token stop) {
+    const ProcessorDemand demand;
+    m_state = State::exporting;
+    try {
+        if (stop.stop_requested())
+            throw Cancelled();
+        withRefusalsAsErrors([&] { exportFile(stop); });
+    } catch (const Cancelled&) {
+        m_state = State::cancelled;
+        throw;
+    } catch (...) {
+        m_state = State::failed;
+        throw;
+    }
+    m_progress = 1;
+    m_state = State::completed;
+}
+
+void RemoteExportSession::exportFile(const std::stop_token& stop) {
+    const auto source = RemoteAsset::of(m_composition.asset)->file();
+    source->expectUnchanged();
+    OutputFile file(m_outputPath);
+    write(file, stop);
+    // Much may have happened meanwhile, to the source and to its name.
+    source->expectUnchanged();
+    source->expectOtherFile(m_outputPath);
+    if (stop.stop_requested())
+        throw Cancelled();
+    file.commit();
+}
+
+void RemoteExportSession::write(const OutputFile& file, const std::stop_token& stop) {
+    MessageWriter arguments;
+    putSource(arguments, m_composition);
+    arguments.put(file.duplicate());
+    put(arguments, m_composition);
+    put(arguments, m_videoComposition);
+    arguments.put(static_cast<std::uint8_t>(m_fileType == FileType::mpeg4 ? 1 : 0));
+    put(arguments, m_settings);
+    const auto onProgress = [this](MessageReader& reader) {
+        const auto fraction = reader.getWithin<double>(0, 1);
+        if (fraction > m_progress.load(std::memory_order_relaxed))
+            m_progress.store(fraction, std::memory_order_relaxed);
+    };
+    auto answer = callOnce(m_server, ObjectKind::exportSession, ExportOperation::run,
+                           std::move(arguments), stop, onProgress);
+    if (!answer)
+        throw Error(ErrorKind::encoderStopped);
+    if (const auto code = answer->get<std::int32_t>(); code != 0)
+        file.throwError(code);
+}
+
+std::optional<ExportForecast>
+forecastRemotely(ForkServer& server, const Composition& composition,
+                 const std::optional<VideoComposition>& videoComposition,
+                 const EncoderSettings& settings, const std::stop_token& stop) {
+    if (!composition.asset || !composition.videoTrack)
+        throw Error(ErrorKind::nothingToExport);
+    MessageWriter arguments;
+    putSource(arguments, composition);
+    put(arguments, composition);
+    put(arguments, videoComposition);
+    put(arguments, settings);
+    auto answer = callOnce(server, ObjectKind::exportForecast, ForecastOperation::run,
+                           std::move(arguments), stop);
+    if (!answer)
+        return std::nullopt;
+    try {
+        return getForecast(*answer);
+    } catch (const BadMessage&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace media::process

@@ -1,0 +1,167 @@
+#include "Media/Process/Server/SystemCallFilter.h"
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <fcntl.h>
+#include <linux/audit.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sched.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#include <vector>
+
+namespace media::process {
+
+namespace {
+
+#if defined(__x86_64__)
+constexpr std::uint32_t kArchitecture = AUDIT_ARCH_X86_64;
+#elif defined(__aarch64__)
+constexpr std::uint32_t kArchitecture = AUDIT_ARCH_AARCH64;
+#else
+constexpr std::uint32_t kArchitecture = 0;
+#endif
+
+/// On x86, calls of its third interface (x32) have this bit.
+constexpr std::uint32_t kOtherInterface = 0x40000000;
+
+// clang-format off
+/// Allowed whatever their arguments are. None opens, names, makes or connects anything.
+constexpr long kAllowed[] = {
+    // Descriptors that are open.
+    SYS_read, SYS_write, SYS_readv, SYS_writev, SYS_pread64, SYS_pwrite64, SYS_preadv, SYS_pwritev,
+    SYS_lseek, SYS_fstat, SYS_close, SYS_close_range, SYS_dup, SYS_dup3, SYS_fsync, SYS_fdatasync,
+    SYS_sync_file_range, SYS_ftruncate, SYS_fallocate, SYS_fadvise64, SYS_ppoll, SYS_recvmsg,
+    SYS_sendmsg, SYS_recvfrom, SYS_sendto, SYS_shutdown, SYS_eventfd2, SYS_epoll_create1,
+    SYS_epoll_ctl, SYS_epoll_pwait,
+    // Memory.
+    SYS_brk, SYS_mmap, SYS_munmap, SYS_mprotect, SYS_mremap, SYS_madvise, SYS_memfd_create,
+    SYS_mlock, SYS_munlock, SYS_membarrier, SYS_mbind, SYS_get_mempolicy, SYS_set_mempolicy,
+    SYS_msync, SYS_mincore, SYS_pkey_mprotect,
+    // Threads and time.
+    SYS_futex, SYS_set_robust_list, SYS_get_robust_list, SYS_rseq, SYS_set_tid_address,
+    SYS_sched_yield, SYS_sched_getaffinity, SYS_sched_getparam, SYS_sched_getscheduler,
+    SYS_sched_get_priority_max, SYS_sched_get_priority_min, SYS_clock_gettime, SYS_clock_getres,
+    SYS_clock_nanosleep, SYS_nanosleep, SYS_gettimeofday, SYS_getcpu, SYS_restart_syscall,
+    SYS_rt_sigaction, SYS_rt_sigprocmask, SYS_rt_sigreturn, SYS_rt_sigpending, SYS_sigaltstack,
+    SYS_exit, SYS_exit_group,
+    // What it may know of itself and of the machine.
+    SYS_getpid, SYS_gettid, SYS_getppid, SYS_getuid, SYS_geteuid, SYS_getgid, SYS_getegid,
+    SYS_getrandom, SYS_getrusage, SYS_getpriority, SYS_times, SYS_sysinfo, SYS_uname,
+#if defined(__x86_64__)
+    SYS_poll, SYS_epoll_wait, SYS_dup2, SYS_time, SYS_arch_prctl,
+#endif
+};
+// clang-format on
+
+/// Offsets into what a filter sees. Of arguments the lower half, where numbers lie.
+constexpr std::uint32_t kNumber = offsetof(seccomp_data, nr);
+constexpr std::uint32_t kArchitectureOf = offsetof(seccomp_data, arch);
+
+constexpr std::uint32_t argument(unsigned index) {
+    return static_cast<std::uint32_t>(offsetof(seccomp_data, args) + index * 8);
+}
+
+/// Writes a filter: a list of cases, each of which ends with a verdict or goes on to the next.
+class FilterWriter {
+public:
+    void load(std::uint32_t offset) { add({BPF_LD | BPF_W | BPF_ABS, 0, 0, offset}); }
+
+    void giveBack(std::uint32_t verdict) { add({BPF_RET | BPF_K, 0, 0, verdict}); }
+
+    /// Where the value loaded is this one, the verdict.
+    void where(std::uint32_t value, std::uint32_t verdict) {
+        add({BPF_JMP | BPF_JEQ | BPF_K, 0, 1, value});
+        giveBack(verdict);
+    }
+
+    void whereNot(std::uint32_t value, std::uint32_t verdict) {
+        add({BPF_JMP | BPF_JEQ | BPF_K, 1, 0, value});
+        giveBack(verdict);
+    }
+
+    void whereAny(std::uint32_t bits, std::uint32_t verdict) {
+        add({BPF_JMP | BPF_JSET | BPF_K, 0, 1, bits});
+        giveBack(verdict);
+    }
+
+    /// Allows a call with an argument out of a list, and refuses it with another.
+    template<std::size_t Count>
+    void allowWith(long call, unsigned index, const std::array<std::uint32_t, Count>& values) {
+        add({BPF_JMP | BPF_JEQ | BPF_K, 0, static_cast<std::uint8_t>(2 + 2 * Count),
+             static_cast<std::uint32_t>(call)});
+        load(argument(index));
+        for (const std::uint32_t value : values)
+            where(value, SECCOMP_RET_ALLOW);
+        giveBack(SECCOMP_RET_ERRNO | EPERM);
+    }
+
+    /// Allows a call with any of these bits in an argument, and refuses it without.
+    void allowIfAny(long call, unsigned index, std::uint32_t bits) {
+        add({BPF_JMP | BPF_JEQ | BPF_K, 0, 4, static_cast<std::uint32_t>(call)});
+        load(argument(index));
+        whereAny(bits, SECCOMP_RET_ALLOW);
+        giveBack(SECCOMP_RET_ERRNO | EPERM);
+    }
+
+    [[nodiscard]] sock_fprog program() {
+        return {static_cast<unsigned short>(m_filter.size()), m_filter.data()};
+    }
+
+private:
+    void add(sock_filter step) { m_filter.push_back(step); }
+
+    std::vector<sock_filter> m_filter;
+};
+
+/// A new thread, but no new process.
+void allowThreads(FilterWriter& writer) {
+    // Its flags are where no filter can see them; the C library then takes the older call.
+    writer.where(SYS_clone3, SECCOMP_RET_ERRNO | ENOSYS);
+    writer.allowIfAny(SYS_clone, 0, CLONE_THREAD);
+}
+
+FilterWriter makeFilter() {
+    FilterWriter writer;
+    writer.load(kArchitectureOf);
+    writer.whereNot(kArchitecture, SECCOMP_RET_ERRNO | EPERM);
+    writer.load(kNumber);
+#if defined(__x86_64__)
+    writer.whereAny(kOtherInterface, SECCOMP_RET_ERRNO | EPERM);
+#endif
+    for (const long call : kAllowed)
+        writer.where(static_cast<std::uint32_t>(call), SECCOMP_RET_ALLOW);
+    allowThreads(writer);
+    // The state of an open descriptor, which some C libraries ask for by a call for paths.
+    writer.allowIfAny(SYS_newfstatat, 3, AT_EMPTY_PATH);
+    // Signals to itself only, as abort() sends them, and the limits and ranks of its own.
+    const auto self = static_cast<std::uint32_t>(::getpid());
+    writer.allowWith(SYS_tgkill, 0, std::array{self});
+    writer.allowWith(SYS_kill, 0, std::array{self});
+    writer.allowWith(SYS_prlimit64, 0, std::array{std::uint32_t{0}});
+    writer.allowWith(SYS_setpriority, 0, std::array{std::uint32_t{0}});
+    writer.allowWith(SYS_fcntl, 1,
+                     std::array<std::uint32_t, 8>{F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD, F_SETFD,
+                                                  F_GETFL, F_SETFL, F_ADD_SEALS, F_GET_SEALS});
+    constexpr std::uint32_t kNameMemory = 0x53564d41; // PR_SET_VMA, of Linux 5.17.
+    writer.allowWith(SYS_prctl, 0,
+                     std::array<std::uint32_t, 3>{PR_SET_NAME, PR_GET_NAME, kNameMemory});
+    writer.giveBack(SECCOMP_RET_ERRNO | EPERM);
+    return writer;
+}
+
+} // namespace
+
+void filterSystemCalls() noexcept {
+    if (kArchitecture == 0)
+        return;
+    FilterWriter writer = makeFilter();
+    const sock_fprog program = writer.program();
+    ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program, 0, 0);
+}
+
+} // namespace media::process
