@@ -65,12 +65,16 @@ std::optional<KeptEdit> EditState::unfinishedEdit() const {
     const Edit now = edit();
     if (!videoURL() || now == Edit{.trimEnd = m_duration} || now == m_exportedEdit)
         return std::nullopt;
-    return KeptEdit{.id = m_editId,
-                    .file = m_video.asset->path(),
-                    .identity = m_video.identity,
-                    .duration = m_duration,
-                    .edit = now,
-                    .playhead = m_currentTime};
+    return editToKeep();
+}
+
+KeptEdit EditState::editToKeep() const {
+    return {.id = m_editId,
+            .file = m_video.asset->path(),
+            .identity = m_video.identity,
+            .duration = m_duration,
+            .edit = edit(),
+            .playhead = m_currentTime};
 }
 
 void EditState::record(EditStep step, int run) {
@@ -156,6 +160,8 @@ void EditState::playedToEnd() {
 void EditState::togglePlayback() {
     verifyMainThread();
     m_history.endRun();
+    if (offerIfLost())
+        return;
     media::Player& player = *m_playerController.player();
     if (m_isPlaying) {
         player.pause();
@@ -183,7 +189,7 @@ void EditState::seekPlayer(double to) {
 
 void EditState::stepFrames(int count) {
     m_history.endRun();
-    if (!videoURL())
+    if (!videoURL() || offerIfLost())
         return;
     m_playerController.step(count);
     Q_EMIT markerMoved(EditMarker::playhead);

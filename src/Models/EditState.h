@@ -9,6 +9,7 @@
 #include "Models/EditMarker.h"
 #include "Models/KeptEdit.h"
 #include "Models/LoadedVideo.h"
+#include "Models/LossWatch.h"
 #include "Models/TrimRange.h"
 #include "Player/PlayerController.h"
 #include "Support/FilePanels.h"
@@ -35,6 +36,9 @@ namespace brisklet {
 /// properties and call the operations.
 ///
 ///     Empty ──load──▶ Editing ◀──exportTo / end of the export──▶ Exporting
+///                      │   ▲
+///        decoder stops ▼   │ openAgain
+///                       Lost
 ///
 /// Main thread only. Owned through std::shared_ptr (std::make_shared) by its window; pending loads
 /// hold it weakly, a running export keeps it alive until it ends. Observers hear of a property
@@ -86,7 +90,8 @@ public:
     /// The fraction done, 0 to 1, of the running export; none while none runs.
     [[nodiscard]] std::optional<double> exportProgress() const { return m_exportProgress.value(); }
 
-    /// The request that an export would make now, without an output; none without a video.
+    /// The request that an export would make now, without an output; none without a video, or while
+    /// it is lost.
     [[nodiscard]] std::optional<ExportRequest> plannedExport() const;
 
     /// The estimated size and duration of an export of the edit as it is now, if known.
@@ -109,6 +114,24 @@ public:
     [[nodiscard]] const std::optional<QString>& errorMessage() const {
         return m_errorMessage.value();
     }
+
+    /// Set while the video is lost, since the process that decoded it has ended unexpectedly: what
+    /// to tell the user. The edit and the playhead stay, can be changed and are kept. What needs
+    /// pictures (playing, single steps, a new export) offers to open the video again instead.
+    [[nodiscard]] const std::optional<QString>& lossMessage() const {
+        return m_lossMessage.value();
+    }
+
+    [[nodiscard]] bool isVideoLost() const { return lossMessage().has_value(); }
+
+    /// Whether to show lossMessage() and ask the user whether to open the video again. Whoever has
+    /// asked calls openAgain() or withdrawOffer().
+    [[nodiscard]] bool isOpenAgainOffered() const { return m_isOpenAgainOffered; }
+
+    void withdrawOffer() { m_isOpenAgainOffered = false; }
+
+    /// Whether openAgain() is at work.
+    [[nodiscard]] bool isOpeningAgain() const { return m_isOpeningAgain; }
 
     /// For the views that show the player and for observers of it. What changes the player goes
     /// through the operations below.
@@ -155,6 +178,12 @@ public:
     /// Loads the video of a kept edit, wherever it is now, and goes on with the edit: as load(),
     /// but that the edit is the kept one, as far as the file allows it.
     void reopen(const KeptEdit& kept);
+
+    /// Loads a lost video again, wherever its file is now, and goes on with the edit at the same
+    /// playhead. The steps to undo stay if the file is the same. A failure, also one to find the
+    /// file, sets errorMessage(), and the video stays lost. Does nothing if the video is not lost,
+    /// or is being opened again already.
+    void openAgain();
 
     /// Whether there is no video and none is being loaded.
     [[nodiscard]] bool isEmpty() const override { return !videoURL() && m_pendingLoads == 0; }
@@ -242,6 +271,9 @@ Q_SIGNALS:
     void exportForecastChanged();
     void lastExportChanged();
     void errorMessageChanged();
+    void lossMessageChanged();
+    void isOpenAgainOfferedChanged();
+    void isOpeningAgainChanged();
     /// Another video is about to take the place of this one; all properties are still its own.
     void editEnded();
     /// A video has been loaded, with all that is published of it but the filmstrip.
@@ -257,10 +289,28 @@ Q_SIGNALS:
     void exportFailed(const QString& message);
 
 private:
-    /// Of `kept`, if given; else of `url`.
-    QCoro::Task<> loadAsset(QUrl url, std::optional<KeptEdit> kept);
+    /// What to load, and what for.
+    struct LoadOrder {
+        QUrl url;
+        /// Instead of the URL: the edit whose video to look for.
+        std::optional<KeptEdit> kept;
+        /// The video whose place it takes, if it goes on with the edit of that one.
+        std::shared_ptr<const media::Asset> lost;
+    };
+
+    QCoro::Task<> loadAsset(LoadOrder order);
+    void loaded(const LoadOrder& order, const LoadedVideo& video, const QString& failure);
     void failToLoad(const QString& message, const std::optional<KeptEdit>& kept);
     void publish(const QUrl& url, const LoadedVideo& video, const std::optional<KeptEdit>& kept);
+    void publishAgain(const QUrl& url, const LoadedVideo& video);
+    /// Makes it the one that is edited.
+    void take(const LoadedVideo& video);
+    /// Hands it to the player.
+    void showFirstFrame();
+    void lose();
+    /// Whether the video is lost; if so, offers to open it again.
+    bool offerIfLost();
+    [[nodiscard]] KeptEdit editToKeep() const;
     void record(EditStep step, int run = EditHistory::kNoRun);
     void restore(const Edit& edit);
     void applyMuted(bool muted);
@@ -310,6 +360,11 @@ private:
                                &EditState::lastExportChanged)
     Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QString>, m_errorMessage,
                                &EditState::errorMessageChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(EditState, std::optional<QString>, m_lossMessage,
+                               &EditState::lossMessageChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(EditState, bool, m_isOpenAgainOffered,
+                               &EditState::isOpenAgainOfferedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(EditState, bool, m_isOpeningAgain, &EditState::isOpeningAgainChanged)
 
     EditHistory m_history{[this](const Edit& edit) { restore(edit); }};
     std::uint64_t m_editId = 0;
@@ -319,6 +374,7 @@ private:
     ExportRequest m_forecastRequest;
     /// What videoURL() was opened as.
     LoadedVideo m_video;
+    LossWatch m_lossWatch{[this] { lose(); }};
     PlayerController m_playerController;
     std::shared_ptr<FilePanels> m_filePanels;
     std::shared_ptr<RemoteFiles> m_remoteFiles;

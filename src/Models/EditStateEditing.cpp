@@ -106,7 +106,7 @@ void EditState::takeBackDrag(const DragOrigin& origin) {
         record(origin.marker == EditMarker::trimStart ? EditStep::trimStart : EditStep::trimEnd);
     }
     seek(origin.currentTime);
-    if (origin.isPlaying)
+    if (origin.isPlaying && !isVideoLost())
         m_playerController.player()->play();
 }
 

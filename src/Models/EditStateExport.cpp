@@ -29,7 +29,7 @@ SaveProposal proposalFor(const QUrl& source, ExportFormat format, int longestNam
 } // namespace
 
 void EditState::presentExportPanel() {
-    if (videoURL() && !m_exportProgress.value() && m_filePanels)
+    if (videoURL() && !m_exportProgress.value() && m_filePanels && !offerIfLost())
         askForOutput();
 }
 
@@ -40,11 +40,11 @@ QCoro::Task<> EditState::askForOutput() {
     // While the panel is open another window may change the shared settings, and a drop may
     // replace the video.
     const ExportChoice choice = ExportSettings::shared().choice();
-    const auto asset = m_video.asset;
+    const std::uint64_t editId = m_editId;
     auto panel = panels->saveMovie(proposalFor(*videoURL(), choice.format, m_video.maxNameBytes));
     const std::optional<QUrl> url = co_await panel;
     const auto self = weak.lock();
-    if (self && url && self->m_video.asset == asset)
+    if (self && url && self->m_editId == editId)
         self->startExport(*url, choice);
 }
 
@@ -54,7 +54,7 @@ void EditState::exportTo(const QUrl& outputURL) {
 
 void EditState::startExport(const QUrl& outputURL, ExportChoice choice) {
     verifyMainThread();
-    if (!videoURL() || m_exportProgress.value())
+    if (!videoURL() || m_exportProgress.value() || offerIfLost())
         return;
     m_playerController.player()->pause();
     ExportRequest request = exportRequest(outputURL, choice);
@@ -67,7 +67,7 @@ void EditState::startExport(const QUrl& outputURL, ExportChoice choice) {
 }
 
 std::optional<ExportRequest> EditState::plannedExport() const {
-    if (!videoURL())
+    if (!videoURL() || isVideoLost())
         return std::nullopt;
     return exportRequest({}, ExportSettings::shared().choice());
 }

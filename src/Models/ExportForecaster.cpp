@@ -168,8 +168,10 @@ void ExportForecaster::wakeAll() {
 
 void ExportForecaster::begin() {
     const auto request = m_state->plannedExport();
-    if (!request)
+    if (!request) {
+        settle();
         return;
+    }
     m_trial.emplace();
     s_isTrying = true;
     run(this, m_options.trial, *request, m_trial->get_token());
