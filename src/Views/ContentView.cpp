@@ -59,6 +59,7 @@ ContentView::ContentView(std::shared_ptr<EditState> state, QWidget* parent)
     showFace();
     showExport();
     showError();
+    showOffer();
 }
 
 ContentView::~ContentView() {
@@ -69,6 +70,8 @@ ContentView::~ContentView() {
 QWidget* ContentView::attachedSheet() const {
     if (m_alert)
         return m_alert;
+    if (m_offer)
+        return m_offer;
     return m_exportSheet;
 }
 
@@ -77,6 +80,9 @@ void ContentView::observe() {
     connect(state, &EditState::videoURLChanged, this, &ContentView::showFace);
     connect(state, &EditState::exportProgressChanged, this, &ContentView::showExport);
     connect(state, &EditState::errorMessageChanged, this, &ContentView::showError);
+    for (const auto changed : {&EditState::isOpenAgainOfferedChanged,
+                               &EditState::errorMessageChanged, &EditState::exportProgressChanged})
+        connect(state, changed, this, &ContentView::showOffer);
 }
 
 void ContentView::showFace() {
@@ -128,6 +134,28 @@ void ContentView::showError() {
     m_alert->open();
 }
 
+/// One thing at a time: it waits for the end of an export and for the other alert.
+void ContentView::showOffer() {
+    if (!m_state->isOpenAgainOffered() || m_state->errorMessage() || m_state->exportProgress()) {
+        delete m_offer;
+        return;
+    }
+    if (m_offer || !m_isPlaced)
+        return;
+    m_offer = new ErrorAlert(this);
+    //: A button: opens the video once more, after its decoder has stopped.
+    m_offer->offer(tr("Open Again"));
+    m_offer->setMessage(*m_state->lossMessage());
+    connect(m_offer, &QDialog::finished, this, [this](int result) {
+        // It is about to be deleted.
+        m_offer.clear();
+        m_state->withdrawOffer();
+        if (result == QDialog::Accepted)
+            m_state->openAgain();
+    });
+    m_offer->open();
+}
+
 void ContentView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     QWindow* handle = window()->windowHandle();
@@ -144,6 +172,7 @@ bool ContentView::eventFilter(QObject* watched, QEvent* event) {
         m_isPlaced = true;
         // At a later turn of the event loop the window knows its own position.
         QMetaObject::invokeMethod(this, &ContentView::showError, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ContentView::showOffer, Qt::QueuedConnection);
     }
     return QWidget::eventFilter(watched, event);
 }

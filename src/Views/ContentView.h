@@ -19,7 +19,7 @@ class ExportProgressView;
 
 /// The content of one editor window: the drop zone while it is empty, otherwise the editor. Accepts
 /// dropped files on either, and shows the model's error message as an alert and a running export as
-/// a sheet. Main thread.
+/// a sheet; then, in another alert, its offer to open a lost video again. Main thread.
 class ContentView final : public QWidget {
     Q_OBJECT
 
@@ -60,6 +60,7 @@ private:
     void showFace();
     void showExport();
     void showError();
+    void showOffer();
 
     [[nodiscard]] bool isDroppable(const QMimeData& mimeData) const;
     void setDragOver(bool isDragOver);
@@ -72,6 +73,7 @@ private:
     QWidget* m_editor;
     QPointer<ExportProgressView> m_exportSheet;
     QPointer<ErrorAlert> m_alert;
+    QPointer<ErrorAlert> m_offer;
     bool m_isDragOver = false;
     /// The window has been on the screen; before that its position is unknown.
     bool m_isPlaced = false;

@@ -2,11 +2,13 @@
 
 #include "Views/Controls/ControlsView.h"
 #include "Views/Crop/CropOverlayView.h"
+#include "Views/LostVideoView.h"
 #include "Views/Timeline/TimelineMarker.h"
 #include "Views/Timeline/TimelineStrip.h"
 #include "Views/Timeline/TimelineView.h"
 #include "Views/VideoArea.h"
 
+#include <QPushButton>
 #include <QStyle>
 
 #include <algorithm>
@@ -26,11 +28,13 @@ constexpr int kHandleWidth = 12;
 EditorView::EditorView(const std::shared_ptr<EditState>& state, QWidget* parent)
     : QWidget(parent),
       m_videoArea(new VideoArea(state, this)),
+      m_lostVideo(new LostVideoView(state, this)),
       m_timeline(new TimelineView(state, kStripHeight, kHandleWidth, this)),
       m_controls(new ControlsView(state, this)) {
     // The timeline passes the focus on to its playhead; the marker before that one comes first in
     // the order of the tab key.
-    setTabOrder(&m_videoArea->cropOverlay(), m_timeline->strip().markers().front());
+    setTabOrder(&m_videoArea->cropOverlay(), &m_lostVideo->openAgainButton());
+    setTabOrder(&m_lostVideo->openAgainButton(), m_timeline->strip().markers().front());
 }
 
 QSize EditorView::minimumSizeHint() const {
@@ -48,6 +52,7 @@ void EditorView::resizeEvent(QResizeEvent* event) {
     const int timelineTop = controlsTop - kSpacing - timelineHeight;
     m_videoArea->setGeometry(kPadding, kPadding, rowWidth,
                              std::max(0, timelineTop - kSpacing - kPadding));
+    m_lostVideo->setGeometry(m_videoArea->geometry());
     m_timeline->setGeometry(kPadding, timelineTop, rowWidth, timelineHeight);
     // The frames of the buttons align with the rows above, not their highlights.
     const int inset = ControlsView::leftInset();

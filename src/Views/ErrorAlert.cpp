@@ -1,8 +1,10 @@
 #include "Views/ErrorAlert.h"
 
+#include "Views/Painting/LongWords.h"
 #include "Views/Painting/SymbolView.h"
 #include "Views/Painting/Theme.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -19,23 +21,6 @@ constexpr int kPadding = 24;
 constexpr int kTextWidth = 340;
 constexpr int kButtonWidth = 96;
 
-/// The same text with places for line breaks inside words that are longer than a line: a file name
-/// can have 255 letters and no space.
-QString withBreaksInLongWords(const QString& text) {
-    constexpr int kLongestWord = 40;
-    QString result;
-    int wordLength = 0;
-    for (const QChar letter : text) {
-        wordLength = letter.isSpace() ? 0 : wordLength + 1;
-        if (wordLength > kLongestWord && !letter.isLowSurrogate()) {
-            result += QChar(0x200b);
-            wordLength = 1;
-        }
-        result += letter;
-    }
-    return result;
-}
-
 QLabel* plainLabel() {
     auto* label = new QLabel;
     label->setTextFormat(Qt::PlainText);
@@ -51,17 +36,18 @@ ErrorAlert::ErrorAlert(QWidget* window)
     : Sheet(window),
       m_symbol(new SymbolView(Symbol::exclamationTriangle, kSymbolSide)),
       m_title(plainLabel()),
-      m_text(plainLabel()) {
+      m_text(plainLabel()),
+      m_buttons(new QDialogButtonBox) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     //: The title of each alert; what went wrong stands below.
     setWindowTitle(tr("Something Went Wrong"));
     m_title->setText(windowTitle());
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* button = new QPushButton(tr("OK"));
-    button->setMinimumWidth(kButtonWidth);
-    button->setDefault(true);
-    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+    m_buttons->setCenterButtons(true);
+    addButton(tr("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
@@ -70,8 +56,23 @@ ErrorAlert::ErrorAlert(QWidget* window)
     stack->addWidget(m_symbol, 0, Qt::AlignHCenter);
     stack->addWidget(m_title, 0, Qt::AlignHCenter);
     stack->addWidget(m_text, 0, Qt::AlignHCenter);
-    stack->addWidget(button, 0, Qt::AlignHCenter);
+    stack->addWidget(m_buttons, 0, Qt::AlignHCenter);
     showLook();
+}
+
+QPushButton* ErrorAlert::addButton(const QString& title, QDialogButtonBox::ButtonRole role) {
+    QPushButton* button = m_buttons->addButton(title, role);
+    button->setMinimumWidth(kButtonWidth);
+    return button;
+}
+
+void ErrorAlert::offer(const QString& action) {
+    m_buttons->clear();
+    //: Dismisses an alert without doing what its other button offers.
+    addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    QPushButton* button = addButton(action, QDialogButtonBox::AcceptRole);
+    button->setDefault(true);
+    button->setFocus();
 }
 
 void ErrorAlert::setMessage(const QString& message) {

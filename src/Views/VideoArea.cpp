@@ -17,21 +17,20 @@ namespace brisklet {
 
 namespace {
 
-constexpr int kCornerRadius = 8;
 constexpr int kCropHandleSize = 12;
 
 /// Covers one corner of its parent outside the rounding with the colour of the window.
 class Corner final : public QWidget {
 public:
     explicit Corner(QWidget* parent) : QWidget(parent) {
-        setFixedSize(kCornerRadius, kCornerRadius);
+        setFixedSize(kVideoCornerRadius, kVideoCornerRadius);
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        paintRoundCorners(painter, parentWidget()->rect().translated(-pos()), kCornerRadius,
+        paintRoundCorners(painter, parentWidget()->rect().translated(-pos()), kVideoCornerRadius,
                           palette().color(QPalette::Window));
     }
 };
@@ -128,11 +127,11 @@ void VideoArea::layOut() {
     const int reach = m_cropOverlay->reach();
     m_cropOverlay->setGeometry(geometry().adjusted(-reach, -reach, reach, reach));
     m_cropOverlay->setVideoRect(picture.translated(reach, reach));
-    m_cropOverlay->setArea(rect().translated(reach, reach), kCornerRadius);
+    m_cropOverlay->setArea(rect().translated(reach, reach), kVideoCornerRadius);
     m_corners[0]->move(0, 0);
-    m_corners[1]->move(width() - kCornerRadius, 0);
-    m_corners[2]->move(width() - kCornerRadius, height() - kCornerRadius);
-    m_corners[3]->move(0, height() - kCornerRadius);
+    m_corners[1]->move(width() - kVideoCornerRadius, 0);
+    m_corners[2]->move(width() - kVideoCornerRadius, height() - kVideoCornerRadius);
+    m_corners[3]->move(0, height() - kVideoCornerRadius);
 }
 
 void VideoArea::paintEvent(QPaintEvent* event) {

@@ -14,6 +14,9 @@ class CropOverlayView;
 class EditState;
 class PlayerContainerView;
 
+/// Of the area, points.
+inline constexpr int kVideoCornerRadius = 8;
+
 /// Where a picture of `picture` pixels is in an area of `area` points: whole, centred, as large as
 /// possible. A picture of unknown size (0 × 0) counts as 16:9.
 QRectF fittedPicture(media::Size picture, QSizeF area);

@@ -54,6 +54,7 @@ CropOverlayView::CropOverlayView(std::shared_ptr<EditState> state, int handleSiz
     // By Tab only: a click must not take the arrow keys away from the frame steps.
     setFocusPolicy(Qt::TabFocus);
     connect(m_state.get(), &EditState::cropRectChanged, this, &CropOverlayView::followCrop);
+    connect(m_state.get(), &EditState::lossMessageChanged, this, &CropOverlayView::followCrop);
     connect(m_state.get(), &EditState::displaySizeChanged, this, &CropOverlayView::announce);
     connect(m_state.get(), &EditState::rotationChanged, this, &CropOverlayView::endDrag);
     connect(&m_escape, &DragEscape::interrupted, this, &CropOverlayView::endDrag);
@@ -106,7 +107,8 @@ QList<ShortcutGroup> CropOverlayView::shortcutGroups() const {
 }
 
 void CropOverlayView::followCrop() {
-    const bool isWanted = m_state->cropRect().has_value();
+    // Without a picture there is nothing to crop.
+    const bool isWanted = m_state->cropRect() && !m_state->isVideoLost();
     if (!isWanted) {
         endDrag();
         // Hiding would pass the focus on to another widget, where the same keys do other things.
