@@ -425,6 +425,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>المحرّر</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>الفتح مجددًا</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>تعذّرت إعادة فتح «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>لم يعد بالإمكان عرض «%1»: توقّف فك ترميزه على نحو غير متوقع. لم تُفقد التعديلات.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>OK</source>
         <translation>حسنًا</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>
@@ -1750,6 +1765,14 @@ export     يكتب نسخة من الملف:
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>النظام مشغول جدًا: لا يمكنه بدء خيط آخر.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>توقّف فك ترميز الفيديو على نحو غير متوقع.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>توقّف ترميز الفيديو على نحو غير متوقع. لم يبقَ أي شيء من الملف الجديد.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Editor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Otevřít znovu</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>„%1“ nelze znovu otevřít: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>Video „%1“ už nelze zobrazit: jeho dekodér neočekávaně skončil. Úpravy nejsou ztraceny.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Zkracuje videa. Každé VIDEO se otevře ve vlastním okně.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Zrušit</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1762,14 @@ Návratový kód: 0 hotovo; 1 selhání; 2 chybné použití; 130 přerušeno.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Systém je přetížený: nemůže spustit další vlákno.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Dekodér videa neočekávaně skončil.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Kodér videa neočekávaně skončil. Z nového souboru nic nezůstalo.</translation>
     </message>
 </context>
 </TS>

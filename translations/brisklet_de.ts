@@ -425,6 +425,11 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Editor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Wieder öffnen</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>„%1“ konnte nicht wieder geöffnet werden: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>„%1“ kann nicht mehr gezeigt werden: Der Decoder wurde unerwartet beendet. Die Bearbeitung ist nicht verloren.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Kürzt Videos. Jedes VIDEO öffnet sich in einem eigenen Fenster.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Exit-Status: 0 fertig; 1 fehlgeschlagen; 2 falscher Aufruf; 130 unterbrochen.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Das System ist überlastet: Es kann keinen weiteren Thread starten.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Der Video-Decoder wurde unerwartet beendet.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Der Video-Encoder wurde unerwartet beendet. Von der neuen Datei bleibt nichts zurück.</translation>
     </message>
 </context>
 </TS>

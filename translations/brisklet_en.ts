@@ -417,6 +417,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -633,6 +638,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -643,6 +653,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     </message>
     <message>
         <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1712,6 +1727,14 @@ Exit status: 0 done; 1 failed; 2 wrong usage; 130 interrupted.
     </message>
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

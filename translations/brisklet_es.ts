@@ -425,6 +425,11 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Editor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Volver a abrir</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>No se pudo volver a abrir «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>«%1» ya no se puede mostrar: su descodificador se ha detenido de forma inesperada. La edición no se ha perdido.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Acorta vídeos. Cada VIDEO se abre en una ventana propia.
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Estado de salida: 0 hecho; 1 fallo; 2 uso incorrecto; 130 interrumpido.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>El sistema está demasiado ocupado: no puede iniciar otro hilo.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>El descodificador de vídeo se ha detenido de forma inesperada.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>El codificador de vídeo se ha detenido de forma inesperada. No queda nada del archivo nuevo.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Éditeur</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Rouvrir</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Impossible de rouvrir «&#x202f;%1&#x202f;»&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>«&#x202f;%1&#x202f;» ne peut plus être affiché&#xa0;: son décodeur s’est arrêté de manière inattendue. Le montage n’est pas perdu.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Raccourcit des vidéos. Chaque VIDEO s’ouvre dans sa propre fenêtre.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Code de sortie&#xa0;: 0 réussi&#x202f;; 1 échec&#x202f;; 2 mauvais usage&#x202
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Le système est trop occupé&#xa0;: impossible de démarrer un nouveau fil d’exécution.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Le décodeur vidéo s’est arrêté de manière inattendue.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>L’encodeur vidéo s’est arrêté de manière inattendue. Il ne reste rien du nouveau fichier.</translation>
     </message>
 </context>
 </TS>

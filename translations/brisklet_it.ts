@@ -425,6 +425,11 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Editor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Apri di nuovo</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Impossibile riaprire «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>Non è più possibile mostrare «%1»: il suo decodificatore si è arrestato in modo imprevisto. Le modifiche non sono andate perse.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Accorcia video. Ogni VIDEO si apre in una finestra propria.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Stato di uscita: 0 riuscito; 1 fallito; 2 uso errato; 130 interrotto.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Il sistema è troppo occupato: non può avviare un altro thread.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Il decodificatore video si è arrestato in modo imprevisto.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Il codificatore video si è arrestato in modo imprevisto. Del nuovo file non rimane nulla.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>エディター</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>再び開く</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>「%1」を再び開けませんでした: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>「%1」を表示できなくなりました: デコーダーが予期せず停止しました。編集内容は失われていません。</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +1760,14 @@ export     ファイルのコピーを書き込みます:
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>システムの負荷が高すぎて、新しいスレッドを開始できません。</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>ビデオデコーダーが予期せず停止しました。</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>ビデオエンコーダーが予期せず停止しました。新しいファイルは残っていません。</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Editor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Heropenen</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Kan “%1” niet heropenen: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>“%1” kan niet meer worden weergegeven: de decoder is onverwacht gestopt. De bewerking is niet verloren.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Kort video’s in. Elke VIDEO opent in een eigen venster.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Annuleren</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Afsluitstatus: 0 klaar; 1 mislukt; 2 verkeerd gebruik; 130 onderbroken.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Het systeem is te druk: het kan geen nieuwe thread starten.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>De videodecoder is onverwacht gestopt.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>De video-encoder is onverwacht gestopt. Van het nieuwe bestand blijft niets achter.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Edytor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Otwórz ponownie</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Nie można ponownie otworzyć „%1”: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>Nie można już wyświetlać „%1”: dekoder nieoczekiwanie przestał działać. Edycja nie została utracona.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Przycina wideo. Każde VIDEO otwiera się w osobnym oknie.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Anuluj</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1762,14 @@ Kod wyjścia: 0 gotowe; 1 niepowodzenie; 2 błędne użycie; 130 przerwano.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>System jest zbyt obciążony: nie może uruchomić kolejnego wątku.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Dekoder wideo nieoczekiwanie przestał działać.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Koder wideo nieoczekiwanie przestał działać. Z nowego pliku nic nie pozostało.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Editor</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Abrir novamente</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Não foi possível reabrir “%1”: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>Não é mais possível exibir “%1”: o decodificador parou inesperadamente. A edição não foi perdida.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Apara vídeos. Cada VIDEO é aberto em uma janela própria.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Status de saída: 0 concluído; 1 falha; 2 uso incorreto; 130 interrompido.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>O sistema está ocupado demais: não pode iniciar outra thread.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>O decodificador de vídeo parou inesperadamente.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>O codificador de vídeo parou inesperadamente. Nada do novo arquivo foi deixado para trás.</translation>
     </message>
 </context>
 </TS>

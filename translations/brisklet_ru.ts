@@ -425,6 +425,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Редактор</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Открыть снова</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Не удалось снова открыть «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>Видео «%1» больше нельзя показать: его декодер неожиданно завершил работу. Правка не потеряна.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>OK</source>
         <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1762,14 @@ export     записывает копию файла:
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Система перегружена: невозможно запустить ещё один поток.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Декодер видео неожиданно завершил работу.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Кодировщик видео неожиданно завершил работу. От нового файла ничего не осталось.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Redigerare</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Öppna igen</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Kunde inte återöppna ”%1”: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>”%1” kan inte längre visas: dess avkodare har stoppats oväntat. Redigeringen har inte gått förlorad.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Trimmar videor. Varje VIDEO öppnas i ett eget fönster.
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Avbryt</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1761,14 @@ Slutstatus: 0 klar; 1 misslyckades; 2 felaktig användning; 130 avbruten.
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Systemet är för upptaget: det kan inte starta en tråd till.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Videoavkodaren har stoppats oväntat.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Videokodaren har stoppats oväntat. Inget av den nya filen finns kvar.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Düzenleyici</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Yeniden Aç</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>“%1” yeniden açılamadı: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>“%1” artık gösterilemiyor: kod çözücüsü beklenmedik şekilde durdu. Düzenleme kaybolmadı.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Videoları kısaltır. Her VIDEO kendi penceresinde açılır.
     <message>
         <source>OK</source>
         <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>İptal</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +1760,14 @@ export     dosyanın bir kopyasını yazar:
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Sistem çok meşgul: başka bir iş parçacığı başlatamıyor.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Video kod çözücüsü beklenmedik şekilde durdu.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Video kodlayıcısı beklenmedik şekilde durdu. Yeni dosyadan geriye hiçbir şey kalmadı.</translation>
     </message>
 </context>
 </TS>

@@ -425,6 +425,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>For screen readers: the window with a video.</extracomment>
         <translation>Редактор</translation>
     </message>
+    <message>
+        <source>Open Again</source>
+        <extracomment>A button: opens the video once more, after its decoder has stopped.</extracomment>
+        <translation>Відкрити знову</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ControlsView</name>
@@ -641,6 +646,11 @@ Trims videos. Each VIDEO opens in a window of its own.
         <extracomment>%1: the file’s name; %2: the reason, a whole sentence.</extracomment>
         <translation>Не вдалося знову відкрити «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” can’t be shown any more: its decoder has stopped unexpectedly. The edit is not lost.</source>
+        <extracomment>%1: the file’s name. The decoder is the part of the program that turns the file into pictures.</extracomment>
+        <translation>Відео «%1» більше не можна показати: його декодер неочікувано завершив роботу. Правку не втрачено.</translation>
+    </message>
 </context>
 <context>
     <name>brisklet::ErrorAlert</name>
@@ -652,6 +662,11 @@ Trims videos. Each VIDEO opens in a window of its own.
     <message>
         <source>OK</source>
         <translation>Гаразд</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Dismisses an alert without doing what its other button offers.</extracomment>
+        <translation>Скасувати</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1762,14 @@ export     записує копію файла:
     <message>
         <source>The system is too busy: it can’t start another thread.</source>
         <translation>Система перевантажена: неможливо запустити ще один потік.</translation>
+    </message>
+    <message>
+        <source>The video decoder has stopped unexpectedly.</source>
+        <translation>Декодер відео неочікувано завершив роботу.</translation>
+    </message>
+    <message>
+        <source>The video encoder has stopped unexpectedly. Nothing of the new file is left behind.</source>
+        <translation>Кодувальник відео неочікувано завершив роботу. Від нового файла нічого не лишилося.</translation>
     </message>
 </context>
 </TS>
