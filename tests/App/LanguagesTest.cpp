@@ -1,5 +1,6 @@
 #include "AppFixture.h"
 
+#include "LosableVideos/LosableVideos.h"
 #include "Platform/Updater/Appcast.h"
 #include "Platform/Updater/UpdateDialogs.h"
 #include "QtSupport/PseudoLanguage.h"
@@ -104,6 +105,14 @@ QWidgetList withChildren(QWidget& face) {
     return all;
 }
 
+/// Whether a text, or each line of it, is wholly in the pseudo-language or the same in all.
+bool isTranslated(const QString& text) {
+    const auto isFine = [](const QString& part) {
+        return part.isEmpty() || isForAll(part) || PseudoLanguage::isWholly(part);
+    };
+    return isFine(text) || std::ranges::all_of(text.split(u'\n'), isFine);
+}
+
 /// What is not wholly in the pseudo-language and should be.
 QStringList englishOf(QWidget& face) {
     QStringList found;
@@ -113,7 +122,7 @@ QStringList englishOf(QWidget& face) {
             continue;
         for (const QString& raw : textsOf(*widget)) {
             const QString text = readable(raw);
-            if (!text.isEmpty() && !isForAll(text) && !PseudoLanguage::isWholly(text))
+            if (!isTranslated(text))
                 found << text;
         }
     }
@@ -228,6 +237,7 @@ protected:
         lookAtAbout(*window, look);
         lookAtKeys(*window, look);
         lookAtPanels(*window, look);
+        lookAtLoss(*window, look);
         lookAtExport(*window, look);
     }
 
@@ -293,6 +303,14 @@ private:
         }
     }
 
+    void lookAtLoss(WindowRootView& window, const Look& look) {
+        testsupport::LosableVideos::lose(pathOf(video(2)));
+        ASSERT_TRUE(pumpUntil([&] { return visibleDialog(window) != nullptr; }));
+        lookAt("offer to open again", visibleDialog(window), look);
+        visibleDialog(window)->close();
+        lookAt("lost video", &window, look);
+    }
+
     void lookAtExport(WindowRootView& window, const Look& look) {
         ASSERT_TRUE(startLongExport(window));
         lookAt("progress", window.content().attachedSheet(), look);
@@ -334,6 +352,7 @@ private:
         return nullptr;
     }
 
+    testsupport::LosableVideos m_losable;
     std::unique_ptr<PseudoLanguage> m_pseudo;
     QTranslator m_translator;
 };

@@ -1,4 +1,4 @@
-"""What a process holds, sampled over time, and a plot of it."""
+"""What a program and its helpers hold, sampled over time, and a plot of it."""
 
 import csv
 import os
@@ -6,27 +6,60 @@ import threading
 import time
 from pathlib import Path
 
-# Name and unit: memory in MB, the others are counts.
-QUANTITIES = {"rss": "MB", "anonymous": "MB", "threads": "", "descriptors": ""}
-# Those that may not grow. Anonymous memory is the part of the resident that is not in a file: it
-# tells what the program holds from what the system keeps of its libraries.
-BOUNDED = ("rss", "threads", "descriptors")
+# Name and unit: memory in MB, the others are counts; all of all processes. Memory that several
+# processes share is counted once.
+QUANTITIES = {"memory": "MB", "anonymous": "MB", "processes": "", "threads": "", "descriptors": ""}
+# Those that may not grow. Anonymous memory is the part that is not in a file: it tells what the
+# program holds from what the system keeps of its libraries.
+BOUNDED = ("memory", "processes", "threads", "descriptors")
 INTERVAL = 5.0
 
 WIDTH, HEIGHT, MARGIN, GAP = 900, 150, 70, 34
 LINE, REST = "#8aa4c8", "#c0392b"
 
 
-def usage_of(pid):
+def family_of(pid):
+    """The process and all that descend from it."""
+    children = {}
+    for entry in Path("/proc").iterdir():
+        if entry.name.isdigit():
+            try:
+                parent = int((entry / "stat").read_text().rpartition(")")[2].split()[1])
+            except OSError:
+                continue
+            children.setdefault(parent, []).append(int(entry.name))
+    family = [pid]
+    for member in family:
+        family += children.get(member, [])
+    return family
+
+
+def usage_of_one(pid):
     process = Path("/proc") / str(pid)
     lines = (process / "smaps_rollup").read_text().splitlines()[1:]
     kilobytes = {line.split(":")[0]: int(line.split()[1]) for line in lines}
     return {
-        "rss": kilobytes["Rss"] / 1000,
-        "anonymous": kilobytes["Anonymous"] / 1000,
+        "memory": kilobytes["Pss"] / 1000,
+        "anonymous": kilobytes["Pss_Anon"] / 1000,
+        "processes": 1,
         "threads": len(os.listdir(process / "task")),
         "descriptors": len(os.listdir(process / "fd")),
     }
+
+
+def usage_of(pid):
+    total = dict.fromkeys(QUANTITIES, 0)
+    for member in family_of(pid):
+        try:
+            usage = usage_of_one(member)
+        except OSError:
+            if member == pid:
+                raise
+            # A helper that has ended meanwhile.
+            continue
+        for name, value in usage.items():
+            total[name] += value
+    return total
 
 
 class Sampler:
