@@ -5,10 +5,10 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <fcntl.h>
 #include <spawn.h>
 #include <string>
 #include <sys/wait.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -109,10 +109,15 @@ bool ForkServer::meet(Server& server) {
 
 /// Null if the server is gone.
 std::shared_ptr<HelperProcess> ForkServer::ask(Server& server) {
+    // The answer brings a descriptor. Without room for it there would be no answer.
+    Descriptor room(::fcntl(server.channel->number(), F_DUPFD_CLOEXEC, 0));
+    if (!room.isOpen())
+        throw Error(becauseOf(ErrorKind::unreadableFile, reasonOf(errno)));
     auto [ours, theirs] = Channel::makePair();
     MessageWriter writer;
     writer.put(std::uint8_t{0});
     writer.put(std::move(theirs));
+    room.close();
     std::optional<Message> message;
     if (server.channel->send(writer.message()))
         message = answerOf(server);

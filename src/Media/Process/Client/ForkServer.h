@@ -23,7 +23,8 @@ public:
     ~ForkServer();
 
     /// A new helper. Waits until the engine is loaded. Throws Error: if the installation is
-    /// incomplete or was updated meanwhile, or if the system starts no more processes.
+    /// incomplete or was updated meanwhile, if the system starts no more processes, or if there
+    /// are too many descriptors.
     [[nodiscard]] std::shared_ptr<HelperProcess> fork();
 
 private:

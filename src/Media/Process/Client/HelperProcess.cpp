@@ -10,7 +10,6 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/syscall.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -21,7 +20,7 @@ HelperProcess::HelperProcess(Descriptor process, Channel control)
       m_control(std::move(control)),
       m_stopWatch(::eventfd(0, EFD_CLOEXEC)) {
     if (!m_stopWatch.isOpen())
-        throw std::system_error(errno, std::generic_category());
+        throw Error(becauseOf(ErrorKind::unreadableFile, reasonOf(errno)));
     m_watch = std::jthread([this] { watch(); });
 }
 

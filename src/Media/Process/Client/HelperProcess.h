@@ -14,14 +14,15 @@ namespace media::process {
 /// still running in it then is killed, since it has nothing that lasts. Any thread.
 class HelperProcess {
 public:
-    /// `process` is a descriptor of it (pidfd), `control` its channel. Throws std::system_error.
+    /// `process` is a descriptor of it (pidfd), `control` its channel. Throws Error if
+    /// there are too many descriptors; std::system_error.
     HelperProcess(Descriptor process, Channel control);
     HelperProcess(const HelperProcess&) = delete;
     HelperProcess& operator=(const HelperProcess&) = delete;
     ~HelperProcess();
 
-    /// Makes an object in it, and gives this end of its channel. Throws Error (decoderStopped) if
-    /// the process is gone; std::system_error.
+    /// Makes an object in it, and gives this end of its channel. Throws Error: decoderStopped if the
+    /// process is gone, another if there are too many descriptors.
     [[nodiscard]] Descriptor makeObject(ObjectKind kind);
 
     /// Calls `handler` once, on a thread of this object, when the process ends by itself; at once

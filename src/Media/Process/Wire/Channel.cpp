@@ -1,5 +1,7 @@
 #include "Media/Process/Wire/Channel.h"
 
+#include "Media/Error.h"
+
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/uio.h>
@@ -8,7 +10,6 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
-#include <system_error>
 #include <utility>
 
 namespace media::process {
@@ -38,7 +39,7 @@ std::vector<Descriptor> descriptorsOf(msghdr& header) {
 Channel::Pair Channel::makePair() {
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
-        throw std::system_error(errno, std::generic_category());
+        throw Error(becauseOf(ErrorKind::unreadableFile, reasonOf(errno)));
     return {Channel(Descriptor(ends[0])), Descriptor(ends[1])};
 }
 

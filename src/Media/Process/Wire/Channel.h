@@ -18,7 +18,7 @@ public:
     static constexpr std::size_t kMostDescriptors = 4;
 
     struct Pair;
-    /// Both ends of a new one. Throws std::system_error.
+    /// Both ends of a new one. Throws Error if there are too many descriptors.
     static Pair makePair();
 
     explicit Channel(Descriptor socket) : m_socket(std::move(socket)) {}
