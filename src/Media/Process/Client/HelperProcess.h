@@ -21,8 +21,8 @@ public:
     HelperProcess& operator=(const HelperProcess&) = delete;
     ~HelperProcess();
 
-    /// Makes an object in it, and gives this end of its channel. Throws Error: decoderStopped if the
-    /// process is gone, another if there are too many descriptors.
+    /// Makes an object in it, and gives this end of its channel. Throws Error: decoderStopped if
+    /// the process is gone, another if there are too many descriptors.
     [[nodiscard]] Descriptor makeObject(ObjectKind kind);
 
     /// Calls `handler` once, on a thread of this object, when the process ends by itself; at once

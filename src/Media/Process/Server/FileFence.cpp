@@ -1,5 +1,8 @@
 #include "Media/Process/Server/FileFence.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -22,7 +25,7 @@ struct Ruleset {
 };
 
 /// How many kinds of access to files each version of the interface knows, beginning with 1.
-constexpr unsigned kFileRights[] = {13, 14, 15, 15, 16};
+constexpr std::array kFileRights = {13U, 14U, 15U, 15U, 16U};
 constexpr int kNetworkSince = 4;
 /// TCP: to bind, to connect.
 constexpr std::uint64_t kNetworkRights = 0b11;
@@ -31,10 +34,10 @@ constexpr int kScopesSince = 6;
 constexpr std::uint64_t kScopes = 0b11;
 
 Ruleset everythingOf(long version) {
-    constexpr long kKnown = sizeof kFileRights / sizeof kFileRights[0];
-    const auto index = static_cast<unsigned long>(version < kKnown ? version : kKnown) - 1;
+    constexpr long kKnown{kFileRights.size()};
+    const auto index = static_cast<std::size_t>(std::min(version, kKnown)) - 1;
     Ruleset ruleset;
-    ruleset.handledFiles = (std::uint64_t{1} << kFileRights[index]) - 1;
+    ruleset.handledFiles = (std::uint64_t{1} << kFileRights.at(index)) - 1;
     ruleset.handledNetwork = version >= kNetworkSince ? kNetworkRights : 0;
     ruleset.scoped = version >= kScopesSince ? kScopes : 0;
     return ruleset;

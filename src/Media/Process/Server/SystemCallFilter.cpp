@@ -31,29 +31,29 @@ constexpr std::uint32_t kOtherInterface = 0x40000000;
 
 // clang-format off
 /// Allowed whatever their arguments are. None opens, names, makes or connects anything.
-constexpr long kAllowed[] = {
+constexpr std::array kAllowed = {
     // Descriptors that are open.
-    SYS_read, SYS_write, SYS_readv, SYS_writev, SYS_pread64, SYS_pwrite64, SYS_preadv, SYS_pwritev,
-    SYS_lseek, SYS_fstat, SYS_close, SYS_close_range, SYS_dup, SYS_dup3, SYS_fsync, SYS_fdatasync,
-    SYS_sync_file_range, SYS_ftruncate, SYS_fallocate, SYS_fadvise64, SYS_ppoll, SYS_recvmsg,
-    SYS_sendmsg, SYS_recvfrom, SYS_sendto, SYS_shutdown, SYS_eventfd2, SYS_epoll_create1,
-    SYS_epoll_ctl, SYS_epoll_pwait,
+    long{SYS_read}, long{SYS_write}, long{SYS_readv}, long{SYS_writev}, long{SYS_pread64}, long{SYS_pwrite64}, long{SYS_preadv}, long{SYS_pwritev},
+    long{SYS_lseek}, long{SYS_fstat}, long{SYS_close}, long{SYS_close_range}, long{SYS_dup}, long{SYS_dup3}, long{SYS_fsync}, long{SYS_fdatasync},
+    long{SYS_sync_file_range}, long{SYS_ftruncate}, long{SYS_fallocate}, long{SYS_fadvise64}, long{SYS_ppoll}, long{SYS_recvmsg},
+    long{SYS_sendmsg}, long{SYS_recvfrom}, long{SYS_sendto}, long{SYS_shutdown}, long{SYS_eventfd2}, long{SYS_epoll_create1},
+    long{SYS_epoll_ctl}, long{SYS_epoll_pwait},
     // Memory.
-    SYS_brk, SYS_mmap, SYS_munmap, SYS_mprotect, SYS_mremap, SYS_madvise, SYS_memfd_create,
-    SYS_mlock, SYS_munlock, SYS_membarrier, SYS_mbind, SYS_get_mempolicy, SYS_set_mempolicy,
-    SYS_msync, SYS_mincore, SYS_pkey_mprotect,
+    long{SYS_brk}, long{SYS_mmap}, long{SYS_munmap}, long{SYS_mprotect}, long{SYS_mremap}, long{SYS_madvise}, long{SYS_memfd_create},
+    long{SYS_mlock}, long{SYS_munlock}, long{SYS_membarrier}, long{SYS_mbind}, long{SYS_get_mempolicy}, long{SYS_set_mempolicy},
+    long{SYS_msync}, long{SYS_mincore}, long{SYS_pkey_mprotect},
     // Threads and time.
-    SYS_futex, SYS_set_robust_list, SYS_get_robust_list, SYS_rseq, SYS_set_tid_address,
-    SYS_sched_yield, SYS_sched_getaffinity, SYS_sched_getparam, SYS_sched_getscheduler,
-    SYS_sched_get_priority_max, SYS_sched_get_priority_min, SYS_clock_gettime, SYS_clock_getres,
-    SYS_clock_nanosleep, SYS_nanosleep, SYS_gettimeofday, SYS_getcpu, SYS_restart_syscall,
-    SYS_rt_sigaction, SYS_rt_sigprocmask, SYS_rt_sigreturn, SYS_rt_sigpending, SYS_sigaltstack,
-    SYS_exit, SYS_exit_group,
+    long{SYS_futex}, long{SYS_set_robust_list}, long{SYS_get_robust_list}, long{SYS_rseq}, long{SYS_set_tid_address},
+    long{SYS_sched_yield}, long{SYS_sched_getaffinity}, long{SYS_sched_getparam}, long{SYS_sched_getscheduler},
+    long{SYS_sched_get_priority_max}, long{SYS_sched_get_priority_min}, long{SYS_clock_gettime}, long{SYS_clock_getres},
+    long{SYS_clock_nanosleep}, long{SYS_nanosleep}, long{SYS_gettimeofday}, long{SYS_getcpu}, long{SYS_restart_syscall},
+    long{SYS_rt_sigaction}, long{SYS_rt_sigprocmask}, long{SYS_rt_sigreturn}, long{SYS_rt_sigpending}, long{SYS_sigaltstack},
+    long{SYS_exit}, long{SYS_exit_group},
     // What it may know of itself and of the machine.
-    SYS_getpid, SYS_gettid, SYS_getppid, SYS_getuid, SYS_geteuid, SYS_getgid, SYS_getegid,
-    SYS_getrandom, SYS_getrusage, SYS_getpriority, SYS_times, SYS_sysinfo, SYS_uname,
+    long{SYS_getpid}, long{SYS_gettid}, long{SYS_getppid}, long{SYS_getuid}, long{SYS_geteuid}, long{SYS_getgid}, long{SYS_getegid},
+    long{SYS_getrandom}, long{SYS_getrusage}, long{SYS_getpriority}, long{SYS_times}, long{SYS_sysinfo}, long{SYS_uname},
 #if defined(__x86_64__)
-    SYS_poll, SYS_epoll_wait, SYS_dup2, SYS_time, SYS_arch_prctl,
+    long{SYS_poll}, long{SYS_epoll_wait}, long{SYS_dup2}, long{SYS_time}, long{SYS_arch_prctl},
 #endif
 };
 // clang-format on
@@ -63,7 +63,7 @@ constexpr std::uint32_t kNumber = offsetof(seccomp_data, nr);
 constexpr std::uint32_t kArchitectureOf = offsetof(seccomp_data, arch);
 
 constexpr std::uint32_t argument(unsigned index) {
-    return static_cast<std::uint32_t>(offsetof(seccomp_data, args) + index * 8);
+    return static_cast<std::uint32_t>(offsetof(seccomp_data, args) + std::size_t{index} * 8);
 }
 
 /// Writes a filter: a list of cases, each of which ends with a verdict or goes on to the next.
