@@ -24,6 +24,7 @@ int main() {
     const auto module = program.parent_path() / "brisklet-media.so";
     void* const loaded = ::dlopen(module.c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (loaded == nullptr) {
+        // NOLINTNEXTLINE(concurrency-mt-unsafe): there is one thread.
         std::fprintf(stderr, "%s\n", ::dlerror());
         return EXIT_FAILURE;
     }

@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
@@ -44,8 +45,8 @@ public:
     int spawn(const std::filesystem::path& program, int socket, pid_t& process) {
         ::posix_spawn_file_actions_adddup2(&m_actions, socket, kServersDescriptor);
         std::string name = program.filename();
-        char* const arguments[] = {name.data(), nullptr};
-        return ::posix_spawn(&process, program.c_str(), &m_actions, &m_attributes, arguments,
+        const std::array<char*, 2> arguments{name.data(), nullptr};
+        return ::posix_spawn(&process, program.c_str(), &m_actions, &m_attributes, arguments.data(),
                              environ);
     }
 

@@ -60,9 +60,9 @@ void serveForks(Descriptor socket) {
         sigset_t before;
         sigemptyset(&child);
         sigaddset(&child, SIGCHLD);
-        ::sigprocmask(SIG_BLOCK, &child, &before);
+        ::pthread_sigmask(SIG_BLOCK, &child, &before);
         auto helper = forkHelper(channel, reader.getDescriptor());
-        ::sigprocmask(SIG_SETMASK, &before, nullptr);
+        ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
         MessageWriter answer;
         answer.put(static_cast<std::uint8_t>(helper ? 1 : 0));
         if (helper)

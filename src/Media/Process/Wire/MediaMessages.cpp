@@ -288,7 +288,7 @@ std::span<const float> getSamples(MessageReader& reader, SharedArea& area) {
     getArea(reader, area);
     // A second of the fastest sound in the most channels that there are.
     constexpr std::uint64_t kMostSamples = std::uint64_t{768'000} * 64;
-    const std::size_t count = reader.getWithin<std::uint64_t>(0, kMostSamples);
+    const auto count = reader.getWithin<std::uint64_t>(0, kMostSamples);
     if (count == 0)
         return {};
     const std::span<const std::uint8_t> bytes = area.read(count * sizeof(float));
