@@ -19,6 +19,7 @@ namespace {
 std::atomic<EnginePlace> chosenPlace = EnginePlace::program;
 
 EnginePlace placeWanted() {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody changes the environment while the program runs.
     const char* const wanted = std::getenv("BRISKLET_ENGINE");
     if (wanted && std::string_view(wanted) == "program")
         return EnginePlace::program;

@@ -59,7 +59,7 @@ RemoteExportSession::RemoteExportSession(ForkServer& server, Composition composi
 }
 
 void RemoteExportSession::setVideoComposition(std::optional<VideoComposition> videoComposition) {
-    m_videoComposition = std::move(videoComposition);
+    m_videoComposition = videoComposition;
 }
 
 void RemoteExportSession::run(std::stop_token stop) {
