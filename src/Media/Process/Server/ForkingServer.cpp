@@ -1,4 +1,5 @@
 #include "Media/Process/Server/HelperMain.h"
+#include "Media/Process/Server/NumaNodes.h"
 #include "Media/Process/Wire/Channel.h"
 
 #include <cerrno>
@@ -44,6 +45,7 @@ std::optional<Descriptor> forkHelper(Channel& server, Descriptor socket) {
 
 void serveForks(Descriptor socket) {
     Channel channel(std::move(socket));
+    learnNumaNodes();
     // So that a child that ends interrupts the wait below, and is let go at once.
     struct sigaction action = {};
     action.sa_handler = [](int) {
