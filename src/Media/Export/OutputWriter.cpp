@@ -1,5 +1,6 @@
 #include "Media/Export/OutputWriter.h"
 
+#include "Media/FFmpeg/FileState.h"
 #include "Media/FFmpeg/SourceFile.h"
 
 #include <algorithm>
@@ -55,7 +56,7 @@ void OutputWriter::startFlush() {
 std::shared_ptr<const ffmpeg::SourceFile> OutputWriter::reader() const {
     struct stat status = {};
     Descriptor descriptor(::fcntl(m_file.number(), F_DUPFD_CLOEXEC, 0));
-    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0)
+    if (!descriptor.isOpen() || readState(descriptor, status) != 0)
         throw WriteRefusal(errno);
     return std::make_shared<const ffmpeg::SourceFile>(std::move(descriptor),
                                                       std::filesystem::path(), status);

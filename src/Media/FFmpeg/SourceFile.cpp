@@ -2,6 +2,7 @@
 
 #include "Media/Error.h"
 #include "Media/FFmpeg/FileName.h"
+#include "Media/FFmpeg/FileState.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -55,7 +56,7 @@ std::shared_ptr<const SourceFile> SourceFile::open(const std::filesystem::path& 
 std::shared_ptr<const SourceFile> SourceFile::adopt(Descriptor descriptor,
                                                     std::filesystem::path path) {
     struct stat status = {};
-    if (::fstat(descriptor.number(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (readState(descriptor, status) != 0 || !S_ISREG(status.st_mode))
         throw Error(ErrorKind::notARegularFile);
     if (status.st_size == 0)
         throw Error(ErrorKind::fileEmpty);
@@ -81,7 +82,7 @@ Descriptor SourceFile::duplicate() const {
 
 std::int64_t SourceFile::size() const {
     struct stat status = {};
-    return ::fstat(m_descriptor.number(), &status) == 0 ? std::int64_t{status.st_size} : 0;
+    return readState(m_descriptor, status) == 0 ? std::int64_t{status.st_size} : 0;
 }
 
 std::int64_t SourceFile::read(std::int64_t offset, std::uint8_t* buffer, std::int64_t count) const {

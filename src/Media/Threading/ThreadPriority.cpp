@@ -4,7 +4,6 @@
 #include <exception>
 #include <sys/resource.h>
 #include <thread>
-#include <unistd.h>
 
 namespace media {
 
@@ -15,10 +14,9 @@ constexpr int kMostNiceness = 19;
 } // namespace
 
 void standBack(int niceness) {
-    // On Linux this is a matter of single threads. The program itself may have been told to.
-    const auto thread = static_cast<id_t>(::gettid());
-    const int now = ::getpriority(PRIO_PROCESS, thread);
-    ::setpriority(PRIO_PROCESS, thread, std::min(now + niceness, kMostNiceness));
+    // On Linux 0 is the calling thread alone. The program itself may have been told to.
+    const int now = ::getpriority(PRIO_PROCESS, 0);
+    ::setpriority(PRIO_PROCESS, 0, std::min(now + niceness, kMostNiceness));
 }
 
 void runStandingBack(int niceness, const std::function<void()>& work) {

@@ -43,6 +43,8 @@ std::unique_ptr<Service> makeService(ObjectKind kind, HelpersAsset& asset) {
 } // namespace
 
 void serveProgram(Descriptor socket) {
+    if (!keepOnly(socket))
+        ::_exit(EXIT_FAILURE);
     confine();
     Channel channel(std::move(socket));
     HelpersAsset asset;

@@ -5,11 +5,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <fcntl.h>
+#include <link.h>
 #include <linux/audit.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <sched.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 #include <vector>
@@ -31,31 +34,29 @@ constexpr std::uint32_t kOtherInterface = 0x40000000;
 
 // clang-format off
 /// Allowed whatever their arguments are. None opens, names, makes or connects anything.
-constexpr std::array kAllowed = {
+constexpr auto kAllowed = std::to_array<long>({
     // Descriptors that are open.
-    long{SYS_read}, long{SYS_write}, long{SYS_readv}, long{SYS_writev}, long{SYS_pread64}, long{SYS_pwrite64}, long{SYS_preadv}, long{SYS_pwritev},
-    long{SYS_lseek}, long{SYS_fstat}, long{SYS_close}, long{SYS_close_range}, long{SYS_dup}, long{SYS_dup3}, long{SYS_fsync}, long{SYS_fdatasync},
-    long{SYS_sync_file_range}, long{SYS_ftruncate}, long{SYS_fallocate}, long{SYS_fadvise64}, long{SYS_ppoll}, long{SYS_recvmsg},
-    long{SYS_sendmsg}, long{SYS_recvfrom}, long{SYS_sendto}, long{SYS_shutdown}, long{SYS_eventfd2}, long{SYS_epoll_create1},
-    long{SYS_epoll_ctl}, long{SYS_epoll_pwait},
+    SYS_read, SYS_write, SYS_readv, SYS_writev, SYS_pread64, SYS_pwrite64, SYS_preadv, SYS_pwritev,
+    SYS_lseek, SYS_fstat, SYS_close, SYS_close_range, SYS_dup, SYS_dup3, SYS_fsync, SYS_fdatasync,
+    SYS_sync_file_range, SYS_ftruncate, SYS_fallocate, SYS_fadvise64, SYS_ppoll, SYS_recvmsg,
+    SYS_sendmsg, SYS_shutdown,
     // Memory.
-    long{SYS_brk}, long{SYS_mmap}, long{SYS_munmap}, long{SYS_mprotect}, long{SYS_mremap}, long{SYS_madvise}, long{SYS_memfd_create},
-    long{SYS_mlock}, long{SYS_munlock}, long{SYS_membarrier}, long{SYS_mbind}, long{SYS_get_mempolicy}, long{SYS_set_mempolicy},
-    long{SYS_msync}, long{SYS_mincore}, long{SYS_pkey_mprotect},
+    SYS_brk, SYS_munmap, SYS_mremap, SYS_madvise, SYS_mlock, SYS_munlock, SYS_membarrier,
+    SYS_mbind, SYS_get_mempolicy, SYS_set_mempolicy,
     // Threads and time.
-    long{SYS_futex}, long{SYS_set_robust_list}, long{SYS_get_robust_list}, long{SYS_rseq}, long{SYS_set_tid_address},
-    long{SYS_sched_yield}, long{SYS_sched_getaffinity}, long{SYS_sched_getparam}, long{SYS_sched_getscheduler},
-    long{SYS_sched_get_priority_max}, long{SYS_sched_get_priority_min}, long{SYS_clock_gettime}, long{SYS_clock_getres},
-    long{SYS_clock_nanosleep}, long{SYS_nanosleep}, long{SYS_gettimeofday}, long{SYS_getcpu}, long{SYS_restart_syscall},
-    long{SYS_rt_sigaction}, long{SYS_rt_sigprocmask}, long{SYS_rt_sigreturn}, long{SYS_rt_sigpending}, long{SYS_sigaltstack},
-    long{SYS_exit}, long{SYS_exit_group},
+    SYS_futex, SYS_set_robust_list, SYS_get_robust_list, SYS_rseq, SYS_set_tid_address,
+    SYS_sched_yield, SYS_sched_getaffinity, SYS_sched_getparam, SYS_sched_getscheduler,
+    SYS_sched_get_priority_max, SYS_sched_get_priority_min, SYS_clock_gettime, SYS_clock_getres,
+    SYS_clock_nanosleep, SYS_nanosleep, SYS_gettimeofday, SYS_getcpu, SYS_restart_syscall,
+    SYS_rt_sigaction, SYS_rt_sigprocmask, SYS_rt_sigreturn, SYS_rt_sigpending, SYS_sigaltstack,
+    SYS_exit, SYS_exit_group,
     // What it may know of itself and of the machine.
-    long{SYS_getpid}, long{SYS_gettid}, long{SYS_getppid}, long{SYS_getuid}, long{SYS_geteuid}, long{SYS_getgid}, long{SYS_getegid},
-    long{SYS_getrandom}, long{SYS_getrusage}, long{SYS_getpriority}, long{SYS_times}, long{SYS_sysinfo}, long{SYS_uname},
+    SYS_getpid, SYS_gettid, SYS_getppid, SYS_getuid, SYS_geteuid, SYS_getgid, SYS_getegid,
+    SYS_getrandom, SYS_getrusage, SYS_getpriority, SYS_times, SYS_sysinfo, SYS_uname,
 #if defined(__x86_64__)
-    long{SYS_poll}, long{SYS_epoll_wait}, long{SYS_dup2}, long{SYS_time}, long{SYS_arch_prctl},
+    SYS_poll, SYS_dup2, SYS_time, SYS_arch_prctl,
 #endif
-};
+});
 // clang-format on
 
 /// Offsets into what a filter sees. Of arguments the lower half, where numbers lie.
@@ -63,7 +64,7 @@ constexpr std::uint32_t kNumber = offsetof(seccomp_data, nr);
 constexpr std::uint32_t kArchitectureOf = offsetof(seccomp_data, arch);
 
 constexpr std::uint32_t argument(unsigned index) {
-    return static_cast<std::uint32_t>(offsetof(seccomp_data, args) + std::size_t{index} * 8);
+    return static_cast<std::uint32_t>(offsetof(seccomp_data, args) + std::size_t{8} * index);
 }
 
 /// Writes a filter: a list of cases, each of which ends with a verdict or goes on to the next.
@@ -100,12 +101,24 @@ public:
         giveBack(SECCOMP_RET_ERRNO | EPERM);
     }
 
-    /// Allows a call with any of these bits in an argument, and refuses it without.
-    void allowIfAny(long call, unsigned index, std::uint32_t bits) {
+    /// Allows a call whose first arguments are these, and refuses it with others.
+    template<std::size_t Count>
+    void allowWithAll(long call, const std::array<std::uint32_t, Count>& values) {
+        add({BPF_JMP | BPF_JEQ | BPF_K, 0, static_cast<std::uint8_t>(1 + 3 * Count),
+             static_cast<std::uint32_t>(call)});
+        for (unsigned index = 0; index < Count; ++index) {
+            load(argument(index));
+            whereNot(values[index], SECCOMP_RET_ERRNO | EPERM);
+        }
+        giveBack(SECCOMP_RET_ALLOW);
+    }
+
+    /// Allows a call with none of these bits in an argument, and refuses it with any.
+    void allowWithout(long call, unsigned index, std::uint32_t bits) {
         add({BPF_JMP | BPF_JEQ | BPF_K, 0, 4, static_cast<std::uint32_t>(call)});
         load(argument(index));
-        whereAny(bits, SECCOMP_RET_ALLOW);
-        giveBack(SECCOMP_RET_ERRNO | EPERM);
+        whereAny(bits, SECCOMP_RET_ERRNO | EPERM);
+        giveBack(SECCOMP_RET_ALLOW);
     }
 
     [[nodiscard]] sock_fprog program() {
@@ -118,11 +131,52 @@ private:
     std::vector<sock_filter> m_filter;
 };
 
-/// A new thread, but no new process.
+/// Whether a library that is loaded wants stacks that can be run as code, as some old assembler
+/// does.
+bool areStacksExecutable() {
+    const auto wantsOne = [](dl_phdr_info* object, std::size_t /*size*/, void* /*data*/) -> int {
+        for (int i = 0; i < object->dlpi_phnum; ++i) {
+            const auto& header = object->dlpi_phdr[i];
+            if (header.p_type == PT_GNU_STACK && (header.p_flags & PF_X) != 0)
+                return 1;
+        }
+        return 0;
+    };
+    return ::dl_iterate_phdr(wantsOne, nullptr) != 0;
+}
+
+/// New threads, as C libraries make them, but no new process and no namespace.
 void allowThreads(FilterWriter& writer) {
+    constexpr std::uint32_t kThread = CLONE_VM | CLONE_FS | CLONE_FILES | CLONE_SYSVSEM |
+                                      CLONE_SIGHAND | CLONE_THREAD | CLONE_SETTLS |
+                                      CLONE_PARENT_SETTID | CLONE_CHILD_CLEARTID;
     // Its flags are where no filter can see them; the C library then takes the older call.
     writer.where(SYS_clone3, SECCOMP_RET_ERRNO | ENOSYS);
-    writer.allowIfAny(SYS_clone, 0, CLONE_THREAD);
+    writer.allowWith(SYS_clone, 0, std::array{kThread, kThread | CLONE_DETACHED});
+}
+
+/// Memory, but no new code: all libraries are loaded. And none of the pages that few systems have,
+/// which a reader of shared memory would fault on.
+void allowMemory(FilterWriter& writer) {
+    const std::uint32_t refused = areStacksExecutable() ? 0 : PROT_EXEC;
+    writer.allowWithout(SYS_mmap, 2, refused);
+    writer.allowWithout(SYS_mprotect, 2, refused);
+    writer.allowWithout(SYS_memfd_create, 1, ~std::uint32_t{MFD_CLOEXEC | MFD_ALLOW_SEALING});
+}
+
+/// Signals to itself only, as abort() sends them, and the limits and ranks of its own.
+void allowItself(FilterWriter& writer) {
+    const auto self = static_cast<std::uint32_t>(::getpid());
+    writer.allowWith(SYS_tgkill, 0, std::array{self});
+    writer.allowWith(SYS_kill, 0, std::array{self});
+    writer.allowWith(SYS_prlimit64, 0, std::array{std::uint32_t{0}});
+    // Of the calling thread: which processors it runs on, and behind whom.
+    writer.allowWith(SYS_sched_setaffinity, 0, std::array{std::uint32_t{0}});
+    // The first argument could make it all processes of the user.
+    writer.allowWithAll(SYS_setpriority, std::array{std::uint32_t{PRIO_PROCESS}, std::uint32_t{0}});
+    constexpr std::uint32_t kNameMemory = 0x53564d41; // PR_SET_VMA, of Linux 5.17.
+    writer.allowWith(SYS_prctl, 0,
+                     std::array<std::uint32_t, 3>{PR_SET_NAME, PR_GET_NAME, kNameMemory});
 }
 
 FilterWriter makeFilter() {
@@ -136,20 +190,13 @@ FilterWriter makeFilter() {
     for (const long call : kAllowed)
         writer.where(static_cast<std::uint32_t>(call), SECCOMP_RET_ALLOW);
     allowThreads(writer);
-    // The state of an open descriptor, which some C libraries ask for by a call for paths.
-    writer.allowIfAny(SYS_newfstatat, 3, AT_EMPTY_PATH);
-    // Signals to itself only, as abort() sends them, and the limits and ranks of its own.
-    const auto self = static_cast<std::uint32_t>(::getpid());
-    writer.allowWith(SYS_tgkill, 0, std::array{self});
-    writer.allowWith(SYS_kill, 0, std::array{self});
-    writer.allowWith(SYS_prlimit64, 0, std::array{std::uint32_t{0}});
-    writer.allowWith(SYS_setpriority, 0, std::array{std::uint32_t{0}});
+    allowMemory(writer);
+    allowItself(writer);
+    // Not those that make another process’s signals or locks of it, nor F_SETFL: its flags are
+    // shared with the program.
     writer.allowWith(SYS_fcntl, 1,
-                     std::array<std::uint32_t, 8>{F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD, F_SETFD,
-                                                  F_GETFL, F_SETFL, F_ADD_SEALS, F_GET_SEALS});
-    constexpr std::uint32_t kNameMemory = 0x53564d41; // PR_SET_VMA, of Linux 5.17.
-    writer.allowWith(SYS_prctl, 0,
-                     std::array<std::uint32_t, 3>{PR_SET_NAME, PR_GET_NAME, kNameMemory});
+                     std::array<std::uint32_t, 7>{F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD, F_SETFD,
+                                                  F_GETFL, F_ADD_SEALS, F_GET_SEALS});
     writer.giveBack(SECCOMP_RET_ERRNO | EPERM);
     return writer;
 }
