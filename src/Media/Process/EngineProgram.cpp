@@ -3,6 +3,7 @@
 
 #include "Media/Module/EngineModule.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
@@ -33,5 +34,8 @@ int main() {
     if (serve == nullptr)
         return EXIT_FAILURE;
     serve(kChannel);
+    // The program is gone. Its helpers notice that by themselves, but for those that hang.
+    if (::getpgrp() == ::getpid())
+        ::kill(0, SIGKILL);
     return EXIT_SUCCESS;
 }

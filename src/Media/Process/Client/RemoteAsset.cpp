@@ -13,16 +13,36 @@
 
 namespace media::process {
 
+namespace {
+
+/// What a helper has found out about its file. The helper is ended when that is no more wanted:
+/// nobody else has a use for it yet.
+MessageReader factsOf(HelperProcess& helper, const ffmpeg::SourceFile& file,
+                      const std::stop_token& stop) {
+    RemoteObject remote(helper.makeObject(ObjectKind::asset), {}, [&helper] { helper.kill(); });
+    const std::stop_callback onStop(stop, [&helper] { helper.kill(); });
+    MessageWriter arguments;
+    arguments.put(file.duplicate());
+    arguments.put(std::string_view(file.path().native()));
+    try {
+        return remote.call(AssetOperation::open, std::move(arguments), stop);
+    } catch (const Error&) {
+        if (stop.stop_requested())
+            throw Cancelled();
+        throw;
+    }
+}
+
+} // namespace
+
 std::shared_ptr<const RemoteAsset> RemoteAsset::open(ForkServer& server,
                                                      const std::filesystem::path& path,
                                                      const std::stop_token& stop) {
     auto file = ffmpeg::SourceFile::open(path);
-    auto helper = server.fork();
-    RemoteObject remote(helper->makeObject(ObjectKind::asset));
-    MessageWriter arguments;
-    arguments.put(file->duplicate());
-    arguments.put(std::string_view(file->path().native()));
-    MessageReader answer = remote.call(AssetOperation::open, std::move(arguments), stop);
+    auto helper = server.fork(stop);
+    MessageReader answer = factsOf(*helper, *file, stop);
+    if (stop.stop_requested())
+        throw Cancelled();
     try {
         const Time duration = getTime(answer);
         std::vector<AssetTrack> tracks;
@@ -58,6 +78,14 @@ std::vector<AssetTrack> RemoteAsset::tracks(MediaType type) const {
     return result;
 }
 
+/// What ends the helper if it is still there.
+RemoteObject::Abandon RemoteAsset::abandoning() const {
+    return [helper = std::weak_ptr(m_helper)] {
+        if (const auto hung = helper.lock())
+            hung->kill();
+    };
+}
+
 void RemoteAsset::setLossHandler(std::function<void()> handler) const {
     m_helper->setEndHandler(std::move(handler));
 }
@@ -67,13 +95,13 @@ RemoteAsset::makeFrameSource(playback::FrameSource::Keep keep) const {
     if (tracks(MediaType::video).empty())
         return nullptr;
     return std::make_unique<RemoteFrameSource>(m_helper->makeObject(ObjectKind::frameSource),
-                                               std::move(keep));
+                                               std::move(keep), abandoning());
 }
 
 std::unique_ptr<playback::SoundReader> RemoteAsset::makeSoundReader() const {
     if (tracks(MediaType::audio).empty())
         return nullptr;
-    return RemoteSoundReader::make(m_helper->makeObject(ObjectKind::soundReader));
+    return RemoteSoundReader::make(m_helper->makeObject(ObjectKind::soundReader), abandoning());
 }
 
 } // namespace media::process

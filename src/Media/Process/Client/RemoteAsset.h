@@ -3,6 +3,7 @@
 #include "Media/FFmpeg/SourceFile.h"
 #include "Media/Playback/PlayableAsset.h"
 #include "Media/Process/Client/HelperProcess.h"
+#include "Media/Process/Client/RemoteObject.h"
 
 #include <functional>
 #include <memory>
@@ -45,6 +46,8 @@ public:
     [[nodiscard]] const std::shared_ptr<const ffmpeg::SourceFile>& file() const { return m_file; }
 
 private:
+    [[nodiscard]] RemoteObject::Abandon abandoning() const;
+
     std::shared_ptr<HelperProcess> m_helper;
     std::shared_ptr<const ffmpeg::SourceFile> m_file;
     Time m_duration;

@@ -29,17 +29,26 @@ template<typename Operation>
 std::optional<MessageReader> callOnce(ForkServer& server, ObjectKind kind, Operation operation,
                                       MessageWriter arguments, const std::stop_token& stop,
                                       const RemoteObject::Progress& progress = {}) {
-    const auto helper = server.fork();
-    RemoteObject remote(helper->makeObject(kind));
+    const auto helper = server.fork(stop);
+    RemoteObject remote(helper->makeObject(kind), {}, [&helper] { helper->kill(); });
     const std::stop_callback onStop(stop, [&] { helper->kill(); });
     try {
-        return remote.call(operation, std::move(arguments), {}, progress);
+        return remote.call(operation, std::move(arguments), stop, progress);
     } catch (const Error& error) {
         if (stop.stop_requested())
             throw Cancelled();
         if (error.failure().kind != ErrorKind::decoderStopped)
             throw;
         return std::nullopt;
+    }
+}
+
+/// 0, or the errno that writing failed with.
+int codeOf(MessageReader& answer) {
+    try {
+        return answer.get<std::int32_t>();
+    } catch (const BadMessage&) {
+        throw Error(ErrorKind::encoderStopped);
     }
 }
 
@@ -110,7 +119,7 @@ void RemoteExportSession::write(const OutputFile& file, const std::stop_token& s
                            std::move(arguments), stop, onProgress);
     if (!answer)
         throw Error(ErrorKind::encoderStopped);
-    if (const auto code = answer->get<std::int32_t>(); code != 0)
+    if (const int code = codeOf(*answer); code != 0)
         file.throwError(code);
 }
 

@@ -35,15 +35,28 @@ auto RemoteFrameSource::call(FrameOperation operation, MessageWriter arguments,
         MessageReader answer = m_remote.call(operation, std::move(arguments), stop);
         return read(answer);
     } catch (const BadMessage&) {
-        throw Error(ErrorKind::decoderStopped);
+        m_remote.giveUp();
     }
 }
 
-RemoteFrameSource::RemoteFrameSource(Descriptor socket, Keep keep)
+/// The same with an operation that cannot be stopped.
+template<typename Read>
+auto RemoteFrameSource::callShort(FrameOperation operation, MessageWriter arguments, Read read) {
+    try {
+        MessageReader answer = m_remote.callShort(operation, std::move(arguments));
+        return read(answer);
+    } catch (const BadMessage&) {
+        m_remote.giveUp();
+    }
+}
+
+RemoteFrameSource::RemoteFrameSource(Descriptor socket, Keep keep, RemoteObject::Abandon abandon)
     : m_keep(std::move(keep)),
-      m_remote(std::move(socket), [this](MessageReader& reader) { readPreamble(reader); }) {
+      m_remote(
+          std::move(socket), [this](MessageReader& reader) { readPreamble(reader); },
+          std::move(abandon)) {
     const bool isThere =
-        call(FrameOperation::open, {}, {}, [](MessageReader& answer) { return answer.getBool(); });
+        callShort(FrameOperation::open, {}, [](MessageReader& answer) { return answer.getBool(); });
     if (!isThere)
         throw Error(ErrorKind::noVideoTrack);
 }
@@ -69,15 +82,20 @@ void RemoteFrameSource::readPreamble(MessageReader& reader) {
 void RemoteFrameSource::keepFrames() {
     while (m_frame) {
         m_keep(*std::exchange(m_frame, std::nullopt));
-        if (m_waitingFrames > 0)
-            call(FrameOperation::takeFrame, {}, {}, kNothing);
+        const std::uint32_t left = m_waitingFrames;
+        if (left == 0)
+            return;
+        callShort(FrameOperation::takeFrame, {}, kNothing);
+        // Of one that always has another there would be no end.
+        if (m_waitingFrames >= left)
+            m_remote.giveUp();
     }
 }
 
 playback::DecodingPace::Way RemoteFrameSource::wayTo(Ticks ticks) {
     MessageWriter arguments;
     put(arguments, ticks);
-    return call(FrameOperation::wayTo, std::move(arguments), {}, [ticks](MessageReader& answer) {
+    return callShort(FrameOperation::wayTo, std::move(arguments), [ticks](MessageReader& answer) {
         playback::DecodingPace::Way way{.target = ticks};
         way.start = getOptionalTicks(answer);
         way.isContinued = answer.getBool();
@@ -88,7 +106,7 @@ playback::DecodingPace::Way RemoteFrameSource::wayTo(Ticks ticks) {
 RemoteFrameSource::Goal RemoteFrameSource::goalNearEnd(TickRange range) {
     MessageWriter arguments;
     put(arguments, range);
-    return call(FrameOperation::goalNearEnd, std::move(arguments), {}, getGoal);
+    return callShort(FrameOperation::goalNearEnd, std::move(arguments), getGoal);
 }
 
 RemoteFrameSource::Outcome RemoteFrameSource::advance(const Goal& goal, PreviewSize size,
@@ -120,8 +138,8 @@ std::optional<Ticks> RemoteFrameSource::advanceNear(Ticks earliest, Ticks latest
 std::shared_ptr<const CachedFrame> RemoteFrameSource::passing(PreviewSize size) {
     MessageWriter arguments;
     put(arguments, size);
-    const bool isThere = call(FrameOperation::passing, std::move(arguments), {},
-                              [](MessageReader& answer) { return answer.getBool(); });
+    const bool isThere = callShort(FrameOperation::passing, std::move(arguments),
+                                   [](MessageReader& answer) { return answer.getBool(); });
     if (!isThere || !m_frame)
         return nullptr;
     return std::make_shared<const CachedFrame>(*std::exchange(m_frame, std::nullopt));
@@ -130,12 +148,12 @@ std::shared_ptr<const CachedFrame> RemoteFrameSource::passing(PreviewSize size) 
 void RemoteFrameSource::keepOnePassed(PreviewSize size) {
     MessageWriter arguments;
     put(arguments, size);
-    call(FrameOperation::keepOnePassed, std::move(arguments), {}, kNothing);
+    callShort(FrameOperation::keepOnePassed, std::move(arguments), kNothing);
     keepFrames();
 }
 
 void RemoteFrameSource::releaseDecoder() {
-    call(FrameOperation::releaseDecoder, {}, {}, kNothing);
+    callShort(FrameOperation::releaseDecoder, {}, kNothing);
 }
 
 } // namespace media::process

@@ -14,8 +14,8 @@ namespace media::process {
 /// A frame source that a helper has. Every function that moves it waits for the helper.
 class RemoteFrameSource final : public playback::FrameSource {
 public:
-    /// Throws Error if the helper cannot decode the pictures.
-    RemoteFrameSource(Descriptor socket, Keep keep);
+    /// `abandon` ends the helper. Throws Error if the helper cannot decode the pictures.
+    RemoteFrameSource(Descriptor socket, Keep keep, RemoteObject::Abandon abandon);
 
     [[nodiscard]] playback::DecodingPace::Way wayTo(Ticks ticks) override;
     [[nodiscard]] Goal goalNearEnd(TickRange range) override;
@@ -58,6 +58,8 @@ private:
     template<typename Read>
     auto call(FrameOperation operation, MessageWriter arguments, const std::stop_token& stop,
               Read read);
+    template<typename Read>
+    auto callShort(FrameOperation operation, MessageWriter arguments, Read read);
     void readPreamble(MessageReader& reader);
     void keepFrames();
 

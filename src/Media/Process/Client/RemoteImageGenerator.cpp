@@ -24,7 +24,8 @@ Descriptor objectIn(const std::shared_ptr<const Asset>& asset) {
 } // namespace
 
 RemoteImageGenerator::RemoteImageGenerator(std::shared_ptr<const Asset> asset)
-    : m_asset(std::move(asset)), m_remote(objectIn(m_asset)) {}
+    : m_asset(std::move(asset)),
+      m_remote(objectIn(m_asset), {}, [this] { RemoteAsset::of(m_asset)->abandon(); }) {}
 
 void RemoteImageGenerator::setMaximumSize(int width, int height) {
     m_maximumWidth = std::max(width, 0);
@@ -48,12 +49,8 @@ MessageWriter RemoteImageGenerator::settings() const {
 TimedImage RemoteImageGenerator::image(Time time, std::stop_token stop) {
     MessageWriter arguments = settings();
     put(arguments, time);
-    try {
-        MessageReader answer = m_remote.call(StillOperation::image, std::move(arguments), stop);
-        return getImage(answer, m_area);
-    } catch (const BadMessage&) {
-        throw Error(ErrorKind::decoderStopped);
-    }
+    MessageReader answer = m_remote.call(StillOperation::image, std::move(arguments), stop);
+    return getPicture(answer);
 }
 
 std::vector<Still> RemoteImageGenerator::images(const std::vector<Time>& times,
@@ -78,12 +75,18 @@ Still RemoteImageGenerator::take(std::size_t index) {
     MessageWriter arguments;
     arguments.put(static_cast<std::uint32_t>(index));
     try {
-        MessageReader answer = m_remote.call(StillOperation::take, std::move(arguments), {});
-        return {getImage(answer, m_area), nullptr};
-    } catch (const BadMessage&) {
-        return {std::nullopt, std::make_exception_ptr(Error(ErrorKind::decoderStopped))};
+        MessageReader answer = m_remote.callShort(StillOperation::take, std::move(arguments));
+        return {getPicture(answer), nullptr};
     } catch (const Error&) {
         return {std::nullopt, std::current_exception()};
+    }
+}
+
+TimedImage RemoteImageGenerator::getPicture(MessageReader& answer) {
+    try {
+        return getImage(answer, m_area);
+    } catch (const BadMessage&) {
+        m_remote.giveUp();
     }
 }
 

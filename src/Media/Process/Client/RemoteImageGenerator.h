@@ -24,6 +24,7 @@ public:
 private:
     [[nodiscard]] MessageWriter settings() const;
     [[nodiscard]] Still take(std::size_t index);
+    [[nodiscard]] TimedImage getPicture(MessageReader& answer);
 
     std::shared_ptr<const Asset> m_asset;
     int m_maximumWidth = 0;

@@ -10,36 +10,83 @@
 
 namespace media::process {
 
-RemoteObject::RemoteObject(Descriptor socket, Preamble preamble)
-    : m_channel(std::move(socket)), m_preamble(std::move(preamble)) {}
+namespace {
+
+/// How often a call that waits looks whether it has waited for too long.
+constexpr std::chrono::milliseconds kLook{100};
+
+} // namespace
+
+bool RemoteObject::Waiting::isOver() {
+    const auto now = std::chrono::steady_clock::now();
+    if (!m_end && m_stop.stop_requested())
+        m_end = now + m_most;
+    return m_end && now >= *m_end;
+}
+
+RemoteObject::RemoteObject(Descriptor socket, Preamble preamble, Abandon abandon)
+    : RemoteObject(std::move(socket), std::move(preamble), std::move(abandon), Patience()) {}
+
+RemoteObject::RemoteObject(Descriptor socket, Preamble preamble, Abandon abandon, Patience patience)
+    : m_channel(std::move(socket)),
+      m_preamble(std::move(preamble)),
+      m_abandon(std::move(abandon)),
+      m_patience(patience) {}
+
+void RemoteObject::giveUp() const {
+    if (m_abandon)
+        m_abandon();
+    throw Error(ErrorKind::decoderStopped);
+}
 
 MessageReader RemoteObject::callNumbered(std::int32_t operation, MessageWriter arguments,
-                                         const std::stop_token& stop, const Progress& progress) {
+                                         Waiting waiting, const Progress& progress) {
     const std::uint32_t call = ++m_lastCall;
+    if (!sendCall(call, operation, std::move(arguments)))
+        throw Error(ErrorKind::decoderStopped);
+    const std::stop_callback onStop(waiting.stop(), [this, call] { sendStop(call); });
+    try {
+        return awaitAnswer(call, waiting, progress);
+    } catch (const BadMessage&) {
+        giveUp();
+    }
+}
+
+/// False if the helper is gone, or if the arguments are too long.
+bool RemoteObject::sendCall(std::uint32_t call, std::int32_t operation, MessageWriter arguments) {
     try {
         MessageWriter writer;
         writer.put(call);
         writer.put(operation);
         writer.append(std::move(arguments));
-        if (!m_channel.send(writer.message()))
-            throw Error(ErrorKind::decoderStopped);
-        const std::stop_callback onStop(stop, [this, call] { sendStop(call); });
-        return awaitAnswer(call, progress);
+        return m_channel.send(writer.message());
     } catch (const BadMessage&) {
-        throw Error(ErrorKind::decoderStopped);
+        return false;
     }
 }
 
-MessageReader RemoteObject::awaitAnswer(std::uint32_t call, const Progress& progress) {
+Message RemoteObject::awaitMessage(Waiting& waiting) {
+    while (!m_channel.waitFor(kLook)) {
+        if (waiting.isOver())
+            giveUp();
+    }
+    std::optional<Message> message = m_channel.receive();
+    if (!message)
+        throw Error(ErrorKind::decoderStopped);
+    return std::move(*message);
+}
+
+MessageReader RemoteObject::awaitAnswer(std::uint32_t call, Waiting& waiting,
+                                        const Progress& progress) {
     for (;;) {
-        std::optional<Message> message = m_channel.receive();
-        if (!message)
-            throw Error(ErrorKind::decoderStopped);
-        MessageReader reader(std::move(*message));
+        MessageReader reader(awaitMessage(waiting));
         if (reader.get<std::uint32_t>() != call)
             throw BadMessage();
         const auto answer = reader.getEnum(Answer::count);
         if (answer == Answer::progress) {
+            // One that only ever reports would keep the caller for ever.
+            if (waiting.isOver())
+                giveUp();
             if (progress)
                 progress(reader);
             continue;

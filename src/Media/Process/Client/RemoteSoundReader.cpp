@@ -1,6 +1,5 @@
 #include "Media/Process/Client/RemoteSoundReader.h"
 
-#include "Media/Error.h"
 #include "Media/Playback/AudioOutput.h"
 #include "Media/Process/Wire/MediaMessages.h"
 #include "Media/Process/Wire/Protocol.h"
@@ -9,13 +8,15 @@
 
 namespace media::process {
 
-std::unique_ptr<RemoteSoundReader> RemoteSoundReader::make(Descriptor socket) {
-    std::unique_ptr<RemoteSoundReader> reader(new RemoteSoundReader(std::move(socket)));
+std::unique_ptr<RemoteSoundReader> RemoteSoundReader::make(Descriptor socket,
+                                                           RemoteObject::Abandon abandon) {
+    std::unique_ptr<RemoteSoundReader> reader(
+        new RemoteSoundReader(std::move(socket), std::move(abandon)));
     try {
-        return reader->m_remote.call(SoundOperation::open, {}, {}).getBool() ? std::move(reader)
-                                                                             : nullptr;
+        return reader->m_remote.callShort(SoundOperation::open, {}).getBool() ? std::move(reader)
+                                                                              : nullptr;
     } catch (const BadMessage&) {
-        throw Error(ErrorKind::decoderStopped);
+        reader->m_remote.giveUp();
     }
 }
 
@@ -32,7 +33,7 @@ std::span<const float> RemoteSoundReader::next(const std::stop_token& stop) {
         // Half a frame is none.
         return samples.first(samples.size() - samples.size() % playback::kOutputChannels);
     } catch (const BadMessage&) {
-        throw Error(ErrorKind::decoderStopped);
+        m_remote.giveUp();
     }
 }
 
