@@ -184,6 +184,7 @@ TEST_F(ChannelTest, isSentOverByManyWhileOneReceives) {
     constexpr int kThreads = 4;
     constexpr int kMessages = 500;
     std::vector<std::jthread> senders;
+    senders.reserve(kThreads);
     for (int thread = 0; thread < kThreads; ++thread) {
         senders.emplace_back([this, thread] {
             for (int i = 0; i < kMessages; ++i) {

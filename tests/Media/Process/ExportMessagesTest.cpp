@@ -71,9 +71,11 @@ struct WiredComposition {
         return composition;
     }
 
-    void write(MessageWriter& writer, const Composition& composition) { put(writer, composition); }
+    static void write(MessageWriter& writer, const Composition& composition) {
+        put(writer, composition);
+    }
 
-    Composition read(MessageReader& reader) { return getComposition(reader, fewTracks()); }
+    static Composition read(MessageReader& reader) { return getComposition(reader, fewTracks()); }
 
     static bool isSame(const Composition& a, const Composition& b) { return process::isSame(a, b); }
 
@@ -108,9 +110,9 @@ struct WiredVideoComposition {
         return composition;
     }
 
-    void write(MessageWriter& writer, const Value& value) { put(writer, value); }
+    static void write(MessageWriter& writer, const Value& value) { put(writer, value); }
 
-    Value read(MessageReader& reader) { return getVideoComposition(reader); }
+    static Value read(MessageReader& reader) { return getVideoComposition(reader); }
 
     static bool isSame(const Value& a, const Value& b) {
         return a.has_value() == b.has_value() && (!a || process::isSame(*a, *b));
@@ -142,9 +144,11 @@ struct WiredSettings {
         return settings;
     }
 
-    void write(MessageWriter& writer, const EncoderSettings& settings) { put(writer, settings); }
+    static void write(MessageWriter& writer, const EncoderSettings& settings) {
+        put(writer, settings);
+    }
 
-    EncoderSettings read(MessageReader& reader) { return getSettings(reader); }
+    static EncoderSettings read(MessageReader& reader) { return getSettings(reader); }
 
     static bool isSame(const EncoderSettings& a, const EncoderSettings& b) {
         return process::isSame(a, b);
@@ -199,9 +203,9 @@ struct WiredForecast {
         return ExportForecast{bytes, values.number<double>(0)};
     }
 
-    void write(MessageWriter& writer, const Value& value) { put(writer, value); }
+    static void write(MessageWriter& writer, const Value& value) { put(writer, value); }
 
-    Value read(MessageReader& reader) { return getForecast(reader); }
+    static Value read(MessageReader& reader) { return getForecast(reader); }
 
     static bool isSame(const Value& a, const Value& b) { return a == b; }
 

@@ -19,7 +19,7 @@ class ForkServerTest : public testing::Test {
 protected:
     /// A program of these lines of shell, whose channel is its descriptor 3.
     std::filesystem::path program(const std::string& lines) {
-        const auto path = m_folder / "engine";
+        auto path = m_folder / "engine";
         writeFile(path, "#!/bin/sh\n" + lines + "\n");
         std::filesystem::permissions(path, std::filesystem::perms::owner_all);
         return path;

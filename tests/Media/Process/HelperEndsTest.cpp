@@ -87,14 +87,10 @@ struct Video {
 
 class HelperEnds : public testing::Test {
 protected:
-    ~HelperEnds() override {
+    void TearDown() override {
         EXPECT_TRUE(waitUntil([] { return servers().empty(); }));
         EXPECT_EQ(m_leftovers.complaint(), "");
     }
-
-    HelperEnds() = default;
-    HelperEnds(const HelperEnds&) = delete;
-    HelperEnds& operator=(const HelperEnds&) = delete;
 
     Time randomTime() {
         return Time::fromSeconds(std::uniform_real_distribution<double>(0, kSeconds)(m_random),
@@ -199,7 +195,8 @@ TEST_F(HelperEnds, andNothingNewCanBeMadeInIt) {
             EXPECT_EQ(error.failure().kind, ErrorKind::decoderStopped);
         }
     };
-    expectStopped([&] { static_cast<void>(video.asset->makeFrameSource([](CachedFrame) {})); });
+    expectStopped(
+        [&] { static_cast<void>(video.asset->makeFrameSource([](const CachedFrame&) {})); });
     expectStopped([&] { static_cast<void>(video.asset->makeSoundReader()); });
     expectStopped([&] { static_cast<void>(RemoteImageGenerator(video.asset)); });
     EXPECT_NEAR(video.asset->duration().seconds(), kSeconds, 0.1) << "what is known stays known";

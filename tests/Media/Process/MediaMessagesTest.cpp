@@ -22,7 +22,7 @@ template<typename T>
 struct Plain {
     using Value = T;
 
-    void write(MessageWriter& writer, const T& value) { put(writer, value); }
+    static void write(MessageWriter& writer, const T& value) { put(writer, value); }
 
     static bool isSame(const T& a, const T& b) { return process::isSame(a, b); }
 };
@@ -37,7 +37,7 @@ struct WiredTime : Plain<Time> {
 
     static Time random(RandomValues& values) { return randomTime(values); }
 
-    Time read(MessageReader& reader) { return getTime(reader); }
+    static Time read(MessageReader& reader) { return getTime(reader); }
 
     static void expectBounds(const Time& time) {
         EXPECT_GE(time.timescale, 0);
@@ -51,7 +51,7 @@ struct WiredTicks : Comparable<Ticks> {
 
     static Ticks random(RandomValues& values) { return randomTicks(values); }
 
-    Ticks read(MessageReader& reader) { return getTicks(reader); }
+    static Ticks read(MessageReader& reader) { return getTicks(reader); }
 
     static void expectBounds(const Ticks& /*ticks*/) {}
 };
@@ -64,7 +64,7 @@ struct WiredTimeRange : Plain<TimeRange> {
         return {start, randomTime(values)};
     }
 
-    TimeRange read(MessageReader& reader) { return getTimeRange(reader); }
+    static TimeRange read(MessageReader& reader) { return getTimeRange(reader); }
 
     static void expectBounds(const TimeRange& range) {
         WiredTime::expectBounds(range.start);
@@ -77,7 +77,7 @@ struct WiredTickRange : Comparable<TickRange> {
 
     static TickRange random(RandomValues& values) { return randomTickRange(values); }
 
-    TickRange read(MessageReader& reader) { return getTickRange(reader); }
+    static TickRange read(MessageReader& reader) { return getTickRange(reader); }
 
     static void expectBounds(const TickRange& /*range*/) {}
 };
@@ -87,7 +87,7 @@ struct WiredTransform : Comparable<AffineTransform> {
 
     static AffineTransform random(RandomValues& values) { return randomTransform(values); }
 
-    AffineTransform read(MessageReader& reader) { return getTransform(reader); }
+    static AffineTransform read(MessageReader& reader) { return getTransform(reader); }
 
     static void expectBounds(const AffineTransform& transform) {
         const auto [a, b, c, d, tx, ty] = transform;
@@ -101,7 +101,7 @@ struct WiredTrack : Plain<AssetTrack> {
 
     static AssetTrack random(RandomValues& values) { return randomTrack(values); }
 
-    AssetTrack read(MessageReader& reader) { return getTrack(reader); }
+    static AssetTrack read(MessageReader& reader) { return getTrack(reader); }
 
     static void expectBounds(const AssetTrack& track) {
         const double least = track.type == MediaType::video ? 1 : 0;
@@ -129,14 +129,15 @@ struct WiredFailure : Plain<Failure> {
         return randomFailure(values, static_cast<int>(values.below(kMostFailures)));
     }
 
-    Failure read(MessageReader& reader) { return getFailure(reader); }
+    static Failure read(MessageReader& reader) { return getFailure(reader); }
 
     static void expectBounds(const Failure& failure) {
         int count = 0;
         for (const Failure* each = &failure; each; each = each->cause.get(), ++count)
             EXPECT_LT(each->kind, ErrorKind::count);
         EXPECT_LE(count, kMostFailures);
-        EXPECT_NO_THROW(static_cast<void>(Error(failure)));
+        const Error error(failure);
+        EXPECT_EQ(error.failure().kind, failure.kind);
     }
 };
 
@@ -154,7 +155,7 @@ struct WiredGoal : Plain<FrameSource::Goal> {
         return goal;
     }
 
-    FrameSource::Goal read(MessageReader& reader) { return getGoal(reader); }
+    static FrameSource::Goal read(MessageReader& reader) { return getGoal(reader); }
 
     static void expectBounds(const FrameSource::Goal& /*goal*/) {}
 };
@@ -167,7 +168,7 @@ struct WiredPreviewSize : Comparable<PreviewSize> {
         return {width, values.number<int>(0)};
     }
 
-    PreviewSize read(MessageReader& reader) { return getPreviewSize(reader); }
+    static PreviewSize read(MessageReader& reader) { return getPreviewSize(reader); }
 
     static void expectBounds(const PreviewSize& size) {
         EXPECT_GE(size.width, 0);
