@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <fcntl.h>
 #include <functional>
 #include <limits>
@@ -28,8 +29,8 @@ Descriptor memoryWith(int seals, off_t size = 4096) {
 }
 
 Descriptor endOfPipe() {
-    int ends[2] = {-1, -1};
-    EXPECT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+    std::array ends{-1, -1};
+    EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
     ::close(ends[1]);
     return Descriptor(ends[0]);
 }
