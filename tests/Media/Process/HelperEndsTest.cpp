@@ -243,6 +243,17 @@ TEST_F(HelperEnds, thoughItIsStopped) {
     EXPECT_TRUE(isDone(Video(server)));
 }
 
+TEST_F(HelperEnds, forWhoeverWaitsForItInVain) {
+    ForkServer server(BRISKLET_ENGINE_PROGRAM);
+    const Video video(server);
+    const Video neighbour(server);
+    ASSERT_EQ(::kill(video.process, SIGSTOP), 0);
+    const std::jthread other([&video] { video.asset->abandon(); });
+    EXPECT_FALSE(isDone(video));
+    EXPECT_TRUE(waitUntil([&video] { return !isRunning(video.process); }));
+    EXPECT_TRUE(isDone(neighbour));
+}
+
 TEST_F(HelperEnds, whileItsFileIsOpened) {
     ForkServer server(BRISKLET_ENGINE_PROGRAM);
     const auto path = video();

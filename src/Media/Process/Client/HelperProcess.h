@@ -14,8 +14,8 @@ namespace media::process {
 /// still running in it then is killed, since it has nothing that lasts. Any thread.
 class HelperProcess {
 public:
-    /// `process` is a descriptor of it (pidfd), `control` its channel. Throws Error if there are too
-    /// many descriptors; std::system_error.
+    /// `process` is a descriptor of it (pidfd), `control` its channel. Throws Error if there are
+    /// too many descriptors; std::system_error.
     HelperProcess(Descriptor process, Channel control);
     HelperProcess(const HelperProcess&) = delete;
     HelperProcess& operator=(const HelperProcess&) = delete;
