@@ -1,9 +1,9 @@
 #include "Models/EditStateFixture.h"
 #include "TestSupport/Inspection.h"
+#include "TestSupport/Processes.h"
 #include "TestSupport/TemporaryFolder.h"
 
 #include <algorithm>
-#include <charconv>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -12,7 +12,6 @@
 #include <map>
 #include <random>
 #include <set>
-#include <sstream>
 #include <string>
 #include <sys/types.h>
 #include <unistd.h>
@@ -23,41 +22,11 @@ namespace brisklet {
 
 namespace {
 
+using testsupport::childrenOf;
 using testsupport::makeFixture;
 using testsupport::pumpPending;
 using testsupport::pumpUntil;
 using Processes = std::set<pid_t>;
-
-/// Parent and state of a process (proc_pid_stat(5)); the parent is 0 if there is none of that
-/// number.
-struct ProcessState {
-    pid_t parent = 0;
-    char state = '?';
-};
-
-ProcessState stateOf(pid_t process) {
-    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
-    std::string text;
-    // Nothing, if it has ended meanwhile.
-    std::getline(file, text);
-    const auto name = text.rfind(')');
-    ProcessState result;
-    if (name != std::string::npos)
-        std::istringstream(text.substr(name + 1)) >> result.state >> result.parent;
-    return result;
-}
-
-Processes childrenOf(pid_t parent) {
-    Processes children;
-    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
-        const std::string name = entry.path().filename();
-        pid_t process = 0;
-        std::from_chars(name.data(), name.data() + name.size(), process);
-        if (process > 0 && stateOf(process).parent == parent && stateOf(process).state != 'Z')
-            children.insert(process);
-    }
-    return children;
-}
 
 /// The program’s processes that decode or encode.
 Processes helpers() {
@@ -199,7 +168,7 @@ TEST_F(HelpersTest, areForkedFromAnotherProcessIfThatIsGone) {
     const pid_t decoder = loadAndFind(state(), makeFixture(kTenSeconds).path);
     for (const pid_t server : childrenOf(::getpid()))
         ::kill(server, SIGKILL);
-    ASSERT_TRUE(pumpUntil([&] { return stateOf(decoder).parent != 0; }));
+    ASSERT_TRUE(testsupport::isRunning(decoder));
     EXPECT_TRUE(seeks(state(), 7)) << "a video that is open needs it no more";
     const auto another = std::make_shared<EditState>();
     EXPECT_NE(loadAndFind(*another, makeFixture({.duration = 10, .width = 480}).path), 0);

@@ -6,10 +6,7 @@
 #include "Media/Process/Client/RemoteAsset.h"
 #include "Media/Process/Client/RemoteObject.h"
 #include "Media/Process/Wire/ExportMessages.h"
-#include "Media/SystemRefusal.h"
-#include "Media/Threading/ProcessorDemand.h"
 
-#include <functional>
 #include <utility>
 
 namespace media::process {
@@ -57,70 +54,37 @@ int codeOf(MessageReader& answer) {
 RemoteExportSession::RemoteExportSession(ForkServer& server, Composition composition,
                                          std::filesystem::path outputPath, FileType fileType,
                                          EncoderSettings settings)
-    : m_server(server),
-      m_composition(std::move(composition)),
-      m_outputPath(std::move(outputPath)),
-      m_fileType(fileType),
-      m_settings(std::move(settings)) {
-    if (!m_composition.asset || !m_composition.videoTrack)
-        throw Error(ErrorKind::nothingToExport);
-    RemoteAsset::of(m_composition.asset)->file()->expectOtherFile(m_outputPath);
+    : FileExportSession({composition, std::nullopt, fileType, std::move(settings)},
+                        std::move(outputPath)),
+      m_server(server),
+      m_source(RemoteAsset::of(composition.asset)->file()) {
+    expectOtherFile();
 }
 
-void RemoteExportSession::setVideoComposition(std::optional<VideoComposition> videoComposition) {
-    m_videoComposition = videoComposition;
+std::shared_ptr<const ffmpeg::SourceFile> RemoteExportSession::source() const {
+    return m_source;
 }
 
-void RemoteExportSession::run(std::stop_token stop) {
-    const ProcessorDemand demand;
-    m_state = State::exporting;
-    try {
-        if (stop.stop_requested())
-            throw Cancelled();
-        withRefusalsAsErrors([&] { exportFile(stop); });
-    } catch (const Cancelled&) {
-        m_state = State::cancelled;
-        throw;
-    } catch (...) {
-        m_state = State::failed;
-        throw;
-    }
-    m_progress = 1;
-    m_state = State::completed;
-}
-
-void RemoteExportSession::exportFile(const std::stop_token& stop) {
-    const auto source = RemoteAsset::of(m_composition.asset)->file();
-    source->expectUnchanged();
-    OutputFile file(m_outputPath);
-    write(file, stop);
-    // Much may have happened meanwhile, to the source and to its name.
-    source->expectUnchanged();
-    source->expectOtherFile(m_outputPath);
-    if (stop.stop_requested())
-        throw Cancelled();
-    file.commit();
-}
-
-void RemoteExportSession::write(const OutputFile& file, const std::stop_token& stop) {
+void RemoteExportSession::write(const Job& job, std::unique_ptr<OutputFile>& file,
+                                std::atomic<double>& progress, const std::stop_token& stop) {
     MessageWriter arguments;
-    putSource(arguments, m_composition);
-    arguments.put(file.duplicate());
-    put(arguments, m_composition);
-    put(arguments, m_videoComposition);
-    arguments.put(static_cast<std::uint8_t>(m_fileType == FileType::mpeg4 ? 1 : 0));
-    put(arguments, m_settings);
-    const auto onProgress = [this](MessageReader& reader) {
+    putSource(arguments, job.composition);
+    arguments.put(file->duplicate());
+    put(arguments, job.composition);
+    put(arguments, job.videoComposition);
+    arguments.put(static_cast<std::uint8_t>(job.fileType == FileType::mpeg4 ? 1 : 0));
+    put(arguments, job.settings);
+    const auto onProgress = [&progress](MessageReader& reader) {
         const auto fraction = reader.getWithin<double>(0, 1);
-        if (fraction > m_progress.load(std::memory_order_relaxed))
-            m_progress.store(fraction, std::memory_order_relaxed);
+        if (fraction > progress.load(std::memory_order_relaxed))
+            progress.store(fraction, std::memory_order_relaxed);
     };
     auto answer = callOnce(m_server, ObjectKind::exportSession, ExportOperation::run,
                            std::move(arguments), stop, onProgress);
     if (!answer)
         throw Error(ErrorKind::encoderStopped);
     if (const int code = codeOf(*answer); code != 0)
-        file.throwError(code);
+        throw WriteRefusal(code);
 }
 
 std::optional<ExportForecast>
