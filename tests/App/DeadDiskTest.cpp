@@ -28,7 +28,7 @@ TEST(DeadDisk, doesNotKeepTheProgramFromEnding) {
     disk.setStalled(true);
     testsupport::OtherStart start(testsupport::environmentOn(bus, {}),
                                   {QString::fromStdString(path.string())});
-    ASSERT_TRUE(pumpUntil([&disk] { return disk.isAwaited(); }));
+    ASSERT_TRUE(pumpUntil([&] { return disk.isAwaited() && start.hearsTermination(); }));
     start.terminate();
     EXPECT_TRUE(pumpUntil([&start] { return start.hasEnded(); }));
     EXPECT_FALSE(start.hasCrashed());

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <csignal>
+
 namespace testsupport {
 
 /// What a start of the program gets on a bus and an X display of a test's own; offscreen where
@@ -45,6 +47,16 @@ public:
     [[nodiscard]] bool hasEnded() const { return m_process.state() == QProcess::NotRunning; }
 
     [[nodiscard]] int exitCode() const { return m_process.exitCode(); }
+
+    /// Whether it is so far that it ends in order when it is asked to (proc_pid_status(5)).
+    [[nodiscard]] bool hearsTermination() const {
+        QFile status(QStringLiteral("/proc/%1/status").arg(m_process.processId()));
+        if (!status.open(QIODevice::ReadOnly))
+            return false;
+        const QByteArray all = status.readAll();
+        const auto mask = all.mid(all.indexOf("SigCgt:\t") + 8, 16).toULongLong(nullptr, 16);
+        return (mask >> (SIGTERM - 1) & 1U) != 0;
+    }
 
     /// Asks it to end, as a session that ends does.
     void terminate() { m_process.terminate(); }

@@ -4,7 +4,9 @@ pictures.py PROGRAM FOLDER [WORD...]
 
 With words, only the pictures whose names contain one of the variants, such as dark-2x-720x480."""
 
+import os
 import re
+import signal
 import subprocess
 import sys
 import tempfile
@@ -13,6 +15,7 @@ from pathlib import Path
 
 from desktop import Desktop, wait_for
 from program import Program, repeat_video, require_tools
+from usage import family_of
 
 SIZES = ((720, 480), (1600, 1000))
 
@@ -146,6 +149,18 @@ class Photographer:
         self.take("portrait")
         press("r", "k")
         self.take("portrait-turned")
+        self.lose_video()
+        self.take("lost")
+        press("Escape")
+        self.program.tree.wait_gone("label", "Something Went Wrong")
+        self.take("lost-dismissed")
+
+    def lose_video(self):
+        """Ends the processes that decode it: those that the program’s engine has forked."""
+        _program, _engine, *helpers = family_of(self.program.process.pid)
+        for helper in helpers:
+            os.kill(helper, signal.SIGKILL)
+        self.program.wait_for_label("Something Went Wrong")
 
 
 def photograph(program, folder, videos, dark, scale, size):

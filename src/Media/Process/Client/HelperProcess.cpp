@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
+#include <new>
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/syscall.h>
@@ -61,10 +62,24 @@ void HelperProcess::watch() {
     }
     if (watched[1].revents != 0)
         return;
+    while (!tellEnd()) {
+        constexpr int kPauseMilliseconds = 10;
+        if (::poll(&watched[1], 1, kPauseMilliseconds) > 0)
+            return;
+    }
+}
+
+/// False if the handler had no memory for it.
+bool HelperProcess::tellEnd() {
     const auto end = m_end.lock();
     end->hasEnded = true;
-    if (end->handler)
-        end->handler();
+    try {
+        if (end->handler)
+            end->handler();
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 } // namespace media::process

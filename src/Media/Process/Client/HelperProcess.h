@@ -26,7 +26,8 @@ public:
     [[nodiscard]] Descriptor makeObject(ObjectKind kind);
 
     /// Calls `handler` once, on a thread of this object, when the process ends by itself; at once
-    /// if it has. Replaces the one before, which is not being called any more when this returns.
+    /// if it has. Replaces the one before, which is not being called any more when this returns. A
+    /// handler may throw std::bad_alloc there, and is called again after a moment.
     void setEndHandler(std::function<void()> handler);
 
     /// Ends it now. What waits for an answer of it is told that it is gone.
@@ -39,6 +40,7 @@ private:
     };
 
     void watch();
+    bool tellEnd();
 
     Descriptor m_process;
     Channel m_control;
