@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace brisklet {
@@ -35,11 +36,9 @@ protected:
         for (WindowRootView* window : m_app->windows())
             window->state()->cancelExport();
         testsupport::pumpUntil([this] {
-            for (WindowRootView* window : m_app->windows()) {
-                if (window->state()->exportProgress())
-                    return false;
-            }
-            return true;
+            return std::ranges::none_of(m_app->windows(), [](WindowRootView* window) {
+                return window->state()->exportProgress().has_value();
+            });
         });
     }
 

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -45,13 +44,12 @@ Processes without(const Processes& all, const Processes& some) {
 class HelpersTest : public EditStateFixture {
 protected:
     void SetUp() override {
-        const char* const engine = std::getenv("BRISKLET_ENGINE");
-        if (engine == nullptr || std::string(engine) != "helpers")
+        if (qgetenv("BRISKLET_ENGINE") != "helpers")
             GTEST_SKIP() << "for an engine with helpers";
     }
 
     /// Loads a video; the process that decodes it.
-    pid_t loadAndFind(EditState& state, const std::filesystem::path& path) {
+    static pid_t loadAndFind(EditState& state, const std::filesystem::path& path) {
         const Processes before = helpers();
         bool isLoaded = false;
         const QObject context;
@@ -63,7 +61,7 @@ protected:
         return made.empty() ? 0 : *made.begin();
     }
 
-    bool seeks(EditState& state, double seconds) {
+    static bool seeks(EditState& state, double seconds) {
         bool isDone = false;
         state.playerController().player()->seek(
             media::Time::fromSeconds(seconds, media::kComparisonTimescale), {}, {},

@@ -218,6 +218,31 @@ TEST(PictureMessages, areNotLargerThanTheirArea) {
     EXPECT_FALSE(isTaken({.width = 0, .height = 1, .kind = Kind::grey}));
 }
 
+TEST(PictureMessages, areNotMostlyPadding) {
+    constexpr int kHeight = 16;
+    const auto isTakenWith = [](int stride) {
+        MessageWriter writer;
+        SharedArea sent;
+        static_cast<void>(sent.ensure(static_cast<std::size_t>(stride) * kHeight));
+        writer.put(std::uint8_t{1});
+        writer.put(*sent.takeNew());
+        put(writer, Time{});
+        writer.put(1);
+        writer.put(kHeight);
+        writer.put(stride);
+        SharedArea received;
+        MessageReader reader(copyOf(writer.message()));
+        try {
+            WiredImage::expectBounds(getImage(reader, received));
+            return true;
+        } catch (const BadMessage&) {
+            return false;
+        }
+    };
+    EXPECT_TRUE(isTakenWith(64));
+    EXPECT_FALSE(isTakenWith(4 << 16));
+}
+
 TEST(PictureMessages, bringSoundOnlyAsFarAsThereIsSome) {
     for (const std::uint64_t count :
          {std::uint64_t{65'536}, std::uint64_t{65'537}, std::uint64_t{1} << 40,

@@ -36,13 +36,13 @@ void HelperProcess::kill() noexcept {
 }
 
 Descriptor HelperProcess::makeObject(ObjectKind kind) {
-    auto [ours, theirs] = Channel::makePair();
+    Channel::Pair ends = Channel::makePair();
     MessageWriter writer;
     writer.put(kind);
-    writer.put(std::move(theirs));
+    writer.put(std::move(ends.theirs));
     if (!m_control.send(writer.message()))
         throw Error(ErrorKind::decoderStopped);
-    return ours.takeSocket();
+    return ends.ours.takeSocket();
 }
 
 void HelperProcess::setEndHandler(std::function<void()> handler) {

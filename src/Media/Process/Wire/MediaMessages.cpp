@@ -19,6 +19,8 @@ constexpr int kDeepestCause = 4;
 
 /// Pictures and their parts may be as large as a video’s; pixels.
 constexpr int kMostSide = 1 << 16;
+/// More than lines are filled up with; pixels.
+constexpr int kMostPadding = 64;
 
 double getFinite(MessageReader& reader) {
     constexpr double kMost = std::numeric_limits<double>::max();
@@ -240,6 +242,9 @@ playback::CachedFrame getFrame(MessageReader& reader, SharedArea& area) {
     format.chromaShift = reader.getWithin<int>(0, hasChroma ? 1 : 0);
     format.matrix = static_cast<AVColorSpace>(reader.getWithin<std::int32_t>(0, AVCOL_SPC_NB - 1));
     format.isFullRange = reader.getBool();
+    // A pixel has a byte at least: nothing is allocated for a picture that is not there.
+    static_cast<void>(area.read(static_cast<std::size_t>(format.width) *
+                                static_cast<std::size_t>(format.height)));
     auto picture = std::make_shared<PreviewPicture>(format);
     const std::span<std::uint8_t> bytes = picture->bytesToFill();
     std::ranges::copy(area.read(bytes.size()), bytes.begin());
@@ -266,7 +271,7 @@ TimedImage getImage(MessageReader& reader, SharedArea& area) {
     image->height = reader.getWithin<int>(1, kMostSide);
     checkSides(image->width, image->height);
     image->stride = reader.getWithin<int>(kBytesPerPixel * image->width,
-                                          kBytesPerPixel * (image->width + kMostSide));
+                                          kBytesPerPixel * (image->width + kMostPadding));
     if (image->stride % kBytesPerPixel != 0)
         throw BadMessage();
     const std::size_t count =
