@@ -6,8 +6,8 @@ import threading
 import time
 from pathlib import Path
 
-# Name and unit: memory in MB, the others are counts; all of all processes. Memory that several
-# processes share is counted once.
+# Name and unit: memory in MB, the others are counts; all of all processes. Memory that several of
+# them share is counted once, whatever other programs share it too.
 QUANTITIES = {"memory": "MB", "anonymous": "MB", "processes": "", "threads": "", "descriptors": ""}
 # Those that may not grow. Anonymous memory is the part that is not in a file: it tells what the
 # program holds from what the system keeps of its libraries.
@@ -34,12 +34,32 @@ def family_of(pid):
     return family
 
 
-def usage_of_one(pid):
+def file_pages(process):
+    """Kilobytes of files in memory, by name and place in the file."""
+    pages = {}
+    place = None
+    for line in (process / "smaps").read_text(errors="replace").splitlines():
+        words = line.split()
+        if not words[0].endswith(":"):
+            # Address, rights, offset, device, inode, name.
+            is_file = len(words) > 5 and words[5].startswith("/") and not words[5].startswith(
+                ("/memfd:", "/SYSV", "/dev/"))
+            place = (words[5], words[2]) if is_file else None
+        elif place and words[0] == "Rss:":
+            pages[place] = int(words[1])
+        elif place and words[0] == "Anonymous:":
+            pages[place] -= int(words[1])
+    return pages
+
+
+def usage_of_one(pid, files):
     process = Path("/proc") / str(pid)
     lines = (process / "smaps_rollup").read_text().splitlines()[1:]
     kilobytes = {line.split(":")[0]: int(line.split()[1]) for line in lines}
+    for place, count in file_pages(process).items():
+        files[place] = max(files.get(place, 0), count)
     return {
-        "memory": kilobytes["Pss"] / 1000,
+        "memory": (kilobytes["Pss_Anon"] + kilobytes["Pss_Shmem"]) / 1000,
         "anonymous": kilobytes["Pss_Anon"] / 1000,
         "processes": 1,
         "threads": len(os.listdir(process / "task")),
@@ -49,9 +69,10 @@ def usage_of_one(pid):
 
 def usage_of(pid):
     total = dict.fromkeys(QUANTITIES, 0)
+    files = {}
     for member in family_of(pid):
         try:
-            usage = usage_of_one(member)
+            usage = usage_of_one(member, files)
         except OSError:
             if member == pid:
                 raise
@@ -59,6 +80,7 @@ def usage_of(pid):
             continue
         for name, value in usage.items():
             total[name] += value
+    total["memory"] += sum(files.values()) / 1000
     return total
 
 

@@ -76,10 +76,11 @@ DecodingPace::Way DecodingFrameSource::wayTo(Ticks ticks) {
 }
 
 DecodingFrameSource::Goal DecodingFrameSource::goalNearEnd(TickRange range) {
-    const auto key = reader().keyFrameBefore(range.end - kLongestReorder - kLongestReorder);
+    const auto key = reader().keyFrameBefore(range.end - kLongestReorder);
     if (!key || *key <= range.begin)
         return {.ticks = range.begin, .completeFrom = range.begin};
-    return {.ticks = *key + kLongestReorder, .completeFrom = *key};
+    const Ticks shown = std::min(*key + kLongestReorder, range.end - Ticks(1));
+    return {.ticks = shown, .completeFrom = *key};
 }
 
 DecodingFrameSource::Outcome DecodingFrameSource::advance(const Goal& goal, PreviewSize size,

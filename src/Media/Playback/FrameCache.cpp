@@ -10,8 +10,9 @@ namespace {
 /// A frame this many times nearer to a point of interest than another to the playhead is worth as
 /// much.
 constexpr double kPointWeight = 4;
-/// The same of a frame that a playhead moving backward has left behind.
+/// The same of a frame that a playhead has left behind which moves backward, or straight back.
 constexpr double kLeftBehindWeight = 4;
+constexpr double kLeftForGoodWeight = 64;
 /// The part of the bound that frames of single places may take: the rest is for the neighbourhood
 /// of the playhead.
 constexpr std::size_t kPartOfPlaces = 4;
@@ -35,8 +36,8 @@ std::size_t FrameCache::capacityBytes() const {
 
 double FrameCache::State::distanceTo(Ticks ticks) const {
     double least = distance(ticks, focus);
-    if (isBackward && ticks > focus)
-        least *= kLeftBehindWeight;
+    if (heading != Heading::anywhere && ticks > focus)
+        least *= heading == Heading::backward ? kLeftBehindWeight : kLeftForGoodWeight;
     for (const Ticks point : points)
         least = std::min(least, kPointWeight * distance(ticks, point));
     return least;
@@ -83,7 +84,7 @@ void FrameCache::begin(const void* source) {
     std::swap(state->frames, forgotten);
     state->bytes = 0;
     state->focus = Ticks();
-    state->isBackward = false;
+    state->heading = Heading::anywhere;
     state->points.clear();
     state->placesOfRest.clear();
     state->source = source;
@@ -132,10 +133,10 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
     }
 }
 
-void FrameCache::setFocus(Ticks ticks, int direction) {
+void FrameCache::setFocus(Ticks ticks, Heading heading) {
     const auto state = m_state.lock();
     state->focus = ticks;
-    state->isBackward = direction < 0;
+    state->heading = heading;
 }
 
 void FrameCache::setPointsOfInterest(std::vector<Ticks> ticks) {

@@ -30,6 +30,15 @@ struct CachedFrame {
     }
 };
 
+/// Where a playhead is likely to go.
+enum class Heading {
+    anywhere,
+    /// The frames after it are worth less.
+    backward,
+    /// Many steps back wait, as behind a held key: the frames after it are worth next to nothing.
+    straightBack,
+};
+
 /// The latest decoded frames of one player, bounded in bytes. Evicts the frame that is farthest
 /// from the playhead and the few points of interest; a point of interest counts for less than the
 /// playhead, and so does the side of the playhead that a movement backward leaves behind. The
@@ -55,9 +64,8 @@ public:
     /// The frame itself stays even if it alone is beyond the bound.
     void insert(const void* source, CachedFrame frame);
 
-    /// The playhead, and where it is likely to go. `direction` is less than 0 where it moves
-    /// backward: then the frames after it are worth less.
-    void setFocus(Ticks ticks, int direction = 0);
+    /// The playhead, and where it is likely to go.
+    void setFocus(Ticks ticks, Heading heading = Heading::anywhere);
     void setPointsOfInterest(std::vector<Ticks> ticks);
     [[nodiscard]] std::vector<Ticks> pointsOfInterest() const;
 
@@ -89,7 +97,7 @@ private:
         Frames frames;
         std::size_t bytes = 0;
         Ticks focus;
-        bool isBackward = false;
+        Heading heading = Heading::anywhere;
         std::vector<Ticks> points;
         /// The latest first.
         std::vector<Ticks> placesOfRest;

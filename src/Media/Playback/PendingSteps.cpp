@@ -16,6 +16,12 @@ std::optional<Ticks> PendingSteps::next(const Walk& walk) {
                                                   : std::optional(walk.range.begin - Ticks(1));
 }
 
+Heading PendingSteps::heading(const Walk& walk) const {
+    if (walk.framesLeft > 0)
+        return Heading::anywhere;
+    return areMany() ? Heading::straightBack : Heading::backward;
+}
+
 std::optional<CachedFrame> PendingSteps::advance(FrameCache& cache, ImageSize size,
                                                  const RenderedFrame& shown) {
     while (!m_counts.empty()) {
@@ -26,7 +32,7 @@ std::optional<CachedFrame> PendingSteps::advance(FrameCache& cache, ImageSize si
             const std::optional<Ticks> ticks = next(walk);
             if (!ticks)
                 break;
-            cache.setFocus(*ticks, walk.framesLeft);
+            cache.setFocus(*ticks, heading(walk));
             auto frame = cache.find(*ticks, size);
             if (!frame)
                 return std::nullopt;

@@ -22,7 +22,8 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_counts.empty(); }
 
-    [[nodiscard]] std::size_t count() const { return m_counts.size(); }
+    /// More of them than somebody presses one after the other: they wait behind a held key.
+    [[nodiscard]] bool areMany() const { return m_counts.size() > kFew; }
 
     /// Goes on from `shown` as far as the cache reaches: the frame that the first step leads to, or
     /// none while it waits for one that is missing, or when no step is left. Steps that lead
@@ -40,6 +41,8 @@ public:
     void giveUpRest();
 
 private:
+    static constexpr std::size_t kFew = 8;
+
     /// The first step, once begun.
     struct Walk {
         int framesLeft = 0;
@@ -51,6 +54,7 @@ private:
     };
 
     static std::optional<Ticks> next(const Walk& walk);
+    [[nodiscard]] Heading heading(const Walk& walk) const;
 
     std::deque<int> m_counts;
     std::optional<Walk> m_walk;

@@ -149,7 +149,7 @@ void PlaybackState::beginGeneration(Time at, SeekTarget target, SteadyTime now) 
     m_isFallingBehind = true;
     m_hasEnded = false;
     m_observers.forgetPending();
-    m_cache.setFocus(target.earliest, m_direction);
+    m_cache.setFocus(target.earliest, m_direction < 0 ? Heading::backward : Heading::anywhere);
     holdClock(at, now);
     stopSound();
     m_deferred.wakes.decoding = true;

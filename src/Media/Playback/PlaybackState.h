@@ -184,10 +184,12 @@ private:
     void noteRest(SteadyTime now);
 
     bool chooseSeek(DecodeWork& work, const DecoderStatus& decoder);
-    bool chooseStep(DecodeWork& work);
+    bool chooseStep(DecodeWork& work, const DecoderStatus& decoder);
     bool chooseRedraw(DecodeWork& work);
     bool choosePlaying(DecodeWork& work, const DecoderStatus& decoder, SteadyTime now);
     bool chooseIdle(DecodeWork& work, const DecoderStatus& decoder, SteadyTime now);
+    bool chooseReadAhead(DecodeWork& work);
+    [[nodiscard]] bool isMoving(SteadyTime now) const;
     [[nodiscard]] bool isReadAheadDue(const DecoderStatus& decoder, SteadyTime now) const;
     [[nodiscard]] SteadyTime nextDecodeLook(const DecoderStatus& decoder, SteadyTime now) const;
     [[nodiscard]] Ticks completeFrom(Ticks target) const;

@@ -24,12 +24,13 @@ constexpr Ticks kMargin{Ticks::kPerSecond / 4};
 constexpr Ticks kBackwardMargin{2 * Ticks::kPerSecond};
 /// No more of the cache is taken for them.
 constexpr double kMarginOfCache = 0.25;
-/// Where more steps than these wait, as behind a held key, each way from a key frame has to do for
-/// as many of them as there is room for beside what is around the playhead.
-constexpr std::size_t kFewSteps = 8;
-constexpr double kMarginOfManySteps = 0.45;
+/// Where many steps wait, as behind a held key, each way from a key frame has to do for as many of
+/// them as there is room for: what is not kept has to be decoded again.
+constexpr double kMarginOfManySteps = 0.95;
 /// After a jump by itself nothing is read ahead for so long: more may be about to happen.
 constexpr milliseconds kRest{150};
+/// A movement is over where nothing moves for so long.
+constexpr milliseconds kLongestPause{700};
 /// Between two looks whether the processor is free again.
 constexpr milliseconds kRestPause{200};
 /// Nothing to wait for but a wake.
@@ -55,7 +56,7 @@ DecodeWork PlaybackState::nextDecodeWork(const DecoderStatus& decoder, SteadyTim
     }
     const bool isChosen =
         m_seek ? chooseSeek(work, decoder)
-               : chooseStep(work) || chooseRedraw(work) || choosePlaying(work, decoder, now);
+               : chooseStep(work, decoder) || chooseRedraw(work) || choosePlaying(work, decoder, now);
     if (!isChosen && !chooseIdle(work, decoder, now)) {
         work.kind = DecodeWork::Kind::wait;
         work.until = nextDecodeLook(decoder, now);
@@ -77,7 +78,7 @@ bool PlaybackState::chooseSeek(DecodeWork& work, const DecoderStatus& decoder) {
     return true;
 }
 
-bool PlaybackState::chooseStep(DecodeWork& work) {
+bool PlaybackState::chooseStep(DecodeWork& work, const DecoderStatus& decoder) {
     const std::optional<Ticks> ticks = m_steps.nextTicks();
     if (!ticks)
         return false;
@@ -85,6 +86,10 @@ bool PlaybackState::chooseStep(DecodeWork& work) {
         m_deferred.wakes.presenting = true;
         return false;
     }
+    // What is read ahead is on its way there already, and keeps all frames that it passes.
+    const bool isOnTheWay = m_direction < 0 && decoder.position <= *ticks;
+    if (isOnTheWay && m_readAhead.leadsTo(*ticks))
+        return chooseReadAhead(work);
     work.kind = DecodeWork::Kind::step;
     work.target = SeekTarget::exactly(*ticks);
     work.completeFrom = completeFrom(*ticks);
@@ -94,7 +99,7 @@ bool PlaybackState::chooseStep(DecodeWork& work) {
 
 /// Frames from there on are kept on the way to `target`.
 Ticks PlaybackState::completeFrom(Ticks target) const {
-    const bool hasManySteps = m_direction < 0 && m_steps.count() > kFewSteps;
+    const bool hasManySteps = m_direction < 0 && m_steps.areMany();
     const double part = hasManySteps ? kMarginOfManySteps : kMarginOfCache;
     const double room = framesInCache(m_cache, imageSize()) * m_frameTicks * part;
     Ticks margin(static_cast<std::int64_t>(std::min(room, 1e9)));
@@ -176,19 +181,24 @@ bool PlaybackState::chooseIdle(DecodeWork& work, const DecoderStatus& decoder, S
     }
     m_readAhead.update(m_readAheadVersion, {.focus = m_shown.time.ticks(),
                                             .direction = m_direction,
+                                            .isMoving = isMoving(now),
                                             .last = m_duration.ticks(),
                                             .frameTicks = m_frameTicks,
                                             .size = work.imageSize});
-    if (isReadAheadDue(decoder, now)) {
-        if (const std::optional<Ticks> ticks = m_readAhead.next()) {
-            work.kind = DecodeWork::Kind::readAhead;
-            work.target = SeekTarget::exactly(*ticks);
-            work.endBehind = m_readAhead.endBehind();
-            return true;
-        }
-    }
+    if (isReadAheadDue(decoder, now) && chooseReadAhead(work))
+        return true;
     work.kind = DecodeWork::Kind::releaseDecoder;
     return decoder.isOverBudget && m_readAhead.isDone() && !isRunningWanted();
+}
+
+bool PlaybackState::chooseReadAhead(DecodeWork& work) {
+    const std::optional<Ticks> ticks = m_readAhead.next();
+    if (!ticks)
+        return false;
+    work.kind = DecodeWork::Kind::readAhead;
+    work.target = SeekTarget::exactly(*ticks);
+    work.endBehind = m_readAhead.endBehind();
+    return true;
 }
 
 bool PlaybackState::isReadAheadDue(const DecoderStatus& decoder, SteadyTime now) const {
@@ -197,9 +207,13 @@ bool PlaybackState::isReadAheadDue(const DecoderStatus& decoder, SteadyTime now)
     return m_direction != 0 || now - m_lastJump >= kRest;
 }
 
+bool PlaybackState::isMoving(SteadyTime now) const {
+    return m_direction != 0 && (!m_steps.isEmpty() || now - m_lastJump < kLongestPause);
+}
+
 SteadyTime PlaybackState::nextDecodeLook(const DecoderStatus& decoder, SteadyTime now) const {
     if (m_readAhead.isDone())
-        return now + kIdle;
+        return isMoving(now) ? m_lastJump + kLongestPause : now + kIdle;
     const SteadyTime rested = m_lastJump + kRest;
     if (now < rested)
         return rested;
@@ -217,6 +231,10 @@ void PlaybackState::frameArrived(const DecodeWork& work, Ticks end) {
         if (m_item == work.item)
             m_readAhead.arrive(end);
         return;
+    case DecodeWork::Kind::step:
+        if (m_item == work.item)
+            m_readAhead.chooseAnew();
+        break;
     case DecodeWork::Kind::positionDecoder:
         return;
     default:

@@ -9,7 +9,9 @@ namespace {
 constexpr double kLongestReach = 2.0 * Ticks::kPerSecond;
 /// Around the playhead one reach ahead and two behind are kept, around each of two points of
 /// interest three quarters of one: no more than the cache can hold with room to spare. Where the
-/// playhead moves backward it is half a reach ahead and three and a half behind.
+/// playhead was moved backward it is half a reach ahead and three and a half behind, and while it
+/// moves there nothing else than five behind: the farther each way from a key frame reaches, the
+/// fewer ways there are.
 constexpr double kReachesInCache = 6;
 /// A range so far away from where the playhead has gone is given up.
 constexpr Ticks kFarAway{4 * Ticks::kPerSecond};
@@ -23,6 +25,8 @@ struct Neighbourhood {
     Ticks reach;
 
     [[nodiscard]] bool isBackward() const { return surroundings.direction < 0; }
+
+    [[nodiscard]] bool isMovingBack() const { return isBackward() && surroundings.isMoving; }
 
     [[nodiscard]] Ticks reaches(double count) const {
         return Ticks(static_cast<std::int64_t>(count * static_cast<double>(reach.count())));
@@ -43,10 +47,10 @@ struct Neighbourhood {
     /// early where the playhead moves there, since the frames that it comes to first come last.
     [[nodiscard]] std::optional<TickRange> behind() const {
         const Ticks known = cache.coveredFrom(surroundings.focus, surroundings.size);
-        const Ticks least = surroundings.focus - reaches(isBackward() ? 2 : 1);
+        const Ticks least = surroundings.focus - reaches(isMovingBack() ? 3 : isBackward() ? 2 : 1);
         if (known <= std::max(least, Ticks(0)))
             return std::nullopt;
-        const Ticks most = surroundings.focus - reaches(isBackward() ? 3.5 : 2);
+        const Ticks most = surroundings.focus - reaches(isMovingBack() ? 6 : isBackward() ? 3.5 : 2);
         return TickRange{std::max(most, Ticks(0)), known};
     }
 
@@ -72,6 +76,8 @@ std::optional<TickRange> framesToReadAhead(const FrameCache& cache,
         return std::nullopt;
     const Neighbourhood neighbourhood{cache, surroundings, Ticks(reach)};
     const bool isBackward = neighbourhood.isBackward();
+    if (neighbourhood.isMovingBack())
+        return neighbourhood.behind();
     if (const auto first = isBackward ? neighbourhood.behind() : neighbourhood.ahead())
         return first;
     if (const auto second = isBackward ? neighbourhood.ahead() : neighbourhood.behind())
@@ -91,7 +97,8 @@ void ReadAhead::restart() {
 
 void ReadAhead::update(std::uint64_t version, const Surroundings& surroundings) {
     const bool isNew = version != m_version || surroundings.focus != m_surroundings.focus ||
-                       surroundings.size != m_surroundings.size;
+                       surroundings.size != m_surroundings.size ||
+                       surroundings.isMoving != m_surroundings.isMoving;
     m_version = version;
     m_surroundings = surroundings;
     if (!isNew)
@@ -118,6 +125,10 @@ std::optional<Ticks> ReadAhead::next() {
 std::optional<Ticks> ReadAhead::endBehind() const {
     const bool isBehind = m_range && m_range->begin < m_surroundings.focus;
     return isBehind ? std::optional(m_range->end) : std::nullopt;
+}
+
+bool ReadAhead::leadsTo(Ticks ticks) const {
+    return !isDone() && m_range && m_range->holds(ticks);
 }
 
 void ReadAhead::arrive(Ticks end) {

@@ -15,6 +15,8 @@ struct Surroundings {
     Ticks focus;
     /// Less than 0 backward, more forward, 0 neither.
     int direction = 0;
+    /// It is being moved that way, or was a moment ago.
+    bool isMoving = false;
     /// The item's last tick.
     Ticks last;
     /// Length of one frame in ticks.
@@ -51,11 +53,16 @@ public:
     /// the playhead. Then those at the end are wanted first.
     [[nodiscard]] std::optional<Ticks> endBehind() const;
 
+    /// The frame at `ticks` is among those that next() chooses one after the other.
+    [[nodiscard]] bool leadsTo(Ticks ticks) const;
+
     /// Nothing is left to do for the present surroundings, as far as is known.
     [[nodiscard]] bool isDone() const { return m_framesLeft <= 0; }
 
     /// The frame at next() is in the cache; the one after it begins at `end`.
     void arrive(Ticks end);
+    /// Frames were decoded for somebody else: what is missing now is another range.
+    void chooseAnew() { m_range.reset(); }
     /// Nothing there decodes.
     void giveUp();
 

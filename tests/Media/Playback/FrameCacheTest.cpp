@@ -11,6 +11,7 @@
 
 using media::Ticks;
 using media::playback::FrameCache;
+using media::playback::Heading;
 
 namespace {
 
@@ -106,13 +107,21 @@ TEST(FrameCache, letsGoOfWhatLiesFarthestFromThePlayhead) {
 TEST(FrameCache, keepsLessOfWhatAMovementBackwardHasLeftBehind) {
     FrameCache cache(20 * kFrameBytes);
     cache.begin(&kSource);
-    cache.setFocus(2000_ticks, -1);
+    cache.setFocus(2000_ticks, Heading::backward);
     fillCache(cache, &kSource, 1600_ticks, 2400_ticks);
     EXPECT_LE(cache.coveredFrom(2000_ticks, kFrameSize), 1700_ticks);
     EXPECT_LE(cache.coveredUntil(2000_ticks, kFrameSize), 2100_ticks);
     cache.setFocus(2000_ticks);
     fillCache(cache, &kSource, 1600_ticks, 2400_ticks);
     EXPECT_GE(cache.coveredUntil(2000_ticks, kFrameSize), 2180_ticks);
+}
+
+TEST(FrameCache, keepsNextToNothingOfWhatAMovementStraightBackHasLeftBehind) {
+    FrameCache cache(20 * kFrameBytes);
+    cache.begin(&kSource);
+    cache.setFocus(2000_ticks, Heading::straightBack);
+    fillCache(cache, &kSource, 1600_ticks, 2400_ticks);
+    EXPECT_LE(cache.coveredFrom(2000_ticks, kFrameSize), 1640_ticks);
 }
 
 TEST(FrameCache, keepsANeighbourhoodOfThePointsOfInterest) {

@@ -70,6 +70,33 @@ TEST_F(PlaybackRules, keepMoreOnTheWayWhereManyStepsBackWait) {
     EXPECT_EQ(keptBefore(9, 1), Ticks(150)) << "those lie before all that is asked for";
 }
 
+// The way began anew, and all of it was decoded once more.
+TEST_F(PlaybackRules, waitForWhatIsReadAheadWhereThatLeadsToAStepBack) {
+    rig.load(1000);
+    rig.seek(500);
+    rig.settle();
+    rig.cache.begin(rig.item.get());
+    rig.cache.insert(rig.item.get(), rig.frameOf(499));
+    rig.state.beginStep(-1, rig.now);
+    rig.present();
+    ASSERT_EQ(rig.shownFrame(), 499);
+    rig.decoder.position = ticksOf(500);
+    const DecodeWork begun = rig.nextWork();
+    ASSERT_EQ(begun.kind, Kind::readAhead);
+    ASSERT_LT(begun.target.earliest, ticksOf(498));
+    rig.state.beginStep(-1, rig.now);
+    rig.present();
+    EXPECT_EQ(rig.nextWork().kind, Kind::step) << "it has not set out yet";
+    rig.decoder.position = ticksOf(450);
+    const DecodeWork work = rig.nextWork();
+    EXPECT_EQ(work.kind, Kind::readAhead);
+    EXPECT_EQ(work.target.earliest, begun.target.earliest);
+    EXPECT_EQ(work.endBehind, begun.endBehind);
+    rig.cache.insert(rig.item.get(), rig.frameOf(498));
+    rig.settle();
+    EXPECT_EQ(rig.shownFrame(), 498);
+}
+
 // Jumps.
 
 TEST_F(PlaybackRules, goWhereTheFrameOfASeekWithToleranceWasFound) {

@@ -60,6 +60,8 @@ TEST(PlayerReadAhead, beginsBehindThePlayheadAtTheLastKeyFrame) {
         << "every frame on the way is kept";
     EXPECT_LT(source->takeDecodedCount(), 20U) << "nothing of the group before";
     EXPECT_EQ(source->goalNearEnd({Ticks(2400), kKeyFrame}).ticks, Ticks(2400));
+    EXPECT_GT(source->goalNearEnd({Ticks(2400), kKeyFrame + Ticks(200)}).completeFrom, Ticks(2400))
+        << "a few frames are read before the group that the way to them does not need";
 }
 
 TEST(PlayerReadAhead, restsWhileAnExportRunsAndGoesOnAfterwards) {

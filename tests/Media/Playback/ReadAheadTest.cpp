@@ -7,6 +7,7 @@
 using media::TickRange;
 using media::Ticks;
 using media::playback::FrameCache;
+using media::playback::Heading;
 using media::playback::framesToReadAhead;
 using media::playback::ReadAhead;
 using media::playback::Surroundings;
@@ -42,12 +43,48 @@ TEST(ReadAhead, readsFartherBackWhereThePlayheadMovesBackward) {
         << "with two reaches left it is not time yet";
 }
 
+// A held key went on to where nothing had been read, since frames were read again that it had just
+// left behind.
+TEST(ReadAhead, readsNothingButFarBehindWhileThePlayheadMovesThere) {
+    FrameCache cache;
+    cache.begin(&kSource);
+    cache.setPointsOfInterest({0_ticks, 9000_ticks});
+    fill(cache, 8000_ticks, 8060_ticks);
+    const Surroundings surroundings{.focus = 8040_ticks,
+                                    .direction = -1,
+                                    .isMoving = true,
+                                    .last = 9000_ticks,
+                                    .size = kFrameSize};
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{840_ticks, 8000_ticks}));
+    fill(cache, 4440_ticks, 8000_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), std::nullopt)
+        << "with three reaches left it is not time yet";
+}
+
+TEST(ReadAhead, leadsToTheFramesOfItsRangeUntilThatIsChosenAnew) {
+    FrameCache cache;
+    cache.begin(&kSource);
+    fill(cache, 8000_ticks, 8060_ticks);
+    ReadAhead readAhead(cache);
+    readAhead.update(1, {.focus = 8040_ticks,
+                         .direction = -1,
+                         .isMoving = true,
+                         .last = 9000_ticks,
+                         .size = kFrameSize});
+    EXPECT_FALSE(readAhead.leadsTo(7999_ticks));
+    ASSERT_EQ(readAhead.next(), 840_ticks);
+    EXPECT_TRUE(readAhead.leadsTo(7999_ticks));
+    EXPECT_FALSE(readAhead.leadsTo(8000_ticks));
+    readAhead.chooseAnew();
+    EXPECT_FALSE(readAhead.leadsTo(7999_ticks));
+}
+
 TEST(ReadAhead, asksForNoMoreThanTheCacheHoldsOfAPlayheadThatMovesBackward) {
     FrameCache cache(60 * kFrameBytes);
     cache.begin(&kSource);
     cache.setPointsOfInterest({0_ticks, 9000_ticks});
     for (Ticks focus(8000); focus > 1000_ticks; focus = focus - 20_ticks) {
-        cache.setFocus(focus, -1);
+        cache.setFocus(focus, Heading::backward);
         const Surroundings surroundings{
             .focus = focus, .direction = -1, .last = 9000_ticks, .size = kFrameSize};
         int rounds = 0;
