@@ -181,7 +181,7 @@ TEST(FrameCache, leavesMostOfItsRoomToTheNeighbourhoodOfThePlayhead) {
     FrameCache cache(8 * kFrameBytes);
     cache.begin(&kSource);
     for (int place = 1; place <= 5; ++place) {
-        const Ticks ticks(place * 10'000);
+        const Ticks ticks(std::int64_t{place} * 10'000);
         cache.setFocus(ticks);
         fill(cache, ticks, ticks + kFrameLength);
         cache.addPlaceOfRest(ticks);
@@ -204,6 +204,7 @@ TEST(FrameCache, sharesOneBoundWithThoseOfOtherPlayers) {
     const FrameCache cache;
     EXPECT_EQ(cache.capacityBytes(), FrameCache::kDefaultBytes);
     std::vector<std::unique_ptr<FrameCache>> others;
+    others.reserve(19);
     for (int i = 0; i < 19; ++i)
         others.push_back(std::make_unique<FrameCache>());
     EXPECT_EQ(cache.capacityBytes(), FrameCache::kBytesOfAll / 20);

@@ -101,14 +101,14 @@ TEST_F(PlaybackRules, waitForWhatIsReadAheadWhereThatLeadsToAStepBack) {
 
 TEST_F(PlaybackRules, goWhereTheFrameOfASeekWithToleranceWasFound) {
     rig.load(1000);
-    rig.state.beginSeek(Time{500 * 20, 600}, Time{600, 600}, Time{600, 600}, rig.now);
+    rig.state.beginSeek(Time{10'000, 600}, Time{600, 600}, Time{600, 600}, rig.now);
     const DecodeWork work = rig.nextWork();
     ASSERT_EQ(work.kind, Kind::seekNear);
     rig.cache.insert(rig.item.get(), rig.frameOf(480));
     rig.state.nearFrameArrived(work, ticksOf(480));
     rig.settle();
     EXPECT_EQ(rig.shownFrame(), 480);
-    EXPECT_EQ(rig.state.time(rig.now), (Time{480 * 20, 600}));
+    EXPECT_EQ(rig.state.time(rig.now), (Time{9600, 600}));
 }
 
 TEST_F(PlaybackRules, runOnWithThePictureOnShowWhereASeekFailsWhilePlaying) {

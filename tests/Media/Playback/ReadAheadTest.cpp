@@ -7,8 +7,8 @@
 using media::TickRange;
 using media::Ticks;
 using media::playback::FrameCache;
-using media::playback::Heading;
 using media::playback::framesToReadAhead;
+using media::playback::Heading;
 using media::playback::ReadAhead;
 using media::playback::Surroundings;
 
