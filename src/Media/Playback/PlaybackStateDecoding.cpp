@@ -54,9 +54,9 @@ DecodeWork PlaybackState::nextDecodeWork(const DecoderStatus& decoder, SteadyTim
         work.kind = DecodeWork::Kind::open;
         return work;
     }
-    const bool isChosen =
-        m_seek ? chooseSeek(work, decoder)
-               : chooseStep(work, decoder) || chooseRedraw(work) || choosePlaying(work, decoder, now);
+    const bool isChosen = m_seek ? chooseSeek(work, decoder)
+                                 : chooseStep(work, decoder) || chooseRedraw(work) ||
+                                       choosePlaying(work, decoder, now);
     if (!isChosen && !chooseIdle(work, decoder, now)) {
         work.kind = DecodeWork::Kind::wait;
         work.until = nextDecodeLook(decoder, now);

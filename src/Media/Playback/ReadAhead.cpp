@@ -1,6 +1,7 @@
 #include "Media/Playback/ReadAhead.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace media::playback {
 
@@ -28,6 +29,13 @@ struct Neighbourhood {
 
     [[nodiscard]] bool isMovingBack() const { return isBackward() && surroundings.isMoving; }
 
+    /// How many are wanted behind the playhead, and how many are read where those are not there.
+    [[nodiscard]] std::pair<double, double> reachesBehind() const {
+        if (isMovingBack())
+            return {3, 6};
+        return isBackward() ? std::pair(2.0, 3.5) : std::pair(1.0, 2.0);
+    }
+
     [[nodiscard]] Ticks reaches(double count) const {
         return Ticks(static_cast<std::int64_t>(count * static_cast<double>(reach.count())));
     }
@@ -47,10 +55,11 @@ struct Neighbourhood {
     /// early where the playhead moves there, since the frames that it comes to first come last.
     [[nodiscard]] std::optional<TickRange> behind() const {
         const Ticks known = cache.coveredFrom(surroundings.focus, surroundings.size);
-        const Ticks least = surroundings.focus - reaches(isMovingBack() ? 3 : isBackward() ? 2 : 1);
+        const auto [leastCount, mostCount] = reachesBehind();
+        const Ticks least = surroundings.focus - reaches(leastCount);
         if (known <= std::max(least, Ticks(0)))
             return std::nullopt;
-        const Ticks most = surroundings.focus - reaches(isMovingBack() ? 6 : isBackward() ? 3.5 : 2);
+        const Ticks most = surroundings.focus - reaches(mostCount);
         return TickRange{std::max(most, Ticks(0)), known};
     }
 

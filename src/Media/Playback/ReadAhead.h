@@ -61,8 +61,10 @@ public:
 
     /// The frame at next() is in the cache; the one after it begins at `end`.
     void arrive(Ticks end);
+
     /// Frames were decoded for somebody else: what is missing now is another range.
     void chooseAnew() { m_range.reset(); }
+
     /// Nothing there decodes.
     void giveUp();
 
