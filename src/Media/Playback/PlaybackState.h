@@ -266,6 +266,8 @@ private:
     /// Changes with what is worth reading ahead for.
     std::uint64_t m_readAheadVersion = 0;
     ReadAhead m_readAhead{m_cache};
+    /// It was what the decoding thread was given last.
+    bool m_isReadingAhead = false;
     Player::Statistics m_statistics;
 
     DeferredWork m_deferred;

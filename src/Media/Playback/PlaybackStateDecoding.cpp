@@ -61,6 +61,7 @@ DecodeWork PlaybackState::nextDecodeWork(const DecoderStatus& decoder, SteadyTim
         work.kind = DecodeWork::Kind::wait;
         work.until = nextDecodeLook(decoder, now);
     }
+    m_isReadingAhead = work.kind == DecodeWork::Kind::readAhead;
     return work;
 }
 
@@ -87,7 +88,7 @@ bool PlaybackState::chooseStep(DecodeWork& work, const DecoderStatus& decoder) {
         return false;
     }
     // What is read ahead is on its way there already, and keeps all frames that it passes.
-    const bool isOnTheWay = m_direction < 0 && decoder.position <= *ticks;
+    const bool isOnTheWay = m_isReadingAhead && m_direction < 0 && decoder.position <= *ticks;
     if (isOnTheWay && m_readAhead.leadsTo(*ticks))
         return chooseReadAhead(work);
     work.kind = DecodeWork::Kind::step;

@@ -86,7 +86,6 @@ TEST_F(PlaybackRules, waitForWhatIsReadAheadWhereThatLeadsToAStepBack) {
     ASSERT_LT(begun.target.earliest, ticksOf(498));
     rig.state.beginStep(-1, rig.now);
     rig.present();
-    EXPECT_EQ(rig.nextWork().kind, Kind::step) << "it has not set out yet";
     rig.decoder.position = ticksOf(450);
     const DecodeWork work = rig.nextWork();
     EXPECT_EQ(work.kind, Kind::readAhead);
@@ -95,6 +94,26 @@ TEST_F(PlaybackRules, waitForWhatIsReadAheadWhereThatLeadsToAStepBack) {
     rig.cache.insert(rig.item.get(), rig.frameOf(498));
     rig.settle();
     EXPECT_EQ(rig.shownFrame(), 498);
+}
+
+// The two took turns for ever, each beginning anew.
+TEST_F(PlaybackRules, goOnWithTheWayToAStepBackOnceItHasBegun) {
+    rig.load(1000);
+    rig.seek(500);
+    rig.settle();
+    rig.cache.begin(rig.item.get());
+    rig.cache.insert(rig.item.get(), rig.frameOf(499));
+    rig.state.beginStep(-1, rig.now);
+    rig.present();
+    rig.decoder.position = ticksOf(500);
+    ASSERT_EQ(rig.nextWork().kind, Kind::readAhead);
+    rig.state.beginStep(-1, rig.now);
+    rig.present();
+    EXPECT_EQ(rig.nextWork().kind, Kind::step) << "what is read ahead has not set out yet";
+    for (const Ticks position : {Ticks::beginning(), ticksOf(300), ticksOf(497)}) {
+        rig.decoder.position = position;
+        EXPECT_EQ(rig.nextWork().kind, Kind::step);
+    }
 }
 
 // Jumps.
