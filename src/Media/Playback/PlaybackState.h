@@ -253,6 +253,8 @@ private:
     /// The last frame that was made ready while playing was no less late than the one before, as
     /// far as is known.
     bool m_isFallingBehind = true;
+    /// Reading ahead was what the decoding thread was given last.
+    bool m_isReadingAhead = false;
     /// Those that follow while playing.
     FrameQueue m_queue;
     /// The tick to which decoding could not be brought.
@@ -266,8 +268,6 @@ private:
     /// Changes with what is worth reading ahead for.
     std::uint64_t m_readAheadVersion = 0;
     ReadAhead m_readAhead{m_cache};
-    /// It was what the decoding thread was given last.
-    bool m_isReadingAhead = false;
     Player::Statistics m_statistics;
 
     DeferredWork m_deferred;

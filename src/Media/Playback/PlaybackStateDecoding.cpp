@@ -87,9 +87,8 @@ bool PlaybackState::chooseStep(DecodeWork& work, const DecoderStatus& decoder) {
         m_deferred.wakes.presenting = true;
         return false;
     }
-    // What is read ahead is on its way there already, and keeps all frames that it passes.
-    const bool isOnTheWay = m_isReadingAhead && m_direction < 0 && decoder.position <= *ticks;
-    if (isOnTheWay && m_readAhead.leadsTo(*ticks))
+    // What is read ahead has come near already, and keeps all frames that it passes.
+    if (m_isReadingAhead && m_direction < 0 && m_readAhead.leadsTo(*ticks, decoder.position))
         return chooseReadAhead(work);
     work.kind = DecodeWork::Kind::step;
     work.target = SeekTarget::exactly(*ticks);

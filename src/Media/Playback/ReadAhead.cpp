@@ -136,8 +136,9 @@ std::optional<Ticks> ReadAhead::endBehind() const {
     return isBehind ? std::optional(m_range->end) : std::nullopt;
 }
 
-bool ReadAhead::leadsTo(Ticks ticks) const {
-    return !isDone() && m_range && m_range->holds(ticks);
+bool ReadAhead::leadsTo(Ticks ticks, Ticks position) const {
+    return !isDone() && m_range && m_range->holds(ticks) && m_range->begin <= position &&
+           position <= ticks;
 }
 
 void ReadAhead::arrive(Ticks end) {

@@ -53,8 +53,9 @@ public:
     /// the playhead. Then those at the end are wanted first.
     [[nodiscard]] std::optional<Ticks> endBehind() const;
 
-    /// The frame at `ticks` is among those that next() chooses one after the other.
-    [[nodiscard]] bool leadsTo(Ticks ticks) const;
+    /// A decoder that stands at `position` is among the frames that next() chooses one after the
+    /// other, and will come to the one at `ticks`.
+    [[nodiscard]] bool leadsTo(Ticks ticks, Ticks position) const;
 
     /// Nothing is left to do for the present surroundings, as far as is known.
     [[nodiscard]] bool isDone() const { return m_framesLeft <= 0; }

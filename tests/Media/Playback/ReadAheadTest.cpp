@@ -71,12 +71,14 @@ TEST(ReadAhead, leadsToTheFramesOfItsRangeUntilThatIsChosenAnew) {
                          .isMoving = true,
                          .last = 9000_ticks,
                          .size = kFrameSize});
-    EXPECT_FALSE(readAhead.leadsTo(7999_ticks));
+    EXPECT_FALSE(readAhead.leadsTo(7999_ticks, 4000_ticks));
     ASSERT_EQ(readAhead.next(), 840_ticks);
-    EXPECT_TRUE(readAhead.leadsTo(7999_ticks));
-    EXPECT_FALSE(readAhead.leadsTo(8000_ticks));
+    EXPECT_TRUE(readAhead.leadsTo(7999_ticks, 4000_ticks));
+    EXPECT_FALSE(readAhead.leadsTo(8000_ticks, 4000_ticks));
+    EXPECT_FALSE(readAhead.leadsTo(3980_ticks, 4000_ticks)) << "it is past that";
+    EXPECT_FALSE(readAhead.leadsTo(7999_ticks, 800_ticks)) << "all that it keeps is still to come";
     readAhead.chooseAnew();
-    EXPECT_FALSE(readAhead.leadsTo(7999_ticks));
+    EXPECT_FALSE(readAhead.leadsTo(7999_ticks, 4000_ticks));
 }
 
 TEST(ReadAhead, asksForNoMoreThanTheCacheHoldsOfAPlayheadThatMovesBackward) {
