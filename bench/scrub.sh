@@ -69,7 +69,7 @@ for source in "${sources[@]}"; do
     against drag
     against random
     printf '  step back       %s\n' "$("$bin/brisklet-bench" step "$source" 9 -60 2>/dev/null)"
-    printf '  left held       %s\n' "$("$bin/brisklet-bench" hold "$source" 19 -540 2>/dev/null)"
+    printf '  left held       %s\n' "$("$bin/brisklet-bench" hold "$source" 19 -540 0 2>/dev/null)"
     printf '  mpv steps back  %s\n' "$("$root/bench/Scrub/mpv-seeks" "$source" back 9 20)"
     printf '  drag at 60 Hz   %s\n' "$("$bin/brisklet-bench" drag "$source" "$scratch/drag.json" 2>/dev/null)"
     echo

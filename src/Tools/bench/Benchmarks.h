@@ -32,7 +32,7 @@ inline constexpr int kRepeatsPerSecond = 30;
 
 /// Milliseconds from when a step was asked for to when its frame was shown.
 struct HoldFigures {
-    /// The longest of the first second, in which nothing may be at hand yet after the jump.
+    /// The longest of the first second, in which nothing is at hand if there was no rest.
     double first = 0;
     /// Those after it.
     std::vector<double> steps;
@@ -92,9 +92,11 @@ ScrubFigures scrub(const std::filesystem::path& source, const std::vector<double
 /// seconds, and waits for each frame.
 ScrubFigures step(const std::filesystem::path& source, double from, int count, QSize size);
 
-/// Steps a paused player as an arrow key does that is held from right after a jump to `from`
-/// seconds: kRepeatsPerSecond, whether those before have arrived or not. More steps than that.
-HoldFigures hold(const std::filesystem::path& source, double from, int count, QSize size);
+/// Steps a paused player as an arrow key does that is held from `rest` seconds after a jump to
+/// `from` seconds has arrived: kRepeatsPerSecond, whether those before have arrived or not. More
+/// steps than that.
+HoldFigures hold(const std::filesystem::path& source, double from, int count, double rest,
+                 QSize size);
 
 /// Seeks the player of a window to one time after another, 60 each second, as a drag does.
 DragFigures drag(const std::filesystem::path& source, const std::vector<double>& times);

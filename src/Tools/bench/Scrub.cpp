@@ -56,6 +56,15 @@ double seekTo(media::Player& player, double seconds) {
     return milliseconds(end - start);
 }
 
+/// Leaves the player alone for that many seconds.
+void restFor(double seconds) {
+    bool isOver = false;
+    QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(
+                           std::chrono::duration<double>(seconds)),
+                       [&isOver] { isOver = true; });
+    waitUntil([&isOver] { return isOver; });
+}
+
 /// A paused player with a file, on its first frame.
 class PausedPlayer {
 public:
@@ -120,10 +129,12 @@ ScrubFigures step(const std::filesystem::path& source, double from, int count, Q
     return figures;
 }
 
-HoldFigures hold(const std::filesystem::path& source, double from, int count, QSize size) {
+HoldFigures hold(const std::filesystem::path& source, double from, int count, double rest,
+                 QSize size) {
     PausedPlayer paused(source, size);
     media::Player& player = paused.player();
     seekTo(player, from);
+    restFor(rest);
     const auto total = static_cast<std::size_t>(std::abs(count));
     std::vector<Clock::time_point> asked;
     std::vector<double> taken;

@@ -28,7 +28,7 @@ constexpr int kWrongUsage = 2;
 constexpr QSize kUsualSize(960, 540);
 constexpr const char* kUsage = "Usage: brisklet-bench scrub SOURCE TIMES.json [--size WxH]\n"
                                "       brisklet-bench step SOURCE SECONDS COUNT [--size WxH]\n"
-                               "       brisklet-bench hold SOURCE SECONDS COUNT [--size WxH]\n"
+                               "       brisklet-bench hold SOURCE SECONDS COUNT REST [--size WxH]\n"
                                "       brisklet-bench drag SOURCE TIMES.json\n"
                                "       brisklet-bench windows TIMES.json SOURCE...\n"
                                "       brisklet-bench open SOURCE\n"
@@ -73,8 +73,8 @@ QSize parseSize(std::string_view text) {
 double parseSeconds(const std::string& text) {
     double seconds = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), seconds);
-    if (result.ec != std::errc() || !(seconds > 0) || !std::isfinite(seconds))
-        throw UsageError("SECONDS needs a number");
+    if (result.ec != std::errc() || !(seconds >= 0) || !std::isfinite(seconds))
+        throw UsageError("SECONDS and REST need a number of seconds");
     return seconds;
 }
 
@@ -138,11 +138,12 @@ void runStep(const std::vector<std::string>& operands) {
 }
 
 void runHold(const std::vector<std::string>& operands) {
-    const QSize size = sizeAfter(operands, 3, "hold takes SOURCE SECONDS COUNT [--size WxH]");
+    const QSize size = sizeAfter(operands, 4, "hold takes SOURCE SECONDS COUNT REST [--size WxH]");
     const int count = parseCount(operands[2]);
     if (count >= -kRepeatsPerSecond && count <= kRepeatsPerSecond)
         throw UsageError("COUNT needs more steps than those of the first second");
-    const HoldFigures figures = hold(operands[0], parseSeconds(operands[1]), count, size);
+    const HoldFigures figures =
+        hold(operands[0], parseSeconds(operands[1]), count, parseSeconds(operands[3]), size);
     print(summary(figures.first, figures.steps));
 }
 
