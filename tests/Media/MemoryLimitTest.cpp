@@ -48,6 +48,21 @@ std::filesystem::path source() {
     return testsupport::makeFixture({.duration = 0.5}).path;
 }
 
+/// A picture of a few pixels that the file's header stretches and shears to millions of millions:
+/// the second number of the matrix of a track's header is more than 32,000.
+std::filesystem::path shearedSource(const TemporaryFolder& folder) {
+    const auto plain = testsupport::makeFixture({.duration = 0.2, .pixelAspect = {32767, 1}}).path;
+    std::ifstream in(plain, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    constexpr std::size_t kMatrixInHeader = 44;
+    const std::size_t header = bytes.find("tkhd");
+    EXPECT_LT(header, bytes.size());
+    bytes.at(header + kMatrixInHeader + 4) = 0x7f;
+    std::filesystem::path path = folder / "sheared.mp4";
+    std::ofstream(path, std::ios::binary) << bytes;
+    return path;
+}
+
 /// In megabytes: from too little for anything to enough for all.
 constexpr std::array<rlim_t, 9> kLimits = {0, 1, 4, 16, 32, 64, 128, 256, 512};
 
@@ -111,6 +126,26 @@ TEST_P(LimitedMemory, isEnoughForStillsOrNone) {
                                             }) != std::bad_alloc().what())
                           std::rethrow_exception(still.failure);
                   }
+              }),
+              "");
+}
+
+// A still of such a picture took gigabytes.
+TEST(ImmensePicture, isShownInLittleMemory) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "sanitizers map more than there is";
+#endif
+    const TemporaryFolder folder;
+    const std::filesystem::path path = shearedSource(folder);
+    ASSERT_GT(Asset::open(path)->tracks(MediaType::video).front().preferredTransform.b, 32000);
+    EXPECT_EQ(inChildProcess([&path] {
+                  return failureOf([&path] {
+                      const MemoryLimit limit(rlim_t{256} << 20);
+                      const auto asset = Asset::open(path);
+                      const auto generator = ImageGenerator::make(asset);
+                      generator->setMaximumSize(160, 160);
+                      generator->image(Time{});
+                  });
               }),
               "");
 }

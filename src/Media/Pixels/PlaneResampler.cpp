@@ -172,11 +172,13 @@ void PlaneResampler::runGraph(ConstPlane in, Plane out) {
 
 PlaneResampler::Kernel PlaneResampler::kernel(const AxisSampling& sampling, int length,
                                               Filter filter) {
-    const double widening = std::max(sampling.step, 1.0);
+    // A file may state any size for its picture: farther out there is nothing but the border.
+    const double widening = std::clamp<double>(sampling.step, 1, length);
     Kernel kernel;
     kernel.taps = 2 * static_cast<int>(std::ceil(filterRadius(filter) * widening));
     for (int i = 0; i < sampling.count; ++i) {
-        const double position = sampling.start + sampling.step * (i + 0.5);
+        const double position =
+            std::clamp<double>(sampling.start + sampling.step * (i + 0.5), -length, 2.0 * length);
         const int first = static_cast<int>(std::floor(position + 0.5)) - kernel.taps / 2;
         double sum = 0;
         for (int tap = 0; tap < kernel.taps; ++tap)
