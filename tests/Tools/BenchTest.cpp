@@ -58,7 +58,7 @@ TEST(Bench, stepTellsTheTimesOfSteps) {
 }
 
 TEST(Bench, holdTellsTheTimesOfStepsAfterTheFirstSecond) {
-    const ProcessResult result = bench({"hold", source(), "2", "-35", "--size", "320x180"});
+    const ProcessResult result = bench({"hold", source(), "2", "-35", "0", "--size", "320x180"});
     EXPECT_EQ(result.exitStatus, 0) << result.errors;
     const std::string number = kNumber;
     EXPECT_THAT(result.output,
