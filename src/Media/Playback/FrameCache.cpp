@@ -12,10 +12,17 @@ namespace {
 constexpr double kPointWeight = 4;
 /// The same of a frame that a playhead has left behind which moves backward, or straight back.
 constexpr double kLeftBehindWeight = 4;
-constexpr double kLeftForGoodWeight = 64;
+constexpr double kLeftForGoodWeight = 16;
 /// The part of the bound that frames of single places may take: the rest is for the neighbourhood
 /// of the playhead.
 constexpr std::size_t kPartOfPlaces = 4;
+
+/// Most sources have chroma for every fourth pixel.
+std::size_t usualBytes(ImageSize size) {
+    const auto pixels =
+        static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height);
+    return std::max<std::size_t>(pixels + pixels / 2, 1);
+}
 
 /// Only a number; nothing else depends on its order.
 std::atomic<std::size_t> cacheCount = 0;
@@ -43,6 +50,12 @@ double FrameCache::State::distanceTo(Ticks ticks) const {
     return least;
 }
 
+/// The first frame's beginning is endless; its end is as near.
+double FrameCache::State::distanceTo(const CachedFrame& frame) const {
+    return distanceTo(frame.range.begin == Ticks::beginning() ? frame.range.end
+                                                              : frame.range.begin);
+}
+
 const CachedFrame* FrameCache::State::at(Ticks ticks) const {
     const auto after = frames.upper_bound(ticks);
     if (after == frames.begin())
@@ -54,6 +67,19 @@ const CachedFrame* FrameCache::State::at(Ticks ticks) const {
 const CachedFrame* FrameCache::State::at(Ticks ticks, ImageSize size) const {
     const CachedFrame* frame = at(ticks);
     return frame && frame->size() == size ? frame : nullptr;
+}
+
+Ticks FrameCache::State::coveredFrom(Ticks ticks, ImageSize size) const {
+    const CachedFrame* frame = at(ticks, size);
+    if (!frame)
+        return ticks + Ticks(1);
+    while (frame->range.begin != Ticks::beginning()) {
+        const CachedFrame* before = at(frame->range.begin - Ticks(1), size);
+        if (!before)
+            break;
+        frame = before;
+    }
+    return frame->range.begin;
 }
 
 std::vector<Ticks> FrameCache::State::lasting(std::size_t mostBytes) const {
@@ -73,7 +99,21 @@ std::vector<Ticks> FrameCache::State::lasting(std::size_t mostBytes) const {
     return begins;
 }
 
-FrameCache::Frames::iterator FrameCache::State::remove(Frames::iterator frame) {
+FrameCache::Frames::const_iterator
+FrameCache::State::farthest(const std::vector<Ticks>& lasting) const {
+    auto farthest = frames.end();
+    double most = -1;
+    for (auto it = frames.begin(); it != frames.end(); ++it) {
+        const double its = distanceTo(it->second);
+        if (its > most && std::ranges::find(lasting, it->first) == lasting.end()) {
+            most = its;
+            farthest = it;
+        }
+    }
+    return farthest;
+}
+
+FrameCache::Frames::iterator FrameCache::State::remove(Frames::const_iterator frame) {
     bytes -= frame->second.picture->byteCount();
     return frames.erase(frame);
 }
@@ -98,7 +138,7 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
     const auto state = m_state.lock();
     if (state->source != source)
         return;
-    const auto remove = [&](Frames::iterator each) {
+    const auto remove = [&](Frames::const_iterator each) {
         gone.push_back(each->second.picture);
         return state->remove(each);
     };
@@ -114,19 +154,9 @@ void FrameCache::insert(const void* source, CachedFrame frame) {
     std::vector<Ticks> lasting;
     if (state->bytes > capacity)
         lasting = state->lasting(capacity / kPartOfPlaces);
+    lasting.push_back(begin);
     while (state->bytes > capacity) {
-        auto farthest = state->frames.end();
-        double distance = -1;
-        for (auto it = state->frames.begin(); it != state->frames.end(); ++it) {
-            // The first frame's beginning is endless; its end is as near.
-            const double its = state->distanceTo(
-                it->first == Ticks::beginning() ? it->second.range.end : it->first);
-            if (it->first != begin && its > distance &&
-                std::ranges::find(lasting, it->first) == lasting.end()) {
-                distance = its;
-                farthest = it;
-            }
-        }
+        const auto farthest = state->farthest(lasting);
         if (farthest == state->frames.end())
             break;
         remove(farthest);
@@ -189,17 +219,24 @@ Ticks FrameCache::coveredUntil(Ticks ticks, ImageSize size) const {
 }
 
 Ticks FrameCache::coveredFrom(Ticks ticks, ImageSize size) const {
+    return m_state.lock()->coveredFrom(ticks, size);
+}
+
+bool FrameCache::hasRoomAt(Ticks ticks, ImageSize size) const {
     const auto state = m_state.lock();
-    const CachedFrame* frame = state->at(ticks, size);
-    if (!frame)
-        return ticks + Ticks(1);
-    while (frame->range.begin != Ticks::beginning()) {
-        const CachedFrame* before = state->at(frame->range.begin - Ticks(1), size);
-        if (!before)
-            break;
-        frame = before;
-    }
-    return frame->range.begin;
+    const std::size_t capacity = capacityBytes();
+    if (state->bytes + usualBytes(size) <= capacity)
+        return true;
+    const auto farthest = state->farthest(state->lasting(capacity / kPartOfPlaces));
+    if (farthest == state->frames.end() ||
+        state->distanceTo(farthest->second) <= state->distanceTo(ticks))
+        return false;
+    const Ticks run = state->coveredFrom(ticks - Ticks(1), size);
+    return farthest->first < run || farthest->first > ticks;
+}
+
+double FrameCache::capacityFrames(ImageSize size) const {
+    return static_cast<double>(capacityBytes()) / static_cast<double>(usualBytes(size));
 }
 
 std::size_t FrameCache::byteCount() const {

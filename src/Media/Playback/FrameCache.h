@@ -35,7 +35,7 @@ enum class Heading {
     anywhere,
     /// The frames after it are worth less.
     backward,
-    /// Many steps back wait, as behind a held key: the frames after it are worth next to nothing.
+    /// It goes on back, as with a held key: the frames after it are worth next to nothing.
     straightBack,
 };
 
@@ -85,9 +85,15 @@ public:
     /// (beginning(): the beginning); `ticks` + 1 where there is none at `ticks`.
     [[nodiscard]] Ticks coveredFrom(Ticks ticks, ImageSize size) const;
 
+    /// A frame of this size at `ticks` would take the place of none that is worth more, nor of
+    /// those that lead up to it without a gap.
+    [[nodiscard]] bool hasRoomAt(Ticks ticks, ImageSize size) const;
+
     [[nodiscard]] std::size_t byteCount() const;
     /// The bound in force now, which depends on how many players there are.
     [[nodiscard]] std::size_t capacityBytes() const;
+    /// How many frames of this size it holds.
+    [[nodiscard]] double capacityFrames(ImageSize size) const;
 
 private:
     using Frames = std::map<Ticks, CachedFrame>;
@@ -103,11 +109,15 @@ private:
         std::vector<Ticks> placesOfRest;
 
         [[nodiscard]] double distanceTo(Ticks ticks) const;
+        [[nodiscard]] double distanceTo(const CachedFrame& frame) const;
         [[nodiscard]] const CachedFrame* at(Ticks ticks) const;
         [[nodiscard]] const CachedFrame* at(Ticks ticks, ImageSize size) const;
+        [[nodiscard]] Ticks coveredFrom(Ticks ticks, ImageSize size) const;
         /// Where the frames begin that are not to go.
         [[nodiscard]] std::vector<Ticks> lasting(std::size_t mostBytes) const;
-        Frames::iterator remove(Frames::iterator frame);
+        /// The frame that is worth least, of all but those that begin at `lasting`; end() for none.
+        [[nodiscard]] Frames::const_iterator farthest(const std::vector<Ticks>& lasting) const;
+        Frames::iterator remove(Frames::const_iterator frame);
     };
 
     const std::size_t m_capacityBytes;

@@ -4,7 +4,13 @@
 
 namespace media::playback {
 
+void PendingSteps::push(int count) {
+    m_counts.push_back(count);
+    m_backwardCount = count < 0 ? m_backwardCount + 1 : 0;
+}
+
 void PendingSteps::clear() {
+    m_backwardCount = 0;
     m_counts.clear();
     m_walk.reset();
 }
@@ -19,7 +25,7 @@ std::optional<Ticks> PendingSteps::next(const Walk& walk) {
 Heading PendingSteps::heading(const Walk& walk) const {
     if (walk.framesLeft > 0)
         return Heading::anywhere;
-    return areMany() ? Heading::straightBack : Heading::backward;
+    return m_backwardCount > kFew ? Heading::straightBack : Heading::backward;
 }
 
 std::optional<CachedFrame> PendingSteps::advance(FrameCache& cache, ImageSize size,

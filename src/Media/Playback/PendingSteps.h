@@ -16,7 +16,7 @@ namespace media::playback {
 class PendingSteps {
 public:
     /// Frames to go; negative: backward. Not 0.
-    void push(int count) { m_counts.push_back(count); }
+    void push(int count);
 
     void clear();
 
@@ -57,6 +57,8 @@ private:
     [[nodiscard]] Heading heading(const Walk& walk) const;
 
     std::deque<int> m_counts;
+    /// How many led backward since one did not.
+    std::size_t m_backwardCount = 0;
     std::optional<Walk> m_walk;
 };
 

@@ -61,7 +61,8 @@ DecodeWork PlaybackState::nextDecodeWork(const DecoderStatus& decoder, SteadyTim
         work.kind = DecodeWork::Kind::wait;
         work.until = nextDecodeLook(decoder, now);
     }
-    m_isReadingAhead = work.kind == DecodeWork::Kind::readAhead;
+    if (work.kind != DecodeWork::Kind::wait)
+        m_isReadingAhead = work.kind == DecodeWork::Kind::readAhead;
     return work;
 }
 
@@ -101,7 +102,7 @@ bool PlaybackState::chooseStep(DecodeWork& work, const DecoderStatus& decoder) {
 Ticks PlaybackState::completeFrom(Ticks target) const {
     const bool hasManySteps = m_direction < 0 && m_steps.areMany();
     const double part = hasManySteps ? kMarginOfManySteps : kMarginOfCache;
-    const double room = framesInCache(m_cache, imageSize()) * m_frameTicks * part;
+    const double room = m_cache.capacityFrames(imageSize()) * m_frameTicks * part;
     Ticks margin(static_cast<std::int64_t>(std::min(room, 1e9)));
     if (!hasManySteps)
         margin = std::min(margin, m_direction < 0 ? kBackwardMargin : kMargin);
@@ -179,13 +180,17 @@ bool PlaybackState::chooseIdle(DecodeWork& work, const DecoderStatus& decoder, S
         work.kind = DecodeWork::Kind::keepWaitingFrame;
         return true;
     }
+    const bool isMoved = isMoving(now);
+    if (!isMoved && m_direction < 0)
+        m_cache.setFocus(m_shown.time.ticks(), Heading::backward);
     m_readAhead.update(m_readAheadVersion, {.focus = m_shown.time.ticks(),
                                             .direction = m_direction,
-                                            .isMoving = isMoving(now),
+                                            .isMoving = isMoved,
                                             .last = m_duration.ticks(),
                                             .frameTicks = m_frameTicks,
                                             .size = work.imageSize});
-    if (isReadAheadDue(decoder, now) && chooseReadAhead(work))
+    if (isReadAheadDue(decoder, now) && m_readAhead.hasRoom(decoder.position) &&
+        chooseReadAhead(work))
         return true;
     work.kind = DecodeWork::Kind::releaseDecoder;
     return decoder.isOverBudget && m_readAhead.isDone() && !isRunningWanted();
@@ -212,8 +217,10 @@ bool PlaybackState::isMoving(SteadyTime now) const {
 }
 
 SteadyTime PlaybackState::nextDecodeLook(const DecoderStatus& decoder, SteadyTime now) const {
+    if (isMoving(now) && m_steps.isEmpty())
+        return m_lastJump + kLongestPause;
     if (m_readAhead.isDone())
-        return isMoving(now) ? m_lastJump + kLongestPause : now + kIdle;
+        return now + kIdle;
     const SteadyTime rested = m_lastJump + kRest;
     if (now < rested)
         return rested;

@@ -8,11 +8,11 @@ namespace media::playback {
 namespace {
 
 constexpr double kLongestReach = 2.0 * Ticks::kPerSecond;
-/// Around the playhead one reach ahead and two behind are kept, around each of two points of
+/// Around the playhead one reach ahead and three behind are kept, around each of two points of
 /// interest three quarters of one: no more than the cache can hold with room to spare. Where the
 /// playhead was moved backward it is half a reach ahead and three and a half behind, and while it
-/// moves there nothing else than five behind: the farther each way from a key frame reaches, the
-/// fewer ways there are.
+/// moves there nothing else than what is behind, as far as there is room: the more each way from a
+/// key frame does for, the fewer ways there are.
 constexpr double kReachesInCache = 6;
 /// A range so far away from where the playhead has gone is given up.
 constexpr Ticks kFarAway{4 * Ticks::kPerSecond};
@@ -26,15 +26,6 @@ struct Neighbourhood {
     Ticks reach;
 
     [[nodiscard]] bool isBackward() const { return surroundings.direction < 0; }
-
-    [[nodiscard]] bool isMovingBack() const { return isBackward() && surroundings.isMoving; }
-
-    /// How many are wanted behind the playhead, and how many are read where those are not there.
-    [[nodiscard]] std::pair<double, double> reachesBehind() const {
-        if (isMovingBack())
-            return {3, 6};
-        return isBackward() ? std::pair(2.0, 3.5) : std::pair(1.0, 2.0);
-    }
 
     [[nodiscard]] Ticks reaches(double count) const {
         return Ticks(static_cast<std::int64_t>(count * static_cast<double>(reach.count())));
@@ -51,16 +42,26 @@ struct Neighbourhood {
         return between(surroundings.focus, surroundings.focus + reaches(isBackward() ? 0.5 : 1));
     }
 
-    /// Getting there costs the way from a key frame: so it is done rarely, and then for more; and
-    /// early where the playhead moves there, since the frames that it comes to first come last.
+    /// Getting there costs the way from a key frame: so it is done rarely, and then for more.
     [[nodiscard]] std::optional<TickRange> behind() const {
-        const Ticks known = cache.coveredFrom(surroundings.focus, surroundings.size);
-        const auto [leastCount, mostCount] = reachesBehind();
-        const Ticks least = surroundings.focus - reaches(leastCount);
-        if (known <= std::max(least, Ticks(0)))
+        const Ticks known = knownBehind();
+        if (known <= std::max(surroundings.focus - reaches(isBackward() ? 2 : 1), Ticks(0)))
             return std::nullopt;
-        const Ticks most = surroundings.focus - reaches(mostCount);
+        const Ticks most = surroundings.focus - reaches(isBackward() ? 3.5 : 3);
         return TickRange{std::max(most, Ticks(0)), known};
+    }
+
+    /// The same where the playhead moves there: early, since the frames that it comes to first come
+    /// last, and all that there will be room for by then.
+    [[nodiscard]] std::optional<TickRange> farBehind() const {
+        const Ticks known = knownBehind();
+        if (known <= std::max(surroundings.focus - reaches(5), Ticks(0)))
+            return std::nullopt;
+        return TickRange{std::max(known - reaches(5), Ticks(0)), known};
+    }
+
+    [[nodiscard]] Ticks knownBehind() const {
+        return cache.coveredFrom(surroundings.focus, surroundings.size);
     }
 
     [[nodiscard]] std::optional<TickRange> around(Ticks point) const {
@@ -70,23 +71,17 @@ struct Neighbourhood {
 
 } // namespace
 
-double framesInCache(const FrameCache& cache, ImageSize size) {
-    // Most sources have chroma for every fourth pixel.
-    const double bytes = 1.5 * size.width * size.height;
-    return static_cast<double>(cache.capacityBytes()) / std::max(bytes, 1.0);
-}
-
 std::optional<TickRange> framesToReadAhead(const FrameCache& cache,
                                            const Surroundings& surroundings) {
     const double most =
-        surroundings.frameTicks * framesInCache(cache, surroundings.size) / kReachesInCache;
+        surroundings.frameTicks * cache.capacityFrames(surroundings.size) / kReachesInCache;
     const auto reach = static_cast<std::int64_t>(std::min(most, kLongestReach));
     if (static_cast<double>(reach) < 4 * surroundings.frameTicks)
         return std::nullopt;
     const Neighbourhood neighbourhood{cache, surroundings, Ticks(reach)};
     const bool isBackward = neighbourhood.isBackward();
-    if (neighbourhood.isMovingBack())
-        return neighbourhood.behind();
+    if (surroundings.isMovingBack())
+        return neighbourhood.farBehind();
     if (const auto first = isBackward ? neighbourhood.behind() : neighbourhood.ahead())
         return first;
     if (const auto second = isBackward ? neighbourhood.ahead() : neighbourhood.behind())
@@ -112,11 +107,26 @@ void ReadAhead::update(std::uint64_t version, const Surroundings& surroundings) 
     m_surroundings = surroundings;
     if (!isNew)
         return;
+    const double frames = m_cache.capacityFrames(surroundings.size);
     const Ticks focus = surroundings.focus;
-    if (m_range && (focus < m_range->begin - kFarAway || focus > m_range->end + kFarAway))
+    // What is read behind a playhead that moves there may be as far away as the cache reaches.
+    const Ticks most(
+        static_cast<std::int64_t>(std::min(frames, kMostFrames) * surroundings.frameTicks));
+    const Ticks farBehind = surroundings.isMovingBack() ? std::max(most, kFarAway) : kFarAway;
+    if (m_range && (focus < m_range->begin - kFarAway || focus > m_range->end + farBehind))
         m_range.reset();
-    m_framesLeft =
-        static_cast<int>(std::min(framesInCache(m_cache, surroundings.size), kMostFrames));
+    m_framesLeft = static_cast<int>(std::min(frames, kMostFrames));
+}
+
+bool ReadAhead::hasRoom(Ticks position) {
+    const auto end = endBehind();
+    const bool isThere = end && m_range->begin <= position && position < *end;
+    if (!isThere || m_cache.hasRoomAt(position, m_surroundings.size))
+        return true;
+    if (m_surroundings.isMovingBack())
+        return false;
+    m_range.reset();
+    return true;
 }
 
 std::optional<Ticks> ReadAhead::next() {

@@ -22,10 +22,9 @@ struct Surroundings {
     /// Length of one frame in ticks.
     double frameTicks = 20;
     ImageSize size;
-};
 
-/// How many frames of this size the cache can hold.
-double framesInCache(const FrameCache& cache, ImageSize size);
+    [[nodiscard]] bool isMovingBack() const { return isMoving && direction < 0; }
+};
 
 /// The frames that the cache lacks most: around the playhead, first in the direction of its
 /// movement, then around the points of interest. None when all is there, or as much as there is
@@ -45,6 +44,11 @@ public:
 
     /// Begins anew if the surroundings or the version have changed.
     void update(std::uint64_t version, const Surroundings& surroundings);
+
+    /// Whether the frame that a decoder at `position` gives next may be kept. While the playhead
+    /// moves backward what is read there waits for it to come nearer; where the playhead rests that
+    /// is given up.
+    [[nodiscard]] bool hasRoom(Ticks position);
 
     /// The tick of the frame to decode next; none when there is nothing left to do.
     std::optional<Ticks> next();

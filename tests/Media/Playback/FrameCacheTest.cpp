@@ -121,7 +121,7 @@ TEST(FrameCache, keepsNextToNothingOfWhatAMovementStraightBackHasLeftBehind) {
     cache.begin(&kSource);
     cache.setFocus(2000_ticks, Heading::straightBack);
     fillCache(cache, &kSource, 1600_ticks, 2400_ticks);
-    EXPECT_LE(cache.coveredFrom(2000_ticks, kFrameSize), 1640_ticks);
+    EXPECT_LE(cache.coveredFrom(2000_ticks, kFrameSize), 1660_ticks);
 }
 
 TEST(FrameCache, keepsANeighbourhoodOfThePointsOfInterest) {

@@ -28,7 +28,7 @@ TEST(ReadAhead, readsAheadInTheDirectionOfTheMovementFirst) {
         .focus = 3040_ticks, .direction = 1, .last = 9000_ticks, .size = kFrameSize};
     EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{3100_ticks, 4241_ticks}));
     fill(cache, 3100_ticks, 4260_ticks);
-    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{640_ticks, 3000_ticks}));
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{0_ticks, 3000_ticks}));
 }
 
 TEST(ReadAhead, readsFartherBackWhereThePlayheadMovesBackward) {
@@ -55,10 +55,10 @@ TEST(ReadAhead, readsNothingButFarBehindWhileThePlayheadMovesThere) {
                                     .isMoving = true,
                                     .last = 9000_ticks,
                                     .size = kFrameSize};
-    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{840_ticks, 8000_ticks}));
-    fill(cache, 4440_ticks, 8000_ticks);
+    EXPECT_EQ(framesToReadAhead(cache, surroundings), (TickRange{2000_ticks, 8000_ticks}));
+    fill(cache, 2040_ticks, 8000_ticks);
     EXPECT_EQ(framesToReadAhead(cache, surroundings), std::nullopt)
-        << "with three reaches left it is not time yet";
+        << "with five reaches left it is not time yet";
 }
 
 TEST(ReadAhead, leadsToTheFramesOfItsRangeUntilThatIsChosenAnew) {
@@ -72,13 +72,44 @@ TEST(ReadAhead, leadsToTheFramesOfItsRangeUntilThatIsChosenAnew) {
                          .last = 9000_ticks,
                          .size = kFrameSize});
     EXPECT_FALSE(readAhead.leadsTo(7999_ticks, 4000_ticks));
-    ASSERT_EQ(readAhead.next(), 840_ticks);
+    ASSERT_EQ(readAhead.next(), 2000_ticks);
     EXPECT_TRUE(readAhead.leadsTo(7999_ticks, 4000_ticks));
     EXPECT_FALSE(readAhead.leadsTo(8000_ticks, 4000_ticks));
     EXPECT_FALSE(readAhead.leadsTo(3980_ticks, 4000_ticks)) << "it is past that";
     EXPECT_FALSE(readAhead.leadsTo(7999_ticks, 800_ticks)) << "all that it keeps is still to come";
     readAhead.chooseAnew();
     EXPECT_FALSE(readAhead.leadsTo(7999_ticks, 4000_ticks));
+}
+
+// The frames that were decoded first, at the beginning of a group, gave way to those that came
+// last, and had to be decoded again.
+TEST(ReadAhead, waitsForRoomBehindAPlayheadThatMovesThere) {
+    FrameCache cache(60 * kFrameBytes);
+    cache.begin(&kSource);
+    Surroundings surroundings{.focus = 8000_ticks,
+                              .direction = -1,
+                              .isMoving = true,
+                              .last = 9000_ticks,
+                              .size = kFrameSize};
+    cache.setFocus(surroundings.focus, Heading::straightBack);
+    fill(cache, 7200_ticks, 8020_ticks);
+    ReadAhead readAhead(cache);
+    readAhead.update(1, surroundings);
+    ASSERT_EQ(readAhead.next(), 6200_ticks);
+    EXPECT_TRUE(readAhead.hasRoom(6200_ticks));
+    fill(cache, 6200_ticks, 6580_ticks);
+    EXPECT_FALSE(readAhead.hasRoom(6580_ticks));
+    EXPECT_FALSE(readAhead.isDone());
+    surroundings.focus = 7840_ticks;
+    cache.setFocus(surroundings.focus, Heading::straightBack);
+    readAhead.update(1, surroundings);
+    EXPECT_TRUE(readAhead.hasRoom(6580_ticks)) << "frames left behind give way";
+    surroundings.focus = 8000_ticks;
+    surroundings.isMoving = false;
+    cache.setFocus(surroundings.focus, Heading::backward);
+    readAhead.update(1, surroundings);
+    EXPECT_TRUE(readAhead.hasRoom(6580_ticks));
+    EXPECT_NE(readAhead.next(), 6200_ticks) << "a playhead that rests does not come nearer";
 }
 
 TEST(ReadAhead, asksForNoMoreThanTheCacheHoldsOfAPlayheadThatMovesBackward) {
