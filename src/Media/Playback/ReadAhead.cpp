@@ -1,7 +1,6 @@
 #include "Media/Playback/ReadAhead.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace media::playback {
 
